@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+#include "browser/BrowserHost.h"
+
+#include "browser/PageTests.h"
+#include "campaigns/Pacing.h"
+#include "core/ActionTick.h"
+#include "core/App.h"
+#include "core/Text.h"
+#include "gather/GatheredList.h"
+#include "gather/IdResolution.h"
+#include "gather/ProfileLinks.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int ResumeIntervalMs = 30000;
+constexpr int ResumeSoonIntervalMs = 2000;
+const QString InitialTrail = u"debuginitial.txt"_s;
+const QString GatherTrail = u"debuggather.txt"_s;
+
+// The main browser's own refusal of navigations while the program walks the document for a click.
+class NavigationGuard {
+public:
+    explicit NavigationGuard(BrowserControl& browser) : m_browser(browser) { m_browser.SetRefuseNavigations(true); }
+    ~NavigationGuard() { m_browser.SetRefuseNavigations(false); }
+    NavigationGuard(const NavigationGuard&) = delete;
+    NavigationGuard& operator=(const NavigationGuard&) = delete;
+
+private:
+    BrowserControl& m_browser;
+};
+} // namespace
+
+void BrowserHost::Attach() {
+    BrowserEvents& events = m_app.WebBrowser1().events;
+    events.beforeNavigate2 = [this](const NavigationRequest& request) {
+        bool cancel = false;
+        m_app.diagnostics.Trap("WebBrowser1_BeforeNavigate2",
+                               [&] { cancel = WebBrowser1_BeforeNavigate2(request); });
+        return cancel;
+    };
+    events.newWindow2 = [this](const QString&) {
+        bool cancel = false;
+        m_app.diagnostics.Trap("WebBrowser1_NewWindow2", [&] { cancel = WebBrowser1_NewWindow2(); });
+        return cancel;
+    };
+    events.documentComplete = [this](bool topLevel, const QString& url) {
+        m_app.diagnostics.Trap("WebBrowser1_DocumentComplete",
+                               [&] { WebBrowser1_DocumentComplete(topLevel, url); });
+    };
+    events.statusTextChange = [this](const QString& text) {
+        m_app.diagnostics.Trap("WebBrowser1_StatusTextChange", [&] { WebBrowser1_StatusTextChange(text); });
+    };
+    events.contextMenu = [this] {
+        bool allow = false;
+        m_app.diagnostics.Trap("hGlobalDoc_oncontextmenu", [&] { allow = hGlobalDoc_oncontextmenu(); });
+        return allow;
+    };
+}
+
+bool BrowserHost::WebBrowser1_BeforeNavigate2(const NavigationRequest& request) {
+    const bool cancel = m_app.WebBrowser1().RefusesNavigations() || CancelsNavigation(request);
+    m_app.state.blnUserNavigated = false;
+    return cancel;
+}
+
+bool BrowserHost::CancelsNavigation(const NavigationRequest& request) {
+    RunState& state = m_app.state;
+    if (request.url == u"javascript:void()"_s &&
+        m_app.pageTests->AddressContains(u"{MessagingHost}/index.cfm?fuseaction=mail"_s))
+        return true;
+    if (m_app.WebBrowser1().Document().IsNull() || request.url == u"about:blank"_s)
+        return false;
+    // A finished request may be redirected to an error page: that stays behind the cover until the next target.
+    if (state.intFRStep == 9)
+        m_app.pacing->ShowCover();
+
+    const bool loggingIn = state.CurrentAction == u"LOGIN"_s;
+    if (loggingIn && Has(request.headers, m_app.Expand(u"{CreativeHost}"_s))) {
+        m_app.diagnostics.Debug(InitialTrail, u"WebBefNav-Flash-Cancel"_s);
+        return true;
+    }
+    if (loggingIn)
+        m_app.diagnostics.Debug(InitialTrail, u"URL: "_s + request.url + u", Header: "_s + request.headers);
+
+    const bool clickToGather = m_app.controls.Ticked("optImportClickedProfiles"_L1);
+    if (clickToGather && state.CurrentAction.isEmpty() && request.headers.isEmpty() &&
+        Has(request.url, m_app.Expand(u"{SiteDomain}"_s)))
+        return GatherClickedProfile(request.url);
+    if (!clickToGather && state.blnUserNavigated &&
+        request.url.contains(m_app.Expand(u"{GroupsHost}"_s), Qt::CaseSensitive))
+        return true;
+    if (loggingIn && request.isForm)
+        ReadTypedLogin(request);
+    return false;
+}
+
+bool BrowserHost::GatherClickedProfile(const QString& url) {
+    m_app.diagnostics.Debug(GatherTrail, u"CLICK-GATHER1 - "_s + url);
+    const NavigationGuard guard(m_app.WebBrowser1());
+    const Element link = FindProfileLink(url);
+    if (link.IsNull())
+        return false;
+    m_app.diagnostics.Debug(GatherTrail, u"CLICK-GATHER4 - "_s + link.Href());
+    AddClickedProfile(link);
+    return true;
+}
+
+Element BrowserHost::FindProfileLink(const QString& url) {
+    m_app.diagnostics.Debug(GatherTrail, u"CLICK-GATHER2"_s);
+    for (const Element& link : m_app.WebBrowser1().Document().Links())
+        if (link.Href().toLower() == url.toLower()) {
+            m_app.diagnostics.Debug(GatherTrail, u"CLICK-GATHER3 - "_s + link.Href());
+            if (m_app.profileLinks->IsProfileLink(link, true))
+                return link;
+        }
+    return {};
+}
+
+void BrowserHost::AddClickedProfile(const Element& link) {
+    const QString id = m_app.idResolution->GetFriendIDFromLink(link);
+    m_app.diagnostics.Debug(GatherTrail, u"CLICK-GATHER5 - "_s + id);
+    if (!IsNumeric(id)) {
+        m_app.ShowMessage(
+            u"An error has occurred on MySpace's end while trying to retrieve the ID. Please try again."_s);
+        return;
+    }
+    const bool known = m_app.gatheredList->IsInList(id, false);
+    m_app.diagnostics.Debug(GatherTrail, u"CLICK-GATHER6 - "_s + FromBoolean(known));
+    if (known)
+        return;
+    m_app.diagnostics.Debug(GatherTrail, u"CLICK-GATHER7 - ADD TO LIST"_s);
+    m_app.gatheredList->ProcessArrayAndList(u"ADD"_s, 0, id, u"WebBrowser1_BeforeNavigate2"_s);
+}
+
+// A login form is being sent, by the program or by the user who logs in by hand.
+void BrowserHost::ReadTypedLogin(const NavigationRequest& request) {
+    QString email;
+    QString password;
+    for (const NavigationRequest::Input& input : request.inputs) {
+        if (Has(input.id, u"Email_Textbox"_s) && !input.value.isEmpty())
+            email = input.value.trimmed();
+        if (Has(input.id, u"Password_Textbox"_s) && !input.value.isEmpty())
+            password = input.value.trimmed();
+    }
+    auto mask = [](const QString& text) { return text.isEmpty() ? QString() : u"****"_s; };
+    SettingsStore& settings = m_app.platform.Settings();
+    m_app.diagnostics.Debug(InitialTrail, u"Navigate 2.3 - "_s + mask(email) + u", "_s + mask(password));
+    if (!password.isEmpty())
+        settings.SaveSetting(u"Field Entries"_s, u"Login - txtPassword"_s, password);
+
+    RunState& state = m_app.state;
+    m_app.diagnostics.Debug(InitialTrail, u"Navigate 3.1 (e) - "_s + mask(email));
+    const bool anotherAccount =
+        !email.isEmpty() && email.compare(state.AccountEmail, Qt::CaseInsensitive) != 0;
+    if (!anotherAccount || (state.intLoginStep != 0 && state.intLoginStep != 4))
+        return;
+    state.AccountEmail = email.toLower();
+    state.AccountPassword = password;
+    settings.SaveSetting(u"Field Entries"_s, u"Login - txtEmail"_s, state.AccountEmail);
+    settings.SaveSetting(u"Field Entries"_s, u"Login - txtPassword"_s, state.AccountPassword);
+    m_app.diagnostics.Debug(InitialTrail, u"Navigate 3.5"_s);
+}
+
+bool BrowserHost::WebBrowser1_NewWindow2() {
+    const Document document = m_app.WebBrowser1().Document();
+    if (document.IsNull())
+        return false;
+    const Element active = document.ActiveElement();
+    if (active.IsNull() || !m_app.profileLinks->IsProfileLink(active, true))
+        return false;
+    m_app.WebBrowser1().Navigate(active.Href());
+    return true;
+}
+
+void BrowserHost::WebBrowser1_DocumentComplete(bool topLevel, const QString& url) {
+    m_app.WebBrowser1().SetSilent(true);
+    Timers& timers = *m_app.timers;
+    const QString address = m_app.WebBrowser1().LocationURL();
+    if (address != u"about:blank"_s)
+        m_app.controls.SetText("txtAddress"_L1, address);
+    if (url == u"about:blank"_s || m_app.state.blnHoldLinkCheck)
+        return;
+    timers.tmrAutoResume.SetInterval(ResumeIntervalMs);
+    if (timers.tmrCheckLinkLoaded.Enabled() && topLevel) {
+        m_app.actionTick->tmrCheckLinkLoaded_Timer();
+        if (!timers.Timer1.Enabled())
+            timers.tmrAutoResume.SetInterval(ResumeSoonIntervalMs);
+    }
+    if (timers.tmrAutoResume.Enabled() && m_app.state.CurrentAction != u"INV"_s) {
+        timers.tmrAutoResume.SetInterval(ResumeIntervalMs);
+        timers.tmrAutoResume.Restart();
+    }
+}
+
+void BrowserHost::WebBrowser1_StatusTextChange(const QString& text) {
+    m_app.WebBrowser1().SetSilent(true);
+    // These texts would expose the program's own step pages.
+    const bool suppressed = m_app.pageTests->AddressContains(u"{GroupsHost}"_s, Qt::CaseSensitive) ||
+                            Has(text, u"join.processstep3"_s) || Has(text, u"join.step3"_s) ||
+                            Has(text, m_app.Expand(u"{InviteHost}"_s));
+    if (!suppressed)
+        m_app.controls.SetText("lblStatus"_L1, text + u"  "_s);
+}
+
+bool BrowserHost::hGlobalDoc_oncontextmenu() {
+    const QString& action = m_app.state.CurrentAction;
+    const bool sending = action == u"COM"_s || action == u"FR"_s || action == u"MSG"_s;
+    return !sending || m_app.pageTests->IsCaptchaPage();
+}
+
+} // namespace qlm

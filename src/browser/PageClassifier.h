@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <vector>
+
+namespace qlm {
+
+class App;
+
+// Turns the site's refusal and error pages into one code.
+class PageClassifier {
+public:
+    explicit PageClassifier(App& app) : m_app(app) {}
+
+    // Sets intPageClass, and blnSkipCurrentID or blnDailyLimitHit where the class says so. True: the step can't go on
+    // with this page.
+    bool ClassifyErrorPage();
+
+private:
+    App& m_app;
+};
+
+} // namespace qlm

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "browser/PageTests.h"
+
+#include "core/App.h"
+
+#include <limits>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int SecondsWithoutBody = 30;
+}
+
+QString WithoutScheme(const QString& address) {
+    const qsizetype scheme = address.indexOf(u"://"_s);
+    return scheme < 0 ? address : address.mid(scheme + 3);
+}
+
+qint16 CountOccurrences(const QString& text, const QString& needle) {
+    int count = 0;
+    if (needle.isEmpty())
+        return 0;
+    for (qsizetype at = text.indexOf(needle, 0, Qt::CaseInsensitive); at >= 0;
+         at = text.indexOf(needle, at + 1, Qt::CaseInsensitive))
+        ++count;
+    return static_cast<qint16>(std::min<int>(count, std::numeric_limits<qint16>::max()));
+}
+
+void PageTests::WaitForDocument() {
+    SpinFor(m_app.WebBrowser1(), true);
+}
+
+void PageTests::WaitForDocument(BrowserControl& browser) {
+    SpinFor(browser, false);
+}
+
+void PageTests::SpinFor(BrowserControl& browser, bool refreshWithoutBody) {
+    while (browser.Document().IsNull())
+        m_app.waiting.Turn();
+    qint64 sinceMs = m_app.Pump().NowMs();
+    while (browser.Document().Body().IsNull()) {
+        m_app.waiting.Turn();
+        if (refreshWithoutBody && m_app.waiting.SecondsSince(sinceMs) > SecondsWithoutBody) {
+            browser.Refresh();
+            sinceMs = m_app.Pump().NowMs();
+        }
+    }
+    while (!browser.Document().HasLinks())
+        m_app.waiting.Turn();
+}
+
+BrowserControl* PageTests::Select(const QString& browser) {
+    if (browser == u"webHide"_s)
+        return &m_app.webHide();
+    if (browser == u"webTemp"_s)
+        return &m_app.webTemp();
+    return browser == u"webInviteLocation"_s ? nullptr : &m_app.WebBrowser1();
+}
+
+const QString& PageTests::Lowered(const QString& text) {
+    for (const LoweredText& known : m_lowered)
+        if (known.original.constData() == text.constData() && known.original.size() == text.size())
+            return known.lower;
+    LoweredText& slot = m_lowered[m_nextLowered];
+    m_nextLowered = (m_nextLowered + 1) % m_lowered.size();
+    slot = {text, text.toLower()};
+    return slot.lower;
+}
+
+bool PageTests::IsTextInPage(const QString& text, bool asHTML, const QString& browser) {
+    if (text.isEmpty())
+        return false;
+    BrowserControl* control = Select(browser);
+    if (!control)
+        return false;
+    control->SetSilent(true);
+    SpinFor(*control, control == &m_app.WebBrowser1());
+    const Document document = control->Document();
+    return Lowered(asHTML ? document.BodyHTML() : document.BodyText()).contains(text.toLower());
+}
+
+bool PageTests::AnyInPage(std::initializer_list<const char16_t*> texts) {
+    for (const char16_t* text : texts)
+        if (IsTextInPage(QString::fromUtf16(text)))
+            return true;
+    return false;
+}
+
+bool PageTests::HrefLoaded(const QString& href, bool partial) {
+    if (href.isEmpty())
+        return false;
+    m_app.WebBrowser1().SetSilent(true);
+    const QString wanted = href.toLower();
+    bool found = false;
+    for (const Element& link : m_app.WebBrowser1().Document().Links()) {
+        const QString address = link.Href().toLower();
+        found = found || (partial ? address.contains(wanted) : address == wanted);
+    }
+    return found;
+}
+
+bool PageTests::ImageExists(const QString& name) {
+    m_app.WebBrowser1().SetSilent(true);
+    const QString wanted = name.toLower();
+    const Document document = m_app.WebBrowser1().Document();
+    for (const Element& image : document.Images())
+        if (image.Read(ElementText::NameProp).toLower() == wanted)
+            return true;
+    for (const Element& input : document.GetElementsByTagName(u"input"_s))
+        if (!wanted.isEmpty() && input.Read(ElementText::Src).toLower().contains(wanted))
+            return true;
+    return false;
+}
+
+QString PageTests::LocationURL() {
+    return m_app.WebBrowser1().LocationURL();
+}
+
+bool PageTests::AddressContains(const QString& text, Qt::CaseSensitivity caseSensitivity) {
+    return LocationURL().contains(m_app.Expand(text), caseSensitivity);
+}
+
+bool PageTests::AddressBeginsWith(const QString& text) {
+    return WithoutScheme(LocationURL()).startsWith(WithoutScheme(m_app.Expand(text)), Qt::CaseInsensitive);
+}
+
+bool PageTests::AddressEquals(const QString& text) {
+    return WithoutScheme(LocationURL()) == WithoutScheme(m_app.Expand(text));
+}
+
+bool PageTests::IsHomePageURL() {
+    return AddressContains(u"{HomeHost}/index.cfm?fuseaction=home"_s) || AddressEquals(u"{SiteRootHost}/"_s) ||
+           AddressEquals(u"{SiteRootHost}/home"_s);
+}
+
+bool PageTests::IsLoggedOutPage() {
+    return AnyInPage({u"forgot your password?", u"forgot password?"});
+}
+
+bool PageTests::IsCaptchaPage() {
+    return AnyInPage({u"Please enter the text from the image", u"Please enter the image text",
+                      u"Type the two words:", u"Settings require that you solve a CAPTCHA"});
+}
+
+// The second marker stands on no page; the test has always had it.
+bool PageTests::IsRequestSentPage() {
+    return AnyInPage({u"Request Sent!", u"fdsfsdafgsdagsdfg"});
+}
+
+bool PageTests::IsAdvertiserProfile() {
+    m_app.WebBrowser1().SetSilent(true);
+    WaitForDocument();
+    return m_app.WebBrowser1().Document().BodyOuterHTML().contains(u"advertiserProfile"_s, Qt::CaseInsensitive);
+}
+
+bool PageTests::ClickLink(const QString& kind, const QString& value) {
+    m_app.WebBrowser1().SetSilent(true);
+    const QString wanted = value.toLower();
+    for (const Element& link : m_app.WebBrowser1().Document().Links()) {
+        const bool matches =
+            kind == u"Innertext"_s   ? link.InnerText().trimmed().toLower() == wanted
+            : kind == u"InnerHTML"_s ? link.InnerHTML().toLower().contains(wanted)
+            : kind == u"OuterHTML"_s ? link.OuterHTML().toLower().contains(wanted)
+            : kind == u"Title"_s     ? link.Read(ElementText::Title).trimmed().toLower() == wanted
+            : kind == u"ID"_s        ? link.Id().trimmed().toLower() == wanted
+                                     : false;
+        if (matches) {
+            link.Click();
+            return true;
+        }
+    }
+    return false;
+}
+
+bool PageTests::ClickLinkFromHref(const QString& hrefPart, const QString& browser) {
+    m_app.WebBrowser1().SetSilent(true);
+    m_app.webHide().SetSilent(true);
+    BrowserControl& control = browser == u"webHide"_s ? m_app.webHide() : m_app.WebBrowser1();
+    for (const Element& link : control.Document().Links())
+        if (link.Href().contains(hrefPart, Qt::CaseInsensitive)) {
+            link.Click();
+            return true;
+        }
+    return false;
+}
+
+QString PageTests::GetHrefFromSecondID() {
+    WaitForDocument();
+    QString href;
+    int counted = 0;
+    for (const Element& link : m_app.WebBrowser1().Document().Links()) {
+        const QString text = link.GetAttribute(u"innertext"_s);
+        if (!text.contains(u"add to friends"_s, Qt::CaseInsensitive) &&
+            !text.contains(u"send message"_s, Qt::CaseInsensitive))
+            continue;
+        href = link.Href();
+        if (++counted == 2)
+            break;
+    }
+    return href;
+}
+
+} // namespace qlm

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/BrowserControl.h"
+
+#include <QString>
+#include <array>
+
+namespace qlm {
+
+class App;
+
+// The small tests on a page's text, links and elements on which every decision rests. All ignore letter case unless said.
+// Each sets Silent on the control it looks at, since a new page can reset it.
+class PageTests {
+public:
+    explicit PageTests(App& app) : m_app(app) {}
+
+    // Blocks, pumping, until WebBrowser1 has a document with a body and links; refreshes a page without a body every 30
+    // seconds.
+    void WaitForDocument();
+    // The same spins on another control, without the refresh.
+    void WaitForDocument(BrowserControl& browser);
+
+    // browser is "webHide", "webTemp" or anything else for WebBrowser1; "webInviteLocation" selects nothing.
+    bool IsTextInPage(const QString& text, bool asHTML = false, const QString& browser = {});
+    bool HrefLoaded(const QString& href, bool partial);
+    bool ImageExists(const QString& name);
+    bool IsHomePageURL();
+    bool IsLoggedOutPage();
+    // Only while logging in.
+    bool IsNotEnglishPage();
+    bool IsCaptchaPage();
+    bool IsRequestSentPage();
+    bool IsAdvertiserProfile();
+
+    QString LocationURL();
+    // The address of the page contains the text, {Role}s replaced.
+    bool AddressContains(const QString& text, Qt::CaseSensitivity caseSensitivity = Qt::CaseInsensitive);
+    // The same with the scheme dropped on both sides.
+    bool AddressBeginsWith(const QString& text);
+    bool AddressEquals(const QString& text);
+
+    // kind is "Innertext", "InnerHTML", "OuterHTML", "Title" or "ID". Clicks the first link that matches.
+    bool ClickLink(const QString& kind, const QString& value);
+    bool ClickLinkFromHref(const QString& hrefPart, const QString& browser = {});
+    // The href of the second link that offers "add to friends" or "send message", or of the only one.
+    QString GetHrefFromSecondID();
+
+    // The page's text in lower case, kept as long as the same text is asked for.
+    const QString& Lowered(const QString& text);
+
+    // The control of that name; nullptr for "webInviteLocation".
+    BrowserControl* Select(const QString& browser);
+
+private:
+    void SpinFor(BrowserControl& browser, bool refreshWithoutBody);
+    bool AnyInPage(std::initializer_list<const char16_t*> texts);
+
+    struct LoweredText {
+        QString original;
+        QString lower;
+    };
+
+    App& m_app;
+    std::array<LoweredText, 3> m_lowered;
+    size_t m_nextLowered = 0;
+};
+
+// Finds of needle in text, each search beginning one character behind the last find's start. 16 bit.
+qint16 CountOccurrences(const QString& text, const QString& needle);
+QString WithoutScheme(const QString& address);
+
+} // namespace qlm

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "core/ActionTick.h"
+
+#include "browser/PageTests.h"
+#include "browser/StepDispatcher.h"
+#include "core/Activities.h"
+#include "core/App.h"
+#include "core/StopResume.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int BlankTickLimit = 30;
+constexpr int LongWaitSeconds = 120;
+
+QString Flag(bool value) {
+    return value ? u"True"_s : u"False"_s;
+}
+} // namespace
+
+ActionTick::ActionTick(App& app) : m_app(app) {
+    app.timers->Timer1.SetHandler([this] { Timer1_Timer(); });
+    app.timers->tmrCheckLinkLoaded.SetHandler([this] { tmrCheckLinkLoaded_Timer(); });
+    app.timers->tmrAutoResume.SetHandler(
+        [this] { m_app.diagnostics.Debug(u"debugautoresume.txt"_s, m_app.NowText()); });
+    app.timers->tmrQuit.SetHandler([this] {
+        if (m_app.state.blnClosing)
+            m_app.platform.Shell().EndProcess();
+    });
+}
+
+void ActionTick::Timer1_Timer() {
+    m_app.diagnostics.Trap("Timer1_Timer", [this] {
+        m_app.pageTests->WaitForDocument();
+        m_app.timers->Timer1.SetEnabled(false);
+        for (const Activity& activity : Activities())
+            if (activity.stepRoutine && m_app.state.CurrentAction == activity.word) {
+                activity.stepRoutine(m_app);
+                return;
+            }
+    });
+}
+
+void ActionTick::tmrCheckLinkLoaded_Timer() {
+    m_app.diagnostics.Trap("tmrCheckLinkLoaded_Timer", [this] { CheckPage(); });
+}
+
+void ActionTick::CheckPage() {
+    RunState& state = m_app.state;
+    if (m_app.WebBrowser1().Document().IsNull() || state.blnHoldLinkCheck)
+        return;
+    if (state.CurrentAction == u"LOGIN"_s && m_app.pageTests->IsTextInPage(u"enter the text"_s))
+        m_app.diagnostics.DebugForAction(u"waiting for CAPTCHA"_s);
+    const bool found = m_app.stepDispatcher->CheckLinkFound();
+    LogCheck(found);
+    if (state.CurrentAction.isEmpty())
+        return;
+    if (!found) {
+        CountBlankTick();
+        TellLongWait();
+        return;
+    }
+    state.intBlankTicks = 0;
+    const bool lastPageStillThere = m_app.pageTests->IsTextInPage(state.strLastPageText) ||
+                                    m_app.pageTests->HrefLoaded(state.strLastPageHref, false);
+    // The page hasn't really changed yet: the next tick looks again.
+    if (lastPageStillThere && !state.blnForceAdvance) {
+        state.blnLinkFound = false;
+        return;
+    }
+    StepIsReady();
+}
+
+void ActionTick::LogCheck(bool found) {
+    const RunState& state = m_app.state;
+    const bool withExpectation =
+        state.CurrentAction == u"FR"_s || state.CurrentAction == u"MSG"_s || state.CurrentAction == u"COM"_s;
+    QString line = state.CurrentAction == u"LOGIN"_s ? u"checking: "_s
+                   : withExpectation ? u"checking... - "_s + state.strLinkType + u", "_s + state.strLinkValue
+                                     : u"checking..."_s;
+    m_app.diagnostics.DebugForAction(line + u" ... Found = "_s + Flag(found) + u" ... EX: "_s +
+                                     Flag(state.blnLastPageTextSeen) + u" ... PRESSED: "_s +
+                                     Flag(state.blnLastPageHrefSeen));
+}
+
+void ActionTick::StepIsReady() {
+    RunState& state = m_app.state;
+    state.intGatherRetryTicks = 0;
+    for (const auto& word : {"SCANNING"_L1, "FR"_L1, "MSG"_L1, "COM"_L1, "LOGIN"_L1})
+        if (state.CurrentAction == word)
+            m_app.diagnostics.DebugForAction(u"Link Found"_s);
+    state.blnLinkCheckFired = true;
+    m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
+    state.blnRetryGatherPage = false;
+    m_app.controls.SetText("lblWaitingFor"_L1, {});
+    if (!state.blnWaitingForCaptcha)
+        m_app.timers->tmrAutoResume.Restart();
+    m_app.timers->Timer1.Restart();
+}
+
+void ActionTick::CountBlankTick() {
+    RunState& state = m_app.state;
+    if (m_app.WebBrowser1().LocationURL() != u"about:blank"_s)
+        return;
+    if (++state.intBlankTicks > BlankTickLimit) {
+        state.intBlankTicks = 0;
+        m_app.stopResume->ResumeNext();
+    }
+}
+
+// No wait of the site has a limit; after two minutes the user is at least told what is being waited for.
+void ActionTick::TellLongWait() {
+    RunState& state = m_app.state;
+    if (state.CurrentAction.isEmpty() || state.strLinkValue.isEmpty())
+        return;
+    const QString wait = state.strCurrentID + u' ' + state.strLinkType + u' ' + state.strLinkValue;
+    if (state.strWaitingFor != wait) {
+        state.strWaitingFor = wait;
+        state.dtmWaitingSince = m_app.Pump().Now();
+        m_app.controls.SetText("lblWaitingFor"_L1, {});
+    }
+    if (state.dtmWaitingSince.secsTo(m_app.Pump().Now()) < LongWaitSeconds)
+        return;
+    const QString what = state.strLinkValue == u"ListOfIDs"_s ? u"a full list of profiles"_s
+                         : state.blnWaitingForCaptcha         ? u"you to answer the CAPTCHA"_s
+                                                              : u"\""_s + state.strLinkValue + u"\" on the page"_s;
+    m_app.controls.SetText("lblWaitingFor"_L1, u"Waiting since "_s +
+                                                   state.dtmWaitingSince.toString(u"hh:mm:ss"_s) + u" for "_s +
+                                                   what + u". Press Skip or Stop to go on without it."_s);
+}
+
+} // namespace qlm

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "core/AnsiText.h"
+
+#include <algorithm>
+#include <array>
+
+namespace qlm {
+
+namespace {
+
+// Codes 0x80 to 0x9F; those that the code page leaves open stand for themselves.
+constexpr std::array<char16_t, 32> UpperControls{
+    u'\u20AC', u'\x81',   u'\u201A', u'\u0192', u'\u201E', u'\u2026', u'\u2020', u'\u2021',
+    u'\u02C6', u'\u2030', u'\u0160', u'\u2039', u'\u0152', u'\x8D',   u'\u017D', u'\x8F',
+    u'\x90',   u'\u2018', u'\u2019', u'\u201C', u'\u201D', u'\u2022', u'\u2013', u'\u2014',
+    u'\u02DC', u'\u2122', u'\u0161', u'\u203A', u'\u0153', u'\x9D',   u'\u017E', u'\u0178'};
+
+char ToAnsiCode(char16_t character) {
+    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF))
+        return static_cast<char>(character);
+    const auto found = std::find(UpperControls.begin(), UpperControls.end(), character);
+    return found == UpperControls.end() ? '?' : static_cast<char>(0x80 + (found - UpperControls.begin()));
+}
+
+} // namespace
+
+QByteArray ToAnsi(QStringView text) {
+    QByteArray bytes;
+    bytes.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        // A character beyond the basic plane is two units here and one "?" there.
+        if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
+            ++i;
+        bytes.append(ToAnsiCode(text[i].unicode()));
+    }
+    return bytes;
+}
+
+QString FromAnsi(QByteArrayView bytes) {
+    QString text(bytes.size(), Qt::Uninitialized);
+    for (qsizetype i = 0; i < bytes.size(); ++i) {
+        const auto code = static_cast<unsigned char>(bytes[i]);
+        text[i] = QChar(code >= 0x80 && code < 0xA0 ? UpperControls[code - 0x80U] : char16_t(code));
+    }
+    return text;
+}
+
+} // namespace qlm

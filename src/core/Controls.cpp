@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "core/Controls.h"
+
+#include <stdexcept>
+
+namespace qlm {
+
+Controls::Controls() {
+    m_controls.reserve(Table().size());
+    for (const ControlRow& row : Table()) {
+        Control control;
+        control.name = QLatin1StringView(row.name);
+        control.type = row.type;
+        control.group = QLatin1StringView(row.group);
+        control.text = QString::fromUtf16(row.text);
+        control.ticked = row.ticked;
+        m_index.insert(control.name, static_cast<int>(m_controls.size()));
+        m_controls.push_back(control);
+    }
+}
+
+const Control& Controls::operator[](QLatin1StringView name) const {
+    const auto found = m_index.constFind(name);
+    if (found == m_index.constEnd())
+        throw std::logic_error("No control is named " + QString(name).toStdString());
+    return m_controls[static_cast<size_t>(*found)];
+}
+
+Control& Controls::Get(QLatin1StringView name) {
+    return const_cast<Control&>(std::as_const(*this)[name]);
+}
+
+QString Controls::SelectedText(QLatin1StringView name) const {
+    const Control& control = (*this)[name];
+    return control.items.value(control.selected);
+}
+
+void Controls::SetText(QLatin1StringView name, const QString& text) {
+    Control& control = Get(name);
+    if (control.text == text)
+        return;
+    control.text = text;
+    if (control.type == ControlType::ComboBox)
+        control.selected = static_cast<int>(control.items.indexOf(text));
+    Notify(control, Change::Text);
+}
+
+void Controls::SetTicked(QLatin1StringView name, bool ticked) {
+    Control& control = Get(name);
+    if (ticked && !control.group.isEmpty())
+        for (Control& other : m_controls)
+            if (other.group == control.group && other.name != control.name && other.ticked) {
+                other.ticked = false;
+                Notify(other, Change::Ticked);
+            }
+    if (control.ticked == ticked)
+        return;
+    control.ticked = ticked;
+    Notify(control, Change::Ticked);
+}
+
+void Controls::SetItems(QLatin1StringView name, const QStringList& items) {
+    Control& control = Get(name);
+    control.items = items;
+    control.selected = -1;
+    Notify(control, Change::Items);
+}
+
+void Controls::AddItem(QLatin1StringView name, const QString& item) {
+    Control& control = Get(name);
+    control.items.append(item);
+    Notify(control, Change::RowAdded, static_cast<int>(control.items.size()) - 1);
+}
+
+void Controls::RemoveItem(QLatin1StringView name, int row) {
+    Control& control = Get(name);
+    control.items.removeAt(row);
+    if (control.selected == row)
+        control.selected = -1;
+    else if (control.selected > row)
+        --control.selected;
+    Notify(control, Change::RowRemoved, row);
+}
+
+void Controls::SetSelected(QLatin1StringView name, int row) {
+    Control& control = Get(name);
+    const int valid = row >= 0 && row < control.items.size() ? row : -1;
+    if (control.type == ControlType::ComboBox && valid >= 0)
+        control.text = control.items.at(valid);
+    control.selected = valid;
+    Notify(control, Change::Selected);
+}
+
+void Controls::SetEnabled(QLatin1StringView name, bool enabled) {
+    Control& control = Get(name);
+    if (control.enabled == enabled)
+        return;
+    control.enabled = enabled;
+    Notify(control, Change::Enabled);
+}
+
+void Controls::SetVisible(QLatin1StringView name, bool visible) {
+    Control& control = Get(name);
+    if (control.visible == visible)
+        return;
+    control.visible = visible;
+    Notify(control, Change::Visible);
+}
+
+void Controls::SetToolTip(QLatin1StringView name, const QString& toolTip) {
+    Control& control = Get(name);
+    control.toolTip = toolTip;
+    Notify(control, Change::ToolTip);
+}
+
+void Controls::SetFocus(QLatin1StringView name) {
+    Notify(Get(name), Change::Focus);
+}
+
+int Controls::AddListener(Listener listener) {
+    m_listeners.emplace_back(m_nextListener, std::move(listener));
+    return m_nextListener++;
+}
+
+void Controls::RemoveListener(int number) {
+    std::erase_if(m_listeners, [number](const auto& entry) { return entry.first == number; });
+}
+
+void Controls::Notify(const Control& control, Change change, int row) {
+    // A listener may remove itself or another: walk by number, not by position.
+    std::vector<int> numbers;
+    numbers.reserve(m_listeners.size());
+    for (const auto& [number, listener] : m_listeners)
+        numbers.push_back(number);
+    for (int number : numbers)
+        for (const auto& entry : m_listeners)
+            if (entry.first == number) {
+                const Listener listener = entry.second;
+                listener(control, change, row);
+                break;
+            }
+}
+
+} // namespace qlm

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+namespace qlm {
+
+enum class ControlType { Label, TextBox, ManyLineBox, CheckBox, OptionButton, ComboBox, ListBox, Button, MenuItem, Panel };
+
+// One named input or label that the logic reads or writes.
+struct Control {
+    QLatin1StringView name;
+    ControlType type = ControlType::Label;
+    QLatin1StringView group; // option buttons of one group exclude one another
+    QString text;            // caption of a label, button, box or item; content of a text or combo box
+    bool ticked = false;
+    QStringList items; // rows of a list or combo box
+    int selected = -1; // row; -1 none
+    bool enabled = true;
+    bool visible = true;
+    QString toolTip;
+};
+
+// A row of the table of controls. kind tells where the value is stored: "" not at all, "General", "Field Entries" shared
+// by all accounts, or a kind of data with its own global-or-per-account flag ("FriendRequest"). key is the settings key
+// where it differs from the name.
+struct ControlRow {
+    const char* name;
+    ControlType type;
+    const char* kind = "";
+    const char* key = "";
+    const char* group = "";
+    const char16_t* text = u"";
+    bool ticked = false;
+};
+
+// All controls of the program by name; those of a form other than the main window as "frmInteken.lstAccounts". The
+// truth stands here: widgets show it and write the user's input into it.
+class Controls {
+public:
+    enum class Change { Text, Ticked, Items, RowAdded, RowRemoved, Selected, Enabled, Visible, ToolTip, Focus };
+    // row is the row that was added or removed.
+    using Listener = std::function<void(const Control&, Change, int row)>;
+
+    Controls();
+
+    static const std::vector<ControlRow>& Table();
+
+    bool Has(QLatin1StringView name) const { return m_index.contains(name); }
+    const Control& operator[](QLatin1StringView name) const;
+    const std::vector<Control>& All() const { return m_controls; }
+
+    QString Text(QLatin1StringView name) const { return (*this)[name].text; }
+    bool Ticked(QLatin1StringView name) const { return (*this)[name].ticked; }
+    int Selected(QLatin1StringView name) const { return (*this)[name].selected; }
+    const QStringList& Items(QLatin1StringView name) const { return (*this)[name].items; }
+    // Text of the selected row; empty when there is none.
+    QString SelectedText(QLatin1StringView name) const;
+
+    void SetText(QLatin1StringView name, const QString& text);
+    // Ticking an option button unticks the others of its group.
+    void SetTicked(QLatin1StringView name, bool ticked);
+    void SetItems(QLatin1StringView name, const QStringList& items);
+    void AddItem(QLatin1StringView name, const QString& item);
+    void RemoveItem(QLatin1StringView name, int row);
+    void SetSelected(QLatin1StringView name, int row);
+    void SetEnabled(QLatin1StringView name, bool enabled);
+    void SetVisible(QLatin1StringView name, bool visible);
+    void SetToolTip(QLatin1StringView name, const QString& toolTip);
+    // Asks the window to move the input focus there.
+    void SetFocus(QLatin1StringView name);
+
+    // Listeners are told of every change, in the order in which they were added. Returns a number for RemoveListener.
+    int AddListener(Listener listener);
+    void RemoveListener(int number);
+
+private:
+    Control& Get(QLatin1StringView name);
+    void Notify(const Control& control, Change change, int row = -1);
+
+    std::vector<Control> m_controls;
+    QHash<QLatin1StringView, int> m_index;
+    std::vector<std::pair<int, Listener>> m_listeners;
+    int m_nextListener = 1;
+};
+
+} // namespace qlm

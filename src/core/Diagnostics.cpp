@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "core/Diagnostics.h"
+
+#include "core/Activities.h"
+#include "core/App.h"
+
+#include <QRegularExpression>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr qsizetype UncleanedLength = 20000;
+}
+
+// The class keeps letters, digits, the blank and the printable signs; ")-_" in it is a range that takes in "*" to "^".
+QString Diagnostics::CleanText(const QString& text) {
+    static const QRegularExpression unwanted(
+        uR"([^A-Za-z 0-9 \.,\?'"!@#\$%\^&\*\(\)-_=\+;:<>\/\\\|\}\{\[\]`~]*)"_s);
+    QString cleaned = text;
+    return cleaned.remove(unwanted);
+}
+
+void Diagnostics::AppendToFile(const QString& path, const QString& text, bool startNew, bool onlyIfLogging,
+                               const QString& onlyForAction) {
+    if (onlyIfLogging && !m_app.state.blnLoggingEnabled)
+        return;
+    if (!onlyForAction.isEmpty() && onlyForAction != m_app.state.CurrentAction)
+        return;
+    const bool clean = onlyIfLogging || text.size() > UncleanedLength;
+    const QString line = clean ? CleanText(text) : text;
+    IgnoreErrors([&] {
+        if (startNew)
+            m_app.files.CreateFile(path);
+        m_app.files.AppendLine(path, line);
+    });
+    if (onLine)
+        onLine(line);
+}
+
+void Diagnostics::Debug(const QString& fileName, const QString& text, bool startNew) {
+    AppendToFile(FileSystem::Join(m_app.state.DataFolder, fileName), text, startNew, true, {});
+}
+
+void Diagnostics::DebugForAction(const QString& text) {
+    if (const Activity* activity = FindActivity(m_app.state.CurrentAction); activity && activity->debugFile[0])
+        Debug(QString::fromLatin1(activity->debugFile), text);
+}
+
+void Diagnostics::ReportError(const QString& procedure, const QString& description, const QString& line,
+                              const QString& data) {
+    // An error while reporting must not report itself again.
+    if (m_reporting)
+        return;
+    m_reporting = true;
+    QString address;
+    IgnoreErrors([&] { address = m_app.WebBrowser1().LocationURL(); });
+    const QStringList block{u"Product: QLM"_s,
+                            u"Time: "_s + m_app.NowText(),
+                            u"Version: "_s + m_app.Version(),
+                            u"PI: "_s + CleanText(address),
+                            u"IEV: "_s + QString::fromLatin1(qVersion()),
+                            u"Error: 0  -  "_s + CleanText(description),
+                            u"Proc: "_s + procedure,
+                            u"Line: "_s + line,
+                            u"Data: "_s + CleanText(data)};
+    try {
+        for (const QString& text : block)
+            m_app.files.AppendLine(m_app.state.ErrorLogPath, text);
+        ShowErrorFormOnce();
+    } catch (const FileError&) {
+        m_app.ShowMessage(u"An error has occurred while trying to write to the log file. This usually indicates a "
+                          "Windows permissions issue, please ensure your Windows user account has permission to write "
+                          "to this folder: "_s +
+                          m_app.platform.InstallationFolder() + u"\nError: ln "_s + line);
+    }
+    m_reporting = false;
+}
+
+void Diagnostics::ShowErrorFormOnce() {
+    if (m_shown)
+        return;
+    m_shown = true;
+    m_app.controls.SetText("frmError.lblErrorLogPath"_L1, m_app.state.ErrorLogPath);
+    m_app.platform.Dialogs().ShowForm(u"frmError"_s);
+}
+
+} // namespace qlm

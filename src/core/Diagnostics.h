@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/MessageQueue.h"
+
+#include <QString>
+#include <exception>
+#include <functional>
+
+namespace qlm {
+
+class App;
+
+// The program's own story: the debug files for support, the error log, and the traps at the edges of procedures.
+class Diagnostics {
+public:
+    explicit Diagnostics(App& app) : m_app(app) {}
+
+    // Appends a line to the file. Does nothing with onlyIfLogging and logging off, or when onlyForAction isn't empty and
+    // isn't the running activity. Never fails: diagnostics don't stop the program.
+    void AppendToFile(const QString& path, const QString& text, bool startNew, bool onlyIfLogging,
+                      const QString& onlyForAction);
+    // A line in one of the debug files of DataFolder ("debugfr.txt"), if logging is on.
+    void Debug(const QString& fileName, const QString& text, bool startNew = false);
+    // A line in the debug file of the running activity; nothing for one that has none.
+    void DebugForAction(const QString& text);
+
+    // Appends a block to the error log and shows frmError, that once in a program run.
+    void ReportError(const QString& procedure, const QString& description, const QString& line = {},
+                     const QString& data = {});
+
+    // Runs the body of a procedure; an exception is reported under the procedure's name and ends it there. Answers the
+    // error's text, empty when the body ran through.
+    template <typename Body> QString Trap(const char* procedure, Body&& body) {
+        try {
+            body();
+        } catch (const ProgramEnding&) {
+            throw;
+        } catch (const std::exception& error) {
+            const QString description = QString::fromUtf8(error.what());
+            ReportError(QString::fromLatin1(procedure), description);
+            return description;
+        }
+        return {};
+    }
+    // As above; data() gives what the report says beside the error.
+    template <typename Body, typename Data> void Trap(const char* procedure, Body&& body, Data&& data) {
+        try {
+            body();
+        } catch (const ProgramEnding&) {
+            throw;
+        } catch (const std::exception& error) {
+            ReportError(QString::fromLatin1(procedure), QString::fromUtf8(error.what()), {}, data());
+        }
+    }
+    // For procedures that answer their own errors: onError gets the error's text.
+    template <typename Body, typename Handler> static void Guard(Body&& body, Handler&& onError) {
+        try {
+            body();
+        } catch (const std::exception& error) {
+            onError(QString::fromUtf8(error.what()));
+        }
+    }
+    // For routines whose failure doesn't matter: ends the body there, tells nobody.
+    template <typename Body> static void IgnoreErrors(Body&& body) {
+        try {
+            body();
+        } catch (const std::exception&) {
+            return;
+        }
+    }
+
+    static QString CleanText(const QString& text);
+
+    // Told of each line behind its writing; a test stops the program there.
+    std::function<void(const QString& line)> onLine;
+
+private:
+    void ShowErrorFormOnce();
+
+    App& m_app;
+    bool m_shown = false;
+    bool m_reporting = false;
+};
+
+} // namespace qlm

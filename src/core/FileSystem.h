@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <stdexcept>
+
+namespace qlm {
+
+class WriteGate;
+
+// A file that could not be read or written; the text names what failed and the path.
+class FileError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+enum class Readers { Everyone, OwnerAlone };
+
+// All file access of the program. Files are opened, used and closed within one call. Text files are Windows-1252 with
+// CR LF ends; LF ends are read too. Every member throws FileError when it cannot do what it says.
+//
+// Appending is one write of whole lines, synced; a line that a power cut left unfinished is closed first, so that
+// nothing is ever glued to it. Rewriting leaves either the old or the new file whole, at whatever byte it is cut off.
+class FileSystem {
+public:
+    explicit FileSystem(WriteGate* gate = nullptr) : m_gate(gate) {}
+
+    bool FileExists(const QString& path) const;
+    bool FolderExists(const QString& path) const;
+    void CreateFolder(const QString& path);
+    // Creates an empty file, and its folder, when the file is missing.
+    void EnsureFile(const QString& path, Readers readers = Readers::Everyone);
+    // Creates the file anew, empty.
+    void CreateFile(const QString& path, Readers readers = Readers::Everyone);
+    void DeleteFile(const QString& path);
+
+    QStringList ReadLines(const QString& path) const;
+    // Line by line from the start, without the line end, as bytes on disk; stops when visit answers false.
+    void ForEachLine(const QString& path, const std::function<bool(QByteArrayView line)>& visit) const;
+    QByteArray ReadBytes(const QString& path) const;
+
+    void AppendLine(const QString& path, const QString& line, Readers readers = Readers::Everyone);
+    void WriteLines(const QString& path, const QStringList& lines, Readers readers = Readers::Everyone);
+    void WriteBytes(const QString& path, const QByteArray& bytes, Readers readers = Readers::Everyone);
+    // Overwrites the target, whole or not at all.
+    void CopyFile(const QString& from, const QString& to, Readers readers = Readers::Everyone);
+
+    // True when a file can be created and deleted in the folder.
+    bool IsWritable(const QString& folder, const QString& testFileName);
+
+    // Joins with the platform's separator, whichever side brings one.
+    static QString Join(const QString& folder, const QString& name);
+
+private:
+    void Refuse(const QString& path) const;
+    void WriteAll(int descriptor, const QByteArray& bytes, const QString& path);
+
+    WriteGate* m_gate;
+};
+
+} // namespace qlm

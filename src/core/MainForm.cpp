@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: MIT
+#include "core/MainForm.h"
+
+#include "browser/BrowserHost.h"
+#include "campaigns/Pacing.h"
+#include "core/ActionTick.h"
+#include "core/App.h"
+#include "core/SettingsFields.h"
+#include "core/StopResume.h"
+#include "core/Text.h"
+#include "gather/BlackList.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QStringList& TabCaptions() {
+    static const QStringList captions{u"Gather ID's"_s, u"Friend Requester"_s};
+    return captions;
+}
+
+} // namespace
+
+MainForm::MainForm(App& app) : m_app(app) {
+    m_app.controls.SetItems("TabStrip1"_L1, TabCaptions());
+    m_app.controls.SetSelected("TabStrip1"_L1, 0);
+    RegisterCommands();
+}
+
+void MainForm::RegisterCommands() {
+    Commands& commands = m_app.commands;
+    commands.Add(u"picSkip_Click"_s, [this] { picSkip_Click(); });
+    commands.Add(u"picStop_Click"_s, [this] { picStop_Click(); });
+    commands.Add(u"picGO_Click"_s, [this] { picGO_Click(); });
+    commands.Add(u"picBack_Click"_s, [this] { picBack_Click(); });
+    commands.Add(u"picForward_Click"_s, [this] { picForward_Click(); });
+    commands.Add(u"picHome_Click"_s, [this] { picHome_Click(); });
+    commands.Add(u"picRefresh_Click"_s, [this] { picRefresh_Click(); });
+    commands.Add(u"mnuExitWhenFinished_Click"_s, [this] { mnuExitWhenFinished_Click(); });
+    commands.Add(u"mnuExit_Click"_s, [this] { Unload(); });
+    commands.Add(u"mnuGoToQLMDataFolder_Click"_s,
+                 [this] { m_app.platform.Shell().OpenFolder(m_app.state.DataFolder); });
+    commands.Add(u"mnuEnableLogging_Click"_s, [this] {
+        m_app.state.blnLoggingEnabled = !m_app.controls.Ticked("mnuEnableLogging"_L1);
+        m_app.controls.SetTicked("mnuEnableLogging"_L1, m_app.state.blnLoggingEnabled);
+    });
+    commands.Add(u"TabStrip1_Click"_s, [this](int tab) { TabStrip1_Click(TabCaptions().value(tab)); });
+    commands.Add(u"frmError.cmdOK_Click"_s, [this] { m_app.platform.Dialogs().CloseForm(u"frmError"_s); });
+    commands.Add(u"frmError.cmdOpenFolder_Click"_s,
+                 [this] { m_app.platform.Shell().OpenFolder(m_app.state.DataFolder); });
+    commands.Add(u"frmError.lblHowToClick_Click"_s, [this] {
+        m_app.controls.SetText(
+            "frmError.lblHowTo"_L1,
+            u"Click the button below to open the folder mentioned above\n"
+            "Inside you will see a text file that is named \"error.log\". Can you please e-mail this log to us? This "
+            "will let us know exactly why and where this error is occurring so we can Fix it! =)"_s);
+    });
+}
+
+void MainForm::Form_Load() {
+    m_app.diagnostics.Trap("Form_Load", [this] {
+        RunState& state = m_app.state;
+        // A late timer can bring the window up again after it has closed.
+        if (state.blnClosing) {
+            m_app.platform.Shell().EndProcess();
+            return;
+        }
+        m_app.diagnostics.Debug(u"debuginitial.txt"_s, u"frmLoad 1"_s);
+        m_app.browserHost->Attach();
+        m_app.webHide().ZOrder(1);
+        m_app.webHide().Navigate(u"about:blank"_s);
+        m_app.waiting.Pump();
+        m_app.WebBrowser1().ZOrder(0);
+        m_app.controls.SetVisible("ucpanelFullGatherIDNotify"_L1, false);
+        if (setTitle)
+            setTitle(u"Quillmere v"_s + m_app.Version() + u" – Start Growing Your MySpace Friends!"_s);
+        m_app.WebBrowser1().SetSilent(true);
+        m_app.WebBrowser1().Navigate(u"about:blank"_s);
+        state.arrFriendIDs = {QString()};
+        m_app.diagnostics.Debug(u"debuginitial.txt"_s, u"frmLoad 2"_s);
+        m_app.settingsFields->RestoreGeneralPrevious();
+        m_app.pacing->ReadBounds();
+        m_app.pacing->UpdateTimeDelayLabel();
+        m_app.blackList->FillArrayFromFile(u"arrBlacklistIDs"_s, m_app.blackList->Path());
+        ShowTab(TabCaptions().first());
+        m_app.timers->tmrNewVersionAvailable.SetEnabled(state.blnNewVersionAvailable);
+        Diagnostics::IgnoreErrors([this] { m_app.files.CreateFolder(m_app.state.DataFolder); });
+        m_app.diagnostics.Debug(u"debuginitial.txt"_s, u"frmLoad 3"_s);
+        m_app.controls.SetText("lblLoggedInAs"_L1, {});
+        m_app.controls.SetText("lblPracticeSite"_L1,
+                               m_app.deployment.UsesPracticeSite() ? u"Practice site"_s : QString());
+        state.intLoginStep = 10;
+        state.CurrentAction = u"LOGIN"_s;
+        m_app.timers->tmrCheckLinkLoaded.Restart();
+        m_app.actionTick->Timer1_Timer();
+        m_app.waiting.Pump();
+    });
+}
+
+void MainForm::Form_Unload() {
+    if (m_unloading)
+        return;
+    m_unloading = true;
+    m_app.diagnostics.Trap("Form_Unload", [this] {
+        if (!m_app.state.blnNoSaveOnExit) {
+            m_app.SetStatus(u"Exiting Quillmere, saving all your settings..."_s);
+            m_app.settingsFields->SaveListsAndSettings();
+            m_app.settingsFields->SaveGeneral();
+        }
+    });
+    m_app.stopResume->StopAll(u"FU"_s);
+    UnloadAllForms(u"frmMain"_s);
+    m_app.state.blnClosing = true;
+    m_app.platform.Shell().Quit();
+}
+
+void MainForm::Unload() {
+    if (m_app.platform.Dialogs().IsFormOpen(u"frmMain"_s)) {
+        m_app.platform.Dialogs().CloseForm(u"frmMain"_s);
+        return;
+    }
+    // Before the main window is there, there is nothing to save.
+    UnloadAllForms({});
+    m_app.state.blnClosing = true;
+    m_app.platform.Shell().Quit();
+}
+
+void MainForm::UnloadAllForms(const QString& except) {
+    for (const QString& form : m_app.platform.Dialogs().OpenForms())
+        if (form != except)
+            m_app.platform.Dialogs().CloseForm(form);
+}
+
+void MainForm::picSkip_Click() {
+    m_app.diagnostics.Trap("picSkip_Click", [this] {
+        m_app.webHide().ZOrder(1);
+        m_app.stopResume->SkipProfile();
+    });
+}
+
+void MainForm::picStop_Click() {
+    m_app.diagnostics.Trap("picStop_Click", [this] {
+        m_app.WebBrowser1().SetSilent(true);
+        m_app.WebBrowser1().Stop();
+        m_app.state.blnUserNavigated = true;
+        m_app.webHide().ZOrder(1);
+        m_app.stopResume->StopAll(u"MAINSTOP"_s);
+    });
+}
+
+void MainForm::picGO_Click() {
+    m_app.diagnostics.Trap("picGO_Click", [this] {
+        const QString address = m_app.controls.Text("txtAddress"_L1);
+        if (Has(address, u"fuseaction=login"_s)) {
+            m_app.ShowMessage(u"If you need to log in with a different account, please restart Quillmere and log in "
+                              "from there"_s);
+            return;
+        }
+        m_app.webHide().ZOrder(1);
+        m_app.WebBrowser1().Navigate(address);
+    });
+}
+
+void MainForm::Browse(const std::function<void()>& move) {
+    m_app.state.blnUserNavigated = true;
+    m_app.webHide().ZOrder(1);
+    move();
+}
+
+void MainForm::picBack_Click() {
+    m_app.diagnostics.Trap("picBack_Click", [this] { Browse([this] { m_app.WebBrowser1().GoBack(); }); });
+}
+
+void MainForm::picForward_Click() {
+    m_app.diagnostics.Trap("picForward_Click", [this] { Browse([this] { m_app.WebBrowser1().GoForward(); }); });
+}
+
+void MainForm::picHome_Click() {
+    m_app.diagnostics.Trap("picHome_Click", [this] {
+        Browse([this] { m_app.WebBrowser1().Navigate(m_app.Expand(u"{HomeHost}/index.cfm?fuseaction=home"_s)); });
+    });
+}
+
+void MainForm::picRefresh_Click() {
+    m_app.diagnostics.Trap("picRefresh_Click", [this] {
+        m_app.WebBrowser1().SetSilent(true);
+        m_app.webHide().ZOrder(1);
+        m_app.WebBrowser1().Refresh();
+    });
+}
+
+void MainForm::mnuExitWhenFinished_Click() {
+    if (m_app.AskYesNo(u"Are you sure you want Quillmere to exit when the current operation is finished?"_s))
+        m_app.state.blnExitWhenFinished = true;
+}
+
+void MainForm::TabStrip1_Click(const QString& caption) {
+    // Click to gather can't outlive its tab.
+    if (caption != TabCaptions().first() && m_app.controls.Ticked("optImportClickedProfiles"_L1))
+        m_app.controls.SetTicked("optScanFollowing"_L1, true);
+    ShowTab(caption);
+}
+
+void MainForm::ShowTab(const QString& caption) {
+    m_app.controls.SetSelected("TabStrip1"_L1, static_cast<int>(TabCaptions().indexOf(caption)));
+}
+
+} // namespace qlm

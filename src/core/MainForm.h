@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <functional>
+
+namespace qlm {
+
+class App;
+
+// Where the main window stands on the screen, in logical pixels.
+struct WindowPlace {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+    bool maximized = false;
+    bool minimized = false;
+};
+
+// The main window's own procedures: load, unload, and the buttons of its frame. The widgets are the window library's.
+class MainForm {
+public:
+    explicit MainForm(App& app);
+
+    // Called by the window when it has been built and bound, before it is first shown.
+    void Form_Load();
+    // Called by the window when it is about to close; afterwards the program is ending. A second call does nothing.
+    void Form_Unload();
+    // Closes the main window, which runs Form_Unload.
+    void Unload();
+    // Closes every open form whose name differs from except.
+    void UnloadAllForms(const QString& except);
+
+    void picSkip_Click();
+    void picStop_Click();
+    void picGO_Click();
+    void picBack_Click();
+    void picForward_Click();
+    void picHome_Click();
+    void picRefresh_Click();
+    void mnuExitWhenFinished_Click();
+    // caption of the tab that the user has chosen
+    void TabStrip1_Click(const QString& caption);
+    // The logic changes the tab; the window follows.
+    void ShowTab(const QString& caption);
+
+    // Set by the window while it is there.
+    std::function<WindowPlace()> getPlace;
+    std::function<void(const WindowPlace&)> setPlace;
+    std::function<void(const QString&)> setTitle;
+
+private:
+    void RegisterCommands();
+    void Browse(const std::function<void()>& move);
+
+    App& m_app;
+    bool m_unloading = false;
+};
+
+} // namespace qlm

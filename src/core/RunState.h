@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+
+namespace qlm {
+
+// The run state of the program: plain fields, read and written by every step. One instance, owned by the App; there is
+// no other copy of any of it. StopAll clears what belongs to a run.
+struct RunState {
+    // Folders and the account in use.
+    QString DataFolder;
+    QString ProgramFolder; // the installation folder when it is writable, otherwise DataFolder
+    QString ErrorLogPath;
+    QString ServerBaseURL;
+    QString AccountEmail; // trimmed and lower case
+    QString AccountPassword;
+    QString MyProfileID; // digits; empty until read
+    bool blnLoggingEnabled = false;
+    bool blnWaitForLoginFirst = false;
+    bool blnNewVersionAvailable = false;
+
+    // The running activity and its step. Values 16 bit, 0 at rest.
+    QString CurrentAction;
+    qint16 intGatherStep = 0;
+    qint16 intFRStep = 0;
+    qint16 intMsgStep = 0;
+    qint16 intComStep = 0;
+    qint16 intBulStep = 0;
+    qint16 intAccStep = 0;
+    qint16 intLoginStep = 0;
+    qint16 intDelPenStep = 0;
+
+    // What the step expects on the next page.
+    QString strLinkType;
+    QString strLinkValue;
+    bool blnLinkFound = false;
+
+    // What says that the browser still shows the previous page.
+    QString strLastPageText;
+    QString strLastPageHref;
+    bool blnLastPageAsHTML = false;
+    bool blnForceAdvance = false;
+    bool blnLastPageTextSeen = false; // what the last check found of the two markers
+    bool blnLastPageHrefSeen = false;
+
+    bool blnHoldLinkCheck = false; // the page check and the DocumentComplete shortcut do nothing
+    bool blnLinkCheckFired = false;
+    qint16 intBlankTicks = 0;
+    qint16 intPageClass = 0; // class of the last classified page, 0 a normal one
+
+    // Decisions about the profile being worked on.
+    QString strCurrentID;
+    bool blnSkipCurrentID = false; // the page or a step has decided that it is done with
+    bool blnSkipRequested = false; // the user pressed Skip
+    bool blnInDelay = false;
+    bool blnDailyLimitHit = false;
+    bool blnWaitingForCaptcha = false;
+
+    // Login.
+    bool AccountsLoadedOnce = false;
+    bool blnLoginCacheRetry = false; // never cleared before the program ends
+    bool blnNewLayout = false;
+
+    // Chaining of accounts.
+    bool blnChaining = false;
+    QString ChainedCampaign; // "FR", "MSG" or "BUL"
+
+    // Ending the program.
+    bool blnExitWhenFinished = false;
+    bool blnClosing = false;
+    bool blnNoSaveOnExit = false;
+
+    bool blnUserNavigated = false; // the next navigation comes from Back, Forward, Home or Stop
+    QString strFocusWindow;        // the window that had the input focus before the comment form took it
+
+    // Send runs.
+    bool blnCheckLog = false;
+    qint32 lngSkippedCount = 0;
+    qint32 lngFilteredCount = 0;
+    qint32 lngFailedCount = 0;  // targets given up without success in this run
+    qint32 lngRemovedCount = 0; // entries that this run has taken off the list
+    qint32 lngTargetNumber = 0; // counts the targets begun; a step that finds another number behind a wait is obsolete
+    bool blnErrorRedirectTold = false;
+    qint32 lngSessionFR = 0;
+    qint32 lngSessionMsg = 0;
+    qint32 lngSessionCom = 0;
+    qint32 lngSessionBul = 0;
+    qint32 lngSessionStatus = 0;
+    qint32 lngDailyFR = 0;
+    qint32 lngDailyMsg = 0;
+    qint32 lngDailyCom = 0;
+    qint32 lngDailyBul = 0;
+    qint32 lngDailyStatus = 0;
+    qint32 lngDailyAccepted = 0;
+    qint32 lngDailyEventInvites = 0;
+    qint32 lngDailyGroupInvites = 0;
+    QString strAcceptMode;  // not empty while an accept run borrows the message or comment steps
+    QString strFRResumeURL; // the request page to go back to behind a message
+    qint16 intFRLimitHits = 0;
+    qint16 intCaptchaSkips = 0;
+    qint16 intConfirmPolls = 0;
+    bool blnMsgAfterFR = false;
+    bool blnFRSkipMessage = false;
+    bool blnCommentUsedEditor = false;
+    bool blnBulletinDeleting = false;
+    bool blnCommentFormShown = false;
+    bool blnBulletinWaiting = false;
+    bool blnStatusWaiting = false;
+    qint32 lngTimeDelayFrom = 0; // seconds
+    qint32 lngTimeDelayTo = 0;
+
+    // The work list. Empty is one entry "".
+    QStringList arrFriendIDs{QString()};
+    qint32 intCurrentIDIndex = 0;
+    bool blnFillingList = false;
+    QStringList arrBlacklistIDs{QString()};
+
+    // Gathering.
+    QString strNextPageLink;
+    bool blnClickNextLink = false;
+    QString strGatherStartURL;
+    bool blnComparingIDs = false;
+    bool blnRetryGatherPage = false;
+    qint32 lngPageScanOffset = 0;
+    qint16 intGatherRetryTicks = 0;
+    QStringList arrSeenLinks;
+    QStringList lstAlreadyFullGatheredPageIDs;
+    bool blnRememberLink = false;
+
+    // Filters, as read back from the filter window.
+    bool blnFilterTypeOff = true;
+    bool blnFilterBands = false;
+    bool blnFilterComedy = false;
+    bool blnFilterFilm = false;
+    bool blnFilterPeople = false;
+    bool blnFilterGenderOff = true;
+    bool blnFilterMale = false;
+    bool blnFilterFemale = false;
+    bool blnFilterLocationOff = true;
+    bool blnFilterLocation = false;
+    QString strFilterLocation;
+    bool optFilterWhenGathering = false;
+    bool optFilterWhenSending = true;
+    bool blnFilterAgeOff = true;
+    bool blnFilterAgeOn = false;
+    QString strFilterAge1;
+    QString strFilterAge2;
+    bool blnFilterLastLoginOff = true;
+    bool optFilterOnlineNow = false;
+    bool blnFilterLastLoginOn = false;
+    qint16 intFilterLastLoginDays = 0;
+
+    // Notices of the product server.
+    QString IssueAlertTab;
+    QString IssueAlertText;
+
+    // What a step waits for, for the line that tells of a long wait.
+    QString strWaitingFor;
+    QDateTime dtmWaitingSince;
+    QString ClosePopupResult;
+};
+
+} // namespace qlm

@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: MIT
+#include "core/SettingsFields.h"
+
+#include "campaigns/Counters.h"
+#include "core/App.h"
+#include "core/MainForm.h"
+#include "core/Text.h"
+#include "gather/GatheredList.h"
+
+#include <QSet>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString General = u"General"_s;
+const QString FieldEntries = u"Field Entries"_s;
+
+QString KeyOf(const ControlRow& row) {
+    return QString::fromLatin1(row.key[0] ? row.key : row.name);
+}
+
+bool IsListKind(const QString& kind) {
+    static const QSet<QString> lists{u"BookmarksList"_s, u"Log"_s,          u"GatheredList"_s, u"BulletinsList"_s,
+                                     u"StatusesList"_s,  u"CommentsList"_s, u"MessagesList"_s};
+    return lists.contains(kind);
+}
+
+// The kinds of inputs in the order in which they are restored and saved.
+const std::vector<const char*>& InputKinds() {
+    static const std::vector<const char*> kinds{"Bulletin", "Status", "Comment",        "Message",
+                                                "FriendRequest", "Accept", "GatherSettings", "Filter"};
+    return kinds;
+}
+
+} // namespace
+
+const std::vector<GlobalFlag>& SettingsFields::GlobalFlags() {
+    static const std::vector<GlobalFlag> flags{
+        {"blnUseGlobalSettings", "chkUseGlobalSettings", {}},
+        {"blnUseGlobalFilterSettings", "chkUseGlobalFilterSettings", {"Filter"}},
+        {"blnUseGlobalBookmarks", "chkUseGlobalBookmarks", {"BookmarksList"}},
+        {"blnUseGlobalLogs", "chkUseGlobalLogs", {"Log"}},
+        {"blnUseGlobalGatheredIDsList", "chkUseGlobalGatheredIDsList", {"GatheredList"}},
+        {"blnUseGlobalGatherIDsSettings", "chkUseGlobalGatherIDsSettings", {"GatherSettings"}},
+        {"blnUseGlobalFriendRequesterSettings", "chkUseGlobalFriendRequesterSettings", {"FriendRequest"}},
+        {"blnUseGlobalAutoMessengerSettings", "chkUseGlobalAutoMessengerSettings", {"Message", "MessagesList"}},
+        {"blnUseGlobalAutoCommenterSettings", "chkUseGlobalAutoCommenterSettings", {"Comment", "CommentsList"}},
+        {"blnUseGlobalBulletinSettings", "chkUseGlobalBulletinSettings", {"Bulletin", "BulletinsList"}},
+        {"blnUseGlobalAutoAccepterSettings", "chkUseGlobalAutoAccepterSettings", {"Accept"}},
+        {"blnUseGlobalInviteSettings", "chkUseGlobalInviteSettings", {"Invite"}},
+        {"blnUseGlobalStatusSettings", "chkUseGlobalStatusSettings", {"Status", "StatusesList"}},
+    };
+    return flags;
+}
+
+bool SettingsFields::UsesGlobal(const QString& kind) const {
+    const GlobalFlag* governing = &GlobalFlags().front();
+    for (const GlobalFlag& flag : GlobalFlags())
+        for (const char* governed : flag.kinds)
+            if (kind == QLatin1StringView(governed))
+                governing = &flag;
+    // Read once, when the account is restored.
+    return m_flags.value(QString::fromLatin1(governing->key), true);
+}
+
+QString SettingsFields::AccountDataPath(const QString& kind) {
+    if (m_app.state.AccountEmail.isEmpty() || UsesGlobal(kind))
+        return {};
+    if (!IsListKind(kind))
+        return u"\\"_s + m_app.state.AccountEmail;
+    const QString folder = u"\\ACCOUNTS\\"_s + m_app.state.AccountEmail;
+    m_app.files.CreateFolder(FileSystem::Join(m_app.state.ProgramFolder, folder));
+    return folder;
+}
+
+QString SettingsFields::SectionOf(const QString& kind) {
+    return FieldEntries + AccountDataPath(kind);
+}
+
+void SettingsFields::RestoreControl(const QString& section, const ControlRow& row) {
+    const QLatin1StringView name(row.name);
+    const QString missing = u"\u0001"_s;
+    const QString value = m_app.platform.Settings().GetSetting(section, KeyOf(row), missing);
+    if (value == missing)
+        return;
+    switch (row.type) {
+    case ControlType::CheckBox:
+        if (const std::optional<qint32> number = ToLong(value))
+            m_app.controls.SetTicked(name, *number != 0);
+        return;
+    case ControlType::OptionButton:
+    case ControlType::MenuItem:
+        if (const bool isWord = value.compare(u"True"_s, Qt::CaseInsensitive) == 0 ||
+                                value.compare(u"False"_s, Qt::CaseInsensitive) == 0;
+            isWord || IsNumeric(value))
+            m_app.controls.SetTicked(name, ToBoolean(value));
+        return;
+    default:
+        m_app.controls.SetText(name, value);
+    }
+}
+
+void SettingsFields::SaveControl(const QString& section, const ControlRow& row) {
+    const Control& control = m_app.controls[QLatin1StringView(row.name)];
+    QString value = control.text;
+    if (row.type == ControlType::CheckBox)
+        value = control.ticked ? u"1"_s : u"0"_s;
+    else if (row.type == ControlType::OptionButton || row.type == ControlType::MenuItem)
+        value = FromBoolean(control.ticked);
+    m_app.platform.Settings().SaveSetting(section, KeyOf(row), value);
+}
+
+void SettingsFields::RestoreGeneralPrevious() {
+    m_app.diagnostics.Trap("RestoreGeneralPrevious", [this] {
+        const SettingsStore& settings = m_app.platform.Settings();
+        auto number = [&settings](const QString& key) {
+            return ToLong(settings.GetSetting(General, key, QString()));
+        };
+        if (m_app.mainForm->setPlace) {
+            const auto width = number(u"Width"_s);
+            const auto height = number(u"Height"_s);
+            const auto left = number(u"Left"_s);
+            const auto top = number(u"Top"_s);
+            const bool maximized = ToBoolean(settings.GetSetting(General, u"Maximized"_s, u"False"_s));
+            if (width && height && left && top)
+                m_app.mainForm->setPlace({*left, *top, *width, *height, maximized, false});
+        }
+        for (const char* kind : {"General", "Field Entries"})
+            for (const ControlRow& row : Controls::Table())
+                if (QLatin1StringView(row.kind) == QLatin1StringView(kind))
+                    RestoreControl(QString::fromLatin1(kind), row);
+        m_app.state.blnLoggingEnabled = m_app.controls.Ticked("mnuEnableLogging"_L1);
+    });
+}
+
+void SettingsFields::RestoreAccountSettings() {
+    m_app.diagnostics.Trap("RestoreAccountSettings", [this] { m_app.counters->Restore(); });
+}
+
+void SettingsFields::RestoreAccountSpecificFields() {
+    m_app.diagnostics.Trap("RestoreAccountSpecificFields", [this] {
+        for (const GlobalFlag& flag : GlobalFlags()) {
+            const QString key = QString::fromLatin1(flag.key);
+            m_flags.insert(key, ToBoolean(m_app.platform.Settings().GetSetting(General, key, u"True"_s)));
+        }
+        for (const char* kind : InputKinds())
+            RestoreKind(QLatin1StringView(kind));
+        const auto& scanOptions = {"optScanCurrentPage"_L1, "optScanFollowing"_L1, "optScanGoogle"_L1,
+                                   "optImportClickedProfiles"_L1};
+        if (std::none_of(scanOptions.begin(), scanOptions.end(),
+                         [this](QLatin1StringView name) { return m_app.controls.Ticked(name); }))
+            m_app.controls.SetTicked("optScanFollowing"_L1, true);
+        if (m_app.controls.Text("cboFRCategories"_L1).isEmpty())
+            m_app.controls.SetText("cboFRCategories"_L1, u"Select a category from the list"_s);
+        if (m_app.controls.Ticked("chkSaveScanned"_L1))
+            m_app.gatheredList->FillScannedList(m_app.gatheredList->ScopedPath(), true, false);
+    });
+}
+
+void SettingsFields::RestoreKind(QLatin1StringView kind) {
+    const QString section = SectionOf(kind);
+    std::vector<const ControlRow*> rows;
+    for (const ControlRow& row : Controls::Table())
+        if (QLatin1StringView(row.kind) == kind)
+            rows.push_back(&row);
+    // An account that has left the shared settings begins with the starting values until it saves its own.
+    const bool own = section != FieldEntries;
+    const SettingsStore& settings = m_app.platform.Settings();
+    const bool nothingStored = std::none_of(rows.begin(), rows.end(), [&](const ControlRow* row) {
+        return settings.GetSetting(section, KeyOf(*row), u"a"_s) == settings.GetSetting(section, KeyOf(*row), u"b"_s);
+    });
+    for (const ControlRow* row : rows) {
+        if (own && nothingStored)
+            SetStartingValue(*row);
+        else
+            RestoreControl(section, *row);
+    }
+}
+
+void SettingsFields::SetStartingValue(const ControlRow& row) {
+    const QLatin1StringView name(row.name);
+    if (row.type == ControlType::CheckBox || row.type == ControlType::OptionButton)
+        m_app.controls.SetTicked(name, row.ticked);
+    else
+        m_app.controls.SetText(name, QString::fromUtf16(row.text));
+}
+
+void SettingsFields::SaveListsAndSettings() {
+    m_app.diagnostics.Trap("SaveListsAndSettings", [this] {
+        for (const char* kind : InputKinds()) {
+            const QString section = SectionOf(QLatin1StringView(kind));
+            for (const ControlRow& row : Controls::Table())
+                if (QLatin1StringView(row.kind) == QLatin1StringView(kind))
+                    SaveControl(section, row);
+        }
+        for (const ControlRow& row : Controls::Table())
+            if (QLatin1StringView(row.kind) == "Field Entries"_L1)
+                SaveControl(FieldEntries, row);
+        m_app.platform.Settings().Sync();
+        if (m_app.controls.Ticked("chkSaveScanned"_L1))
+            m_app.gatheredList->SaveScannedList(m_app.gatheredList->ScopedPath());
+    });
+}
+
+void SettingsFields::SaveGeneral() {
+    m_app.diagnostics.Trap("SaveGeneral", [this] {
+        SettingsStore& settings = m_app.platform.Settings();
+        if (m_app.mainForm->getPlace) {
+            const WindowPlace place = m_app.mainForm->getPlace();
+            if (!place.minimized && !place.maximized) {
+                settings.SaveSetting(General, u"Left"_s, QString::number(place.left));
+                settings.SaveSetting(General, u"Top"_s, QString::number(place.top));
+                settings.SaveSetting(General, u"Width"_s, QString::number(place.width));
+                settings.SaveSetting(General, u"Height"_s, QString::number(place.height));
+            }
+            settings.SaveSetting(General, u"Maximized"_s, FromBoolean(place.maximized));
+        }
+        for (const ControlRow& row : Controls::Table())
+            if (QLatin1StringView(row.kind) == "General"_L1)
+                SaveControl(General, row);
+        settings.Sync();
+    });
+}
+
+} // namespace qlm

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <vector>
+
+namespace qlm {
+
+class App;
+struct ControlRow;
+
+// A global-or-per-account flag of section "General" and the kinds of data it governs.
+struct GlobalFlag {
+    const char* key;
+    const char* checkBox; // on frmGlobalSettings
+    std::vector<const char*> kinds;
+};
+
+// The load and save paths of the settings, driven by the table of controls.
+class SettingsFields {
+public:
+    explicit SettingsFields(App& app) : m_app(app) {}
+
+    static const std::vector<GlobalFlag>& GlobalFlags();
+
+    void RestoreGeneralPrevious();
+    // After a login: the daily counters.
+    void RestoreAccountSettings();
+    // After a login and on account switch: the global flags, every input, the lists.
+    void RestoreAccountSpecificFields();
+    // While the account is still the current one: every input and, if wanted, the lists.
+    void SaveListsAndSettings();
+    void SaveGeneral();
+
+    // For a list kind the folder below ProgramFolder, created; for a settings kind the suffix of "Field Entries". Empty
+    // without an account or when the kind is shared.
+    QString AccountDataPath(const QString& kind);
+    // "Field Entries" with the suffix of the kind.
+    QString SectionOf(const QString& kind);
+    bool UsesGlobal(const QString& kind) const;
+
+private:
+    void RestoreControl(const QString& section, const ControlRow& row);
+    void SaveControl(const QString& section, const ControlRow& row);
+    void RestoreKind(QLatin1StringView kind);
+    void SetStartingValue(const ControlRow& row);
+
+    App& m_app;
+    QHash<QString, bool> m_flags; // the blnUseGlobal... flags; true until read
+};
+
+} // namespace qlm

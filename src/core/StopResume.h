@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace qlm {
+
+class App;
+
+// Ending, resuming and skipping what runs.
+class StopResume {
+public:
+    explicit StopResume(App& app) : m_app(app) {}
+
+    // Ends any activity and resets all steps; goes on past errors. reason is the short tag for the debug file.
+    void StopAll(const QString& reason);
+    // Re-enters the step routine of the running activity at its present step.
+    void ResumeNext();
+    // Abandons the current profile, or cuts a running delay short.
+    void SkipProfile();
+    void PauseLinkCheck();
+    void ResumeLinkCheck();
+    // At the end of every activity: true when the program was set to exit now and the main window has been unloaded.
+    bool DoFinishedExit();
+
+private:
+    App& m_app;
+};
+
+} // namespace qlm

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <optional>
+
+namespace qlm {
+
+// Contains without regard to letter case: the usual page test.
+inline bool Has(const QString& text, const QString& part) {
+    return text.contains(part, Qt::CaseInsensitive);
+}
+
+// The numeric test of the design: optional sign, digits with an optional decimal point, blanks around; not empty.
+bool IsNumeric(const QString& text);
+// Digits alone, at least one.
+bool IsDigits(const QString& text);
+// Rounds half to even; nothing when the text is no number or beyond 32 bits.
+std::optional<qint32> ToLong(const QString& text);
+// Boolean as stored: a text that is neither "False" nor a number that is 0 is true.
+bool ToBoolean(const QString& text);
+QString FromBoolean(bool value); // "True" or "False"
+
+QString GetQueryStringValue(const QString& url, const QString& key);
+QString GetHTMLTagValue(const QString& html, const QString& tag);
+QString GetNumberFromEnd(const QString& text);
+QString GetStringFromEnd(const QString& text, const QString& delimiter);
+QString CleanupFileName(const QString& name);
+// Letters and digits stay, a blank becomes "+", any other byte "%" and two capital hexadecimal digits.
+QString UrlEncode(const QString& text);
+QString LeadingZero(qint64 number);
+
+} // namespace qlm

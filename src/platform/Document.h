@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <memory>
+#include <stdexcept>
+#include <vector>
+
+namespace qlm {
+
+// A use of an element or document that is gone, or an engine that does not answer. Its text is "Automation error" unless
+// there is a better one; the steps' error traps expect it.
+class BrowserError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+    BrowserError() : std::runtime_error("Automation error") {}
+};
+
+// Properties of an element that can be read. Each reads as empty text where the element has none.
+enum class ElementText {
+    InnerText, // of an input or a text area: its value
+    InnerHTML,
+    OuterHTML,
+    Id,
+    Name,
+    Value,
+    Href,     // resolved, as the browser shows it
+    HostName, // of a link: the host of href without port
+    NameProp, // of an image: the file name of its source
+    Src,      // resolved
+    Alt,
+    Title,
+    ClassName,
+    TagName, // lower case
+    Type,    // lower case
+    Text     // of a script: its source
+};
+
+// Collections of a document, each in document order.
+enum class ElementSet {
+    Links,   // a and area elements that have an href
+    Images,  // img
+    Scripts, // script
+    ByTag,   // argument: tag name, any case
+    ByName   // argument: the name attribute, exact
+};
+
+// One loaded document as a platform keeps it. node numbers are the platform's own; 0 is no node. Every call throws
+// BrowserError when the document is no longer the present one of its control.
+class DocumentBackend {
+public:
+    virtual ~DocumentBackend() = default;
+
+    virtual int Body() = 0;        // 0 while there is none
+    virtual bool HasLinks() = 0;   // the links collection exists, empty or not
+    virtual QString BodyText(ElementText which) = 0; // InnerText, InnerHTML or OuterHTML of the body, cached a turn
+    virtual std::vector<int> Collect(ElementSet set, const QString& argument) = 0;
+    virtual int ById(const QString& id) = 0;
+    virtual int ActiveElement() = 0;
+
+    virtual QString Read(int node, ElementText which) = 0;
+    virtual QString Attribute(int node, const QString& name) = 0;
+    virtual bool HasAttribute(int node, const QString& name) = 0;
+    virtual int Parent(int node) = 0;
+    virtual std::vector<int> Descendants(int node, const QString& tag) = 0;
+
+    virtual void SetInnerText(int node, const QString& text) = 0;
+    virtual void SetInnerHTML(int node, const QString& html) = 0;
+    virtual void SetValue(int node, const QString& value) = 0;
+    virtual void SetAttribute(int node, const QString& name, const QString& value) = 0;
+    virtual void Click(int node) = 0;
+    virtual void Submit(int node) = 0;
+    virtual void Focus(int node) = 0;
+    virtual void ScrollIntoView(int node) = 0;
+    virtual void ScrollToEnd() = 0;
+};
+
+// A node of one document: a small value, null when nothing was found. Reading a property of a null element gives empty
+// text (a missing ancestor reads as empty text); doing something with one throws BrowserError.
+class Element {
+public:
+    Element() = default;
+    Element(std::shared_ptr<DocumentBackend> document, int node) : m_document(std::move(document)), m_node(node) {}
+
+    bool IsNull() const { return !m_document || m_node == 0; }
+    explicit operator bool() const { return !IsNull(); }
+
+    QString Read(ElementText which) const { return IsNull() ? QString() : m_document->Read(m_node, which); }
+    QString InnerText() const { return Read(ElementText::InnerText); }
+    QString InnerHTML() const { return Read(ElementText::InnerHTML); }
+    QString OuterHTML() const { return Read(ElementText::OuterHTML); }
+    QString Id() const { return Read(ElementText::Id); }
+    QString Name() const { return Read(ElementText::Name); }
+    QString Value() const { return Read(ElementText::Value); }
+    QString Href() const { return Read(ElementText::Href); }
+    QString TagName() const { return Read(ElementText::TagName); }
+    // The pseudo attributes "innertext", "innerhtml", "outerhtml" and "class" read the property, in any letter case.
+    QString GetAttribute(const QString& name) const { return IsNull() ? QString() : m_document->Attribute(m_node, name); }
+    bool HasAttribute(const QString& name) const { return !IsNull() && m_document->HasAttribute(m_node, name); }
+    Element ParentElement() const { return IsNull() ? Element() : Element(m_document, m_document->Parent(m_node)); }
+    // Ancestor(1) is the parent; null where the tree ends first.
+    Element Ancestor(int n) const;
+    std::vector<Element> Tags(const QString& tag) const;
+
+    void SetInnerText(const QString& text) const { Need().SetInnerText(m_node, text); }
+    void SetInnerHTML(const QString& html) const { Need().SetInnerHTML(m_node, html); }
+    void SetValue(const QString& value) const { Need().SetValue(m_node, value); }
+    void SetAttribute(const QString& name, const QString& value) const { Need().SetAttribute(m_node, name, value); }
+    void Click() const { Need().Click(m_node); }
+    void Submit() const { Need().Submit(m_node); }
+    void Focus() const { Need().Focus(m_node); }
+    void ScrollIntoView() const { Need().ScrollIntoView(m_node); }
+
+private:
+    DocumentBackend& Need() const {
+        if (IsNull())
+            throw BrowserError();
+        return *m_document;
+    }
+
+    std::shared_ptr<DocumentBackend> m_document;
+    int m_node = 0;
+};
+
+// A loaded document: a small value, null when the control has none. Reading from one that has been replaced throws
+// BrowserError.
+class Document {
+public:
+    Document() = default;
+    explicit Document(std::shared_ptr<DocumentBackend> backend) : m_backend(std::move(backend)) {}
+
+    bool IsNull() const { return !m_backend; }
+    explicit operator bool() const { return !IsNull(); }
+
+    Element Body() const { return IsNull() ? Element() : Element(m_backend, m_backend->Body()); }
+    bool HasLinks() const { return m_backend && m_backend->HasLinks(); }
+    QString BodyText() const { return Need().BodyText(ElementText::InnerText); }
+    QString BodyHTML() const { return Need().BodyText(ElementText::InnerHTML); }
+    QString BodyOuterHTML() const { return Need().BodyText(ElementText::OuterHTML); }
+
+    std::vector<Element> Links() const { return Wrap(Need().Collect(ElementSet::Links, {})); }
+    std::vector<Element> Images() const { return Wrap(Need().Collect(ElementSet::Images, {})); }
+    std::vector<Element> Scripts() const { return Wrap(Need().Collect(ElementSet::Scripts, {})); }
+    std::vector<Element> GetElementsByTagName(const QString& tag) const { return Wrap(Need().Collect(ElementSet::ByTag, tag)); }
+    std::vector<Element> GetElementsByName(const QString& name) const { return Wrap(Need().Collect(ElementSet::ByName, name)); }
+    Element GetElementById(const QString& id) const { return Element(m_backend, Need().ById(id)); }
+    Element ActiveElement() const { return Element(m_backend, Need().ActiveElement()); }
+    // Scrolls the window to the body's full height.
+    void ScrollToEnd() const { Need().ScrollToEnd(); }
+
+private:
+    DocumentBackend& Need() const {
+        if (!m_backend)
+            throw BrowserError();
+        return *m_backend;
+    }
+    std::vector<Element> Wrap(const std::vector<int>& nodes) const {
+        std::vector<Element> elements;
+        elements.reserve(nodes.size());
+        for (int node : nodes)
+            elements.emplace_back(m_backend, node);
+        return elements;
+    }
+
+    std::shared_ptr<DocumentBackend> m_backend;
+};
+
+inline Element Element::Ancestor(int n) const {
+    Element ancestor = *this;
+    for (int i = 0; i < n && ancestor; ++i)
+        ancestor = ancestor.ParentElement();
+    return ancestor;
+}
+
+inline std::vector<Element> Element::Tags(const QString& tag) const {
+    std::vector<Element> elements;
+    for (int node : Need().Descendants(m_node, tag))
+        elements.emplace_back(m_document, node);
+    return elements;
+}
+
+} // namespace qlm

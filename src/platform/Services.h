@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+namespace qlm {
+
+// Message boxes, file dialogs and the program's own forms. Modal calls return when the user has answered; the message
+// loop turns meanwhile.
+class Dialogs {
+public:
+    enum class Buttons { Ok, YesNo, YesNoCancel };
+    enum class Answer { Ok, Yes, No, Cancel };
+
+    virtual ~Dialogs() = default;
+    // An empty title shows the program's name.
+    virtual Answer ShowMessage(const QString& text, const QString& title, Buttons buttons) = 0;
+    // filter in the form "Text files (txt)|*.txt;|All files (*.*)|*.*". Empty when the user cancelled.
+    virtual QString ChooseFileToOpen(const QString& title, const QString& filter) = 0;
+    virtual QString ChooseFileToSave(const QString& title, const QString& suggestedName, const QString& filter) = 0;
+
+    // The program's own forms by name ("frmTimeDelay"). ShowModal returns when the form has been closed.
+    virtual void ShowModal(const QString& form) = 0;
+    virtual void ShowForm(const QString& form) = 0;
+    virtual void CloseForm(const QString& form) = 0;
+    virtual bool IsFormOpen(const QString& form) const = 0;
+    virtual QStringList OpenForms() const = 0;
+    // Closes the open window with that title, of the program or of the page; false when there is none.
+    virtual bool CloseWindowTitled(const QString& title) = 0;
+};
+
+// Plain GET outside the browser, past any cache.
+class Http {
+public:
+    virtual ~Http() = default;
+    // The body of the answer; nothing when the address could not be opened. Pumps messages while it waits.
+    virtual std::optional<QString> Get(const QString& url) = 0;
+};
+
+// The durable settings: text values under section and key. Sections nest by backslash ("Counters\a@example.com").
+class SettingsStore {
+public:
+    virtual ~SettingsStore() = default;
+    virtual QString GetSetting(const QString& section, const QString& key, const QString& fallback) const = 0;
+    virtual void SaveSetting(const QString& section, const QString& key, const QString& value) = 0;
+    virtual bool HasSection(const QString& section) const = 0;
+    // Deletes the section and all below it.
+    virtual void DeleteSetting(const QString& section) = 0;
+    virtual void DeleteEverything() = 0;
+    // Makes what was saved so far durable.
+    virtual void Sync() = 0;
+    // A message for the user when the stored settings could not be read as they stood; empty otherwise.
+    virtual QString TakeProblem() { return {}; }
+};
+
+// The desktop outside the program's windows.
+class Shell {
+public:
+    virtual ~Shell() = default;
+    virtual void OpenFolder(const QString& path) = 0;
+    virtual void OpenAddress(const QString& url) = 0;
+    virtual void OpenFile(const QString& path) = 0;
+    // Ends the process: the message loop is left as soon as the present handler has returned.
+    virtual void Quit() = 0;
+    // Ends the process outright, for a shutdown that hangs.
+    virtual void EndProcess() = 0;
+};
+
+// How the user is called when he is looking elsewhere.
+class Attention {
+public:
+    virtual ~Attention() = default;
+    virtual void PlayWAV(const QString& path) = 0;
+    virtual void FlashWindow() = 0;
+    // Restores the main window if it is minimised.
+    virtual void RestoreWindow() = 0;
+};
+
+class Random {
+public:
+    virtual ~Random() = default;
+    // In [0, 1).
+    virtual double Next() = 0;
+};
+
+} // namespace qlm
