@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: MIT
+#include "ControlLine.h"
+
+#include "Address.h"
+#include "World.h"
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+
+namespace qlm::practice {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Thrown for a line that makes no sense; its text goes back to whoever sent the line.
+struct BadControl : std::runtime_error {
+    explicit BadControl(const QString& text) : std::runtime_error(text.toStdString()) {}
+};
+
+// The words of a line behind the command, read one after another.
+class Arguments {
+public:
+    explicit Arguments(const QStringList& words) : m_words(words) {}
+
+    bool AtEnd() const { return m_next >= m_words.size(); }
+    QString Word() {
+        if (AtEnd())
+            throw BadControl(u"something is missing at the end"_s);
+        return m_words[m_next++];
+    }
+    qint64 Number() {
+        const QString word = Word();
+        bool ok = false;
+        const qint64 number = word.toLongLong(&ok);
+        if (!ok || !IsDigits(word))
+            throw BadControl(u"not a number: "_s + word);
+        return number;
+    }
+    int Count() { return static_cast<int>(std::min<qint64>(Number(), 1000000)); }
+    bool OnOff() {
+        const QString word = Word();
+        if (word != "on"_L1 && word != "off"_L1)
+            throw BadControl(u"neither on nor off: "_s + word);
+        return word == "on"_L1;
+    }
+    Outcome RequestOutcome() {
+        const QString word = Word();
+        const auto outcome = OutcomeNamed(word);
+        if (!outcome)
+            throw BadControl(u"unknown outcome: "_s + word);
+        return *outcome;
+    }
+    bool NextIs(QLatin1StringView word) {
+        const bool is = !AtEnd() && m_words[m_next] == word;
+        m_next += is ? 1 : 0;
+        return is;
+    }
+    void Expect(QLatin1StringView word) {
+        if (!NextIs(word))
+            throw BadControl(u"expected: "_s + word);
+    }
+    void End() const {
+        if (!AtEnd())
+            throw BadControl(u"too much: "_s + m_words[m_next]);
+    }
+
+private:
+    QStringList m_words;
+    qsizetype m_next = 0;
+};
+
+void SetSeed(World& world, Arguments& args) {
+    const qint64 seed = args.Number();
+    args.End();
+    world.Sow(static_cast<quint64>(seed));
+}
+
+void SetAccount(World& world, Arguments& args) {
+    const QString mail = args.Word();
+    const QString password = args.Word();
+    const qint64 id = args.Number();
+    args.End();
+    world.AddAccount(mail, password, id);
+}
+
+void SetLimit(World& world, Arguments& args) {
+    args.Expect("friend-requests"_L1);
+    std::optional<int> limit;
+    if (!args.NextIs("off"_L1))
+        limit = args.Count();
+    args.End();
+    world.requests.SetDailyLimit(limit);
+}
+
+void SetShare(World& world, Arguments& args) {
+    const Outcome outcome = args.RequestOutcome();
+    const int percent = args.Count();
+    args.End();
+    if (const QString wrong = world.requests.SetShare(outcome, percent); !wrong.isEmpty())
+        throw BadControl(wrong);
+}
+
+void SetOutcome(World& world, Arguments& args) {
+    const qint64 target = args.Number();
+    const Outcome outcome = args.RequestOutcome();
+    args.End();
+    world.requests.Fix(target, outcome);
+}
+
+void SetCaptchaWord(World& world, Arguments& args) {
+    const QString word = args.NextIs("off"_L1) ? QString() : args.Word();
+    args.End();
+    world.requests.SetCaptchaWord(word);
+}
+
+void SetFriends(World& world, Arguments& args) {
+    const qint64 owner = args.Number();
+    const int count = args.Count();
+    args.End();
+    if (count > FriendLists::mostFriends)
+        throw BadControl(u"at most %1 friends"_s.arg(FriendLists::mostFriends));
+    world.friends.SetCount(owner, count);
+}
+
+void SetFault(World& world, Arguments& args) {
+    Fault fault;
+    fault.prefix = args.Word();
+    if (args.NextIs("off"_L1)) {
+        args.End();
+        world.faults.Remove(fault.prefix);
+        return;
+    }
+    const QString name = args.Word();
+    const auto kind = FaultNamed(name);
+    if (!kind)
+        throw BadControl(u"unknown fault: "_s + name);
+    fault.kind = *kind;
+    if (fault.kind == FaultKind::Slow)
+        fault.delayMs = args.Count();
+    if (args.NextIs("times"_L1))
+        fault.left = args.Count();
+    args.End();
+    world.faults.Set(fault);
+}
+
+void SetJournal(World& world, Arguments& args) {
+    args.Expect("visits"_L1);
+    const bool keep = args.OnOff();
+    args.End();
+    world.journal.KeepVisits(keep);
+}
+
+// Sessions opened later must not be taken for those of before, so their numbering goes on.
+void Reset(World& world, Arguments& args) {
+    args.End();
+    world.accounts.Restore();
+    world.faults.Clear();
+    world.journal = Journal();
+    world.Sow(world.firstSeed);
+}
+
+void LogOutAll(World& world, Arguments& args) {
+    args.End();
+    world.accounts.DropAllSessions();
+}
+
+void ClearFaults(World& world, Arguments& args) {
+    args.End();
+    world.faults.Clear();
+}
+
+struct ControlRow {
+    QLatin1StringView command;
+    void (*run)(World&, Arguments&);
+};
+
+constexpr std::array controlRows{
+    ControlRow{"seed"_L1, SetSeed},
+    ControlRow{"account"_L1, SetAccount},
+    ControlRow{"limit"_L1, SetLimit},
+    ControlRow{"share"_L1, SetShare},
+    ControlRow{"outcome"_L1, SetOutcome},
+    ControlRow{"captcha-word"_L1, SetCaptchaWord},
+    ControlRow{"friends"_L1, SetFriends},
+    ControlRow{"fault"_L1, SetFault},
+    ControlRow{"journal"_L1, SetJournal},
+    ControlRow{"logout-all"_L1, LogOutAll},
+    ControlRow{"clear-faults"_L1, ClearFaults},
+    ControlRow{"reset"_L1, Reset},
+};
+
+} // namespace
+
+QString RunControl(World& world, const QString& line) {
+    QStringList words = line.simplified().split(u' ', Qt::SkipEmptyParts);
+    if (words.isEmpty())
+        return {};
+    const QString command = words.takeFirst();
+    for (const ControlRow& row : controlRows) {
+        if (command != row.command)
+            continue;
+        try {
+            Arguments args(words);
+            row.run(world, args);
+            return {};
+        } catch (const BadControl& bad) {
+            return u"%1: %2"_s.arg(command, QString::fromUtf8(bad.what()));
+        }
+    }
+    return u"unknown control: "_s + command;
+}
+
+} // namespace qlm::practice

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "FaultPlay.h"
+
+#include "Frame.h"
+#include "pages/NoticePages.h"
+#include "pages/RequestPages.h"
+
+namespace qlm::practice {
+
+namespace {
+
+Response Broken(Response::Fault fault) {
+    Response response;
+    response.fault = fault;
+    return response;
+}
+
+Response WithScript(Response response, QStringView script) {
+    response.body.replace("</body>", "<script>" + script.toUtf8() + "</script>\n</body>");
+    return response;
+}
+
+Response DropSession(Visit& visit) {
+    visit.world.accounts.DropSession(visit.session);
+    visit.account = nullptr;
+    return RedirectToSignIn();
+}
+
+bool IsRequestPage(Handler handler) {
+    return handler == AddToFriends || handler == AddFriendVerify;
+}
+
+Response ThroughCaptcha(Visit& visit, Handler handler) {
+    if (IsRequestPage(handler)) {
+        visit.captchaForced = true;
+        return handler(visit);
+    }
+    auto gate = CaptchaGate(visit);
+    return gate ? *gate : handler(visit);
+}
+
+} // namespace
+
+Response AnswerThrough(const Fault& fault, Visit& visit, Handler handler) {
+    switch (fault.kind) {
+    case FaultKind::Slow: {
+        Response late = handler(visit);
+        late.fault = Response::Fault::Slow;
+        late.delayMs = fault.delayMs;
+        return late;
+    }
+    case FaultKind::Hang:
+        return Broken(Response::Fault::Hang);
+    case FaultKind::Reset:
+        return Broken(Response::Fault::Reset);
+    case FaultKind::NoBody:
+        return Broken(Response::Fault::NoBody);
+    case FaultKind::Error:
+        return ServerErrorPage(visit);
+    case FaultKind::LoggedOut:
+        return DropSession(visit);
+    case FaultKind::Limit:
+        return DailyLimitPage(visit, IsRequestPage(handler));
+    case FaultKind::Captcha:
+        return ThroughCaptcha(visit, handler);
+    case FaultKind::Alert:
+        return WithScript(handler(visit), u"alert('The practice site would like your attention.');");
+    case FaultKind::Unload:
+        return WithScript(handler(visit),
+                          u"window.onbeforeunload = function () { return 'Leave the practice site?'; };");
+    case FaultKind::Endless:
+        return WithScript(handler(visit), u"for (;;) {}");
+    case FaultKind::Wrong:
+        return WrongPage(visit);
+    }
+    return handler(visit);
+}
+
+} // namespace qlm::practice

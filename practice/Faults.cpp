@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "Faults.h"
+
+#include <array>
+
+namespace qlm::practice {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct FaultRow {
+    FaultKind kind;
+    QLatin1StringView name;
+};
+
+constexpr std::array faultRows{
+    FaultRow{FaultKind::Slow, "slow"_L1},       FaultRow{FaultKind::Hang, "hang"_L1},
+    FaultRow{FaultKind::Reset, "reset"_L1},     FaultRow{FaultKind::NoBody, "nobody"_L1},
+    FaultRow{FaultKind::Error, "error"_L1},     FaultRow{FaultKind::LoggedOut, "loggedout"_L1},
+    FaultRow{FaultKind::Limit, "limit"_L1},     FaultRow{FaultKind::Captcha, "captcha"_L1},
+    FaultRow{FaultKind::Alert, "alert"_L1},     FaultRow{FaultKind::Unload, "unload"_L1},
+    FaultRow{FaultKind::Endless, "endless"_L1}, FaultRow{FaultKind::Wrong, "wrong"_L1},
+};
+
+QString Bare(const QString& prefix) {
+    const QString lower = prefix.trimmed().toLower();
+    return lower.startsWith("http://"_L1) ? lower.sliced(7) : lower;
+}
+
+bool Fits(const QString& prefix, const QString& address) {
+    return prefix.endsWith(u'$') ? address == prefix.chopped(1) : address.startsWith(prefix);
+}
+
+} // namespace
+
+std::optional<FaultKind> FaultNamed(const QString& name) {
+    for (const FaultRow& row : faultRows)
+        if (name == row.name)
+            return row.kind;
+    return std::nullopt;
+}
+
+void Faults::Set(Fault fault) {
+    fault.prefix = Bare(fault.prefix);
+    Remove(fault.prefix);
+    m_faults.append(fault);
+}
+
+void Faults::Remove(const QString& prefix) {
+    m_faults.removeIf([bare = Bare(prefix)](const Fault& fault) { return fault.prefix == bare; });
+}
+
+std::optional<Fault> Faults::Meet(const QString& address) {
+    const QString lower = address.toLower();
+    for (auto fault = m_faults.rbegin(); fault != m_faults.rend(); ++fault) {
+        if (fault->left == 0 || !Fits(fault->prefix, lower))
+            continue;
+        if (fault->left > 0)
+            --fault->left;
+        return *fault;
+    }
+    return std::nullopt;
+}
+
+} // namespace qlm::practice

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <optional>
+
+namespace qlm::practice {
+
+/// What can be made to go wrong at an address.
+enum class FaultKind {
+    Slow,      ///< the page comes, but late
+    Hang,      ///< no answer ever
+    Reset,     ///< the connection breaks
+    NoBody,    ///< an empty answer; the page itself is not run
+    Error,     ///< the server's error page
+    LoggedOut, ///< the session is dropped and the visitor sent to the root
+    Limit,     ///< the daily limit page
+    Captcha,   ///< a CAPTCHA in front of the page
+    Alert,     ///< the page with a script alert
+    Unload,    ///< the page with a script that asks before it is left
+    Endless,   ///< the page with a script that never ends
+    Wrong,     ///< quite another page
+};
+
+std::optional<FaultKind> FaultNamed(const QString& name);
+
+struct Fault {
+    QString
+        prefix; ///< host + path, lower case, without a scheme; a "$" at the end means exactly this address
+    FaultKind kind = FaultKind::Slow;
+    int delayMs = 0;
+    int left = -1; ///< how many more requests it meets; -1 for all
+};
+
+/// The faults in force. The one set last wins where several fit.
+class Faults {
+public:
+    /// Sets a fault in place of an older one with the same prefix.
+    void Set(Fault fault);
+    void Remove(const QString& prefix);
+    void Clear() { m_faults.clear(); }
+
+    /// The fault that meets a request for `address` (host + path with query), counted down.
+    std::optional<Fault> Meet(const QString& address);
+
+private:
+    QList<Fault> m_faults;
+};
+
+} // namespace qlm::practice

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDate>
+#include <QHash>
+#include <QMap>
+#include <QSet>
+#include <QString>
+#include <optional>
+#include <utility>
+
+namespace qlm::practice {
+
+/// What the site makes of a friend request.
+enum class Outcome {
+    Sent,
+    Already,
+    Pending,
+    Private,
+    Band,
+    Disabled,
+    Limit,
+    Captcha,
+    ErrorRedirect,
+    ServerError,
+};
+
+/// The word for an outcome in controls and journal, such as "error-redirect".
+QString OutcomeName(Outcome outcome);
+std::optional<Outcome> OutcomeNamed(const QString& name);
+
+/// Who has asked whom, and what the site answers whom. Keyed by the IDs of asker and target.
+class FriendRequests {
+public:
+    explicit FriendRequests(quint64 seed);
+
+    /// A target's own nature, before anybody has asked it: fixed by hand, or drawn by the shares.
+    Outcome NatureOf(qint64 target) const;
+    void Fix(qint64 target, Outcome outcome) { m_fixed.insert(target, outcome); }
+
+    /// Share of all profiles that answer so, in per cent; what is left over is sent. "Sent" itself takes only
+    /// 100, which clears all others. Returns "" or what is wrong.
+    QString SetShare(Outcome outcome, int percent);
+
+    bool WasAsked(qint64 asker, qint64 target) const { return m_asked.contains({asker, target}); }
+    void MarkAsked(qint64 asker, qint64 target, QDate day);
+
+    /// After so many requests of one account in a day comes the limit page; nothing for no limit.
+    void SetDailyLimit(std::optional<int> limit) { m_dailyLimit = limit; }
+    bool LimitReached(qint64 asker, QDate day) const;
+
+    /// The word drawn in the image. It stays until a wrong answer; a word set by hand stays for good.
+    QString CaptchaWord(qint64 asker, qint64 target) const;
+    void SetCaptchaWord(const QString& word) { m_captchaWord = word; }
+    /// Notes that the image is in front of the user.
+    void ShowCaptcha(qint64 asker, qint64 target);
+    bool CaptchaShown(qint64 asker, qint64 target) const { return m_captchas.contains({asker, target}); }
+    /// Number of wrong answers so far; distinguishes the images of one target.
+    int CaptchaRound(qint64 asker, qint64 target) const { return m_captchas.value({asker, target}); }
+    /// True for the right word (letter case doesn't matter), which takes the image away.
+    bool AnswerCaptcha(qint64 asker, qint64 target, const QString& answer);
+
+private:
+    using Pair = std::pair<qint64, qint64>;
+
+    quint64 m_seed;
+    QMap<Outcome, int> m_shares;
+    QHash<qint64, Outcome> m_fixed;
+    QSet<Pair> m_asked;
+    QHash<std::pair<qint64, QDate>, int> m_askedOn;
+    std::optional<int> m_dailyLimit;
+    QString m_captchaWord;
+    QHash<Pair, int> m_captchas;
+};
+
+} // namespace qlm::practice

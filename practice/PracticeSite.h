@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Exchange.h"
+
+#include <QDateTime>
+#include <QStringList>
+#include <functional>
+#include <memory>
+
+namespace qlm::practice {
+
+struct World;
+
+/// A stand-in for the social network, its product server and its web search, populated by invented people.
+/// Request in, response out; all state in memory; the same seed, clock and requests give the same bytes.
+/// Not safe for several threads at once: whoever shares it holds a lock around each call.
+///
+/// The journal tells what was done, in lines that stay as they are:
+///
+///     signed-in MAIL ID              signed-out MAIL ID           wrong-password MAIL
+///     request ASKER TARGET OUTCOME   what a request page answered: sent, already, pending, private, band,
+///                                    disabled, limit, captcha, captcha-wrong, error-redirect, server-error,
+///                                    self, invalid
+///     asked ASKER TARGET             a request has come into being, behind its request line
+///     asked-again ASKER TARGET       a request page was visited for somebody already asked by that account
+///     visit HOST/PATH                every page request, while `journal visits on`
+///
+/// The controls, one a line:
+///
+///     seed N                         new people; who was asked is forgotten
+///     account MAIL PASSWORD ID       adds or changes an account
+///     limit friend-requests N|off    requests of one account in a day before the limit page
+///     share OUTCOME PERCENT          how many profiles answer so
+///     outcome ID OUTCOME             how one profile answers
+///     captcha-word WORD|off          the word of every CAPTCHA image
+///     friends ID COUNT               length of a friends list
+///     fault ADDRESS KIND [MS] [times N] | fault ADDRESS off
+///                                    ADDRESS is the beginning of an address, or a whole one with "$" behind;
+///                                    KIND: slow MS, hang, reset, nobody, error, loggedout, limit, captcha,
+///                                    alert, unload, endless, wrong
+///     journal visits on|off          logout-all          clear-faults          reset
+///
+/// Over the wire they stand at the control host: POST /control, GET /journal, POST /journal/take.
+class PracticeSite {
+public:
+    explicit PracticeSite(
+        quint64 seed = 1, std::function<QDateTime()> now = [] { return QDateTime::currentDateTime(); });
+    ~PracticeSite();
+
+    Response Answer(const Request& request);
+
+    /// Returns "" or what is wrong with the line, which then has no effect. Blank lines do nothing.
+    QString Control(const QString& line);
+
+    QStringList Journal() const;
+    /// The lines since the last take.
+    QStringList TakeJournal();
+
+    /// The word that the CAPTCHA image of a request now shows, for tests that answer it.
+    QString CaptchaWord(qint64 asker, qint64 target) const;
+
+private:
+    std::unique_ptr<World> m_world;
+};
+
+} // namespace qlm::practice

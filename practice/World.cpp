@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "World.h"
+
+namespace qlm::practice {
+
+World::World(quint64 startSeed, std::function<QDateTime()> clock)
+    : firstSeed(startSeed),
+      seed(startSeed),
+      now(std::move(clock)),
+      people(seed),
+      friends(seed),
+      requests(seed) {
+    for (const Account& account : accounts.All())
+        people.AddMember(account.id);
+}
+
+void World::Sow(quint64 newSeed) {
+    seed = newSeed;
+    people = People(seed);
+    friends = FriendLists(seed);
+    requests = FriendRequests(seed);
+    for (const Account& account : accounts.All())
+        people.AddMember(account.id);
+}
+
+void World::AddAccount(const QString& mail, const QString& password, qint64 id) {
+    accounts.Add(mail, password, id);
+    people.AddMember(id);
+}
+
+} // namespace qlm::practice

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Accounts.h"
+#include "Faults.h"
+#include "FriendLists.h"
+#include "FriendRequests.h"
+#include "Journal.h"
+#include "People.h"
+
+#include <QDateTime>
+#include <functional>
+
+namespace qlm::practice {
+
+/// All that the site knows. Owned by PracticeSite; pages read it and change it while they answer.
+struct World {
+    World(quint64 startSeed, std::function<QDateTime()> clock);
+
+    /// New people, friends lists and request answers; accounts, sessions and journal stay.
+    void Sow(quint64 newSeed);
+    void AddAccount(const QString& mail, const QString& password, qint64 id);
+
+    const quint64 firstSeed; ///< what a reset goes back to
+    quint64 seed;
+    std::function<QDateTime()> now;
+    People people;
+    FriendLists friends;
+    FriendRequests requests;
+    Accounts accounts;
+    Faults faults;
+    Journal journal;
+};
+
+} // namespace qlm::practice

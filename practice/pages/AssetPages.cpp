@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "AssetPages.h"
+
+#include "../Artwork.h"
+#include "../Frame.h"
+#include "NoticePages.h"
+
+#include <QFile>
+#include <stdexcept>
+
+namespace qlm::practice {
+
+Response StyleSheet(Visit&) {
+    QFile file(u":/practice/site.css"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::logic_error("the style sheet is not compiled in");
+    Response response;
+    response.contentType = u"text/css; charset=utf-8"_s;
+    response.headers.append({u"Cache-Control"_s, u"max-age=3600"_s});
+    response.body = file.readAll();
+    return response;
+}
+
+Response Logo(Visit&) {
+    return Svg(LogoDrawing());
+}
+
+Response Icon(Visit&) {
+    return Svg(IconDrawing());
+}
+
+Response ProfilePicture(Visit& visit) {
+    const Person* person = visit.world.people.Find(visit.captures.value(0).toLongLong());
+    return person ? Svg(Portrait(*person)) : NotFound(visit);
+}
+
+Response BadgeImage(Visit& visit) {
+    const QString file = visit.captures.value(0);
+    if (file == u"comedy/mscomedy.gif")
+        return Svg(ComedyBadge());
+    return file == u"film_logo.gif" ? Svg(FilmBadge()) : NotFound(visit);
+}
+
+} // namespace qlm::practice

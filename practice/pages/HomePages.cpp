@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "HomePages.h"
+
+#include "../Frame.h"
+#include "../Html.h"
+#include "../MiniProfile.h"
+#include "SignInPages.h"
+
+#include <iterator>
+
+namespace qlm::practice {
+
+namespace {
+
+constexpr QStringView doings[] = {u"has a new picture", u"is in a good mood today",
+                                  u"wrote about last weekend", u"changed the headline",
+                                  u"joined a group about kites"};
+
+QString Updates(const World& world, qint64 owner) {
+    QString lines;
+    const auto friends = world.friends.Slice(world.people, owner, 1, int(std::size(doings)));
+    for (qsizetype i = 0; i < friends.size(); ++i)
+        lines += Fill(
+            uR"(<div class="update"><div class="pic"><img src="{picture}" width="36" height="36" alt=""></div>
+<p><a href="{url}">{name}</a> {doing}</p></div>
+)",
+            {{u"picture", PictureUrl(*friends[i])},
+             {u"url", ProfileUrl(*friends[i])},
+             {u"name", friends[i]->name},
+             {u"doing", doings[i].toString()}});
+    return lines;
+}
+
+QString NewPeople(const World& world, qint64 owner) {
+    QString faces;
+    for (int i = 0; i < 12; ++i)
+        faces +=
+            Face(world.people.Crowd()[(static_cast<int>(owner % 997) * 31 + i * 611) % People::crowdSize]);
+    return faces;
+}
+
+} // namespace
+
+Response HomePage(Visit& visit) {
+    if (!visit.account)
+        return SignInPage(visit, {});
+    const Person& me = *visit.world.people.Find(visit.account->id);
+    const QString own = Url(Role::SiteRoot, u"/%1"_s.arg(me.id));
+    const QString main = Fill(uR"(<div class="cols"><div class="col">
+<div class="box"><h2>Hello, {first}!</h2><div class="in own">
+<img class="portrait" src="{picture}" width="120" height="120" alt="">
+<p class="quote">&ldquo;{headline}&rdquo;</p><p>Mood: {mood}</p>
+<ul class="links"><li><a href="{own}">My profile</a></li><li>
+<a href="{own}/friends">My friends ({count})</a></li>
+<li><a href="{browse}">Browse people</a></li></ul></div></div>
+</div><div class="col wideCol">
+<div class="box"><h2>Friend Updates</h2><div class="in">{!updates}</div></div>
+<div class="box"><h2>Cool New People</h2><div class="in faces">{!people}</div></div>
+</div></div>)",
+                              {{u"first", FirstName(me)},
+                               {u"picture", PictureUrl(me)},
+                               {u"headline", me.headline},
+                               {u"mood", me.mood},
+                               {u"own", own},
+                               {u"count", QString::number(visit.world.friends.Count(me.id))},
+                               {u"browse", Url(Role::SiteRoot, u"/browse/people"_s)},
+                               {u"updates", Updates(visit.world, me.id)},
+                               {u"people", NewPeople(visit.world, me.id)}});
+    return Framed(visit, {.title = u"Home"_s, .main = main, .tab = u"Home"_s, .shownId = me.id});
+}
+
+} // namespace qlm::practice

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "../Visit.h"
+
+namespace qlm::practice {
+
+/// Somebody's friends, forty a page. The number of the page stands in the address; a number past the end
+/// shows the last page.
+Response FriendsPage(Visit& visit);
+
+/// Everybody on the site who is a person, forty a page.
+Response BrowsePage(Visit& visit);
+
+} // namespace qlm::practice

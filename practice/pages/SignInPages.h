@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "../Visit.h"
+
+namespace qlm::practice {
+
+/// The name of the session cookie.
+QString SessionCookie();
+
+/// The sign-in page, with `message` over the form; also what a wrong password and a sign-out answer.
+Response SignInPage(const Visit& visit, const QString& message);
+
+Response LoginPage(Visit& visit);
+Response LoginProcess(Visit& visit);
+Response SignOut(Visit& visit);
+Response SignUp(Visit& visit);
+Response RetrievePassword(Visit& visit);
+
+} // namespace qlm::practice
