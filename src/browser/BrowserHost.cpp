@@ -23,7 +23,9 @@ const QString GatherTrail = u"debuggather.txt"_s;
 // The main browser's own refusal of navigations while the program walks the document for a click.
 class NavigationGuard {
 public:
-    explicit NavigationGuard(BrowserControl& browser) : m_browser(browser) { m_browser.SetRefuseNavigations(true); }
+    explicit NavigationGuard(BrowserControl& browser) : m_browser(browser) {
+        m_browser.SetRefuseNavigations(true);
+    }
     ~NavigationGuard() { m_browser.SetRefuseNavigations(false); }
     NavigationGuard(const NavigationGuard&) = delete;
     NavigationGuard& operator=(const NavigationGuard&) = delete;
@@ -73,7 +75,8 @@ bool BrowserHost::CancelsNavigation(const NavigationRequest& request) {
         return true;
     if (m_app.WebBrowser1().Document().IsNull() || request.url == u"about:blank"_s)
         return false;
-    // A finished request may be redirected to an error page: that stays behind the cover until the next target.
+    // A finished request may be redirected to an error page: that stays behind the cover until the next
+    // target.
     if (state.intFRStep == 9)
         m_app.pacing->ShowCover();
 

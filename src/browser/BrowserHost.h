@@ -7,7 +7,8 @@ namespace qlm {
 
 class App;
 
-// The handlers of WebBrowser1's events. They arrive from the message pump, so a step may be waiting further down.
+// The handlers of WebBrowser1's events. They arrive from the message pump, so a step may be waiting further
+// down.
 class BrowserHost {
 public:
     explicit BrowserHost(App& app) : m_app(app) {}

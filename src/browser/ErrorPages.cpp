@@ -30,7 +30,8 @@ void CountLimitPage(App& app) {
     state.blnLinkFound = true;
     app.stopResume->StopAll(u"LF2"_s);
     if (!app.stopResume->DoFinishedExit())
-        app.ShowMessage(u"You have reached the maximum limit of friend requests that MySpace allows in a day."_s);
+        app.ShowMessage(
+            u"You have reached the maximum limit of friend requests that MySpace allows in a day."_s);
 }
 
 void HandleForRequester(App& app) {
@@ -107,9 +108,9 @@ struct ErrorPageRow {
 };
 
 constexpr ErrorPageRow ErrorPageRows[]{
-    {"FR"_L1, HandleForRequester},          {"MSG"_L1, HandleForMessenger},
-    {"COM"_L1, HandleForCommenter},         {"DEL PEN"_L1, HandleForPendingDeletion},
-    {"LOGIN"_L1, HandleForLogin},           {"BUL"_L1, [](App& app) { TraceClass(app, u"Maint: "_s); }},
+    {"FR"_L1, HandleForRequester},  {"MSG"_L1, HandleForMessenger},
+    {"COM"_L1, HandleForCommenter}, {"DEL PEN"_L1, HandleForPendingDeletion},
+    {"LOGIN"_L1, HandleForLogin},   {"BUL"_L1, [](App& app) { TraceClass(app, u"Maint: "_s); }},
 };
 
 } // namespace

@@ -20,9 +20,15 @@ public:
     explicit ListPage(App& app) : m_app(app) {}
 
     bool Text(const char16_t* text) const { return m_app.pageTests->IsTextInPage(QString::fromUtf16(text)); }
-    bool Html(const char16_t* markup) const { return m_app.pageTests->IsTextInPage(QString::fromUtf16(markup), true); }
-    bool At(const char16_t* address) const { return m_app.pageTests->AddressContains(QString::fromUtf16(address)); }
-    bool BeginsOn(const char16_t* host) const { return m_app.pageTests->AddressBeginsWith(QString::fromUtf16(host)); }
+    bool Html(const char16_t* markup) const {
+        return m_app.pageTests->IsTextInPage(QString::fromUtf16(markup), true);
+    }
+    bool At(const char16_t* address) const {
+        return m_app.pageTests->AddressContains(QString::fromUtf16(address));
+    }
+    bool BeginsOn(const char16_t* host) const {
+        return m_app.pageTests->AddressBeginsWith(QString::fromUtf16(host));
+    }
     bool HasElement(const char16_t* id) const {
         return !m_app.WebBrowser1().Document().GetElementById(QString::fromUtf16(id)).IsNull();
     }
@@ -62,8 +68,8 @@ bool IsForumList(const ListPage& p) {
            (p.Text(u"band name:") && p.HasElement(u"UserDataNode29"));
 }
 
-// A row decides when applies is true: found is the answer then. Rows whose condition holds the count itself go on to
-// the next row when it isn't reached.
+// A row decides when applies is true: found is the answer then. Rows whose condition holds the count itself
+// go on to the next row when it isn't reached.
 struct GatherPageRow {
     bool (*applies)(ListPage&);
     bool (*found)(ListPage&);
@@ -83,7 +89,8 @@ const std::vector<GatherPageRow>& Rows() {
         {[](ListPage& p) { return IsForumList(p); }, Yes},
         {[](ListPage& p) { return p.Text(u"Return to event page"); }, Yes},
         {[](ListPage& p) {
-             return (p.Text(u"you can search for display name") || p.Text(u"search within friends is disabled")) &&
+             return (p.Text(u"you can search for display name") ||
+                     p.Text(u"search within friends is disabled")) &&
                     p.Text(u"display:") && (p.Complete() || p.N() >= 33);
          },
          Yes},
@@ -92,10 +99,12 @@ const std::vector<GatherPageRow>& Rows() {
         {[](ListPage& p) { return p.At(u"/comments?"); },
          [](ListPage& p) { return p.Complete() || p.Count(u"commentCommands") >= 41; }},
         {[](ListPage& p) {
-             return (p.At(u"{SiteDomain}/browse") || p.At(u"{BrowseUsersHost}/Browse/Browse.aspx")) && p.N() >= 36;
+             return (p.At(u"{SiteDomain}/browse") || p.At(u"{BrowseUsersHost}/Browse/Browse.aspx")) &&
+                    p.N() >= 36;
          },
          Yes},
-        {[](ListPage& p) { return p.At(u"{SiteDomain}/browse") && p.Html(u"gapAddFriend") && p.N() >= 8; }, Yes},
+        {[](ListPage& p) { return p.At(u"{SiteDomain}/browse") && p.Html(u"gapAddFriend") && p.N() >= 8; },
+         Yes},
         {[](ListPage& p) {
              return p.At(u"fuseaction=mail.notifications") && (p.Html(u"id=tr7") || p.Html(u"id=\"tr7"));
          },
@@ -103,8 +112,8 @@ const std::vector<GatherPageRow>& Rows() {
         {[](ListPage& p) { return p.Text(u"Artist Signup") && p.Text(u"Set Search Criteria"); },
          [](ListPage& p) { return p.N() >= 9; }},
         {[](ListPage& p) {
-             return p.BeginsOn(u"{SearchServiceHost}") && !p.Text(u"results for") && !p.Text(u"find a friend") &&
-                    !p.Text(u"displaying ");
+             return p.BeginsOn(u"{SearchServiceHost}") && !p.Text(u"results for") &&
+                    !p.Text(u"find a friend") && !p.Text(u"displaying ");
          },
          [](ListPage& p) { return p.At(u"&type=Music&") && p.N() >= 10; }},
         {[](ListPage& p) { return p.BeginsOn(u"{SearchServiceHost}"); },
@@ -114,19 +123,22 @@ const std::vector<GatherPageRow>& Rows() {
                     p.N() >= 1;
          },
          Yes},
-        {[](ListPage& p) { return p.Text(u"find a friend") && p.Text(u"results for") && p.Html(u"_ctl08_"); }, Yes},
+        {[](ListPage& p) { return p.Text(u"find a friend") && p.Text(u"results for") && p.Html(u"_ctl08_"); },
+         Yes},
         {[](ListPage& p) {
              return p.Text(u"Show Bulletins I've Posted") && p.Html(u"bulletins_Repeater_ctl12");
          },
          Yes},
         {[](ListPage& p) { return p.At(u"{VideoHost}"); }, [](ListPage& p) { return p.NVideos() >= 17; }},
         {[](ListPage& p) {
-             return p.Text(u"view all friends") && p.Text(u"listing ") && p.Text(u" : friends (") && p.N() >= 33;
+             return p.Text(u"view all friends") && p.Text(u"listing ") && p.Text(u" : friends (") &&
+                    p.N() >= 33;
          },
          Yes},
         {[](ListPage& p) { return p.Text(u"members (") && p.At(u"{SchoolHost}") && p.N() >= 17; }, Yes},
         {[](ListPage& p) { return p.At(u"{TopArtistsHost}") && p.N() >= 10; }, Yes},
-        {[](ListPage& p) { return p.Text(u"shows in your area") && p.At(u"{MusicHost}") && p.N() >= 8; }, Yes},
+        {[](ListPage& p) { return p.Text(u"shows in your area") && p.At(u"{MusicHost}") && p.N() >= 8; },
+         Yes},
         {[](ListPage& p) {
              return p.Text(u"view all members") && (p.At(u"{GroupsHost}") || p.AtSingularGroupHost()) &&
                     p.N() >= 20;

@@ -47,8 +47,9 @@ bool PageTests::IsNotEnglishPage() {
     if (m_app.state.CurrentAction != u"LOGIN"_s)
         return false;
     return std::any_of(ForeignMarkers().begin(), ForeignMarkers().end(), [this](const auto& group) {
-        return std::all_of(group.begin(), group.end(),
-                           [this](const char16_t* marker) { return IsTextInPage(QString::fromUtf16(marker)); });
+        return std::all_of(group.begin(), group.end(), [this](const char16_t* marker) {
+            return IsTextInPage(QString::fromUtf16(marker));
+        });
     });
 }
 

@@ -25,7 +25,8 @@ PageClassRow Harmless(qint16 pageClass, const char16_t* marker, PageEffect effec
 
 using Alternatives = std::vector<std::vector<const char16_t*>>;
 
-PageClassRow Either(qint16 pageClass, const Alternatives& alternatives, PageEffect effect = PageEffect::None) {
+PageClassRow Either(qint16 pageClass, const Alternatives& alternatives,
+                    PageEffect effect = PageEffect::None) {
     PageClassRow row{pageClass, {}, PageCondition::None, effect};
     for (const auto& allOf : alternatives) {
         row.anyOf.emplace_back();
@@ -67,7 +68,8 @@ const std::vector<PageClassRow>& PageClassTable() {
         Row(19, u"this user requires all comments to be approved"), // class 12 takes it first
         Row(20, u"MailMaintenance", None, Page::NotDeletingPending),
         Row(21, u"an error has occurred trying to send this message"),
-        Either(22, {{u"friend to send", u"you must be", u"a message"}, {u"only allow messages from friends"}}),
+        Either(22,
+               {{u"friend to send", u"you must be", u"a message"}, {u"only allow messages from friends"}}),
         Row(23, u"they have set an away message"),
         Both(24, u"LinkContent1", u"ReturnMessage1"),
         Row(25, u"an error occurred while trying to process your request"),

@@ -54,9 +54,11 @@ bool PageClassifier::ClassifyErrorPage() {
     m_app.WebBrowser1().SetSilent(true);
     m_app.pageTests->WaitForDocument();
     const QString text = m_app.WebBrowser1().Document().BodyText();
-    const PageUnderTest page{state, text, m_app.pageTests->Lowered(text), m_app.pageTests->LocationURL().toLower()};
+    const PageUnderTest page{state, text, m_app.pageTests->Lowered(text),
+                             m_app.pageTests->LocationURL().toLower()};
     const auto& table = PageClassTable();
-    const auto row = std::find_if(table.begin(), table.end(), [&](const PageClassRow& r) { return Matches(r, page); });
+    const auto row =
+        std::find_if(table.begin(), table.end(), [&](const PageClassRow& r) { return Matches(r, page); });
     if (row == table.end())
         return false;
 

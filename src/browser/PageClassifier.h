@@ -13,8 +13,8 @@ class PageClassifier {
 public:
     explicit PageClassifier(App& app) : m_app(app) {}
 
-    // Sets intPageClass, and blnSkipCurrentID or blnDailyLimitHit where the class says so. True: the step can't go on
-    // with this page.
+    // Sets intPageClass, and blnSkipCurrentID or blnDailyLimitHit where the class says so. True: the step
+    // can't go on with this page.
     bool ClassifyErrorPage();
 
 private:

@@ -24,7 +24,9 @@ struct Page {
     bool Requesting(qint16 step) const { return Is("FR") && state.intFRStep == step; }
     bool LoggingIn(qint16 step) const { return Is("LOGIN") && state.intLoginStep == step; }
     bool Shows(const char16_t* text) const { return app.pageTests->IsTextInPage(QString::fromUtf16(text)); }
-    bool At(const char16_t* address) const { return app.pageTests->AddressContains(QString::fromUtf16(address)); }
+    bool At(const char16_t* address) const {
+        return app.pageTests->AddressContains(QString::fromUtf16(address));
+    }
     bool Complete() const { return app.WebBrowser1().ReadyState() == 4; }
     void Trace(const QString& text) const { app.diagnostics.DebugForAction(text); }
     QString Body() const { return app.WebBrowser1().Document().BodyText(); }
@@ -148,16 +150,21 @@ bool StopAtLimit(const Page& page) {
 
 bool ExplainCertificate(const Page& page) {
     const QString value = page.app.platform.Settings().GetSetting(
-        u"Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings"_s, u"CertificateRevocation"_s, u"x"_s);
+        u"Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings"_s, u"CertificateRevocation"_s,
+        u"x"_s);
     page.Trace(u"Security Certificate Error - "_s + value);
-    page.app.ShowMessage(
-        u"A current bug in Internet Explorer or MySpace may be causing the error you see on this page. There are two "
-        "ways to solve this problem:\n\n1) Please check your computer's date is correct\n\n2) If the date is current "
-        "and the problem persists then you need to change an Internet Explorer setting. Launch Internet Explorer then "
-        "go to Tools -> Internet Options. On the 'Advanced' tab near the bottom make sure the 'check for server "
-        "certificate revocation*' setting is unchecked.\n\nAfter that close any Internet Explorer windows and restart "
-        "Quillmere"_s,
-        u"Login error"_s);
+    page.app.ShowMessage(u"A current bug in Internet Explorer or MySpace may be causing the error you see on "
+                         u"this page. There are two "
+                         "ways to solve this problem:\n\n1) Please check your computer's date is "
+                         "correct\n\n2) If the date is current "
+                         "and the problem persists then you need to change an Internet Explorer setting. "
+                         "Launch Internet Explorer then "
+                         "go to Tools -> Internet Options. On the 'Advanced' tab near the bottom make sure "
+                         "the 'check for server "
+                         "certificate revocation*' setting is unchecked.\n\nAfter that close any Internet "
+                         "Explorer windows and restart "
+                         "Quillmere"_s,
+                         u"Login error"_s);
     return false;
 }
 
@@ -195,19 +202,23 @@ const std::vector<DetourRow>& Detours() {
         {[](const Page& p) { return p.Requesting(9) && p.app.pageTests->IsRequestSentPage(); },
          ConfirmedWhileWaiting},
         {[](const Page& p) { return p.Requesting(9) && p.app.pageTests->IsHomePageURL(); }, RedirectedHome},
-        {[](const Page& p) { return (p.Requesting(7) || p.Requesting(8)) && p.app.pageTests->IsHomePageURL(); },
+        {[](const Page& p) {
+             return (p.Requesting(7) || p.Requesting(8)) && p.app.pageTests->IsHomePageURL();
+         },
          [](const Page& p) { return GiveUpRequest(p, u"FR LF-Homepage3"_s, true); }},
         {[](const Page& p) {
              return p.Is("MSG") && p.state.intMsgStep == 9 && p.app.pageTests->IsHomePageURL();
          },
          MessageLandedHome},
-        {[](const Page& p) { return p.Requesting(9) && p.At(u"fuseaction=user.viewprofile"); }, LandedOnProfile},
+        {[](const Page& p) { return p.Requesting(9) && p.At(u"fuseaction=user.viewprofile"); },
+         LandedOnProfile},
         {[](const Page& p) {
              return p.Is("COM") && (p.state.intComStep == 6 || p.state.intComStep == 7) &&
                     p.app.pageTests->AddressEquals(u"{SiteRootHost}/"_s);
          },
          CommentLandedHome},
-        {[](const Page& p) { return p.Is("COM") && p.state.intComStep == 7 && p.Complete(); }, CommentPageUnknown},
+        {[](const Page& p) { return p.Is("COM") && p.state.intComStep == 7 && p.Complete(); },
+         CommentPageUnknown},
         {[](const Page& p) { return p.Is("FR") && p.At(u"fuseaction=mail.inbox"); },
          [](const Page& p) { return GiveUpRequest(p, u"FR LF-Inbox"_s, false); }},
         {[](const Page& p) {
@@ -244,7 +255,8 @@ const std::vector<DetourRow>& Detours() {
                         u"{MessagingHost}/index.cfm?fuseaction=mailsetup.createaccount"_s);
          },
          SkipMailSetUp},
-        {[](const Page& p) { return p.Is("FR") && p.captcha && !p.state.blnWaitingForCaptcha; }, RequestCaptcha},
+        {[](const Page& p) { return p.Is("FR") && p.captcha && !p.state.blnWaitingForCaptcha; },
+         RequestCaptcha},
         {[](const Page& p) {
              return p.Is("MSG") &&
                     (p.captcha || (p.state.blnWaitingForCaptcha && p.Shows(u"your message has been sent")));

@@ -131,8 +131,8 @@ bool PageTests::AddressEquals(const QString& text) {
 }
 
 bool PageTests::IsHomePageURL() {
-    return AddressContains(u"{HomeHost}/index.cfm?fuseaction=home"_s) || AddressEquals(u"{SiteRootHost}/"_s) ||
-           AddressEquals(u"{SiteRootHost}/home"_s);
+    return AddressContains(u"{HomeHost}/index.cfm?fuseaction=home"_s) ||
+           AddressEquals(u"{SiteRootHost}/"_s) || AddressEquals(u"{SiteRootHost}/home"_s);
 }
 
 bool PageTests::IsLoggedOutPage() {
@@ -152,20 +152,21 @@ bool PageTests::IsRequestSentPage() {
 bool PageTests::IsAdvertiserProfile() {
     m_app.WebBrowser1().SetSilent(true);
     WaitForDocument();
-    return m_app.WebBrowser1().Document().BodyOuterHTML().contains(u"advertiserProfile"_s, Qt::CaseInsensitive);
+    return m_app.WebBrowser1().Document().BodyOuterHTML().contains(u"advertiserProfile"_s,
+                                                                   Qt::CaseInsensitive);
 }
 
 bool PageTests::ClickLink(const QString& kind, const QString& value) {
     m_app.WebBrowser1().SetSilent(true);
     const QString wanted = value.toLower();
     for (const Element& link : m_app.WebBrowser1().Document().Links()) {
-        const bool matches =
-            kind == u"Innertext"_s   ? link.InnerText().trimmed().toLower() == wanted
-            : kind == u"InnerHTML"_s ? link.InnerHTML().toLower().contains(wanted)
-            : kind == u"OuterHTML"_s ? link.OuterHTML().toLower().contains(wanted)
-            : kind == u"Title"_s     ? link.Read(ElementText::Title).trimmed().toLower() == wanted
-            : kind == u"ID"_s        ? link.Id().trimmed().toLower() == wanted
-                                     : false;
+        const bool matches = kind == u"Innertext"_s   ? link.InnerText().trimmed().toLower() == wanted
+                             : kind == u"InnerHTML"_s ? link.InnerHTML().toLower().contains(wanted)
+                             : kind == u"OuterHTML"_s ? link.OuterHTML().toLower().contains(wanted)
+                             : kind == u"Title"_s
+                                 ? link.Read(ElementText::Title).trimmed().toLower() == wanted
+                             : kind == u"ID"_s ? link.Id().trimmed().toLower() == wanted
+                                               : false;
         if (matches) {
             link.Click();
             return true;

@@ -10,14 +10,14 @@ namespace qlm {
 
 class App;
 
-// The small tests on a page's text, links and elements on which every decision rests. All ignore letter case unless said.
-// Each sets Silent on the control it looks at, since a new page can reset it.
+// The small tests on a page's text, links and elements on which every decision rests. All ignore letter case
+// unless said. Each sets Silent on the control it looks at, since a new page can reset it.
 class PageTests {
 public:
     explicit PageTests(App& app) : m_app(app) {}
 
-    // Blocks, pumping, until WebBrowser1 has a document with a body and links; refreshes a page without a body every 30
-    // seconds.
+    // Blocks, pumping, until WebBrowser1 has a document with a body and links; refreshes a page without a
+    // body every 30 seconds.
     void WaitForDocument();
     // The same spins on another control, without the refresh.
     void WaitForDocument(BrowserControl& browser);

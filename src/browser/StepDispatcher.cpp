@@ -99,8 +99,9 @@ Verdict StepDispatcher::StillLastPage() {
             return false;
         m_app.stopResume->StopAll(u"LF2"_s);
         if (!m_app.stopResume->DoFinishedExit())
-            m_app.ShowMessage(u"MySpace only displays the first 1000 pages, after which the same ID's just repeat page "
-                              "after page.\n\nThe gathering process has been stopped."_s);
+            m_app.ShowMessage(
+                u"MySpace only displays the first 1000 pages, after which the same ID's just repeat page "
+                "after page.\n\nThe gathering process has been stopped."_s);
         return false;
     }
     if (state.CurrentAction == u"COM"_s || state.CurrentAction == u"FR"_s)
@@ -155,7 +156,8 @@ bool StepDispatcher::IsElementThere() {
     }
     if (state.strLinkType == u"Image"_s)
         return m_app.pageTests->ImageExists(state.strLinkValue) ||
-               any(u"input"_s, [&](const Element& input) { return input.Name().toLower().contains(wanted); }) ||
+               any(u"input"_s,
+                   [&](const Element& input) { return input.Name().toLower().contains(wanted); }) ||
                (state.intComStep == 7 && any(u"button"_s, [](const Element& button) {
                     return SameWord(button.Value(), u"post a comment"_s);
                 }));
@@ -183,9 +185,9 @@ bool StepDispatcher::TextRiders() {
         state.intComStep = 4;
         return true;
     }
-    if (state.CurrentAction == u"MSG"_s && state.intMsgStep == 8 && awaited == u"your message has been sent"_s &&
-        m_app.WebBrowser1().ReadyState() == 4 && !m_app.pageTests->IsCaptchaPage() &&
-        ++state.intConfirmPolls >= MessageConfirmPolls) {
+    if (state.CurrentAction == u"MSG"_s && state.intMsgStep == 8 &&
+        awaited == u"your message has been sent"_s && m_app.WebBrowser1().ReadyState() == 4 &&
+        !m_app.pageTests->IsCaptchaPage() && ++state.intConfirmPolls >= MessageConfirmPolls) {
         state.intConfirmPolls = 0;
         state.blnSkipCurrentID = true;
         m_app.stopResume->ResumeNext();

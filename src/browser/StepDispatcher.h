@@ -11,13 +11,14 @@ class App;
 // What a stage of the check answers: nothing when it doesn't apply, else the result of the whole check.
 using Verdict = std::optional<bool>;
 
-// The judge of every page: is the element there that the step expects, and if not, what page is this and what helps?
-// One cascade of stages; the first that acts ends it.
+// The judge of every page: is the element there that the step expects, and if not, what page is this and what
+// helps? One cascade of stages; the first that acts ends it.
 class StepDispatcher {
 public:
     explicit StepDispatcher(App& app) : m_app(app) {}
 
-    // Changes step variables and may resume, skip, stop or log in. Its own errors are ignored: the next tick tries again.
+    // Changes step variables and may resume, skip, stop or log in. Its own errors are ignored: the next tick
+    // tries again.
     bool CheckLinkFound();
 
     // The comment form that had been sent already stands on the page again.
@@ -36,7 +37,8 @@ private:
     App& m_app;
 };
 
-// Session losses, detours and interstitials by the markers of their pages, in order; the first row that applies acts.
+// Session losses, detours and interstitials by the markers of their pages, in order; the first row that
+// applies acts.
 Verdict TakeDetour(App& app, bool captchaPage);
 
 // Error pages, by the activity they hit.

@@ -125,10 +125,10 @@ void ActionTick::TellLongWait() {
         return;
     const QString what = state.strLinkValue == u"ListOfIDs"_s ? u"a full list of profiles"_s
                          : state.blnWaitingForCaptcha         ? u"you to answer the CAPTCHA"_s
-                                                              : u"\""_s + state.strLinkValue + u"\" on the page"_s;
-    m_app.controls.SetText("lblWaitingFor"_L1, u"Waiting since "_s +
-                                                   state.dtmWaitingSince.toString(u"hh:mm:ss"_s) + u" for "_s +
-                                                   what + u". Press Skip or Stop to go on without it."_s);
+                                                      : u"\""_s + state.strLinkValue + u"\" on the page"_s;
+    m_app.controls.SetText("lblWaitingFor"_L1,
+                           u"Waiting since "_s + state.dtmWaitingSince.toString(u"hh:mm:ss"_s) + u" for "_s +
+                               what + u". Press Skip or Stop to go on without it."_s);
 }
 
 } // namespace qlm

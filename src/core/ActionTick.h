@@ -7,8 +7,8 @@ namespace qlm {
 
 class App;
 
-// The two ticks that carry every page-driven activity: tmrCheckLinkLoaded decides whether the page is there, Timer1 does
-// the next thing.
+// The two ticks that carry every page-driven activity: tmrCheckLinkLoaded decides whether the page is there,
+// Timer1 does the next thing.
 class ActionTick {
 public:
     explicit ActionTick(App& app);

@@ -57,8 +57,8 @@ struct Timers {
     Timer tmrQuit;
 };
 
-// The whole program without its widgets: state, controls, commands, the platform, and one object per routine family.
-// The families get the App and keep no copies of its state. Everything runs on one thread.
+// The whole program without its widgets: state, controls, commands, the platform, and one object per routine
+// family. The families get the App and keep no copies of its state. Everything runs on one thread.
 class App {
 public:
     explicit App(Platform& platform);
@@ -117,10 +117,11 @@ public:
 
     // Replaces the {Role}s of the deployment.
     QString Expand(const QString& text) const { return deployment.Expand(text); }
-    QString Version() const;   // major.minor.revision
-    QString NowText();         // "YYYY-MM-DD hh:mm:ss"
+    QString Version() const; // major.minor.revision
+    QString NowText();       // "YYYY-MM-DD hh:mm:ss"
     QString ProgramFile(const QString& name) const { return FileSystem::Join(state.ProgramFolder, name); }
-    // A file that comes with the program. An installation folder that can't be written isn't ProgramFolder but still has it.
+    // A file that comes with the program. An installation folder that can't be written isn't ProgramFolder
+    // but still has it.
     QString InstalledFile(const QString& name) const;
     QString DataFile(const QString& name) const { return FileSystem::Join(state.DataFolder, name); }
 

@@ -9,8 +9,9 @@
 
 namespace qlm {
 
-// What the user's clicks and keys do: event handlers by name, control + "_" + event ("piccmdAddFriends_Click",
-// "frmInteken.lstAccounts_DblClick", "lstFriendIDs_KeyDown"). Families register theirs; the window runs them.
+// What the user's clicks and keys do: event handlers by name, control + "_" + event
+// ("piccmdAddFriends_Click", "frmInteken.lstAccounts_DblClick", "lstFriendIDs_KeyDown"). Families register
+// theirs; the window runs them.
 class Commands {
 public:
     // argument is the key code of a KeyDown, the index of a control array's item, else 0.

@@ -9,7 +9,18 @@
 
 namespace qlm {
 
-enum class ControlType { Label, TextBox, ManyLineBox, CheckBox, OptionButton, ComboBox, ListBox, Button, MenuItem, Panel };
+enum class ControlType {
+    Label,
+    TextBox,
+    ManyLineBox,
+    CheckBox,
+    OptionButton,
+    ComboBox,
+    ListBox,
+    Button,
+    MenuItem,
+    Panel
+};
 
 // One named input or label that the logic reads or writes.
 struct Control {
@@ -25,9 +36,9 @@ struct Control {
     QString toolTip;
 };
 
-// A row of the table of controls. kind tells where the value is stored: "" not at all, "General", "Field Entries" shared
-// by all accounts, or a kind of data with its own global-or-per-account flag ("FriendRequest"). key is the settings key
-// where it differs from the name.
+// A row of the table of controls. kind tells where the value is stored: "" not at all, "General", "Field
+// Entries" shared by all accounts, or a kind of data with its own global-or-per-account flag
+// ("FriendRequest"). key is the settings key where it differs from the name.
 struct ControlRow {
     const char* name;
     ControlType type;
@@ -38,11 +49,22 @@ struct ControlRow {
     bool ticked = false;
 };
 
-// All controls of the program by name; those of a form other than the main window as "frmInteken.lstAccounts". The
-// truth stands here: widgets show it and write the user's input into it.
+// All controls of the program by name; those of a form other than the main window as
+// "frmInteken.lstAccounts". The truth stands here: widgets show it and write the user's input into it.
 class Controls {
 public:
-    enum class Change { Text, Ticked, Items, RowAdded, RowRemoved, Selected, Enabled, Visible, ToolTip, Focus };
+    enum class Change {
+        Text,
+        Ticked,
+        Items,
+        RowAdded,
+        RowRemoved,
+        Selected,
+        Enabled,
+        Visible,
+        ToolTip,
+        Focus
+    };
     // row is the row that was added or removed.
     using Listener = std::function<void(const Control&, Change, int row)>;
 
@@ -74,7 +96,8 @@ public:
     // Asks the window to move the input focus there.
     void SetFocus(QLatin1StringView name);
 
-    // Listeners are told of every change, in the order in which they were added. Returns a number for RemoveListener.
+    // Listeners are told of every change, in the order in which they were added. Returns a number for
+    // RemoveListener.
     int AddListener(Listener listener);
     void RemoveListener(int number);
 

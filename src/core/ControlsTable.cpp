@@ -3,8 +3,8 @@
 
 namespace qlm {
 
-// Rows of one kind stand in the order in which they are restored and saved. optFilterOff comes last of its kind, so that
-// what depends on it settles on its final state.
+// Rows of one kind stand in the order in which they are restored and saved. optFilterOff comes last of its
+// kind, so that what depends on it settles on its final state.
 const std::vector<ControlRow>& Controls::Table() {
     using enum ControlType;
     static const std::vector<ControlRow> table{
@@ -33,7 +33,8 @@ const std::vector<ControlRow>& Controls::Table() {
         {"mnuMultipleAccountsBULOnSession", MenuItem, "General", "", "chainBUL", u"On (until I close QLM)"},
         {"mnuMultipleAccountsBULOff", MenuItem, "General", "", "chainBUL", u"Off", true},
         {"mnuCaptchaSound", MenuItem, "General", "", "", u"Play a sound when CAPTCHA page is reached"},
-        {"mnuCaptchaPopup", MenuItem, "General", "", "", u"Display a popup alert when CAPTCHA page is reached"},
+        {"mnuCaptchaPopup", MenuItem, "General", "", "",
+         u"Display a popup alert when CAPTCHA page is reached"},
         {"mnuCaptchaRestoreIfMinimized", MenuItem, "General", "", "", u"Restore QLM window if minimized"},
         {"mnuSkipProfileCAPTCHAs", MenuItem, "General", "", "",
          u"Skip profiles that require CAPTCHA's (except CAPTCHA's required by MySpace)"},
@@ -55,7 +56,8 @@ const std::vector<ControlRow>& Controls::Table() {
         {"lstFriendIDs", ListBox},
         {"lstAcceptIDs", ListBox},
         {"lblProfilesGathered", Label, "", "", "", u"Profiles Gathered: 0"},
-        {"optScanCurrentPage", OptionButton, "GatherSettings", "", "scan", u"Gather ID’s from Current Page Only"},
+        {"optScanCurrentPage", OptionButton, "GatherSettings", "", "scan",
+         u"Gather ID’s from Current Page Only"},
         {"optScanFollowing", OptionButton, "GatherSettings", "", "scan", u"Gather ID’s from All Pages", true},
         {"optScanGoogle", OptionButton, "GatherSettings", "", "scan", u"Gather ID’s from Google Search"},
         {"optImportClickedProfiles", OptionButton, "", "", "scan", u"Gather Clicked Profiles"},
@@ -211,8 +213,10 @@ const std::vector<ControlRow>& Controls::Table() {
         {"frmFilters.optFilterLocationOff", OptionButton, "", "", "frmFilters.Location", u"Filter Off", true},
         {"frmFilters.optFilterLocation", OptionButton, "", "", "frmFilters.Location", u"Location:"},
         {"frmFilters.txtFilterLocation", TextBox},
-        {"frmFilters.optFilterWhenGathering", OptionButton, "", "", "frmFilters.When", u"Filter when gathering"},
-        {"frmFilters.optFilterWhenSending", OptionButton, "", "", "frmFilters.When", u"Filter when sending", true},
+        {"frmFilters.optFilterWhenGathering", OptionButton, "", "", "frmFilters.When",
+         u"Filter when gathering"},
+        {"frmFilters.optFilterWhenSending", OptionButton, "", "", "frmFilters.When", u"Filter when sending",
+         true},
         {"frmFilters.optFilterAgeOff", OptionButton, "", "", "frmFilters.Age", u"Filter Off", true},
         {"frmFilters.optFilterAgeOn", OptionButton, "", "", "frmFilters.Age", u"Age:"},
         {"frmFilters.cboFilterAge1", ComboBox, "", "", "", u"18"},
@@ -233,7 +237,8 @@ const std::vector<ControlRow>& Controls::Table() {
         {"frmError.cmdOK", Button, "", "", "", u"OK"},
         {"frmError.cmdOpenFolder", Button, "", "", "", u"Open folder"},
         {"frmTimeDelay.Label1", Label, "", "", "",
-         u"Here you can specify the amount of time that must pass inbetween sending each friend request, message or "
+         u"Here you can specify the amount of time that must pass inbetween sending each friend request, "
+         u"message or "
          u"comment."},
         {"frmTimeDelay.txtMinutes", TextBox, "", "", "", u"0"},
         {"frmTimeDelay.txtSeconds", TextBox, "", "", "", u"0"},

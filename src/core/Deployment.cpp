@@ -8,14 +8,31 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QStringList& RequiredRoles() {
-    static const QStringList roles{
-        u"SiteDomain"_s,    u"SiteRootHost"_s,     u"HomeHost"_s,         u"LoginHost"_s,
-        u"MessagingHost"_s, u"FriendsHost"_s,      u"ProfileHost"_s,      u"CommentHost"_s,
-        u"GroupsHost"_s,    u"EventsHost"_s,       u"BulletinsHost"_s,    u"SearchServiceHost"_s,
-        u"BrowseUsersHost"_s, u"VideoHost"_s,      u"MusicHost"_s,        u"TopArtistsHost"_s,
-        u"ForumHost"_s,     u"SchoolHost"_s,       u"CreativeHost"_s,     u"InviteHost"_s,
-        u"MobileHost"_s,    u"LinkRedirectHost"_s, u"WebSearchHost"_s,    u"ProductServer"_s,
-        u"ProductServerAlternate"_s};
+    static const QStringList roles{u"SiteDomain"_s,
+                                   u"SiteRootHost"_s,
+                                   u"HomeHost"_s,
+                                   u"LoginHost"_s,
+                                   u"MessagingHost"_s,
+                                   u"FriendsHost"_s,
+                                   u"ProfileHost"_s,
+                                   u"CommentHost"_s,
+                                   u"GroupsHost"_s,
+                                   u"EventsHost"_s,
+                                   u"BulletinsHost"_s,
+                                   u"SearchServiceHost"_s,
+                                   u"BrowseUsersHost"_s,
+                                   u"VideoHost"_s,
+                                   u"MusicHost"_s,
+                                   u"TopArtistsHost"_s,
+                                   u"ForumHost"_s,
+                                   u"SchoolHost"_s,
+                                   u"CreativeHost"_s,
+                                   u"InviteHost"_s,
+                                   u"MobileHost"_s,
+                                   u"LinkRedirectHost"_s,
+                                   u"WebSearchHost"_s,
+                                   u"ProductServer"_s,
+                                   u"ProductServerAlternate"_s};
     return roles;
 }
 

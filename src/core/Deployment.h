@@ -7,8 +7,8 @@
 
 namespace qlm {
 
-// deployment.ini: the host behind each role, fixed values of the site, and the proxy. Host roles are bare host names;
-// ProductServer and ProductServerAlternate are base addresses with a scheme.
+// deployment.ini: the host behind each role, fixed values of the site, and the proxy. Host roles are bare
+// host names; ProductServer and ProductServerAlternate are base addresses with a scheme.
 class Deployment {
 public:
     // Reads "[Hosts]" role=host lines, "[Site]" and "[Network]" values. Unknown lines are kept as values.

@@ -14,7 +14,8 @@ namespace {
 constexpr qsizetype UncleanedLength = 20000;
 }
 
-// The class keeps letters, digits, the blank and the printable signs; ")-_" in it is a range that takes in "*" to "^".
+// The class keeps letters, digits, the blank and the printable signs; ")-_" in it is a range that takes in
+// "*" to "^".
 QString Diagnostics::CleanText(const QString& text) {
     static const QRegularExpression unwanted(
         uR"([^A-Za-z 0-9 \.,\?'"!@#\$%\^&\*\(\)-_=\+;:<>\/\\\|\}\{\[\]`~]*)"_s);
@@ -44,7 +45,8 @@ void Diagnostics::Debug(const QString& fileName, const QString& text, bool start
 }
 
 void Diagnostics::DebugForAction(const QString& text) {
-    if (const Activity* activity = FindActivity(m_app.state.CurrentAction); activity && activity->debugFile[0])
+    if (const Activity* activity = FindActivity(m_app.state.CurrentAction);
+        activity && activity->debugFile[0])
         Debug(QString::fromLatin1(activity->debugFile), text);
 }
 
@@ -70,10 +72,11 @@ void Diagnostics::ReportError(const QString& procedure, const QString& descripti
             m_app.files.AppendLine(m_app.state.ErrorLogPath, text);
         ShowErrorFormOnce();
     } catch (const FileError&) {
-        m_app.ShowMessage(u"An error has occurred while trying to write to the log file. This usually indicates a "
-                          "Windows permissions issue, please ensure your Windows user account has permission to write "
-                          "to this folder: "_s +
-                          m_app.platform.InstallationFolder() + u"\nError: ln "_s + line);
+        m_app.ShowMessage(
+            u"An error has occurred while trying to write to the log file. This usually indicates a "
+            "Windows permissions issue, please ensure your Windows user account has permission to write "
+            "to this folder: "_s +
+            m_app.platform.InstallationFolder() + u"\nError: ln "_s + line);
     }
     m_reporting = false;
 }

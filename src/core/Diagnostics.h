@@ -11,13 +11,14 @@ namespace qlm {
 
 class App;
 
-// The program's own story: the debug files for support, the error log, and the traps at the edges of procedures.
+// The program's own story: the debug files for support, the error log, and the traps at the edges of
+// procedures.
 class Diagnostics {
 public:
     explicit Diagnostics(App& app) : m_app(app) {}
 
-    // Appends a line to the file. Does nothing with onlyIfLogging and logging off, or when onlyForAction isn't empty and
-    // isn't the running activity. Never fails: diagnostics don't stop the program.
+    // Appends a line to the file. Does nothing with onlyIfLogging and logging off, or when onlyForAction
+    // isn't empty and isn't the running activity. Never fails: diagnostics don't stop the program.
     void AppendToFile(const QString& path, const QString& text, bool startNew, bool onlyIfLogging,
                       const QString& onlyForAction);
     // A line in one of the debug files of DataFolder ("debugfr.txt"), if logging is on.
@@ -29,8 +30,8 @@ public:
     void ReportError(const QString& procedure, const QString& description, const QString& line = {},
                      const QString& data = {});
 
-    // Runs the body of a procedure; an exception is reported under the procedure's name and ends it there. Answers the
-    // error's text, empty when the body ran through.
+    // Runs the body of a procedure; an exception is reported under the procedure's name and ends it there.
+    // Answers the error's text, empty when the body ran through.
     template <typename Body> QString Trap(const char* procedure, Body&& body) {
         try {
             body();

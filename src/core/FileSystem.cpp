@@ -25,7 +25,8 @@ namespace {
 
 class Descriptor {
 public:
-    Descriptor(const QString& path, int flags, mode_t mode) : m_number(open(QFile::encodeName(path), flags, mode)) {
+    Descriptor(const QString& path, int flags, mode_t mode)
+        : m_number(open(QFile::encodeName(path), flags, mode)) {
         if (m_number < 0)
             Fail("Cannot open", path);
     }
@@ -144,9 +145,7 @@ void FileSystem::ForEachLine(const QString& path, const std::function<bool(QByte
         throw FileError("Cannot open \"" + path.toStdString() + "\": " + file.errorString().toStdString());
     constexpr qint64 ChunkBytes = 1 << 18;
     QByteArray pending;
-    auto give = [&visit](QByteArrayView line) {
-        return visit(line.endsWith('\r') ? line.chopped(1) : line);
-    };
+    auto give = [&visit](QByteArrayView line) { return visit(line.endsWith('\r') ? line.chopped(1) : line); };
     while (true) {
         const QByteArray chunk = file.read(ChunkBytes);
         if (chunk.isEmpty())
@@ -168,7 +167,8 @@ void FileSystem::ForEachLine(const QString& path, const std::function<bool(QByte
 void FileSystem::WriteAll(int descriptor, const QByteArray& bytes, const QString& path) {
     const qint64 allowed = m_gate ? m_gate->Allow(bytes.size()) : bytes.size();
     for (qint64 done = 0; done < allowed;) {
-        const ssize_t written = write(descriptor, bytes.constData() + done, static_cast<size_t>(allowed - done));
+        const ssize_t written =
+            write(descriptor, bytes.constData() + done, static_cast<size_t>(allowed - done));
         if (written < 0 && errno == EINTR)
             continue;
         if (written < 0)

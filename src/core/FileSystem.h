@@ -19,11 +19,13 @@ public:
 
 enum class Readers { Everyone, OwnerAlone };
 
-// All file access of the program. Files are opened, used and closed within one call. Text files are Windows-1252 with
-// CR LF ends; LF ends are read too. Every member throws FileError when it cannot do what it says.
+// All file access of the program. Files are opened, used and closed within one call. Text files are
+// Windows-1252 with CR LF ends; LF ends are read too. Every member throws FileError when it cannot do what it
+// says.
 //
-// Appending is one write of whole lines, synced; a line that a power cut left unfinished is closed first, so that
-// nothing is ever glued to it. Rewriting leaves either the old or the new file whole, at whatever byte it is cut off.
+// Appending is one write of whole lines, synced; a line that a power cut left unfinished is closed first, so
+// that nothing is ever glued to it. Rewriting leaves either the old or the new file whole, at whatever byte
+// it is cut off.
 class FileSystem {
 public:
     explicit FileSystem(WriteGate* gate = nullptr) : m_gate(gate) {}

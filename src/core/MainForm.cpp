@@ -54,7 +54,8 @@ void MainForm::RegisterCommands() {
         m_app.controls.SetText(
             "frmError.lblHowTo"_L1,
             u"Click the button below to open the folder mentioned above\n"
-            "Inside you will see a text file that is named \"error.log\". Can you please e-mail this log to us? This "
+            "Inside you will see a text file that is named \"error.log\". Can you please e-mail this log to "
+            "us? This "
             "will let us know exactly why and where this error is occurring so we can Fix it! =)"_s);
     });
 }
@@ -154,8 +155,9 @@ void MainForm::picGO_Click() {
     m_app.diagnostics.Trap("picGO_Click", [this] {
         const QString address = m_app.controls.Text("txtAddress"_L1);
         if (Has(address, u"fuseaction=login"_s)) {
-            m_app.ShowMessage(u"If you need to log in with a different account, please restart Quillmere and log in "
-                              "from there"_s);
+            m_app.ShowMessage(
+                u"If you need to log in with a different account, please restart Quillmere and log in "
+                "from there"_s);
             return;
         }
         m_app.webHide().ZOrder(1);
@@ -174,12 +176,15 @@ void MainForm::picBack_Click() {
 }
 
 void MainForm::picForward_Click() {
-    m_app.diagnostics.Trap("picForward_Click", [this] { Browse([this] { m_app.WebBrowser1().GoForward(); }); });
+    m_app.diagnostics.Trap("picForward_Click",
+                           [this] { Browse([this] { m_app.WebBrowser1().GoForward(); }); });
 }
 
 void MainForm::picHome_Click() {
     m_app.diagnostics.Trap("picHome_Click", [this] {
-        Browse([this] { m_app.WebBrowser1().Navigate(m_app.Expand(u"{HomeHost}/index.cfm?fuseaction=home"_s)); });
+        Browse([this] {
+            m_app.WebBrowser1().Navigate(m_app.Expand(u"{HomeHost}/index.cfm?fuseaction=home"_s));
+        });
     });
 }
 

@@ -18,14 +18,16 @@ struct WindowPlace {
     bool minimized = false;
 };
 
-// The main window's own procedures: load, unload, and the buttons of its frame. The widgets are the window library's.
+// The main window's own procedures: load, unload, and the buttons of its frame. The widgets are the window
+// library's.
 class MainForm {
 public:
     explicit MainForm(App& app);
 
     // Called by the window when it has been built and bound, before it is first shown.
     void Form_Load();
-    // Called by the window when it is about to close; afterwards the program is ending. A second call does nothing.
+    // Called by the window when it is about to close; afterwards the program is ending. A second call does
+    // nothing.
     void Form_Unload();
     // Closes the main window, which runs Form_Unload.
     void Unload();

@@ -40,9 +40,10 @@ QString ProductServer::HTTPGet(const QString& url) {
     const std::optional<QString> answer = m_app.platform.Http().Get(url);
     if (answer)
         return *answer;
-    m_app.ShowMessage(u"There seems to be a temporary Internet connection problem. Please check your internet "
-                      "connection, or try again later. If the problem persists over a period of time, please make "
-                      "sure Quillmere is specified as a trusted application in your firewall software."_s);
+    m_app.ShowMessage(
+        u"There seems to be a temporary Internet connection problem. Please check your internet "
+        "connection, or try again later. If the problem persists over a period of time, please make "
+        "sure Quillmere is specified as a trusted application in your firewall software."_s);
     m_app.mainForm->Unload();
     throw ProgramEnding();
 }

@@ -9,12 +9,14 @@ namespace qlm {
 
 class App;
 
-// What the product server answers to plain GETs: which base address is in use, version, notice, login message, date.
+// What the product server answers to plain GETs: which base address is in use, version, notice, login
+// message, date.
 class ProductServer {
 public:
     explicit ProductServer(App& app) : m_app(app) {}
 
-    // The answer's text. When the address cannot be opened the user is told and the process ends; throws ProgramEnding.
+    // The answer's text. When the address cannot be opened the user is told and the process ends; throws
+    // ProgramEnding.
     QString HTTPGet(const QString& url);
     // As HTTPGet, but a failure gives "try alternate server": the online test alone is allowed to fail.
     QString TestGet(const QString& url);

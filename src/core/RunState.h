@@ -7,8 +7,8 @@
 
 namespace qlm {
 
-// The run state of the program: plain fields, read and written by every step. One instance, owned by the App; there is
-// no other copy of any of it. StopAll clears what belongs to a run.
+// The run state of the program: plain fields, read and written by every step. One instance, owned by the App;
+// there is no other copy of any of it. StopAll clears what belongs to a run.
 struct RunState {
     // Folders and the account in use.
     QString DataFolder;
@@ -82,7 +82,8 @@ struct RunState {
     qint32 lngFilteredCount = 0;
     qint32 lngFailedCount = 0;  // targets given up without success in this run
     qint32 lngRemovedCount = 0; // entries that this run has taken off the list
-    qint32 lngTargetNumber = 0; // counts the targets begun; a step that finds another number behind a wait is obsolete
+    qint32 lngTargetNumber =
+        0; // counts the targets begun; a step that finds another number behind a wait is obsolete
     bool blnErrorRedirectTold = false;
     qint32 lngSessionFR = 0;
     qint32 lngSessionMsg = 0;

@@ -23,14 +23,15 @@ QString KeyOf(const ControlRow& row) {
 }
 
 bool IsListKind(const QString& kind) {
-    static const QSet<QString> lists{u"BookmarksList"_s, u"Log"_s,          u"GatheredList"_s, u"BulletinsList"_s,
-                                     u"StatusesList"_s,  u"CommentsList"_s, u"MessagesList"_s};
+    static const QSet<QString> lists{u"BookmarksList"_s, u"Log"_s,          u"GatheredList"_s,
+                                     u"BulletinsList"_s, u"StatusesList"_s, u"CommentsList"_s,
+                                     u"MessagesList"_s};
     return lists.contains(kind);
 }
 
 // The kinds of inputs in the order in which they are restored and saved.
 const std::vector<const char*>& InputKinds() {
-    static const std::vector<const char*> kinds{"Bulletin", "Status", "Comment",        "Message",
+    static const std::vector<const char*> kinds{"Bulletin",      "Status", "Comment",        "Message",
                                                 "FriendRequest", "Accept", "GatherSettings", "Filter"};
     return kinds;
 }
@@ -46,8 +47,12 @@ const std::vector<GlobalFlag>& SettingsFields::GlobalFlags() {
         {"blnUseGlobalGatheredIDsList", "chkUseGlobalGatheredIDsList", {"GatheredList"}},
         {"blnUseGlobalGatherIDsSettings", "chkUseGlobalGatherIDsSettings", {"GatherSettings"}},
         {"blnUseGlobalFriendRequesterSettings", "chkUseGlobalFriendRequesterSettings", {"FriendRequest"}},
-        {"blnUseGlobalAutoMessengerSettings", "chkUseGlobalAutoMessengerSettings", {"Message", "MessagesList"}},
-        {"blnUseGlobalAutoCommenterSettings", "chkUseGlobalAutoCommenterSettings", {"Comment", "CommentsList"}},
+        {"blnUseGlobalAutoMessengerSettings",
+         "chkUseGlobalAutoMessengerSettings",
+         {"Message", "MessagesList"}},
+        {"blnUseGlobalAutoCommenterSettings",
+         "chkUseGlobalAutoCommenterSettings",
+         {"Comment", "CommentsList"}},
         {"blnUseGlobalBulletinSettings", "chkUseGlobalBulletinSettings", {"Bulletin", "BulletinsList"}},
         {"blnUseGlobalAutoAccepterSettings", "chkUseGlobalAutoAccepterSettings", {"Accept"}},
         {"blnUseGlobalInviteSettings", "chkUseGlobalInviteSettings", {"Invite"}},
@@ -170,7 +175,8 @@ void SettingsFields::RestoreKind(QLatin1StringView kind) {
     const bool own = section != FieldEntries;
     const SettingsStore& settings = m_app.platform.Settings();
     const bool nothingStored = std::none_of(rows.begin(), rows.end(), [&](const ControlRow* row) {
-        return settings.GetSetting(section, KeyOf(*row), u"a"_s) == settings.GetSetting(section, KeyOf(*row), u"b"_s);
+        return settings.GetSetting(section, KeyOf(*row), u"a"_s) ==
+               settings.GetSetting(section, KeyOf(*row), u"b"_s);
     });
     for (const ControlRow* row : rows) {
         if (own && nothingStored)

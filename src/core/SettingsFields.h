@@ -33,8 +33,8 @@ public:
     void SaveListsAndSettings();
     void SaveGeneral();
 
-    // For a list kind the folder below ProgramFolder, created; for a settings kind the suffix of "Field Entries". Empty
-    // without an account or when the kind is shared.
+    // For a list kind the folder below ProgramFolder, created; for a settings kind the suffix of "Field
+    // Entries". Empty without an account or when the kind is shared.
     QString AccountDataPath(const QString& kind);
     // "Field Entries" with the suffix of the kind.
     QString SectionOf(const QString& kind);

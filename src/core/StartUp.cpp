@@ -20,9 +20,10 @@ void StartUp::Main() {
         m_app.diagnostics.Trap("TestServerOnline", [this] { TestServerOnline(); });
         LookUpServer();
         if (m_app.deployment.UsesPracticeSite())
-            m_app.controls.SetText("frmInteken.lblPracticeSite"_L1,
-                                   u"This program works on its own practice site. Sign in there as a@example.com (to "
-                                   "j@example.com) with the password \"secret\"."_s);
+            m_app.controls.SetText(
+                "frmInteken.lblPracticeSite"_L1,
+                u"This program works on its own practice site. Sign in there as a@example.com (to "
+                "j@example.com) with the password \"secret\"."_s);
         m_app.diagnostics.Trap("Main", [this] { m_app.accountScreens->ShowLoginScreen(); });
         if (const QString problem = m_app.platform.Settings().TakeProblem(); !problem.isEmpty())
             m_app.ShowMessage(problem);
@@ -45,7 +46,8 @@ void StartUp::SettleFolders() {
     state.blnLoggingEnabled = ToBoolean(logging);
 }
 
-// Where the installation folder can't be written, the program works in its data folder and needs its pages there.
+// Where the installation folder can't be written, the program works in its data folder and needs its pages
+// there.
 void StartUp::BringInstalledFiles() {
     for (const QString& name : {u"timedelay.htm"_s, u"blip.wav"_s}) {
         const QString installed = FileSystem::Join(m_app.platform.InstallationFolder(), name);
@@ -61,7 +63,8 @@ bool StartUp::TestUserRights() {
 // An empty answer of the alternate server chooses it; any other, also none at all, the main one.
 void StartUp::TestServerOnline() {
     m_app.state.ServerBaseURL = m_app.Expand(u"{ProductServer}"_s);
-    const QString answer = m_app.productServer->TestGet(m_app.Expand(u"{ProductServerAlternate}/online.htm"_s));
+    const QString answer =
+        m_app.productServer->TestGet(m_app.Expand(u"{ProductServerAlternate}/online.htm"_s));
     if (answer.isEmpty())
         m_app.state.ServerBaseURL = m_app.Expand(u"{ProductServerAlternate}"_s);
 }

@@ -7,7 +7,8 @@ namespace qlm {
 
 class App;
 
-// The process's entry point and what it settles before any window is there: folders, product server, login screen.
+// The process's entry point and what it settles before any window is there: folders, product server, login
+// screen.
 class StartUp {
 public:
     explicit StartUp(App& app) : m_app(app) {}

@@ -12,7 +12,8 @@ class StopResume {
 public:
     explicit StopResume(App& app) : m_app(app) {}
 
-    // Ends any activity and resets all steps; goes on past errors. reason is the short tag for the debug file.
+    // Ends any activity and resets all steps; goes on past errors. reason is the short tag for the debug
+    // file.
     void StopAll(const QString& reason);
     // Re-enters the step routine of the running activity at its present step.
     void ResumeNext();
@@ -20,7 +21,8 @@ public:
     void SkipProfile();
     void PauseLinkCheck();
     void ResumeLinkCheck();
-    // At the end of every activity: true when the program was set to exit now and the main window has been unloaded.
+    // At the end of every activity: true when the program was set to exit now and the main window has been
+    // unloaded.
     bool DoFinishedExit();
 
 private:

@@ -75,13 +75,16 @@ QString CleanupFileName(const QString& name) {
 QString UrlEncode(const QString& text) {
     QString encoded;
     for (const char byte : text.toUtf8()) {
-        const bool plain = (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z');
+        const bool plain =
+            (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z');
         if (plain)
             encoded += QLatin1Char(byte);
         else if (byte == ' ')
             encoded += u'+';
         else
-            encoded += u'%' + QString::number(static_cast<unsigned char>(byte), 16).toUpper().rightJustified(2, u'0');
+            encoded +=
+                u'%' +
+                QString::number(static_cast<unsigned char>(byte), 16).toUpper().rightJustified(2, u'0');
     }
     return encoded;
 }

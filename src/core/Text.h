@@ -11,7 +11,8 @@ inline bool Has(const QString& text, const QString& part) {
     return text.contains(part, Qt::CaseInsensitive);
 }
 
-// The numeric test of the design: optional sign, digits with an optional decimal point, blanks around; not empty.
+// The numeric test of the design: optional sign, digits with an optional decimal point, blanks around; not
+// empty.
 bool IsNumeric(const QString& text);
 // Digits alone, at least one.
 bool IsDigits(const QString& text);

@@ -8,8 +8,8 @@ namespace qlm {
 
 class App;
 
-// The waits of the steps: the message loop turns, with sleeps of 10 ms. Every turn may run timers, browser events and
-// the user's clicks; throws ProgramEnding once the program is closing.
+// The waits of the steps: the message loop turns, with sleeps of 10 ms. Every turn may run timers, browser
+// events and the user's clicks; throws ProgramEnding once the program is closing.
 class Waiting {
 public:
     explicit Waiting(App& app) : m_app(app) {}
@@ -18,8 +18,8 @@ public:
     void Pump();
     // Turns until more than the given whole seconds have gone by or the link check is held.
     void WaitSeconds(int seconds);
-    // Turns while the condition holds, at most so many whole seconds; 0 means no limit. The condition is asked before
-    // each turn. True when it stopped holding, false on the time-out.
+    // Turns while the condition holds, at most so many whole seconds; 0 means no limit. The condition is
+    // asked before each turn. True when it stopped holding, false on the time-out.
     bool WaitWhile(const std::function<bool()>& condition, int limitSeconds);
     // Whole seconds that have passed since that reading of Pump::NowMs().
     qint64 SecondsSince(qint64 startMs) const;

@@ -9,8 +9,8 @@ namespace qlm {
 
 enum class BrowserName { WebBrowser1, webHide, webTemp, webNews, webPreview };
 
-// A navigation that is about to begin. headers is empty for a plain click on a link; a load that an embedded part of
-// the page asked for carries some.
+// A navigation that is about to begin. headers is empty for a plain click on a link; a load that an embedded
+// part of the page asked for carries some.
 struct NavigationRequest {
     struct Input {
         QString id;
@@ -22,14 +22,15 @@ struct NavigationRequest {
     QString headers;
     QString targetFrameName;
     bool topLevel = true;
-    // A form is being sent: what its page's input elements held at that moment, in page order. Such a navigation is
-    // on its way already and the answer of the handler doesn't hold it.
+    // A form is being sent: what its page's input elements held at that moment, in page order. Such a
+    // navigation is on its way already and the answer of the handler doesn't hold it.
     bool isForm = false;
     std::vector<Input> inputs;
 };
 
-// What a browser tells its host. Every event is queued by the platform and arrives from PumpMessages(), never from a
-// property read; the two questions (BeforeNavigate2, NewWindow2) have been held back until the answer is there.
+// What a browser tells its host. Every event is queued by the platform and arrives from PumpMessages(), never
+// from a property read; the two questions (BeforeNavigate2, NewWindow2) have been held back until the answer
+// is there.
 struct BrowserEvents {
     // True cancels the navigation. The handler may read the page, click and pump.
     std::function<bool(const NavigationRequest&)> beforeNavigate2;
@@ -45,17 +46,18 @@ struct BrowserEvents {
     std::function<void(const QString& title)> titleChange;
 };
 
-// One embedded browser: exactly the operations that the program's logic needs. Two implementations stand behind it, a
-// real engine and a simulated site; the contract tests hold both to what is said here.
+// One embedded browser: exactly the operations that the program's logic needs. Two implementations stand
+// behind it, a real engine and a simulated site; the contract tests hold both to what is said here.
 //
-// After Navigate("about:blank") the control reports about:blank, an empty document and readiness at once, whatever the
-// engine still shows, and nothing of an older document passes for the new one. After Navigate() to any other address
-// the present document stays until the new one has arrived.
+// After Navigate("about:blank") the control reports about:blank, an empty document and readiness at once,
+// whatever the engine still shows, and nothing of an older document passes for the new one. After Navigate()
+// to any other address the present document stays until the new one has arrived.
 class BrowserControl {
 public:
     virtual ~BrowserControl() = default;
 
-    // Starts loading and returns at once. An address without a scheme gets "http://"; "javascript:" runs in the page.
+    // Starts loading and returns at once. An address without a scheme gets "http://"; "javascript:" runs in
+    // the page.
     virtual void Navigate(const QString& url) = 0;
     virtual void Stop() = 0;
     virtual void GoBack() = 0;

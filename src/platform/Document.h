@@ -8,8 +8,8 @@
 
 namespace qlm {
 
-// A use of an element or document that is gone, or an engine that does not answer. Its text is "Automation error" unless
-// there is a better one; the steps' error traps expect it.
+// A use of an element or document that is gone, or an engine that does not answer. Its text is "Automation
+// error" unless there is a better one; the steps' error traps expect it.
 class BrowserError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -45,15 +45,16 @@ enum class ElementSet {
     ByName   // argument: the name attribute, exact
 };
 
-// One loaded document as a platform keeps it. node numbers are the platform's own; 0 is no node. Every call throws
-// BrowserError when the document is no longer the present one of its control.
+// One loaded document as a platform keeps it. node numbers are the platform's own; 0 is no node. Every call
+// throws BrowserError when the document is no longer the present one of its control.
 class DocumentBackend {
 public:
     virtual ~DocumentBackend() = default;
 
-    virtual int Body() = 0;        // 0 while there is none
-    virtual bool HasLinks() = 0;   // the links collection exists, empty or not
-    virtual QString BodyText(ElementText which) = 0; // InnerText, InnerHTML or OuterHTML of the body, cached a turn
+    virtual int Body() = 0;      // 0 while there is none
+    virtual bool HasLinks() = 0; // the links collection exists, empty or not
+    virtual QString
+    BodyText(ElementText which) = 0; // InnerText, InnerHTML or OuterHTML of the body, cached a turn
     virtual std::vector<int> Collect(ElementSet set, const QString& argument) = 0;
     virtual int ById(const QString& id) = 0;
     virtual int ActiveElement() = 0;
@@ -75,12 +76,13 @@ public:
     virtual void ScrollToEnd() = 0;
 };
 
-// A node of one document: a small value, null when nothing was found. Reading a property of a null element gives empty
-// text (a missing ancestor reads as empty text); doing something with one throws BrowserError.
+// A node of one document: a small value, null when nothing was found. Reading a property of a null element
+// gives empty text (a missing ancestor reads as empty text); doing something with one throws BrowserError.
 class Element {
 public:
     Element() = default;
-    Element(std::shared_ptr<DocumentBackend> document, int node) : m_document(std::move(document)), m_node(node) {}
+    Element(std::shared_ptr<DocumentBackend> document, int node)
+        : m_document(std::move(document)), m_node(node) {}
 
     bool IsNull() const { return !m_document || m_node == 0; }
     explicit operator bool() const { return !IsNull(); }
@@ -94,10 +96,17 @@ public:
     QString Value() const { return Read(ElementText::Value); }
     QString Href() const { return Read(ElementText::Href); }
     QString TagName() const { return Read(ElementText::TagName); }
-    // The pseudo attributes "innertext", "innerhtml", "outerhtml" and "class" read the property, in any letter case.
-    QString GetAttribute(const QString& name) const { return IsNull() ? QString() : m_document->Attribute(m_node, name); }
-    bool HasAttribute(const QString& name) const { return !IsNull() && m_document->HasAttribute(m_node, name); }
-    Element ParentElement() const { return IsNull() ? Element() : Element(m_document, m_document->Parent(m_node)); }
+    // The pseudo attributes "innertext", "innerhtml", "outerhtml" and "class" read the property, in any
+    // letter case.
+    QString GetAttribute(const QString& name) const {
+        return IsNull() ? QString() : m_document->Attribute(m_node, name);
+    }
+    bool HasAttribute(const QString& name) const {
+        return !IsNull() && m_document->HasAttribute(m_node, name);
+    }
+    Element ParentElement() const {
+        return IsNull() ? Element() : Element(m_document, m_document->Parent(m_node));
+    }
     // Ancestor(1) is the parent; null where the tree ends first.
     Element Ancestor(int n) const;
     std::vector<Element> Tags(const QString& tag) const;
@@ -105,7 +114,9 @@ public:
     void SetInnerText(const QString& text) const { Need().SetInnerText(m_node, text); }
     void SetInnerHTML(const QString& html) const { Need().SetInnerHTML(m_node, html); }
     void SetValue(const QString& value) const { Need().SetValue(m_node, value); }
-    void SetAttribute(const QString& name, const QString& value) const { Need().SetAttribute(m_node, name, value); }
+    void SetAttribute(const QString& name, const QString& value) const {
+        Need().SetAttribute(m_node, name, value);
+    }
     void Click() const { Need().Click(m_node); }
     void Submit() const { Need().Submit(m_node); }
     void Focus() const { Need().Focus(m_node); }
@@ -122,8 +133,8 @@ private:
     int m_node = 0;
 };
 
-// A loaded document: a small value, null when the control has none. Reading from one that has been replaced throws
-// BrowserError.
+// A loaded document: a small value, null when the control has none. Reading from one that has been replaced
+// throws BrowserError.
 class Document {
 public:
     Document() = default;
@@ -141,8 +152,12 @@ public:
     std::vector<Element> Links() const { return Wrap(Need().Collect(ElementSet::Links, {})); }
     std::vector<Element> Images() const { return Wrap(Need().Collect(ElementSet::Images, {})); }
     std::vector<Element> Scripts() const { return Wrap(Need().Collect(ElementSet::Scripts, {})); }
-    std::vector<Element> GetElementsByTagName(const QString& tag) const { return Wrap(Need().Collect(ElementSet::ByTag, tag)); }
-    std::vector<Element> GetElementsByName(const QString& name) const { return Wrap(Need().Collect(ElementSet::ByName, name)); }
+    std::vector<Element> GetElementsByTagName(const QString& tag) const {
+        return Wrap(Need().Collect(ElementSet::ByTag, tag));
+    }
+    std::vector<Element> GetElementsByName(const QString& name) const {
+        return Wrap(Need().Collect(ElementSet::ByName, name));
+    }
     Element GetElementById(const QString& id) const { return Element(m_backend, Need().ById(id)); }
     Element ActiveElement() const { return Element(m_backend, Need().ActiveElement()); }
     // Scrolls the window to the body's full height.

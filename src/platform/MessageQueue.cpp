@@ -47,28 +47,31 @@ void MessageQueue::Deliver() {
         EndTurn();
 }
 
-// What a handler posts while it runs waits for the next delivery, so that a handler that re-posts itself cannot keep
-// the pump from returning.
+// What a handler posts while it runs waits for the next delivery, so that a handler that re-posts itself
+// cannot keep the pump from returning.
 bool MessageQueue::DeliverNext(qint64 untilMs, quint64 beforeSequence) {
-    auto isDue = [&](qint64 dueMs, quint64 sequence) { return dueMs <= untilMs && sequence < beforeSequence; };
+    auto isDue = [&](qint64 dueMs, quint64 sequence) {
+        return dueMs <= untilMs && sequence < beforeSequence;
+    };
     auto order = [](qint64 dueMs, quint64 sequence) { return std::tuple(dueMs, sequence); };
 
     auto event = m_events.end();
     for (auto it = m_events.begin(); it != m_events.end(); ++it)
         if (isDue(it->dueMs, it->sequence) &&
-            (event == m_events.end() || order(it->dueMs, it->sequence) < order(event->dueMs, event->sequence)))
+            (event == m_events.end() ||
+             order(it->dueMs, it->sequence) < order(event->dueMs, event->sequence)))
             event = it;
 
     Timer* timer = nullptr;
     for (Timer* candidate : m_timers)
-        if (candidate->IsArmed() && !candidate->m_inHandler && isDue(candidate->m_dueMs, candidate->m_sequence) &&
+        if (candidate->IsArmed() && !candidate->m_inHandler &&
+            isDue(candidate->m_dueMs, candidate->m_sequence) &&
             (!timer ||
              order(candidate->m_dueMs, candidate->m_sequence) < order(timer->m_dueMs, timer->m_sequence)))
             timer = candidate;
 
-    const bool timerIsFirst =
-        timer && (event == m_events.end() ||
-                  order(timer->m_dueMs, timer->m_sequence) < order(event->dueMs, event->sequence));
+    const bool timerIsFirst = timer && (event == m_events.end() || order(timer->m_dueMs, timer->m_sequence) <
+                                                                       order(event->dueMs, event->sequence));
     if (timerIsFirst)
         return FireTimer(timer);
     if (event == m_events.end())

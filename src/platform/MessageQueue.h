@@ -12,17 +12,17 @@ namespace qlm {
 
 class Timer;
 
-// Thrown out of a wait when the program is ending, so that every step on the stack is left at once. It passes through
-// all traps, is no error, and ends where the message loop called the program.
+// Thrown out of a wait when the program is ending, so that every step on the stack is left at once. It passes
+// through all traps, is no error, and ends where the message loop called the program.
 class ProgramEnding {};
 
-// The one place where timers and browser events wait for their turn. Both platforms own exactly one and feed it their
-// own clock (milliseconds, monotonic). Nothing in it runs until Deliver() is called, and Deliver() is called by the
-// pump alone; so a property read, a sleep or a page call can never run a handler.
+// The one place where timers and browser events wait for their turn. Both platforms own exactly one and feed
+// it their own clock (milliseconds, monotonic). Nothing in it runs until Deliver() is called, and Deliver()
+// is called by the pump alone; so a property read, a sleep or a page call can never run a handler.
 //
-// What fell due until the moment of the call is delivered in the order in which it fell due, equal times in the order
-// in which they were set. A handler may pump: the nested Deliver() goes on with what is left. A timer never fires
-// inside its own handler.
+// What fell due until the moment of the call is delivered in the order in which it fell due, equal times in
+// the order in which they were set. A handler may pump: the nested Deliver() goes on with what is left. A
+// timer never fires inside its own handler.
 class MessageQueue {
 public:
     explicit MessageQueue(std::function<qint64()> nowMs);
@@ -32,12 +32,13 @@ public:
     quint64 PostAt(qint64 dueMs, std::function<void()> event);
     void Cancel(quint64 number);
     void Deliver();
-    // When the next event or timer falls due; nothing when the queue is at rest. Timers inside their handler don't count.
+    // When the next event or timer falls due; nothing when the queue is at rest. Timers inside their handler
+    // don't count.
     std::optional<qint64> NextDueMs() const;
     qint64 NowMs() const { return m_nowMs(); }
 
-    // A turn is the stretch between two moments at which something may have changed: the page's answers are cached
-    // for one turn. Pumping, sleeping, clicking, writing and navigating end it.
+    // A turn is the stretch between two moments at which something may have changed: the page's answers are
+    // cached for one turn. Pumping, sleeping, clicking, writing and navigating end it.
     quint64 Turn() const { return m_turn; }
     void EndTurn() { ++m_turn; }
 
@@ -65,8 +66,8 @@ private:
     quint64 m_turn = 1;
 };
 
-// A periodic timer of the program, delivered by the pump. Its owner outlives it or destroys it; a stopped timer never
-// fires. An interval of 0 means that it never fires, whether enabled or not.
+// A periodic timer of the program, delivered by the pump. Its owner outlives it or destroys it; a stopped
+// timer never fires. An interval of 0 means that it never fires, whether enabled or not.
 class Timer {
 public:
     Timer(MessageQueue& queue, int intervalMs, bool enabled, std::function<void()> handler = {});

@@ -11,7 +11,8 @@ namespace qlm {
 class WriteGate {
 public:
     virtual ~WriteGate() = default;
-    // How many of the bytes of the next write may reach the disk; fewer than asked means that the process ends there.
+    // How many of the bytes of the next write may reach the disk; fewer than asked means that the process
+    // ends there.
     virtual qint64 Allow(qint64 bytes) = 0;
     // Called when a write was cut short: never returns to the writer.
     [[noreturn]] virtual void Cut() = 0;
@@ -36,7 +37,8 @@ public:
 
     // The folder the program is installed in, without a trailing separator.
     virtual QString InstallationFolder() const = 0;
-    // The special folder of that number, with a trailing separator; the program asks for 28, local application data.
+    // The special folder of that number, with a trailing separator; the program asks for 28, local
+    // application data.
     virtual QString SpecialFolderPath(int id) const = 0;
     // Contents of deployment.ini.
     virtual QString DeploymentText() const = 0;

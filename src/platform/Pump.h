@@ -12,8 +12,8 @@ class Pump {
 public:
     virtual ~Pump() = default;
 
-    // Lets the user's input, timers and browser events in that are due now, then returns. Handlers run inside this
-    // call, so the caller must assume that any state has changed.
+    // Lets the user's input, timers and browser events in that are due now, then returns. Handlers run inside
+    // this call, so the caller must assume that any state has changed.
     virtual void PumpMessages() = 0;
 
     // Lets the given time pass. No handler runs: what falls due meanwhile waits for the next PumpMessages().

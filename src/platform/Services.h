@@ -7,8 +7,8 @@
 
 namespace qlm {
 
-// Message boxes, file dialogs and the program's own forms. Modal calls return when the user has answered; the message
-// loop turns meanwhile.
+// Message boxes, file dialogs and the program's own forms. Modal calls return when the user has answered; the
+// message loop turns meanwhile.
 class Dialogs {
 public:
     enum class Buttons { Ok, YesNo, YesNoCancel };
@@ -19,7 +19,8 @@ public:
     virtual Answer ShowMessage(const QString& text, const QString& title, Buttons buttons) = 0;
     // filter in the form "Text files (txt)|*.txt;|All files (*.*)|*.*". Empty when the user cancelled.
     virtual QString ChooseFileToOpen(const QString& title, const QString& filter) = 0;
-    virtual QString ChooseFileToSave(const QString& title, const QString& suggestedName, const QString& filter) = 0;
+    virtual QString ChooseFileToSave(const QString& title, const QString& suggestedName,
+                                     const QString& filter) = 0;
 
     // The program's own forms by name ("frmTimeDelay"). ShowModal returns when the form has been closed.
     virtual void ShowModal(const QString& form) = 0;
@@ -39,7 +40,8 @@ public:
     virtual std::optional<QString> Get(const QString& url) = 0;
 };
 
-// The durable settings: text values under section and key. Sections nest by backslash ("Counters\a@example.com").
+// The durable settings: text values under section and key. Sections nest by backslash
+// ("Counters\a@example.com").
 class SettingsStore {
 public:
     virtual ~SettingsStore() = default;

@@ -8,7 +8,8 @@ using namespace Qt::Literals::StringLiterals;
 
 TEST(Deployment, RolesAreReplacedWhereverTheyStand) {
     const Deployment deployment(u"[Hosts]\nSiteRootHost=www.a.example\r\nHomeHost = home.a.example \n"_s);
-    EXPECT_EQ(deployment.Expand(u"http://{SiteRootHost}/x?y={HomeHost}"_s), u"http://www.a.example/x?y=home.a.example"_s);
+    EXPECT_EQ(deployment.Expand(u"http://{SiteRootHost}/x?y={HomeHost}"_s),
+              u"http://www.a.example/x?y=home.a.example"_s);
     EXPECT_EQ(deployment.Expand(u"{Unknown}/{SiteRootHost}"_s), u"{Unknown}/www.a.example"_s);
     EXPECT_EQ(deployment.Expand(u"function(){}"_s), u"function(){}"_s);
 }

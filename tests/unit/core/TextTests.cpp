@@ -68,5 +68,7 @@ TEST(Text, OccurrencesStepOneCharacterPastEachFind) {
 }
 
 TEST(Diagnostics, TrailLinesKeepPrintableSignsAlone) {
-    EXPECT_EQ(Diagnostics::CleanText(u"FR 11 - \x01\x7F" "é ok [x]{y}~`"_s), u"FR 11 -  ok [x]{y}~`"_s);
+    EXPECT_EQ(Diagnostics::CleanText(u"FR 11 - \x01\x7F"
+                                     "é ok [x]{y}~`"_s),
+              u"FR 11 -  ok [x]{y}~`"_s);
 }
