@@ -2,6 +2,7 @@
 #include "Routes.h"
 
 #include "pages/AssetPages.h"
+#include "pages/CommentPages.h"
 #include "pages/ControlPages.h"
 #include "pages/HomePages.h"
 #include "pages/ListPages.h"
@@ -41,11 +42,13 @@ constexpr std::array routeRows{
     RouteRow{Role::SiteRoot, u"browse/people", u"", BrowsePage},
     RouteRow{Role::SiteRoot, u"my/friends/addtofriends/{id}", u"", AddToFriends},
     RouteRow{Role::Friends, u"index.cfm", u"invite.addfriend_verify", AddFriendVerify},
+    RouteRow{Role::Friends, u"index.cfm", u"user.viewfriends", OldFriendsAddress},
     RouteRow{Role::Profile, u"index.cfm", u"user.viewprofile", OldProfileAddress},
     RouteRow{Role::SiteRoot, u"{id}", u"", ProfilePage},
     RouteRow{Role::SiteRoot, u"{id}/classic", u"", ClassicProfile},
     RouteRow{Role::SiteRoot, u"{id}/friends", u"", FriendsPage},
     RouteRow{Role::SiteRoot, u"{id}/friends/page/{id}", u"", FriendsPage},
+    RouteRow{Role::SiteRoot, u"{id}/comments", u"", CommentsPage},
     RouteRow{Role::SiteRoot, u"style/site.css", u"", StyleSheet, Shows::Picture},
     RouteRow{Role::SiteRoot, u"style/logo.svg", u"", Logo, Shows::Picture},
     RouteRow{Role::SiteRoot, u"pictures/{id}.svg", u"", ProfilePicture, Shows::Picture},

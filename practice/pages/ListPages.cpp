@@ -78,6 +78,11 @@ Response FriendsPage(Visit& visit) {
                           .shownId = owner->id});
 }
 
+Response OldFriendsAddress(Visit& visit) {
+    const Person* owner = visit.world.people.Find(visit.address.query.value(u"friendid"_s).toLongLong());
+    return owner ? Redirect(Url(Role::SiteRoot, u"/%1/friends"_s.arg(owner->id))) : NotFound(visit);
+}
+
 Response BrowsePage(Visit& visit) {
     const QList<const Person*> everybody = BrowseOrder(visit.world);
     const int count = static_cast<int>(everybody.size());

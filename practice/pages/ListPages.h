@@ -9,6 +9,9 @@ namespace qlm::practice {
 /// shows the last page.
 Response FriendsPage(Visit& visit);
 
+/// The address that old links to somebody's friends use: leads to the list.
+Response OldFriendsAddress(Visit& visit);
+
 /// Everybody on the site who is a person, forty a page.
 Response BrowsePage(Visit& visit);
 
