@@ -6,16 +6,20 @@ add_library(quillmere_logic STATIC
     core/Activities.cpp
     core/AnsiText.cpp
     core/App.cpp
+    core/BrowserSounds.cpp
     core/Controls.cpp
     core/ControlsTable.cpp
     core/Deployment.cpp
     core/Diagnostics.cpp
     core/FileSystem.cpp
+    core/GlobalSettings.cpp
+    core/IniFile.cpp
     core/MainForm.cpp
     core/ProductServer.cpp
     core/SettingsFields.cpp
     core/StartUp.cpp
     core/StopResume.cpp
+    core/SupportFiles.cpp
     core/Text.cpp
     core/Waiting.cpp
 
@@ -23,6 +27,8 @@ add_library(quillmere_logic STATIC
     browser/ErrorPages.cpp
     browser/GatherPageTest.cpp
     browser/LanguageTest.cpp
+    browser/FocusHelper.cpp
+    browser/PageBoxes.cpp
     browser/PageClassTable.cpp
     browser/PageClassifier.cpp
     browser/PageDetours.cpp

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "browser/BrowserHost.h"
 
+#include "browser/PageBoxes.h"
 #include "browser/PageTests.h"
 #include "campaigns/Pacing.h"
 #include "core/ActionTick.h"
@@ -36,11 +37,14 @@ private:
 } // namespace
 
 void BrowserHost::Attach() {
+    m_app.timers->tmrHelper.SetHandler(
+        [this] { m_app.diagnostics.Trap("tmrHelper_Timer", [this] { tmrHelper_Timer(); }); });
     BrowserEvents& events = m_app.WebBrowser1().events;
     events.beforeNavigate2 = [this](const NavigationRequest& request) {
         bool cancel = false;
         m_app.diagnostics.Trap("WebBrowser1_BeforeNavigate2",
                                [&] { cancel = WebBrowser1_BeforeNavigate2(request); });
+        m_app.state.blnUserNavigated = false;
         return cancel;
     };
     events.newWindow2 = [this](const QString&) {
@@ -57,22 +61,19 @@ void BrowserHost::Attach() {
     };
     events.contextMenu = [this] {
         bool allow = false;
-        m_app.diagnostics.Trap("hGlobalDoc_oncontextmenu", [&] { allow = hGlobalDoc_oncontextmenu(); });
+        m_app.diagnostics.Trap("hGlobalDoc_oncontextmenu", [&] { allow = m_app.pageBoxes->hGlobalDoc_oncontextmenu(); });
         return allow;
     };
 }
 
 bool BrowserHost::WebBrowser1_BeforeNavigate2(const NavigationRequest& request) {
-    const bool cancel = m_app.WebBrowser1().RefusesNavigations() || CancelsNavigation(request);
-    m_app.state.blnUserNavigated = false;
-    return cancel;
-}
-
-bool BrowserHost::CancelsNavigation(const NavigationRequest& request) {
     RunState& state = m_app.state;
+    if (m_app.WebBrowser1().RefusesNavigations())
+        return true;
     if (request.url == u"javascript:void()"_s &&
         m_app.pageTests->AddressContains(u"{MessagingHost}/index.cfm?fuseaction=mail"_s))
         return true;
+    NoteFocusWindow(request.url);
     if (m_app.WebBrowser1().Document().IsNull() || request.url == u"about:blank"_s)
         return false;
     // A finished request may be redirected to an error page: that stays behind the cover until the next
@@ -206,12 +207,6 @@ void BrowserHost::WebBrowser1_StatusTextChange(const QString& text) {
                             Has(text, m_app.Expand(u"{InviteHost}"_s));
     if (!suppressed)
         m_app.controls.SetText("lblStatus"_L1, text + u"  "_s);
-}
-
-bool BrowserHost::hGlobalDoc_oncontextmenu() {
-    const QString& action = m_app.state.CurrentAction;
-    const bool sending = action == u"COM"_s || action == u"FR"_s || action == u"MSG"_s;
-    return !sending || m_app.pageTests->IsCaptchaPage();
 }
 
 } // namespace qlm

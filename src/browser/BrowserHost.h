@@ -21,8 +21,9 @@ private:
     bool WebBrowser1_NewWindow2();
     void WebBrowser1_DocumentComplete(bool topLevel, const QString& url);
     void WebBrowser1_StatusTextChange(const QString& text);
-    bool hGlobalDoc_oncontextmenu();
-    bool CancelsNavigation(const NavigationRequest& request);
+    // FocusHelper.cpp
+    void NoteFocusWindow(const QString& url);
+    void tmrHelper_Timer();
     bool GatherClickedProfile(const QString& url);
     Element FindProfileLink(const QString& url);
     void AddClickedProfile(const Element& link);

@@ -18,7 +18,7 @@ void TraceClass(App& app, const QString& mark) {
     app.diagnostics.DebugForAction(mark + QString::number(app.state.intPageClass));
 }
 
-// A limit page may be a passing state: only the third in a row is believed.
+// A limit page may be a passing state: only the third is believed.
 void CountLimitPage(App& app) {
     RunState& state = app.state;
     if (++state.intFRLimitHits < LimitPagesToStop) {
@@ -93,6 +93,8 @@ void HandleForLogin(App& app) {
     }
     TraceClass(app, u"Maint2: "_s);
     app.ClearPage();
+    if (app.state.CurrentAction != u"LOGIN"_s)
+        return;
     app.WebBrowser1().Navigate(app.Expand(u"{SiteRootHost}"_s));
     app.waiting.Pump();
 }

@@ -34,6 +34,8 @@ struct Page {
 
 void LoadHomePage(const Page& page) {
     page.app.ClearPage();
+    if (!page.Is("LOGIN"))
+        return;
     page.app.WebBrowser1().Navigate(page.app.Expand(u"{HomeHost}/index.cfm?fuseaction=home"_s));
     page.app.waiting.Pump();
 }
@@ -46,10 +48,14 @@ bool GiveUpRequest(const Page& page, const QString& trace, bool skipCurrentID) {
 }
 
 bool LogInAgain(const Page& page) {
+    const QString action = page.state.CurrentAction;
     page.state.blnLinkFound = true;
     page.app.loginFlow->DoLogin();
-    while (page.app.WebBrowser1().Busy())
+    while (page.app.WebBrowser1().Busy() && page.state.CurrentAction == action)
         page.app.waiting.Pump();
+    // A stop meanwhile is the last word.
+    if (page.state.CurrentAction != action)
+        return false;
     page.state.blnSkipCurrentID = true;
     page.app.stopResume->SkipProfile();
     return false;
@@ -99,7 +105,8 @@ bool CommentPageUnknown(const Page& page) {
 bool ReloadForum(const Page& page) {
     const QString address = page.app.pageTests->LocationURL();
     page.app.ClearPage();
-    page.app.WebBrowser1().Navigate(address);
+    if (page.Is("SCANNING"))
+        page.app.WebBrowser1().Navigate(address);
     return false;
 }
 
@@ -217,7 +224,9 @@ const std::vector<DetourRow>& Detours() {
                     p.app.pageTests->AddressEquals(u"{SiteRootHost}/"_s);
          },
          CommentLandedHome},
-        {[](const Page& p) { return p.Is("COM") && p.state.intComStep == 7 && p.Complete(); },
+        {[](const Page& p) {
+             return p.Is("COM") && p.state.intComStep == 7 && p.Complete() && !p.state.blnSubmittingComment;
+         },
          CommentPageUnknown},
         {[](const Page& p) { return p.Is("FR") && p.At(u"fuseaction=mail.inbox"); },
          [](const Page& p) { return GiveUpRequest(p, u"FR LF-Inbox"_s, false); }},

@@ -119,9 +119,12 @@ Verdict StepDispatcher::ErrorPage() {
     const bool awaitingConfirmation = state.CurrentAction == u"FR"_s && state.intFRStep == 9;
     if (awaitingConfirmation && state.intPageClass != ErrorRedirectClass)
         return std::nullopt;
-    if (state.CurrentAction != u"LOGIN"_s)
+    const QString action = state.CurrentAction;
+    if (action != u"LOGIN"_s)
         m_app.ClearPage();
-    HandleErrorPage(m_app);
+    // A stop while the page was cleared leaves nothing to handle.
+    if (state.CurrentAction == action)
+        HandleErrorPage(m_app);
     return false;
 }
 

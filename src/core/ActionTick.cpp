@@ -51,8 +51,6 @@ void ActionTick::CheckPage() {
     RunState& state = m_app.state;
     if (m_app.WebBrowser1().Document().IsNull() || state.blnHoldLinkCheck)
         return;
-    if (state.CurrentAction == u"LOGIN"_s && m_app.pageTests->IsTextInPage(u"enter the text"_s))
-        m_app.diagnostics.DebugForAction(u"waiting for CAPTCHA"_s);
     const bool found = m_app.stepDispatcher->CheckLinkFound();
     LogCheck(found);
     if (state.CurrentAction.isEmpty())
@@ -75,6 +73,8 @@ void ActionTick::CheckPage() {
 
 void ActionTick::LogCheck(bool found) {
     const RunState& state = m_app.state;
+    if (state.CurrentAction == u"LOGIN"_s && m_app.pageTests->IsTextInPage(u"enter the text"_s))
+        m_app.diagnostics.DebugForAction(u"waiting for CAPTCHA"_s);
     const bool withExpectation =
         state.CurrentAction == u"FR"_s || state.CurrentAction == u"MSG"_s || state.CurrentAction == u"COM"_s;
     QString line = state.CurrentAction == u"LOGIN"_s ? u"checking: "_s

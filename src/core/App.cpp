@@ -5,6 +5,7 @@
 #include "accounts/AccountScreens.h"
 #include "accounts/LoginFlow.h"
 #include "browser/BrowserHost.h"
+#include "browser/PageBoxes.h"
 #include "browser/PageClassifier.h"
 #include "browser/PageTests.h"
 #include "browser/StepDispatcher.h"
@@ -15,11 +16,14 @@
 #include "campaigns/SendRuns.h"
 #include "campaigns/SentLog.h"
 #include "core/ActionTick.h"
+#include "core/BrowserSounds.h"
+#include "core/GlobalSettings.h"
 #include "core/MainForm.h"
 #include "core/ProductServer.h"
 #include "core/SettingsFields.h"
 #include "core/StartUp.h"
 #include "core/StopResume.h"
+#include "core/SupportFiles.h"
 #include "gather/BlackList.h"
 #include "gather/GatherDriver.h"
 #include "gather/GatheredList.h"
@@ -58,7 +62,11 @@ App::App(Platform& thePlatform)
       stopResume(std::make_unique<StopResume>(*this)),
       settingsFields(std::make_unique<SettingsFields>(*this)),
       productServer(std::make_unique<ProductServer>(*this)),
+      globalSettings(std::make_unique<GlobalSettings>(*this)),
+      browserSounds(std::make_unique<BrowserSounds>(*this)),
+      supportFiles(std::make_unique<SupportFiles>(*this)),
       browserHost(std::make_unique<BrowserHost>(*this)),
+      pageBoxes(std::make_unique<PageBoxes>(*this)),
       pageTests(std::make_unique<PageTests>(*this)),
       pageClassifier(std::make_unique<PageClassifier>(*this)),
       stepDispatcher(std::make_unique<StepDispatcher>(*this)),

@@ -19,16 +19,19 @@ class AccountScreens;
 class ActionTick;
 class BlackList;
 class BrowserHost;
+class BrowserSounds;
 class CaptchaCalls;
 class Counters;
 class FriendRequester;
 class GatherDriver;
 class GatheredList;
+class GlobalSettings;
 class IdResolution;
 class LinkScanner;
 class LoginFlow;
 class MainForm;
 class Pacing;
+class PageBoxes;
 class PageClassifier;
 class PageTests;
 class Pager;
@@ -41,6 +44,7 @@ class SettingsFields;
 class StartUp;
 class StepDispatcher;
 class StopResume;
+class SupportFiles;
 
 // The timers of the main window, with the names, intervals and starting states of the design.
 struct Timers {
@@ -83,8 +87,12 @@ public:
     const std::unique_ptr<StopResume> stopResume;
     const std::unique_ptr<SettingsFields> settingsFields;
     const std::unique_ptr<ProductServer> productServer;
+    const std::unique_ptr<GlobalSettings> globalSettings;
+    const std::unique_ptr<BrowserSounds> browserSounds;
+    const std::unique_ptr<SupportFiles> supportFiles;
     // browser
     const std::unique_ptr<BrowserHost> browserHost;
+    const std::unique_ptr<PageBoxes> pageBoxes;
     const std::unique_ptr<PageTests> pageTests;
     const std::unique_ptr<PageClassifier> pageClassifier;
     const std::unique_ptr<StepDispatcher> stepDispatcher;

@@ -44,6 +44,7 @@ const std::vector<ControlRow>& Controls::Table() {
         {"mnuMinimizeTray", MenuItem, "General", "", "", u"Minimize To Tray"},
         {"mnuShowInfoBar", MenuItem, "General", "", "", u"Show Info Bar"},
         {"mnuDisableBrowserSounds", MenuItem, "General", "", "", u"Disable Browser Sounds"},
+        {"mnuExitWhenFinished", MenuItem, "", "", "", u"Exit When Finished"},
 
         // Auto start, shared by all accounts.
         {"optAutoStartOn", OptionButton, "Field Entries", "", "autostart"},
@@ -228,6 +229,26 @@ const std::vector<ControlRow>& Controls::Table() {
         {"frmFilters.optFilterOff", OptionButton, "", "", "frmFilters.Type", u"Filter Off", true},
         {"frmFilters.cmdOK", Button, "", "", "", u"OK"},
         {"frmFilters.cmdCancel", Button, "", "", "", u"Cancel"},
+
+        // Global Settings.
+        {"frmGlobalSettings.chkUseGlobalSettings", CheckBox, "", "", "", u"Use same Global Settings for all accounts"},
+        {"frmGlobalSettings.chkUseGlobalFilterSettings", CheckBox, "", "", "", u"Use same Filter Settings for all accounts"},
+        {"frmGlobalSettings.chkUseGlobalBookmarks", CheckBox, "", "", "", u"Use same Bookmarks for all accounts"},
+        {"frmGlobalSettings.chkUseGlobalLogs", CheckBox, "", "", "", u"Use same Logs for all accounts"},
+        {"frmGlobalSettings.chkUseGlobalGatheredIDsList", CheckBox, "", "", "", u"Use same Gathered ID's List for all accounts"},
+        {"frmGlobalSettings.chkUseGlobalGatherIDsSettings", CheckBox, "", "", "", u"Use same Gather ID's Settings for all accounts"},
+        {"frmGlobalSettings.chkUseGlobalFriendRequesterSettings", CheckBox, "", "", "", u"Use same Friend Requester Settings for all accounts"},
+        {"frmGlobalSettings.chkUseGlobalAutoMessengerSettings", CheckBox, "", "", "", u"Use same Auto Messenger Settings for all accounts"},
+        {"frmGlobalSettings.chkUseGlobalAutoCommenterSettings", CheckBox, "", "", "", u"Use same Auto Commenter Settings for all accounts"},
+        {"frmGlobalSettings.chkUseGlobalBulletinSettings", CheckBox, "", "", "", u"Use same Bulletin Settings for all accounts"},
+        {"frmGlobalSettings.chkUseGlobalAutoAccepterSettings", CheckBox, "", "", "", u"Use same Auto Accepter Settings for all accounts"},
+        {"frmGlobalSettings.chkUseGlobalInviteSettings", CheckBox, "", "", "", u"Use same Invite Settings for all accounts"},
+        {"frmGlobalSettings.chkUseGlobalStatusSettings", CheckBox, "", "", "", u"Use same Status Update Settings for all accounts"},
+        {"frmGlobalSettings.lblNote", Label, "", "", "",
+         u"A box that is not ticked gives each account its own: an account then starts with empty values until "
+         u"they are saved. Ticking the box again shows the shared ones, which are kept."},
+        {"frmGlobalSettings.cmdResetAll", Button, "", "", "", u"Reset All..."},
+        {"frmGlobalSettings.cmdClose", Button, "", "", "", u"Close"},
 
         // Small forms.
         {"frmLoginProblem.cmdClose", Button, "", "", "", u"Close"},

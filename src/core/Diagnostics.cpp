@@ -5,6 +5,7 @@
 #include "core/App.h"
 
 #include <QRegularExpression>
+#include <QScopedValueRollback>
 
 namespace qlm {
 
@@ -12,7 +13,21 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr qsizetype UncleanedLength = 20000;
+
+QString WithGroups(const QString& replacement, const QRegularExpressionMatch& match) {
+    QString filled;
+    for (qsizetype i = 0; i < replacement.size(); ++i) {
+        const QChar next = i + 1 < replacement.size() ? replacement[i + 1] : QChar();
+        if (replacement[i] == u'$' && next >= u'1' && next <= u'9') {
+            filled += match.captured(next.digitValue());
+            ++i;
+        } else {
+            filled += replacement[i];
+        }
+    }
+    return filled;
 }
+} // namespace
 
 // The class keeps letters, digits, the blank and the printable signs; ")-_" in it is a range that takes in
 // "*" to "^".
@@ -50,12 +65,29 @@ void Diagnostics::DebugForAction(const QString& text) {
         Debug(QString::fromLatin1(activity->debugFile), text);
 }
 
+QString Diagnostics::RegExpReplace(const QString& text, const QString& pattern, const QString& replacement) {
+    const QRegularExpression expression(pattern);
+    if (!expression.isValid()) {
+        Debug(u"debuginitial.txt"_s,
+              u"ERROR IN RegExpReplace: "_s + QStringList{text, pattern, replacement}.join(u", "_s));
+        return text;
+    }
+    QString replaced;
+    qsizetype end = 0;
+    for (auto matches = expression.globalMatch(text); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        replaced += text.mid(end, match.capturedStart() - end) + WithGroups(replacement, match);
+        end = match.capturedEnd();
+    }
+    return replaced + text.mid(end);
+}
+
 void Diagnostics::ReportError(const QString& procedure, const QString& description, const QString& line,
                               const QString& data) {
     // An error while reporting must not report itself again.
     if (m_reporting)
         return;
-    m_reporting = true;
+    const QScopedValueRollback reporting(m_reporting, true);
     QString address;
     IgnoreErrors([&] { address = m_app.WebBrowser1().LocationURL(); });
     const QStringList block{u"Product: QLM"_s,
@@ -78,7 +110,6 @@ void Diagnostics::ReportError(const QString& procedure, const QString& descripti
             "to this folder: "_s +
             m_app.platform.InstallationFolder() + u"\nError: ln "_s + line);
     }
-    m_reporting = false;
 }
 
 void Diagnostics::ShowErrorFormOnce() {

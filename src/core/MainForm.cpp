@@ -5,6 +5,7 @@
 #include "campaigns/Pacing.h"
 #include "core/ActionTick.h"
 #include "core/App.h"
+#include "core/BrowserSounds.h"
 #include "core/SettingsFields.h"
 #include "core/StopResume.h"
 #include "core/Text.h"
@@ -79,6 +80,7 @@ void MainForm::Form_Load() {
             setTitle(u"Quillmere v"_s + m_app.Version() + u" – Start Growing Your MySpace Friends!"_s);
         m_app.WebBrowser1().SetSilent(true);
         m_app.WebBrowser1().Navigate(u"about:blank"_s);
+        m_app.webNews().Navigate(state.ServerBaseURL + u"/news.htm"_s);
         state.arrFriendIDs = {QString()};
         m_app.diagnostics.Debug(u"debuginitial.txt"_s, u"frmLoad 2"_s);
         m_app.settingsFields->RestoreGeneralPrevious();
@@ -110,6 +112,10 @@ void MainForm::Form_Unload() {
             m_app.settingsFields->SaveListsAndSettings();
             m_app.settingsFields->SaveGeneral();
         }
+    });
+    m_app.diagnostics.Trap("Form_Unload", [this] {
+        if (m_app.controls.Ticked("mnuDisableBrowserSounds"_L1))
+            m_app.browserSounds->Restore();
     });
     m_app.stopResume->StopAll(u"FU"_s);
     UnloadAllForms(u"frmMain"_s);
@@ -197,8 +203,9 @@ void MainForm::picRefresh_Click() {
 }
 
 void MainForm::mnuExitWhenFinished_Click() {
-    if (m_app.AskYesNo(u"Are you sure you want Quillmere to exit when the current operation is finished?"_s))
-        m_app.state.blnExitWhenFinished = true;
+    m_app.state.blnExitWhenFinished =
+        m_app.AskYesNo(u"Are you sure you want Quillmere to exit when the current operation is finished?"_s);
+    m_app.controls.SetTicked("mnuExitWhenFinished"_L1, m_app.state.blnExitWhenFinished);
 }
 
 void MainForm::TabStrip1_Click(const QString& caption) {

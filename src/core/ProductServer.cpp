@@ -2,26 +2,16 @@
 #include "core/ProductServer.h"
 
 #include "core/App.h"
+#include "core/IniFile.h"
 #include "core/MainForm.h"
 #include "core/Text.h"
 
 #include <QRegularExpression>
+#include <cmath>
 
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-// The value of an "[alert]" file's key, in any letter case.
-QString IniValue(const QString& ini, const QString& key) {
-    const QRegularExpression line(u"^\\s*"_s + QRegularExpression::escape(key) + u"\\s*=\\s*(.*?)\\s*$"_s,
-                                  QRegularExpression::MultilineOption |
-                                      QRegularExpression::CaseInsensitiveOption);
-    return line.match(ini).captured(1);
-}
-
-} // namespace
 
 std::optional<QDate> ParseDate(const QString& text) {
     static const QRegularExpression iso(u"^\\s*(\\d{4})-(\\d{1,2})-(\\d{1,2})(?:[ T].*)?$"_s,
@@ -44,6 +34,8 @@ QString ProductServer::HTTPGet(const QString& url) {
         u"There seems to be a temporary Internet connection problem. Please check your internet "
         "connection, or try again later. If the problem persists over a period of time, please make "
         "sure Quillmere is specified as a trusted application in your firewall software."_s);
+    // The account may be half restored: nothing of it may be written over what is stored.
+    m_app.state.blnNoSaveOnExit = true;
     m_app.mainForm->Unload();
     throw ProgramEnding();
 }
@@ -77,8 +69,9 @@ void ProductServer::CheckIssueAlert() {
         return;
     }
     m_app.files.WriteLines(path, answer.split(QRegularExpression(u"\r?\n"_s)));
-    m_app.state.IssueAlertTab = IniValue(answer, u"Tab"_s).replace(u"/n"_s, u"\n"_s);
-    m_app.state.IssueAlertText = IniValue(answer, u"Description"_s).replace(u"/n"_s, u"\n"_s);
+    const clsINI alert(m_app, path);
+    m_app.state.IssueAlertTab = alert.ReadIni(u"Alert"_s, u"Tab"_s).replace(u"/n"_s, u"\n"_s);
+    m_app.state.IssueAlertText = alert.ReadIni(u"Alert"_s, u"Description"_s).replace(u"/n"_s, u"\n"_s);
 }
 
 void ProductServer::CheckLoginMessage() {
@@ -86,11 +79,37 @@ void ProductServer::CheckLoginMessage() {
     m_app.state.blnWaitForLoginFirst = answer.isEmpty();
 }
 
-std::optional<QDate> ProductServer::GetServerDate() {
+QString ProductServer::DateAndTime() {
     const bool alternate = m_app.state.ServerBaseURL == m_app.Expand(u"{ProductServerAlternate}"_s);
-    const QString url = alternate ? m_app.Expand(u"{ProductServerAlternate}/dateandtime.htm"_s)
-                                  : m_app.Expand(u"{ProductServer}/dateandtime.php"_s);
-    return ParseDate(HTTPGet(url));
+    return HTTPGet(alternate ? m_app.Expand(u"{ProductServerAlternate}/dateandtime.htm"_s)
+                             : m_app.Expand(u"{ProductServer}/dateandtime.php"_s));
+}
+
+std::optional<QDate> ProductServer::GetServerDate() {
+    return ParseDate(DateAndTime());
+}
+
+qint32 ProductServer::TimeDiff() {
+    static const QRegularExpression clock(u"\\s(\\d{1,2}):(\\d{2})(?::(\\d{2}))?(?:\\s*([AP])M)?\\s*$"_s,
+                                          QRegularExpression::CaseInsensitiveOption);
+    const QString answer = DateAndTime();
+    const std::optional<QDate> date = ParseDate(answer);
+    const QRegularExpressionMatch match = clock.match(answer);
+    const QString half = match.captured(4).toUpper();
+    const int hour = match.captured(1).toInt();
+    const QTime time(half.isEmpty() ? hour : hour % 12 + (half == u"P"_s ? 12 : 0), match.captured(2).toInt(),
+                     match.captured(3).toInt());
+    if (!date || !match.hasMatch() || !time.isValid()) {
+        m_app.diagnostics.Debug(u"debuginitial.txt"_s, u"TimeDiff - err"_s);
+        return 0;
+    }
+    // Both clocks without a zone: the difference is what is asked for.
+    const QDateTime server(*date, time, Qt::UTC);
+    const QDateTime now = m_app.Pump().Now();
+    const double hours = static_cast<double>(QDateTime(now.date(), now.time(), Qt::UTC).secsTo(server)) / 3600;
+    const auto whole = static_cast<qint32>(std::nearbyint(hours));
+    m_app.diagnostics.Debug(u"debuginitial.txt"_s, u"TimeDiff - "_s + QString::number(whole));
+    return whole;
 }
 
 } // namespace qlm

@@ -26,8 +26,13 @@ public:
     void CheckLoginMessage();
     // Today by the product server; nothing when its answer is no date or it can't be reached.
     std::optional<QDate> GetServerDate();
+    // Whole hours by which the product server's clock is ahead of the local one; 0 when its answer is no date
+    // and time.
+    qint32 TimeDiff();
 
 private:
+    QString DateAndTime();
+
     App& m_app;
 };
 

@@ -108,6 +108,7 @@ struct RunState {
     bool blnCommentUsedEditor = false;
     bool blnBulletinDeleting = false;
     bool blnCommentFormShown = false;
+    bool blnSubmittingComment = false; // SubmitComment is on the stack
     bool blnBulletinWaiting = false;
     bool blnStatusWaiting = false;
     qint32 lngTimeDelayFrom = 0; // seconds

@@ -3,11 +3,10 @@
 
 #include "campaigns/Counters.h"
 #include "core/App.h"
+#include "core/BrowserSounds.h"
 #include "core/MainForm.h"
 #include "core/Text.h"
 #include "gather/GatheredList.h"
-
-#include <QSet>
 
 namespace qlm {
 
@@ -67,8 +66,33 @@ bool SettingsFields::UsesGlobal(const QString& kind) const {
         for (const char* governed : flag.kinds)
             if (kind == QLatin1StringView(governed))
                 governing = &flag;
-    // Read once, when the account is restored.
-    return m_flags.value(QString::fromLatin1(governing->key), true);
+    return GlobalFlagSet(*governing);
+}
+
+bool SettingsFields::GlobalFlagSet(const GlobalFlag& flag) const {
+    return m_flags.value(QString::fromLatin1(flag.key), true);
+}
+
+void SettingsFields::ChangeGlobalFlags(const QSet<QString>& keys) {
+    SaveListsAndSettings();
+    const bool listWasGlobal = UsesGlobal(u"GatheredList"_s);
+    QHash<QString, bool> before;
+    for (const char* kind : InputKinds())
+        before.insert(QString::fromLatin1(kind), UsesGlobal(QString::fromLatin1(kind)));
+    for (const GlobalFlag& flag : GlobalFlags()) {
+        const QString key = QString::fromLatin1(flag.key);
+        m_flags.insert(key, keys.contains(key));
+        m_app.platform.Settings().SaveSetting(General, key, FromBoolean(keys.contains(key)));
+    }
+    m_app.platform.Settings().Sync();
+    for (const char* kind : InputKinds())
+        if (before.value(QString::fromLatin1(kind)) != UsesGlobal(QString::fromLatin1(kind)))
+            RestoreKind(QLatin1StringView(kind));
+    SettleFields();
+    // A run keeps the list that it walks.
+    if (listWasGlobal != UsesGlobal(u"GatheredList"_s) && m_app.state.CurrentAction.isEmpty() &&
+        m_app.controls.Ticked("chkSaveScanned"_L1))
+        m_app.gatheredList->FillScannedList(m_app.gatheredList->ScopedPath(), true, false);
 }
 
 QString SettingsFields::AccountDataPath(const QString& kind) {
@@ -120,28 +144,52 @@ void SettingsFields::SaveControl(const QString& section, const ControlRow& row) 
 
 void SettingsFields::RestoreGeneralPrevious() {
     m_app.diagnostics.Trap("RestoreGeneralPrevious", [this] {
-        const SettingsStore& settings = m_app.platform.Settings();
-        auto number = [&settings](const QString& key) {
-            return ToLong(settings.GetSetting(General, key, QString()));
-        };
-        if (m_app.mainForm->setPlace) {
-            const auto width = number(u"Width"_s);
-            const auto height = number(u"Height"_s);
-            const auto left = number(u"Left"_s);
-            const auto top = number(u"Top"_s);
-            const bool maximized = ToBoolean(settings.GetSetting(General, u"Maximized"_s, u"False"_s));
-            if (width && height && left && top)
-                m_app.mainForm->setPlace({*left, *top, *width, *height, maximized, false});
-        }
+        RestoreWindowPlace();
         for (const char* kind : {"General", "Field Entries"})
             for (const ControlRow& row : Controls::Table())
                 if (QLatin1StringView(row.kind) == QLatin1StringView(kind))
                     RestoreControl(QString::fromLatin1(kind), row);
+        EndSessionChains();
         m_app.state.blnLoggingEnabled = m_app.controls.Ticked("mnuEnableLogging"_L1);
+        m_app.browserSounds->Silence();
     });
 }
 
+void SettingsFields::RestoreWindowPlace() {
+    if (!m_app.mainForm->setPlace || !m_app.mainForm->getPlace)
+        return;
+    const SettingsStore& settings = m_app.platform.Settings();
+    auto number = [&settings](const QString& key) {
+        return ToLong(settings.GetSetting(General, key, QString()));
+    };
+    const auto width = number(u"Width"_s);
+    const auto height = number(u"Height"_s);
+    const auto left = number(u"Left"_s);
+    const auto top = number(u"Top"_s);
+    // A window that was closed maximised at its first use has stored no place beside that.
+    WindowPlace place = m_app.mainForm->getPlace();
+    if (width && height && left && top)
+        place = {*left, *top, *width, *height, false, false};
+    place.maximized = ToBoolean(settings.GetSetting(General, u"Maximized"_s, u"False"_s));
+    if (place.maximized || (width && height && left && top))
+        m_app.mainForm->setPlace(place);
+}
+
+// "Until I close QLM" has come to its end: its item is stored, and read back it means off.
+void SettingsFields::EndSessionChains() {
+    struct Chain {
+        QLatin1StringView on;
+        QLatin1StringView off;
+    };
+    for (const Chain& chain : {Chain{"mnuMultipleAccountsFROn"_L1, "mnuMultipleAccountsFROff"_L1},
+                               Chain{"mnuMultipleAccountsMSGOn"_L1, "mnuMultipleAccountsMSGOff"_L1},
+                               Chain{"mnuMultipleAccountsBULOn"_L1, "mnuMultipleAccountsBULOff"_L1}})
+        if (!m_app.controls.Ticked(chain.on))
+            m_app.controls.SetTicked(chain.off, true);
+}
+
 void SettingsFields::RestoreAccountSettings() {
+    m_restored = false;
     m_app.diagnostics.Trap("RestoreAccountSettings", [this] { m_app.counters->Restore(); });
 }
 
@@ -153,16 +201,22 @@ void SettingsFields::RestoreAccountSpecificFields() {
         }
         for (const char* kind : InputKinds())
             RestoreKind(QLatin1StringView(kind));
-        const auto& scanOptions = {"optScanCurrentPage"_L1, "optScanFollowing"_L1, "optScanGoogle"_L1,
-                                   "optImportClickedProfiles"_L1};
-        if (std::none_of(scanOptions.begin(), scanOptions.end(),
-                         [this](QLatin1StringView name) { return m_app.controls.Ticked(name); }))
-            m_app.controls.SetTicked("optScanFollowing"_L1, true);
-        if (m_app.controls.Text("cboFRCategories"_L1).isEmpty())
-            m_app.controls.SetText("cboFRCategories"_L1, u"Select a category from the list"_s);
+        SettleFields();
+        m_restored = true;
         if (m_app.controls.Ticked("chkSaveScanned"_L1))
             m_app.gatheredList->FillScannedList(m_app.gatheredList->ScopedPath(), true, false);
     });
+}
+
+// No choice may be without a choice.
+void SettingsFields::SettleFields() {
+    const auto& scanOptions = {"optScanCurrentPage"_L1, "optScanFollowing"_L1, "optScanGoogle"_L1,
+                               "optImportClickedProfiles"_L1};
+    if (std::none_of(scanOptions.begin(), scanOptions.end(),
+                     [this](QLatin1StringView name) { return m_app.controls.Ticked(name); }))
+        m_app.controls.SetTicked("optScanFollowing"_L1, true);
+    if (m_app.controls.Text("cboFRCategories"_L1).isEmpty())
+        m_app.controls.SetText("cboFRCategories"_L1, u"Select a category from the list"_s);
 }
 
 void SettingsFields::RestoreKind(QLatin1StringView kind) {
@@ -195,6 +249,8 @@ void SettingsFields::SetStartingValue(const ControlRow& row) {
 }
 
 void SettingsFields::SaveListsAndSettings() {
+    if (!m_restored)
+        return;
     m_app.diagnostics.Trap("SaveListsAndSettings", [this] {
         for (const char* kind : InputKinds()) {
             const QString section = SectionOf(QLatin1StringView(kind));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 #include <vector>
 
@@ -39,15 +40,25 @@ public:
     // "Field Entries" with the suffix of the kind.
     QString SectionOf(const QString& kind);
     bool UsesGlobal(const QString& kind) const;
+    bool GlobalFlagSet(const GlobalFlag& flag) const;
+    // Sets the flags whose keys are named and clears the others, in the store too. What stands in the inputs
+    // is saved where it belonged until now; the inputs of a kind that changes its place are read from there.
+    void ChangeGlobalFlags(const QSet<QString>& keys);
 
 private:
     void RestoreControl(const QString& section, const ControlRow& row);
     void SaveControl(const QString& section, const ControlRow& row);
     void RestoreKind(QLatin1StringView kind);
     void SetStartingValue(const ControlRow& row);
+    void RestoreWindowPlace();
+    void EndSessionChains();
+    void SettleFields();
 
     App& m_app;
     QHash<QString, bool> m_flags; // the blnUseGlobal... flags; true until read
+    // The inputs show the account in use. Not so between a change of account and its restoring: what is saved
+    // then would be another's.
+    bool m_restored = false;
 };
 
 } // namespace qlm

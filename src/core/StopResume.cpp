@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "core/StopResume.h"
 
-#include "campaigns/FriendRequester.h"
 #include "core/Activities.h"
 #include "core/App.h"
 #include "core/MainForm.h"
@@ -16,6 +15,27 @@ namespace {
 QString StopMark(const Activity& activity, const QString& reason, const QString& now) {
     const QString mark = QString::fromLatin1(activity.stopMark);
     return mark.endsWith(u'(') ? mark + reason + u')' + now : mark + now;
+}
+
+// The step behind the one that sends. Bulletins have no profile to skip: their step goes on as it stands.
+struct SkipRow {
+    QLatin1StringView action;
+    qint16 step; // 0: the step stays
+};
+
+constexpr SkipRow SkipRows[] = {
+    {"FR"_L1, 9},
+    {"MSG"_L1, 8},
+    {"COM"_L1, 8},
+    {"BUL"_L1, 0},
+};
+
+void SkipTo(App& app, const SkipRow& row) {
+    const Activity* activity = FindActivity(row.action);
+    if (row.step != 0)
+        app.state.*activity->step = row.step;
+    if (activity->stepRoutine)
+        activity->stepRoutine(app);
 }
 
 } // namespace
@@ -53,10 +73,11 @@ void StopResume::StopAll(const QString& reason) {
     state.blnSkipCurrentID = false;
     state.blnBulletinDeleting = false;
     state.blnCommentFormShown = false;
+    state.intFRLimitHits = 0;
+    state.intConfirmPolls = 0;
     state.strWaitingFor.clear();
-    m_app.SetStatus({});
-    m_app.controls.SetText("lblWaitingFor"_L1, {});
-    m_app.controls.SetText("lblProgress"_L1, {});
+    for (const auto& label : {"myfraCurrentAction"_L1, "lblWaitingFor"_L1, "lblProgress"_L1})
+        Diagnostics::IgnoreErrors([&] { m_app.controls.SetText(label, {}); });
     state.blnSkipRequested = false;
     state.blnInDelay = false;
     state.strCurrentID.clear();
@@ -85,10 +106,9 @@ void StopResume::SkipProfile() {
         return;
     }
     state.blnSkipRequested = true;
-    if (state.CurrentAction == u"FR"_s) {
-        state.intFRStep = 9;
-        m_app.friendRequester->IterateAddFriends();
-    }
+    for (const SkipRow& row : SkipRows)
+        if (state.CurrentAction == row.action)
+            SkipTo(m_app, row);
 }
 
 void StopResume::PauseLinkCheck() {

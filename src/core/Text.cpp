@@ -93,4 +93,22 @@ QString LeadingZero(qint64 number) {
     return QString::number(number).rightJustified(2, u'0');
 }
 
+std::optional<qint64> FromHexadecimal(const QString& text) {
+    if (!text.startsWith(u"&H"_s, Qt::CaseInsensitive) || text.size() < 3 || !text[2].isLetterOrNumber())
+        return std::nullopt;
+    bool isNumber = false;
+    const qint64 number = text.mid(2).toLongLong(&isNumber, 16);
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
+QString ToBase36(qint64 number) {
+    return QString::number(number, 36);
+}
+
+std::optional<qint64> FromBase36(const QString& text) {
+    bool isNumber = false;
+    const qint64 number = text.toLongLong(&isNumber, 36);
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
 } // namespace qlm

@@ -30,5 +30,10 @@ QString CleanupFileName(const QString& name);
 // Letters and digits stay, a blank becomes "+", any other byte "%" and two capital hexadecimal digits.
 QString UrlEncode(const QString& text);
 QString LeadingZero(qint64 number);
+// "&H1F" with its prefix, in any letter case; nothing for any other text and beyond 63 bits.
+std::optional<qint64> FromHexadecimal(const QString& text);
+// Digits 0 to 9 and a to z, the sign in front.
+QString ToBase36(qint64 number);
+std::optional<qint64> FromBase36(const QString& text);
 
 } // namespace qlm

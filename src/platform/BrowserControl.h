@@ -52,6 +52,9 @@ struct BrowserEvents {
 // After Navigate("about:blank") the control reports about:blank, an empty document and readiness at once,
 // whatever the engine still shows, and nothing of an older document passes for the new one. After Navigate()
 // to any other address the present document stays until the new one has arrived.
+//
+// A page can always be left: no unload prompt of its scripts is ever shown or holds a navigation back, Silent
+// or not. So no page's scripts need to be edited before it is left.
 class BrowserControl {
 public:
     virtual ~BrowserControl() = default;

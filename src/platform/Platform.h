@@ -31,6 +31,7 @@ public:
     virtual qlm::Shell& Shell() = 0;
     virtual qlm::Attention& Attention() = 0;
     virtual qlm::Random& Random() = 0;
+    virtual qlm::Desktop& Desktop() = 0;
     // Created on first use; lives as long as the platform.
     virtual BrowserControl& Browser(BrowserName name) = 0;
     virtual qlm::WriteGate* WriteGate() { return nullptr; }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -78,6 +79,19 @@ public:
     virtual void FlashWindow() = 0;
     // Restores the main window if it is minimised.
     virtual void RestoreWindow() = 0;
+};
+
+// The windows on the screen, as far as the program may touch them.
+class Desktop {
+public:
+    virtual ~Desktop() = default;
+    // The name of the program's window that has the input focus ("frmMain"); empty when another program has
+    // it.
+    virtual QString ForegroundWindow() = 0;
+    // Gives the input focus to the program's window of that name. A name that no window has changes nothing.
+    virtual void SetForegroundWindow(const QString& window) = 0;
+    // A picture of the main window as the bytes of a bitmap file; empty when none could be taken.
+    virtual QByteArray CaptureWindow() = 0;
 };
 
 class Random {

@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: MIT
+#include "accounts/AccountFile.h"
+
+#include "core/AnsiText.h"
+#include "core/App.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// The number that the text begins with, as the digits of a damaged line are read too; 0 when it begins with
+// none.
+int LeadingHexNumber(QStringView text) {
+    int value = 0;
+    for (const QChar digit : text) {
+        bool valid = false;
+        const int digitValue = QString(digit).toInt(&valid, 16);
+        if (!valid)
+            break;
+        value = value * 16 + digitValue;
+    }
+    return value;
+}
+
+QString EmailOf(const QString& plainLine) {
+    return plainLine.left(plainLine.indexOf(u';'));
+}
+
+bool SameEmail(const QString& left, const QString& right) {
+    return left.toLower() == right.toLower();
+}
+
+} // namespace
+
+QString EncodeAccountLine(const QString& plain) {
+    return QString::fromLatin1(ToAnsi(plain).toHex().toUpper());
+}
+
+QString DecodeAccountLine(const QString& digits) {
+    QByteArray bytes;
+    bytes.reserve((digits.size() + 1) / 2);
+    for (qsizetype i = 0; i < digits.size(); i += 2)
+        bytes.append(static_cast<char>(LeadingHexNumber(QStringView(digits).mid(i, 2))));
+    return FromAnsi(bytes);
+}
+
+void MarkAddAccount(App& app, int number) {
+    app.diagnostics.Debug(u"debuginitial.txt"_s, u"AddAcc"_s + QString::number(number));
+}
+
+QString AccountFile::Path() const {
+    return m_app.ProgramFile(u"scalemodelight.txt"_s);
+}
+
+QStringList AccountFile::Lines() {
+    m_app.files.EnsureFile(Path(), Readers::OwnerAlone);
+    QStringList lines;
+    for (const QString& digits : m_app.files.ReadLines(Path()))
+        lines.append(DecodeAccountLine(digits));
+    return lines;
+}
+
+QString AccountFile::GetPasswordFromEmail(const QString& email) {
+    for (QString line : Lines()) {
+        const QString stored = EmailOf(line);
+        if (!SameEmail(stored, email))
+            continue;
+        return line.contains(u';') ? line.remove(stored + u';') : QString();
+    }
+    return {};
+}
+
+QString AccountFile::GetAccountLine(const QString& email) {
+    QString found;
+    for (const QString& line : Lines())
+        if (EmailOf(line).trimmed() == email)
+            found = line;
+    return found;
+}
+
+QStringList AccountFile::GetAccountDetails(const QString& email) {
+    const QString line = GetAccountLine(email);
+    return line.isEmpty() ? QStringList() : line.split(u';');
+}
+
+AccountFile::Listing AccountFile::Emails(const QString& path, bool encrypted, bool skipBlank) {
+    m_app.files.EnsureFile(path, Readers::OwnerAlone);
+    Listing listing;
+    for (const QString& line : m_app.files.ReadLines(path)) {
+        listing.hadLines = true;
+        if (!skipBlank || !line.trimmed().isEmpty())
+            listing.emails.append(EmailOf(encrypted ? DecodeAccountLine(line) : line));
+    }
+    return listing;
+}
+
+// The temporary file stays behind, as the copy that a failed rewrite can be mended from.
+void AccountFile::Rewrite(const QStringList& plainLines, const QString& temporaryPath) {
+    QStringList encoded;
+    for (const QString& line : plainLines)
+        encoded.append(EncodeAccountLine(line));
+    m_app.files.WriteLines(temporaryPath, encoded, Readers::OwnerAlone);
+    m_app.files.CopyFile(temporaryPath, Path(), Readers::OwnerAlone);
+}
+
+namespace {
+
+// The dialog's temporary file has no extension, unlike the one of Delete.
+QString DialogTemporaryPath(const QString& accountFilePath) {
+    return QString(accountFilePath).replace(u".txt"_s, u"_Temp"_s);
+}
+
+} // namespace
+
+void AccountFile::Add(const QString& email, const QString& password) {
+    const QString temporary = DialogTemporaryPath(Path());
+    MarkAddAccount(m_app, 8);
+    m_app.files.EnsureFile(Path(), Readers::OwnerAlone);
+    MarkAddAccount(m_app, 9);
+    m_app.files.EnsureFile(temporary, Readers::OwnerAlone);
+    MarkAddAccount(m_app, 10);
+    const QString line = (email + u';' + password).toLower();
+    MarkAddAccount(m_app, 11);
+    m_app.files.AppendLine(Path(), EncodeAccountLine(line), Readers::OwnerAlone);
+    MarkAddAccount(m_app, 12);
+}
+
+void AccountFile::Edit(const QString& oldEmail, const QString& email, const QString& password) {
+    const QString temporary = DialogTemporaryPath(Path());
+    MarkAddAccount(m_app, 8);
+    m_app.files.EnsureFile(temporary, Readers::OwnerAlone);
+    MarkAddAccount(m_app, 9);
+    QStringList lines = Lines();
+    MarkAddAccount(m_app, 13);
+    for (QString& line : lines)
+        if (SameEmail(EmailOf(line), oldEmail))
+            line = email + u';' + password;
+    MarkAddAccount(m_app, 14);
+    Rewrite(lines, temporary);
+    MarkAddAccount(m_app, 15);
+}
+
+void AccountFile::Delete(const QString& email) {
+    QStringList kept;
+    for (const QString& line : Lines())
+        if (!SameEmail(EmailOf(line), email))
+            kept.append(line);
+    Rewrite(kept, m_app.ProgramFile(u"scalemodelight_Temp.txt"_s));
+}
+
+void AccountFile::Clear() {
+    m_app.files.DeleteFile(Path());
+}
+
+void AccountFile::Export(const QString& path, const QStringList& emails) {
+    QStringList lines;
+    for (const QString& email : emails)
+        lines.append(email + u';' + GetPasswordFromEmail(email));
+    m_app.files.WriteLines(path, lines, Readers::OwnerAlone);
+}
+
+void AccountFile::Import(const QString& path) {
+    QStringList encoded;
+    for (const QString& line : m_app.files.ReadLines(path))
+        encoded.append(EncodeAccountLine(line));
+    m_app.files.WriteLines(Path(), encoded, Readers::OwnerAlone);
+}
+
+} // namespace qlm

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+#include "accounts/LoginFlow.h"
+
+#include "accounts/LoginForm.h"
+#include "browser/PageBoxes.h"
+#include "browser/PageTests.h"
+#include "core/App.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int CompletePageSeconds = 15;
+constexpr int FirstProblemLookMs = 36000;
+constexpr int NextProblemLookMs = 2000;
+} // namespace
+
+void LoginFlow::DoLogin() {
+    const QString error = m_app.diagnostics.Trap("DoLogin", [this] { FillAndSubmit(); });
+    if (!error.isEmpty() && m_app.state.CurrentAction == u"LOGIN"_s)
+        m_app.timers->tmrCheckLinkLoaded.Restart();
+}
+
+void LoginFlow::FillAndSubmit() {
+    RunState& state = m_app.state;
+    const QString action = state.CurrentAction;
+    m_app.WebBrowser1().SetSilent(true);
+    m_app.SetStatus(u"Waiting for the page to load completely..."_s);
+    WaitForCompletePage();
+    if (!WaitUntilIdle() || state.CurrentAction != action)
+        return;
+    const QString zone = u"Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\Zones\\3"_s;
+    Log(u"Submit Nonencrypted Form Data - "_s +
+        m_app.platform.Settings().GetSetting(zone, u"1601"_s, u"x"_s));
+
+    const Document document = m_app.WebBrowser1().Document();
+    FillLoginForm(document, state.AccountEmail, state.AccountPassword);
+    if (const LoginButton button = FindLoginButton(document); button.element)
+        Press(button.element, button.stopFirst);
+    if (state.CurrentAction != action)
+        return;
+    state.blnLinkFound = false;
+    m_app.timers->tmrCheckLinkLoaded.Restart();
+    m_app.SetStatus(u"Login details submitted, waiting for login to complete..."_s);
+}
+
+void LoginFlow::WaitForCompletePage() {
+    const QString action = m_app.state.CurrentAction;
+    qint64 lastLogged = 0;
+    m_app.waiting.WaitWhile(
+        [this, &action, &lastLogged] {
+            const int ready = m_app.WebBrowser1().ReadyState();
+            const qint64 second = m_app.Pump().Now().toSecsSinceEpoch();
+            if (ready == 4 || m_app.state.CurrentAction != action)
+                return false;
+            if (second % 5 == 0 && second != lastLogged) {
+                Log(u"waiting for readystate: "_s + QString::number(ready));
+                lastLogged = second;
+            }
+            return true;
+        },
+        CompletePageSeconds);
+}
+
+// False when the activity has ended or changed meanwhile.
+bool LoginFlow::WaitUntilIdle() {
+    const QString action = m_app.state.CurrentAction;
+    m_app.waiting.WaitWhile(
+        [this, &action] { return m_app.WebBrowser1().Busy() && m_app.state.CurrentAction == action; }, 0);
+    return m_app.state.CurrentAction == action;
+}
+
+void LoginFlow::Press(const Element& button, bool stopFirst) {
+    if (stopFirst)
+        m_app.WebBrowser1().Stop();
+    m_app.state.intLoginStep = 4;
+    Await(u"Link"_s, u"signout"_s, u"password?"_s);
+    if (!m_app.state.blnChaining) {
+        m_app.timers->tmrLoginProblem.SetInterval(FirstProblemLookMs);
+        m_app.timers->tmrLoginProblem.Restart();
+    }
+    button.Click();
+    m_app.waiting.Pump();
+}
+
+void LoginFlow::StopProblemTimer() {
+    Timer& timer = m_app.timers->tmrLoginProblem;
+    timer.SetEnabled(false);
+    m_app.pageBoxes->ClosePopup(u"Login problem"_s);
+}
+
+void LoginFlow::tmrLoginProblem_Timer() {
+    m_app.diagnostics.Trap("tmrLoginProblem_Timer", [this] {
+        Timer& timer = m_app.timers->tmrLoginProblem;
+        Log(u"tmrLoginProblem"_s);
+        const bool formShown = m_app.pageTests->IsLoggedOutPage();
+        m_app.waiting.WaitWhile([this, &timer] { return m_app.WebBrowser1().Busy() && timer.Enabled(); }, 0);
+        if (!timer.Enabled())
+            return;
+        if (formShown && timer.Interval() != NextProblemLookMs) {
+            Log(u"tmrLoginProblem - "_s + m_app.WebBrowser1().Document().BodyHTML());
+            m_app.platform.Dialogs().ShowForm(u"frmLoginProblem"_s);
+            timer.SetInterval(NextProblemLookMs);
+        } else if (!formShown) {
+            if (timer.Interval() == NextProblemLookMs)
+                m_app.pageBoxes->ClosePopup(u"Login problem"_s);
+            timer.SetInterval(0);
+            timer.SetEnabled(false);
+        }
+    });
+}
+
+} // namespace qlm

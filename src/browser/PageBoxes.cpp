@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "browser/PageBoxes.h"
+
+#include "browser/PageTests.h"
+#include "core/App.h"
+
+#include <algorithm>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+void PageBoxes::ClosePopup(const QString& title) {
+    const QStringList titles = title.isEmpty()
+                                   ? QStringList{u"Message from webpage"_s, u"windows internet explorer"_s}
+                                   : QStringList{title};
+    Dialogs& dialogs = m_app.platform.Dialogs();
+    const bool closed = std::any_of(titles.begin(), titles.end(), [&dialogs](const QString& each) {
+        return dialogs.CloseWindowTitled(each);
+    });
+    m_app.state.ClosePopupResult = closed ? u"CLOSED"_s : u"NOT FOUND"_s;
+}
+
+// While sending only a CAPTCHA may need it; a stray right-click must not disturb a step.
+bool PageBoxes::hGlobalDoc_oncontextmenu() {
+    const QString& action = m_app.state.CurrentAction;
+    const bool sending = action == u"COM"_s || action == u"FR"_s || action == u"MSG"_s;
+    return !sending || m_app.pageTests->IsCaptchaPage();
+}
+
+} // namespace qlm

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "campaigns/Counters.h"
+
+#include "core/App.h"
+#include "core/MainForm.h"
+#include "core/ProductServer.h"
+#include "core/StopResume.h"
+#include "core/Text.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct DailyCounter {
+    const char* key;
+    const char* resetKey; // where a new day writes its 0
+    qint32 RunState::*count;
+    QLatin1StringView label; // empty for none
+};
+
+// A new day writes the status counter's 0 under a key of its own, so the stored one stands until it is next
+// saved.
+constexpr DailyCounter DailyCounters[] = {
+    {"Daily Friends Count", "Daily Friends Count", &RunState::lngDailyFR, "lblFrTotalToday"_L1},
+    {"Daily Messages Count", "Daily Messages Count", &RunState::lngDailyMsg, "lblMsgTotalToday"_L1},
+    {"Daily Comments Count", "Daily Comments Count", &RunState::lngDailyCom, "lblComTotalToday"_L1},
+    {"Daily Bulletins Count", "Daily Bulletins Count", &RunState::lngDailyBul, {}},
+    {"Daily Event Invites Count", "Daily Event Invites Count", &RunState::lngDailyEventInvites, {}},
+    {"Daily Group Invites Count", "Daily Group Invites Count", &RunState::lngDailyGroupInvites, {}},
+    {"Daily Friend Request Accept Count",
+     "Daily Friend Request Accept Count",
+     &RunState::lngDailyAccepted,
+     {}},
+    {"Daily Statuses Count", "Daily Status Updates Count", &RunState::lngDailyStatus, {}},
+};
+
+const QString DayKey = u"Daily Limit - Date"_s;
+
+QString CountersSection(const App& app) {
+    return u"Counters\\"_s + app.state.AccountEmail;
+}
+
+QString DaySection(const App& app) {
+    return u"Daily Tracking\\"_s + app.state.AccountEmail;
+}
+
+void ShowToday(App& app, const DailyCounter& counter) {
+    if (!counter.label.isEmpty())
+        app.controls.SetText(counter.label, u"Total Today: "_s + QString::number(app.state.*counter.count));
+}
+
+} // namespace
+
+void Counters::Restore() {
+    auto log = [this](const QString& mark) { m_app.diagnostics.Debug(u"debuginitial.txt"_s, mark); };
+    log(u"RestAccS1 - STD:"_s);
+    const std::optional<QDate> today = m_app.productServer->GetServerDate();
+    const QString stored = m_app.platform.Settings().GetSetting(DaySection(m_app), DayKey, {});
+    const std::optional<QDate> storedDay = ParseDate(stored);
+    log(u"RestAccS4.1"_s);
+    if (today && storedDay && *storedDay < *today)
+        Clear();
+    else
+        Read();
+    log(u"RestAccS5"_s);
+    if (today) {
+        m_app.platform.Settings().SaveSetting(DaySection(m_app), DayKey, today->toString(u"yyyy-MM-dd"_s));
+        m_app.platform.Settings().Sync();
+    }
+    log(u"RestAccS7 - "_s + stored);
+}
+
+void Counters::Clear() {
+    for (const DailyCounter& counter : DailyCounters) {
+        m_app.state.*counter.count = 0;
+        m_app.platform.Settings().SaveSetting(CountersSection(m_app), QString::fromLatin1(counter.resetKey),
+                                              u"0"_s);
+        ShowToday(m_app, counter);
+    }
+}
+
+void Counters::Read() {
+    const SettingsStore& settings = m_app.platform.Settings();
+    for (const DailyCounter& counter : DailyCounters) {
+        const QString value =
+            settings.GetSetting(CountersSection(m_app), QString::fromLatin1(counter.key), u"0"_s);
+        m_app.state.*counter.count = ToLong(value).value_or(0);
+        ShowToday(m_app, counter);
+    }
+}
+
+bool Counters::FriendLimitReached() const {
+    const std::optional<qint32> limit = ToLong(m_app.controls.Text("txtFriendRequestsToSend"_L1));
+    if (!limit)
+        return false;
+    const bool perDay = m_app.controls.Text("cboFRPerDayOrSession"_L1) == u"per day"_s;
+    return (perDay ? m_app.state.lngDailyFR : m_app.state.lngSessionFR) >= *limit;
+}
+
+void Counters::StopAtLimit() {
+    m_app.stopResume->StopAll(u"AFC"_s);
+    if (m_app.state.blnChaining)
+        return;
+    m_app.mainForm->ShowTab(u"Gather ID's"_s);
+    if (!m_app.stopResume->DoFinishedExit())
+        m_app.ShowMessage(u"Your specified limit has been reached"_s);
+}
+
+bool Counters::AddFriendCount() {
+    RunState& state = m_app.state;
+    if (FriendLimitReached()) {
+        StopAtLimit();
+        return false;
+    }
+    const DailyCounter& friends = DailyCounters[0];
+    ++state.lngDailyFR;
+    ShowToday(m_app, friends);
+    m_app.platform.Settings().SaveSetting(CountersSection(m_app), QString::fromLatin1(friends.key),
+                                          QString::number(state.lngDailyFR));
+    m_app.platform.Settings().Sync();
+    ++state.lngSessionFR;
+    m_app.controls.SetText("lblFrSentCount"_L1,
+                           u"Friends Requested: "_s + QString::number(state.lngSessionFR));
+    return true;
+}
+
+} // namespace qlm

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "campaigns/LogDialog.h"
+
+#include "campaigns/Campaigns.h"
+#include "campaigns/SentLog.h"
+#include "core/App.h"
+
+#include <QFileInfo>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+const QString TextFiles = u"Text files (txt)|*.txt;|All files (*.*)|*.*"_s;
+constexpr int LocalApplicationData = 28;
+} // namespace
+
+LogDialog::LogDialog(App& app) : m_app(app) {
+    auto add = [this](const QString& button, const char* name, void (LogDialog::*handler)()) {
+        m_app.commands.Add(u"frmLog."_s + button + u"_Click"_s, [this, name, handler] {
+            m_app.diagnostics.Trap(name, [this, handler] { (this->*handler)(); });
+        });
+    };
+    add(u"cmdClearLog"_s, "cmdClearLog_Click", &LogDialog::cmdClearLog_Click);
+    add(u"cmdEditLog"_s, "cmdEditLog_Click", &LogDialog::cmdEditLog_Click);
+    add(u"cmdExportLog"_s, "cmdExportLog_Click", &LogDialog::cmdExportLog_Click);
+    add(u"cmdImportLog"_s, "cmdImportLog_Click", &LogDialog::cmdImportLog_Click);
+    app.commands.Add(u"frmLog.cmdClose_Click"_s, [this] { m_app.platform.Dialogs().CloseForm(u"frmLog"_s); });
+}
+
+void LogDialog::Show(const QString& action) {
+    const Campaign* campaign = FindCampaign(action);
+    if (!campaign)
+        return;
+    m_path = m_app.sentLog->PathFor(action);
+    m_app.files.CreateFolder(QFileInfo(m_path).absolutePath());
+    m_app.controls.SetText("frmLog.lblHeading"_L1, u"The log file keeps a record of everyone you have "_s +
+                                                       QString::fromLatin1(campaign->whatLogRecords) +
+                                                       u", and prevents duplicates from being sent."_s);
+    m_app.platform.Dialogs().ShowModal(u"frmLog"_s);
+}
+
+void LogDialog::cmdClearLog_Click() {
+    if (!m_app.AskYesNo(u"Are you sure you want to clear this file?"_s))
+        return;
+    m_app.files.DeleteFile(m_path);
+    m_app.ShowMessage(u"Log cleared"_s);
+}
+
+// A system that redirects the writes of old programs keeps the file in a copy of the installation folder.
+QString LogDialog::ShownPath() const {
+    const QString redirected = FileSystem::Join(m_app.platform.SpecialFolderPath(LocalApplicationData),
+                                                u"VirtualStore\\Program Files\\Quillmere"_s);
+    const QString& folder = m_app.state.ProgramFolder;
+    if (!m_app.files.FolderExists(redirected) || !m_path.startsWith(folder))
+        return m_path;
+    return FileSystem::Join(redirected, m_path.mid(folder.size()));
+}
+
+void LogDialog::cmdEditLog_Click() {
+    m_app.files.EnsureFile(m_path);
+    m_app.platform.Shell().OpenFile(ShownPath());
+}
+
+void LogDialog::cmdExportLog_Click() {
+    const QString chosen = m_app.platform.Dialogs().ChooseFileToSave(u"Export Log"_s, {}, TextFiles);
+    if (chosen.isEmpty())
+        return;
+    m_app.files.EnsureFile(m_path);
+    m_app.files.CopyFile(m_path, chosen);
+}
+
+void LogDialog::cmdImportLog_Click() {
+    const QString chosen = m_app.platform.Dialogs().ChooseFileToOpen(u"Import Log"_s, TextFiles);
+    if (!chosen.isEmpty())
+        m_app.files.CopyFile(chosen, m_path);
+}
+
+} // namespace qlm

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace qlm {
+
+class App;
+
+// frmLog: what can be done with the log of a campaign.
+class LogDialog {
+public:
+    explicit LogDialog(App& app);
+
+    // action is the campaign's word.
+    void Show(const QString& action);
+
+private:
+    void cmdClearLog_Click();
+    void cmdEditLog_Click();
+    void cmdExportLog_Click();
+    void cmdImportLog_Click();
+    QString ShownPath() const;
+
+    App& m_app;
+    QString m_path;
+};
+
+} // namespace qlm

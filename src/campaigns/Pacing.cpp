@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "campaigns/Pacing.h"
+
+#include "core/App.h"
+#include "core/StopResume.h"
+#include "core/Text.h"
+
+#include <QUrl>
+#include <cmath>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+qint32 RandomBetween(App& app, qint32 upper, qint32 lower) {
+    const double span = static_cast<double>(upper) - lower + 1;
+    return static_cast<qint32>(std::nearbyint(app.platform.Random().Next() * span + lower));
+}
+
+Pacing::Pacing(App& app) : m_app(app), m_dialog(app) {
+    app.commands.Add(u"mnuTimeDelay_Click"_s, [this] {
+        m_dialog.Show();
+        ReadBounds();
+        UpdateTimeDelayLabel();
+    });
+}
+
+void Pacing::ReadBounds() {
+    const SettingsStore& settings = m_app.platform.Settings();
+    auto seconds = [&settings](const QString& key) {
+        return ToLong(settings.GetSetting(u"General"_s, key, u"0"_s)).value_or(0);
+    };
+    m_app.state.lngTimeDelayFrom = seconds(u"TimeDelayFrom"_s);
+    m_app.state.lngTimeDelayTo = seconds(u"TimeDelayTo"_s);
+}
+
+void Pacing::UpdateTimeDelayLabel() {
+    const bool on = m_app.state.lngTimeDelayFrom != 0 || m_app.state.lngTimeDelayTo != 0;
+    m_app.controls.SetText("lblTimeDelay"_L1, on ? u"Time Delay: ON"_s : u"Time Delay: OFF"_s);
+}
+
+void Pacing::DoDelay() {
+    RunState& state = m_app.state;
+    const QString action = state.CurrentAction;
+    m_app.diagnostics.Trap("DoDelay", [this, &state] {
+        state.blnInDelay = true;
+        m_app.diagnostics.DebugForAction(u"Delay start - "_s + QString::number(state.lngTimeDelayFrom) +
+                                         u", "_s + QString::number(state.lngTimeDelayTo));
+        if (state.lngTimeDelayFrom != 0 || state.lngTimeDelayTo != 0)
+            WaitCovered();
+    });
+    // The hold that a stop has set is the last word.
+    if (state.CurrentAction == action)
+        m_app.stopResume->ResumeLinkCheck();
+    UpdateTimeDelayLabel();
+    m_app.diagnostics.DebugForAction(u"Delay finished"_s);
+    state.blnInDelay = false;
+}
+
+void Pacing::WaitCovered() {
+    const RunState& state = m_app.state;
+    m_app.stopResume->PauseLinkCheck();
+    ShowCover();
+    m_app.SetStatus(m_app.Status() + u"... time delay active."_s);
+    CountDown(RandomBetween(m_app, state.lngTimeDelayTo - 1, state.lngTimeDelayFrom) + qint64(1));
+}
+
+void Pacing::CountDown(qint64 lengthSeconds) {
+    const RunState& state = m_app.state;
+    const QString action = state.CurrentAction;
+    const qint64 startMs = m_app.Pump().NowMs();
+    qint64 shown = -1;
+    qint64 remaining = lengthSeconds;
+    do {
+        m_app.waiting.Turn();
+        remaining = lengthSeconds - m_app.waiting.SecondsSince(startMs);
+        if (remaining != shown && remaining >= 0)
+            m_app.controls.SetText("lblTimeDelay"_L1, u"Time Delay: "_s + LeadingZero(remaining / 60) + u':' +
+                                                          LeadingZero(remaining % 60));
+        shown = remaining;
+    } while (remaining >= 1 && state.blnInDelay && state.CurrentAction == action);
+}
+
+void Pacing::ShowCover() {
+    const QString name = u"timedelay.htm"_s;
+    BrowserControl& cover = m_app.webHide();
+    if (!cover.LocationURL().contains(name)) {
+        cover.Navigate(QUrl::fromLocalFile(m_app.InstalledFile(name)).toString());
+    }
+    cover.ZOrder(0);
+}
+
+void Pacing::HideCover() {
+    m_app.webHide().ZOrder(1);
+}
+
+} // namespace qlm

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include "browser/PageTests.h"
+#include "campaigns/CaptchaCalls.h"
+#include "campaigns/Counters.h"
+#include "campaigns/FriendRequester.h"
+#include "campaigns/Pacing.h"
+#include "campaigns/SentLog.h"
+#include "core/App.h"
+#include "core/StopResume.h"
+#include "gather/GatheredList.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int UnknownPageSeconds = 2;
+constexpr int SettledPageSeconds = 1;
+constexpr int SkippedCaptchasInARow = 3;
+const QString WrongAnswer = u"Security code does not match"_s;
+} // namespace
+
+FriendRequester::Next FriendRequester::SubmitFriend() {
+    RunState& state = m_app.state;
+    PageTests& page = *m_app.pageTests;
+    const qint32 target = state.lngTargetNumber;
+    page.WaitForDocument();
+    if (!IsCurrent(target))
+        return Next::Wait;
+    const bool captcha = page.IsCaptchaPage();
+    if (captcha && !state.blnWaitingForCaptcha) {
+        if (MayPutTargetOff())
+            return PutTargetOff(target);
+        state.intCaptchaSkips = 0;
+        m_app.captchaCalls->CallUser();
+    } else if (page.IsRequestSentPage()) {
+        if (!RequestWasSent())
+            return Next::Wait;
+    } else if (captcha) {
+        // The site has refused the answer; the user is there already.
+        m_app.captchaCalls->FocusAnswerField();
+    } else {
+        return LookAgain(target);
+    }
+    return IsCurrent(target) ? GoOnBehindSubmit(target) : Next::Wait;
+}
+
+// False when the limit has stopped the run instead.
+bool FriendRequester::RequestWasSent() {
+    RunState& state = m_app.state;
+    m_app.pacing->HideCover();
+    state.intFRLimitHits = 0;
+    state.blnDailyLimitHit = false;
+    state.intCaptchaSkips = 0;
+    m_app.timers->tmrAutoResume.SetEnabled(false);
+    state.blnWaitingForCaptcha = false;
+    if (!m_app.counters->AddFriendCount())
+        return false;
+    state.intFRStep = 9;
+    m_app.sentLog->WriteLogEntry();
+    return true;
+}
+
+// Neither a confirmation nor a CAPTCHA: the page may still be building.
+FriendRequester::Next FriendRequester::LookAgain(qint32 target) {
+    m_app.diagnostics.DebugForAction(m_app.WebBrowser1().Document().BodyHTML());
+    m_app.waiting.WaitSeconds(UnknownPageSeconds);
+    if (IsCurrent(target)) {
+        m_app.state.blnLinkFound = false;
+        m_app.timers->tmrCheckLinkLoaded.Restart();
+    }
+    return Next::Wait;
+}
+
+FriendRequester::Next FriendRequester::GoOnBehindSubmit(qint32 target) {
+    const RunState& state = m_app.state;
+    if (state.blnNewLayout)
+        return state.blnWaitingForCaptcha ? WaitForAnswer(target) : Next::Again;
+    if (state.blnHoldLinkCheck)
+        return Next::Wait;
+    if (!state.blnWaitingForCaptcha)
+        m_app.SetStatus(u"Friend request submitted, waiting for confirmation page..."_s);
+    Await(u"Text"_s, u"has been sent"_s);
+    m_app.timers->tmrCheckLinkLoaded.Restart();
+    return Next::Wait;
+}
+
+// Counts the CAPTCHA as one more in a row; two are put off, the third is the user's.
+bool FriendRequester::MayPutTargetOff() {
+    if (!m_app.controls.Ticked("mnuSkipProfileCAPTCHAs"_L1) ||
+        m_app.controls.Items("lstFriendIDs"_L1).size() < 2)
+        return false;
+    return ++m_app.state.intCaptchaSkips < SkippedCaptchasInARow;
+}
+
+FriendRequester::Next FriendRequester::PutTargetOff(qint32 target) {
+    RunState& state = m_app.state;
+    MoveTargetToEnd();
+    m_movedToEnd = true;
+    m_app.webHide().Navigate(u"about:blank"_s);
+    m_app.pacing->HideCover();
+    m_app.ClearPage();
+    if (!IsCurrent(target))
+        return Next::Wait;
+    if (m_app.controls.Ticked("chkFrSendMessage"_L1))
+        state.blnFRSkipMessage = true;
+    state.blnSkipRequested = true;
+    state.intFRStep = 9;
+    m_app.stopResume->ResumeNext();
+    return Next::Wait;
+}
+
+// With chkRemoveAfterSent ticked the after-send step takes the entry off the head.
+void FriendRequester::MoveTargetToEnd() {
+    RunState& state = m_app.state;
+    const QString caller = u"SubmitFriend"_s;
+    const qint32 place = state.intCurrentIDIndex - 1;
+    if (!m_app.controls.Ticked("chkRemoveAfterSent"_L1) &&
+        state.arrFriendIDs.value(place) == state.strCurrentID) {
+        const qsizetype before = state.arrFriendIDs.size();
+        m_app.gatheredList->ProcessArrayAndList(u"REMOVE"_s, place, {}, caller);
+        // An entry beyond the view of the list stays where it is, behind the cursor.
+        if (state.arrFriendIDs.size() < before)
+            state.intCurrentIDIndex = place;
+    }
+    m_app.gatheredList->ProcessArrayAndList(u"ADD"_s, 0, state.strCurrentID, caller);
+}
+
+FriendRequester::Next FriendRequester::WaitForAnswer(qint32 target) {
+    RunState& state = m_app.state;
+    PageTests& page = *m_app.pageTests;
+    auto goesOn = [this, target, &state] { return IsCurrent(target) && !state.blnHoldLinkCheck; };
+    m_app.waiting.WaitWhile([&] { return goesOn() && page.IsCaptchaPage(); }, 0);
+    m_app.waiting.WaitWhile(
+        [&] { return goesOn() && m_app.WebBrowser1().ReadyState() != 4 && !page.IsTextInPage(WrongAnswer); },
+        0);
+    m_app.waiting.WaitSeconds(SettledPageSeconds);
+    if (!IsCurrent(target))
+        return Next::Wait;
+    if (state.blnHoldLinkCheck) {
+        m_app.timers->tmrCheckLinkLoaded.Restart();
+        return Next::Wait;
+    }
+    if (!page.IsTextInPage(WrongAnswer))
+        return Next::Again;
+    Await(u"TextHTML"_s, u"addFrdBtn"_s);
+    m_app.ClearPage();
+    if (!IsCurrent(target))
+        return Next::Wait;
+    m_app.WebBrowser1().Navigate(m_app.Expand(u"{SiteRootHost}/my/friends/addtofriends/"_s) +
+                                 state.strCurrentID);
+    state.blnLinkFound = false;
+    m_app.timers->tmrCheckLinkLoaded.Restart();
+    return Next::Wait;
+}
+
+} // namespace qlm

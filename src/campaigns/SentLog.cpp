@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "campaigns/SentLog.h"
+
+#include "campaigns/Campaigns.h"
+#include "core/AnsiText.h"
+#include "core/App.h"
+#include "core/SettingsFields.h"
+#include "core/StopResume.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+const Campaign* FindCampaign(const QString& word) {
+    static const Campaign campaigns[] = {
+        {"FR"_L1, "friend requests", "FriendsLog.txt", "IAF", "sent friend requests to"},
+        {"MSG"_L1, "messages", "MessagesLog.txt", "ISM", "sent messages to"},
+        {"COM"_L1, "comments", "CommentsLog.txt", "ISC", "sent comments to"},
+    };
+    for (const Campaign& campaign : campaigns)
+        if (word == campaign.word)
+            return &campaign;
+    return nullptr;
+}
+
+QString SentLog::PathFor(const QString& action) {
+    const Campaign* campaign = FindCampaign(action);
+    if (!campaign)
+        return {};
+    const QString folder =
+        FileSystem::Join(m_app.state.ProgramFolder, m_app.settingsFields->AccountDataPath(u"Log"_s));
+    return FileSystem::Join(folder, QString::fromLatin1(campaign->logFile));
+}
+
+bool SentLog::IsInFile(const QString& path, const QString& id) {
+    m_app.files.EnsureFile(path);
+    const QByteArray wanted = ToAnsi(id.trimmed());
+    bool found = false;
+    m_app.files.ForEachLine(path, [&](QByteArrayView line) {
+        found = line.trimmed() == wanted;
+        return !found;
+    });
+    return found;
+}
+
+bool SentLog::LogEntryExists(const QString& id, bool noPause, bool force) {
+    if (!m_app.state.blnCheckLog && !force)
+        return false;
+    if (!noPause)
+        m_app.stopResume->PauseLinkCheck();
+    bool found = false;
+    m_app.diagnostics.Trap("LogEntryExists", [&] {
+        const QString path = PathFor(m_app.state.CurrentAction);
+        found = !path.isEmpty() && IsInFile(path, id);
+    });
+    if (!noPause)
+        m_app.stopResume->ResumeLinkCheck();
+    return found;
+}
+
+void SentLog::WriteLogEntry() {
+    m_app.diagnostics.Trap("WriteLogEntry", [this] {
+        if (const QString path = PathFor(m_app.state.CurrentAction); !path.isEmpty())
+            m_app.files.AppendLine(path, m_app.state.strCurrentID);
+    });
+}
+
+} // namespace qlm

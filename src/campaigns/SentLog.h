@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace qlm {
+
+class App;
+
+// Who has been contacted: plain text, one ID a line, a file for each campaign, in the order sent. Nothing is
+// cached, so that clearing a log takes effect at the next target. A log that can't be opened counts as empty
+// and loses the entry; the error is reported and the run goes on.
+class SentLog {
+public:
+    explicit SentLog(App& app) : m_app(app) {}
+
+    // Path of the log of that activity; empty for one that has none.
+    QString PathFor(const QString& action);
+    // Looks in the log of CurrentAction, when blnCheckLog or force says so. The page check rests meanwhile
+    // unless noPause.
+    bool LogEntryExists(const QString& id, bool noPause = false, bool force = false);
+    // Appends strCurrentID to the log of CurrentAction.
+    void WriteLogEntry();
+
+private:
+    bool IsInFile(const QString& path, const QString& id);
+
+    App& m_app;
+};
+
+} // namespace qlm

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "campaigns/TimeDelayDialog.h"
+
+#include "core/App.h"
+#include "core/Text.h"
+
+#include <limits>
+#include <stdexcept>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct DelayField {
+    QLatin1StringView name;
+    QString key;
+};
+
+constexpr auto FromMinutes = "frmTimeDelay.txtMinutes"_L1;
+constexpr auto FromSeconds = "frmTimeDelay.txtSeconds"_L1;
+constexpr auto ToMinutes = "frmTimeDelay.txtMinutes2"_L1;
+constexpr auto ToSeconds = "frmTimeDelay.txtSeconds2"_L1;
+
+const std::vector<DelayField>& DelayFields() {
+    static const std::vector<DelayField> fields{
+        {FromMinutes, u"txtTimeDelayMinutes"_s},
+        {FromSeconds, u"txtTimeDelaySeconds"_s},
+        {ToMinutes, u"txtTimeDelayMinutes2"_s},
+        {ToSeconds, u"txtTimeDelaySeconds2"_s},
+    };
+    return fields;
+}
+
+qint16 InInteger(qint64 value) {
+    if (value < std::numeric_limits<qint16>::min() || value > std::numeric_limits<qint16>::max())
+        throw std::overflow_error("Overflow");
+    return static_cast<qint16>(value);
+}
+
+qint16 ToInteger(const QString& text) {
+    if (!IsNumeric(text))
+        throw std::invalid_argument("Type mismatch");
+    // A number beyond 32 bits is beyond 16 bits too.
+    return InInteger(ToLong(text).value_or(std::numeric_limits<qint32>::max()));
+}
+
+} // namespace
+
+qint16 SecondsInInteger(const QString& minutes, const QString& seconds) {
+    return InInteger(InInteger(ToInteger(minutes) * 60) + ToInteger(seconds));
+}
+
+TimeDelayDialog::TimeDelayDialog(App& app) : m_app(app) {
+    app.commands.Add(u"frmTimeDelay.cmdOK_Click"_s, [this] { cmdOK_Click(); });
+    app.commands.Add(u"frmTimeDelay.cmdCancel_Click"_s,
+                     [this] { m_app.platform.Dialogs().CloseForm(u"frmTimeDelay"_s); });
+    app.commands.Add(u"frmTimeDelay.txtMinutes_LostFocus"_s, [this] { KeepNumeric(FromMinutes); });
+    app.commands.Add(u"frmTimeDelay.txtSeconds_LostFocus"_s, [this] { KeepNumeric(FromSeconds); });
+}
+
+void TimeDelayDialog::Show() {
+    m_app.diagnostics.Trap("Form_Load - frmTimeDelay", [this] { LoadFields(); });
+    m_app.platform.Dialogs().ShowModal(u"frmTimeDelay"_s);
+}
+
+void TimeDelayDialog::LoadFields() {
+    Controls& controls = m_app.controls;
+    for (const DelayField& field : DelayFields())
+        controls.SetText(field.name,
+                         m_app.platform.Settings().GetSetting(u"Field Entries"_s, field.key, u"0"_s));
+    if (controls.Text(ToMinutes) == u"0"_s && controls.Text(ToSeconds) == u"0"_s) {
+        controls.SetText(ToMinutes, controls.Text(FromMinutes));
+        controls.SetText(ToSeconds, controls.Text(FromSeconds));
+    }
+}
+
+void TimeDelayDialog::KeepNumeric(QLatin1StringView field) {
+    if (!IsNumeric(m_app.controls.Text(field)))
+        m_app.controls.SetText(field, u"0"_s);
+}
+
+qint16 TimeDelayDialog::Seconds(QLatin1StringView minutesField, QLatin1StringView secondsField) const {
+    return SecondsInInteger(m_app.controls.Text(minutesField), m_app.controls.Text(secondsField));
+}
+
+void TimeDelayDialog::cmdOK_Click() {
+    m_app.diagnostics.Trap("cmdOK_Click - frmTimeDelay", [this] {
+        // The Enter key presses OK without the field losing the focus.
+        KeepNumeric(FromMinutes);
+        KeepNumeric(FromSeconds);
+        const qint16 from = Seconds(FromMinutes, FromSeconds);
+        const qint16 to = Seconds(ToMinutes, ToSeconds);
+        if (to < from) {
+            m_app.ShowMessage(u"The second time value is smaller than the first"_s);
+            return;
+        }
+        Save(from, to);
+        m_app.platform.Dialogs().CloseForm(u"frmTimeDelay"_s);
+    });
+}
+
+void TimeDelayDialog::Save(qint16 from, qint16 to) {
+    SettingsStore& settings = m_app.platform.Settings();
+    settings.SaveSetting(u"General"_s, u"TimeDelayFrom"_s, QString::number(from));
+    settings.SaveSetting(u"General"_s, u"TimeDelayTo"_s, QString::number(to));
+    for (const DelayField& field : DelayFields())
+        settings.SaveSetting(u"Field Entries"_s, field.key, m_app.controls.Text(field.name));
+    settings.Sync();
+}
+
+} // namespace qlm

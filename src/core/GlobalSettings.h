@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace qlm {
+
+class App;
+
+// frmGlobalSettings, which says what all accounts share, and the two ways of starting over with no settings at
+// all.
+class GlobalSettings {
+public:
+    explicit GlobalSettings(App& app);
+
+private:
+    void mnuGlobalSettings_Click();
+    void cmdClose_Click();
+    void cmdResetAll_Click();
+    void mnuResetSettings_Click();
+
+    App& m_app;
+};
+
+} // namespace qlm

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "gather/BlackList.h"
+
+#include "core/App.h"
+#include "core/StopResume.h"
+#include "gather/GatherDriver.h"
+#include "gather/GatheredList.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+BlackList::BlackList(App& app) : m_app(app) {
+    app.commands.Add(u"picRemoveFriends_Click"_s, [this] { picRemoveFriends_Click(); });
+}
+
+QString BlackList::Path() const {
+    return m_app.ProgramFile(u"blacklistedids.txt"_s);
+}
+
+void BlackList::FillArrayFromFile(const QString& arrayName, const QString& path) {
+    if (path.isEmpty())
+        return;
+    m_app.diagnostics.Trap("FillArrayFromFile", [&] {
+        m_app.files.EnsureFile(path);
+        QStringList ids;
+        for (const QString& line : m_app.files.ReadLines(path)) {
+            m_app.waiting.Pump();
+            if (const QString id = line.trimmed(); !id.isEmpty())
+                ids.append(id);
+        }
+        if (ids.isEmpty())
+            ids.append(QString());
+        if (arrayName == u"arrBlacklistIDs"_s)
+            m_app.state.arrBlacklistIDs = ids;
+    });
+}
+
+void BlackList::picRemoveFriends_Click() {
+    m_app.diagnostics.Trap("picRemoveFriends_Click", [this] {
+        RunState& state = m_app.state;
+        if (m_app.gatherDriver->RefuseDuringLogin())
+            return;
+        m_app.diagnostics.Debug(u"debuggather.txt"_s, u"REMOVE FRIENDS START"_s, true);
+        m_app.stopResume->StopAll(u"REMFR"_s);
+        m_app.SetStatus(u"Waiting for friends page to load..."_s);
+        m_app.ClearPage();
+        m_app.WebBrowser1().Navigate(
+            m_app.Expand(u"http://{FriendsHost}/index.cfm?fuseaction=user.viewfriends&friendID="_s) +
+            state.MyProfileID);
+        m_app.controls.SetTicked("optScanFollowing"_L1, true);
+        state.blnComparingIDs = true;
+        m_app.gatheredList->SetScannedLabel();
+        state.CurrentAction = u"SCANNING"_s;
+        state.blnHoldLinkCheck = false;
+        state.intGatherStep = 3;
+        if (state.blnNewLayout) {
+            m_app.gatherDriver->IterateGatherProfiles();
+            return;
+        }
+        state.strLinkType = u"ID"_s;
+        state.strLinkValue = u"ListOfIDs"_s;
+        m_app.timers->tmrCheckLinkLoaded.Restart();
+    });
+}
+
+} // namespace qlm

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "core/App.h"
+#include "core/Text.h"
+#include "gather/GatherDriver.h"
+#include "gather/IdResolution.h"
+
+#include <vector>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// A prompt and the key of section "General" under which its "Don't show again" is kept.
+struct Prompt {
+    QLatin1StringView form;
+    QLatin1StringView box;
+    const char* key;
+};
+
+const std::vector<Prompt>& Prompts() {
+    static const std::vector<Prompt> prompts{
+        {"frmGroupGatherPrompt"_L1, "frmGroupGatherPrompt.chkDontShowAgain"_L1, "GroupGatherPrompt"},
+        {"frmMusicSearchGatherPrompt"_L1, "frmMusicSearchGatherPrompt.chkDontShowAgain"_L1,
+         "MusicSearchGatherPrompt"},
+        {"frmFullGatherReminder"_L1, "frmFullGatherReminder.chkDontShowAgain"_L1,
+         "FullGatherReminder - chkDontShowAgain"},
+    };
+    return prompts;
+}
+
+const Prompt& PromptOf(const QString& form) {
+    const auto& prompts = Prompts();
+    return *std::find_if(prompts.begin(), prompts.end(),
+                         [&](const Prompt& prompt) { return form == prompt.form; });
+}
+
+} // namespace
+
+void GatherDriver::RegisterButtons() {
+    Commands& commands = m_app.commands;
+    commands.Add(u"piccmdFrGotoBrowse_Click"_s, [this] { GotoBrowse(); });
+    commands.Add(u"piccmdFrGotoFriends_Click"_s,
+                 [this] { GotoProfilePage("piccmdFrGotoFriends_Click", u"/friends"_s); });
+    commands.Add(u"piccmdFrGotoComments_Click"_s,
+                 [this] { GotoProfilePage("piccmdFrGotoComments_Click", u"/comments"_s); });
+    commands.Add(u"lblFullGatherHelp_Click"_s,
+                 [this] { m_app.platform.Dialogs().ShowModal(u"frmFullGatherHelp"_s); });
+    commands.Add(u"frmFullGatherHelp.cmdClose_Click"_s,
+                 [this] { m_app.platform.Dialogs().CloseForm(u"frmFullGatherHelp"_s); });
+    for (const Prompt& prompt : Prompts())
+        commands.Add(prompt.form + u".cmdOK_Click"_s,
+                     [this, form = QString(prompt.form)] { ClosePrompt(form); });
+}
+
+bool GatherDriver::RefuseDuringLogin() {
+    const bool refuse = m_app.state.CurrentAction == u"LOGIN"_s && m_app.state.blnWaitForLoginFirst;
+    if (refuse)
+        m_app.ShowMessage(u"Please wait for the login process to finish"_s);
+    return refuse;
+}
+
+bool GatherDriver::ShowPrompt(const QString& form) {
+    const Prompt& prompt = PromptOf(form);
+    const QString stored =
+        m_app.platform.Settings().GetSetting(u"General"_s, QString::fromLatin1(prompt.key), u"0"_s);
+    if (stored != u"0"_s)
+        return false;
+    m_app.controls.SetTicked(prompt.box, false);
+    m_app.platform.Dialogs().ShowModal(form);
+    return true;
+}
+
+void GatherDriver::ClosePrompt(const QString& form) {
+    m_app.diagnostics.Trap("cmdOK_Click", [&] {
+        const Prompt& prompt = PromptOf(form);
+        m_app.platform.Settings().SaveSetting(u"General"_s, QString::fromLatin1(prompt.key),
+                                              m_app.controls.Ticked(prompt.box) ? u"1"_s : u"0"_s);
+        m_app.platform.Dialogs().CloseForm(form);
+    });
+}
+
+void GatherDriver::GotoBrowse() {
+    Diagnostics::Guard(
+        [this] {
+            if (RefuseDuringLogin())
+                return;
+            m_app.webHide().ZOrder(1);
+            m_app.WebBrowser1().Stop();
+            m_app.waiting.Pump();
+            m_app.waiting.Pump();
+            m_app.WebBrowser1().Navigate(m_app.Expand(u"http://{SiteRootHost}/browse/people"_s));
+            m_app.controls.SetTicked("optScanFollowing"_L1, true);
+        },
+        [this](const QString&) {
+            m_app.ShowMessage(
+                u"An Internet Explorer-related error has occurred while trying to navigate to the browse "
+                "page. Restarting Quillmere should fix this problem."_s);
+        });
+}
+
+void GatherDriver::GotoProfilePage(const char* procedure, const QString& page) {
+    m_app.diagnostics.Trap(procedure, [&] {
+        if (RefuseDuringLogin())
+            return;
+        const QString id = m_app.idResolution->GetDisplayFriendID(u"WebBrowser1"_s, {});
+        if (!IsNumeric(id)) {
+            m_app.ShowMessage(
+                u"Please make sure you are on this profiles main page, wait for it to load and try again."_s);
+            return;
+        }
+        m_app.WebBrowser1().Navigate(m_app.Expand(u"http://{SiteRootHost}/"_s) + id + page);
+        m_app.controls.SetTicked("optScanFollowing"_L1, true);
+    });
+}
+
+} // namespace qlm

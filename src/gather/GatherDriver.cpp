@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: MIT
+#include "gather/GatherDriver.h"
+
+#include "browser/PageTests.h"
+#include "core/App.h"
+#include "core/StopResume.h"
+#include "core/Text.h"
+#include "gather/GatheredList.h"
+#include "gather/LinkScanner.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr qint16 StepScan = 3;
+constexpr qint16 StepTurn = 4;
+constexpr int SecondsBeforeRetry = 5;
+} // namespace
+
+GatherDriver::GatherDriver(App& app) : m_app(app) {
+    app.commands.Add(u"picScanStart_Click"_s, [this] { picScanStart_Click(); });
+    app.commands.Add(u"picScanStop_Click"_s, [this] { picScanStop_Click(); });
+    RegisterButtons();
+}
+
+void GatherDriver::Trace(const QString& text) {
+    m_app.diagnostics.Debug(u"debuggather.txt"_s, text);
+}
+
+bool GatherDriver::Goes(int entry) const {
+    return m_app.state.CurrentAction == u"SCANNING"_s && entry == m_lastEntry;
+}
+
+QString GatherDriver::OptionsTrace() const {
+    const Controls& controls = m_app.controls;
+    return FromBoolean(controls.Ticked("optScanCurrentPage"_L1)) + u", Foll: "_s +
+           FromBoolean(controls.Ticked("optScanFollowing"_L1)) + u", FilterGather: "_s +
+           FromBoolean(m_app.state.optFilterWhenGathering) + u", Full-Gather: "_s +
+           FromBoolean(controls.Ticked("optFullGather"_L1)) + u", URL: "_s + m_app.pageTests->LocationURL();
+}
+
+void GatherDriver::picScanStart_Click() {
+    m_app.diagnostics.Trap("picScanStart_Click", [this] {
+        RunState& state = m_app.state;
+        m_app.WebBrowser1().SetSilent(true);
+        m_app.webHide().ZOrder(1);
+        m_app.diagnostics.Debug(u"debuggather.txt"_s, u"START - Curr: "_s + OptionsTrace(), true);
+        if (RefuseDuringLogin() || WarnBeforeStart())
+            return;
+        m_app.stopResume->StopAll(u"GATHERSTART1"_s);
+        m_app.gatheredList->SetScannedLabel();
+        state.CurrentAction = u"SCANNING"_s;
+        state.strNextPageLink.clear();
+        state.lstAlreadyFullGatheredPageIDs.clear();
+        state.blnWaitingForCaptcha = false;
+        state.arrSeenLinks.clear();
+        m_app.timers->tmrCheckLinkLoaded.Restart();
+        state.strLinkType.clear();
+        state.strLinkValue.clear();
+        state.blnLinkFound = false;
+        state.blnHoldLinkCheck = false;
+        state.intGatherStep = StepScan;
+        IterateGatherProfiles();
+    });
+}
+
+// Each of these uses the click up: the user reads it and starts again.
+bool GatherDriver::WarnBeforeStart() {
+    Controls& controls = m_app.controls;
+    PageTests& page = *m_app.pageTests;
+    if (controls.Ticked("optImportClickedProfiles"_L1)) {
+        m_app.ShowMessage(
+            u"When the 'Gather clicked profiles' option is selected, gathering is done by clicking on "
+            "profile links on the page."_s);
+        return true;
+    }
+    if (!controls.Ticked("optScanCurrentPage"_L1) && !controls.Ticked("optScanFollowing"_L1)) {
+        m_app.ShowMessage(u"Please select a scan option."_s);
+        return true;
+    }
+    if (page.AddressContains(u"http://{GroupsHost}/index.cfm?fuseaction=groups.groupprofile"_s) &&
+        ShowPrompt(u"frmGroupGatherPrompt"_s))
+        return true;
+    return page.AddressContains(u"{SiteDomain}/search/music?q="_s) && page.IsTextInPage(u"Artists ("_s) &&
+           page.IsTextInPage(u"Music Videos ("_s) && page.IsTextInPage(u"Albums ("_s) &&
+           page.IsTextInPage(u"Songs ("_s) && ShowPrompt(u"frmMusicSearchGatherPrompt"_s);
+}
+
+void GatherDriver::picScanStop_Click() {
+    m_app.diagnostics.Trap("picScanStop_Click", [this] {
+        if (RefuseDuringLogin())
+            return;
+        m_app.WebBrowser1().SetSilent(true);
+        m_app.stopResume->StopAll(u"GATHERSTOP"_s);
+    });
+}
+
+void GatherDriver::IterateGatherProfiles() {
+    m_app.diagnostics.Trap(
+        "IterateGatherProfiles",
+        [this] {
+            const int entry = ++m_lastEntry;
+            while (RunStep(entry) == Next::GoOn && Goes(entry)) {
+            }
+        },
+        [this] { return m_app.pageTests->LocationURL(); });
+}
+
+GatherDriver::Next GatherDriver::RunStep(int entry) {
+    RunState& state = m_app.state;
+    m_app.WebBrowser1().SetSilent(true);
+    state.strLastPageText.clear();
+    state.strLastPageHref.clear();
+    state.blnLastPageAsHTML = false;
+    Trace(u"IGP - "_s + m_app.NowText());
+    if (state.intGatherStep == StepScan)
+        return ScanPage(entry);
+    return state.intGatherStep == StepTurn ? TurnPage(entry) : Next::Return;
+}
+
+GatherDriver::Next GatherDriver::ScanPage(int entry) {
+    RunState& state = m_app.state;
+    Trace(u"IGP3.1 - Curr: "_s + OptionsTrace());
+    if (!WaitForMailPage(entry))
+        return Next::Return;
+    state.blnCommentFormShown = false;
+    m_app.SetStatus(state.blnComparingIDs ? u"Comparing ID's on the current page to the gathered list..."_s
+                                          : u"Gathering ID's from the current page..."_s);
+    m_app.waiting.Pump();
+    if (!Goes(entry))
+        return Next::Return;
+    // Asked now: a stop clears compare mode.
+    const bool filterPass = FilterPassWanted();
+    m_app.linkScanner->GatherPageProfiles();
+    if (Goes(entry) && state.blnRetryGatherPage) {
+        m_app.waiting.WaitSeconds(SecondsBeforeRetry);
+        if (Goes(entry))
+            m_app.linkScanner->GatherPageProfiles();
+    }
+    if (filterPass && entry == m_lastEntry && state.CurrentAction.isEmpty()) {
+        Trace(u"IGP3.2"_s);
+        m_app.stopResume->StopAll(u"IGP1"_s);
+    }
+    if (!Goes(entry))
+        return Next::Return;
+    state.blnRetryGatherPage = false;
+    m_app.gatheredList->SetScannedLabel();
+    state.intGatherStep = StepTurn;
+    if (FilterPassWanted())
+        return ReturnFromFilterPass();
+    Trace(u"IGP3.4"_s);
+    return Next::GoOn;
+}
+
+bool GatherDriver::WaitForMailPage(int entry) {
+    PageTests& page = *m_app.pageTests;
+    if (!page.AddressContains(u"http://{MessagingHost}/index.cfm?fuseaction=mail."_s) ||
+        page.AddressContains(u"http://{MessagingHost}/index.cfm?fuseaction=mail.notifications"_s) ||
+        page.AddressContains(u"V3"_s))
+        return true;
+    m_app.SetStatus(u"Waiting for the page to finish loading..."_s);
+    Trace(u"IGP - waiting for page"_s);
+    m_app.stopResume->PauseLinkCheck();
+    m_app.waiting.WaitWhile([&] { return Goes(entry) && m_app.WebBrowser1().ReadyState() < 4; }, 0);
+    if (!Goes(entry))
+        return false;
+    m_app.stopResume->ResumeLinkCheck();
+    return true;
+}
+
+bool GatherDriver::FilterPassWanted() const {
+    const RunState& state = m_app.state;
+    const bool noneAsksForAVisit = state.blnFilterTypeOff && state.blnFilterGenderOff &&
+                                   state.blnFilterLocationOff && state.blnFilterAgeOff &&
+                                   (state.blnFilterLastLoginOff || state.optFilterOnlineNow);
+    return state.optFilterWhenGathering && !noneAsksForAVisit && !state.blnComparingIDs;
+}
+
+// The visits have taken the browser away from the page: back to it, and on when its list stands again.
+GatherDriver::Next GatherDriver::ReturnFromFilterPass() {
+    RunState& state = m_app.state;
+    Trace(u"IGP3.3"_s);
+    state.strLinkType = u"ID"_s;
+    state.strLinkValue = u"ListOfIDs"_s;
+    if (m_app.pageTests->LocationURL() != state.strGatherStartURL) {
+        const QString url = state.strGatherStartURL;
+        m_app.ClearPage();
+        if (state.CurrentAction != u"SCANNING"_s)
+            return Next::Return;
+        m_app.WebBrowser1().Navigate(url);
+        m_app.SetStatus(u"Filtering finished... going back to where you were gathering from."_s);
+    }
+    m_app.timers->tmrCheckLinkLoaded.Restart();
+    state.blnLinkFound = false;
+    return Next::Return;
+}
+
+} // namespace qlm

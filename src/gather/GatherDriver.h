@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <functional>
+
+namespace qlm {
+
+class App;
+
+// The state machine of "SCANNING": scan the page, turn to the next, until there is none; and the buttons of
+// the tab.
+class GatherDriver {
+public:
+    explicit GatherDriver(App& app);
+
+    void picScanStart_Click();
+    void picScanStop_Click();
+    // The step routine: 3 scans the page in the browser, 4 turns it. In the new layout it goes on over all
+    // pages by itself; otherwise it returns and the tick enters it again. A later entry takes over from one
+    // that still waits.
+    void IterateGatherProfiles();
+    // True when the filters ask for a visit to each gathered profile.
+    bool FilterPassWanted() const;
+    // The label that names the visible slice of the list in WebBrowser1; "" when there is none.
+    QString GetListingText();
+
+    // Tells the user, while a login runs that has to be waited for.
+    bool RefuseDuringLogin();
+    // Shows one of the prompts with a "Don't show again" box, unless it has been ticked. True when it was
+    // shown.
+    bool ShowPrompt(const QString& form);
+
+private:
+    // What a step answers: whether the next is to follow at once.
+    enum class Next { Return, GoOn };
+
+    Next RunStep(int entry);
+    Next ScanPage(int entry);
+    bool WaitForMailPage(int entry);
+    Next ReturnFromFilterPass();
+    Next TurnPage(int entry);
+    void GrowInPlace(int entry);
+    void FinishGathering();
+    bool OpenNextPage(int entry);
+    bool ClickCaption(int entry);
+    void SetMustNotHaveTexts();
+    QString LastPageMarkup();
+    bool WarnBeforeStart();
+    QString OptionsTrace() const;
+
+    // The waits of WaitPageLoad, by kind of page.
+    void WaitOnPage(const std::function<bool()>& stillWaiting);
+    void WaitPageLoad(int entry, const QString& oldURL);
+    void WaitForAddress(int entry, const QString& oldURL, const QString& markup, bool checkErrors);
+    void WaitForBrowsePage(int entry);
+    void WaitForChart(int entry, const QString& oldURL);
+    void WaitForOtherPage(int entry);
+    bool LastPageStands();
+
+    // False when the run is over or a later entry has taken over.
+    bool Goes(int entry) const;
+    void Trace(const QString& text);
+
+    void RegisterButtons();
+    void GotoBrowse();
+    void GotoProfilePage(const char* procedure, const QString& page);
+    void ClosePrompt(const QString& form);
+
+    App& m_app;
+    int m_lastEntry = 0;
+};
+
+} // namespace qlm

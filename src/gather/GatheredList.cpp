@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "gather/GatheredList.h"
+
+#include "core/App.h"
+#include "core/SettingsFields.h"
+
+#include <QFileInfo>
+#include <QScopeGuard>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+// The box shows the entries 0 to 30000; the array has no limit.
+constexpr qint32 LastShownIndex = 30000;
+} // namespace
+
+bool GatheredList::IsEmpty() const {
+    return UBound() == 0 && m_app.state.arrFriendIDs.first().isEmpty();
+}
+
+qint32 GatheredList::UBound() const {
+    return static_cast<qint32>(m_app.state.arrFriendIDs.size()) - 1;
+}
+
+void GatheredList::ProcessArrayAndList(const QString& action, qint32 index, const QString& id,
+                                       const QString& caller) {
+    m_app.diagnostics.Trap(
+        "ProcessArrayAndList",
+        [&] {
+            if (action == u"REMOVE"_s)
+                Remove(index);
+            else if (action == u"ADD"_s)
+                Add(id);
+            SetScannedLabel();
+        },
+        [&] { return caller; });
+}
+
+void GatheredList::Add(const QString& id) {
+    QStringList& ids = m_app.state.arrFriendIDs;
+    if (ids.first().isEmpty())
+        ids = {id};
+    else
+        ids.append(id);
+    if (UBound() <= LastShownIndex)
+        m_app.controls.AddItem("lstFriendIDs"_L1, id);
+}
+
+// An entry beyond the view can't be removed; a row that goes makes room for the first entry that stood
+// hidden.
+void GatheredList::Remove(qint32 index) {
+    QStringList& ids = m_app.state.arrFriendIDs;
+    const QStringList& rows = m_app.controls.Items("lstFriendIDs"_L1);
+    if (index < 0 || index >= rows.size())
+        return;
+    m_app.controls.RemoveItem("lstFriendIDs"_L1, index);
+    if (rows.size() < UBound())
+        m_app.controls.AddItem("lstFriendIDs"_L1, ids.at(rows.size() + 1));
+    if (UBound() == 0)
+        ids = {QString()};
+    else
+        ids.removeAt(index);
+}
+
+bool GatheredList::IsInList(const QString& id, bool fullGatherList) {
+    if (fullGatherList)
+        return m_app.state.lstAlreadyFullGatheredPageIDs.contains(id);
+    if (m_app.state.CurrentAction == u"ACC"_s)
+        return m_app.controls.Items("lstAcceptIDs"_L1).contains(id);
+    return m_app.state.arrFriendIDs.contains(id);
+}
+
+void GatheredList::SetScannedLabel() {
+    const qint32 count = IsEmpty() ? 0 : UBound() + 1;
+    m_app.controls.SetText("lblProfilesGathered"_L1, u"Profiles Gathered: "_s + QString::number(count));
+}
+
+void GatheredList::ArrayToListBox(const QString& caller) {
+    auto data = [&] {
+        return u"Callingproc: "_s + caller + u", "_s + QString::number(UBound()) + u", "_s +
+               (m_app.controls.Ticked("chkRemoveAfterSent"_L1) ? u"1"_s : u"0"_s);
+    };
+    m_app.diagnostics.Trap(
+        "ArrayToListBox",
+        [this] {
+            m_app.controls.SetItems("lstFriendIDs"_L1, {});
+            // The list may change while the message loop turns.
+            for (qint32 i = 0; i <= UBound() && i <= LastShownIndex; ++i) {
+                m_app.controls.AddItem("lstFriendIDs"_L1, m_app.state.arrFriendIDs.at(i));
+                m_app.waiting.Pump();
+            }
+        },
+        data);
+}
+
+QString GatheredList::ScopedPath() {
+    return m_app.ProgramFile(
+        FileSystem::Join(m_app.settingsFields->AccountDataPath(u"GatheredList"_s), u"Gathered.txt"_s));
+}
+
+void GatheredList::FillScannedList(const QString& path, bool clearFirst, bool checkDuplicates) {
+    m_app.diagnostics.Trap("FillScannedList", [&] {
+        if (path.isEmpty() && !m_app.controls.Ticked("chkSaveScanned"_L1)) {
+            m_app.state.blnFillingList = false;
+            return;
+        }
+        if (clearFirst)
+            Clear();
+        m_app.state.blnFillingList = true;
+        const auto filled = qScopeGuard([this] { m_app.state.blnFillingList = false; });
+        ReadLinesInto(path.isEmpty() ? ScopedPath() : path, checkDuplicates);
+        if (UBound() > 0)
+            ArrayToListBox(u"FillScannedList"_s);
+        SetScannedLabel();
+    });
+}
+
+// Begins at the upper bound, not behind it: the first ID that is read takes the place of the last one there.
+void GatheredList::ReadLinesInto(const QString& path, bool checkDuplicates) {
+    m_app.files.EnsureFile(path);
+    qint32 position = UBound();
+    for (const QString& line : m_app.files.ReadLines(path)) {
+        const QString id = line.trimmed();
+        if (id.isEmpty() || (checkDuplicates && IsInList(id, false)))
+            continue;
+        m_app.state.arrFriendIDs.resize(position + 1);
+        m_app.state.arrFriendIDs[position++] = id;
+        m_app.waiting.Pump();
+        m_app.waiting.Pump();
+    }
+}
+
+void GatheredList::SaveScannedList(const QString& path) {
+    m_app.diagnostics.Trap("SaveScannedList - form1", [&] {
+        m_app.files.CreateFolder(QFileInfo(path).path());
+        m_app.files.WriteLines(path, m_app.state.arrFriendIDs);
+    });
+}
+
+} // namespace qlm

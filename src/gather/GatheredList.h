@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace qlm {
+
+class App;
+
+// The work list: arrFriendIDs is the truth, lstFriendIDs a capped view of it. Every change that keeps the two
+// in step goes through ProcessArrayAndList.
+class GatheredList {
+public:
+    explicit GatheredList(App& app);
+
+    bool IsEmpty() const;
+    // Upper bound of the array: 0 for the empty list too.
+    qint32 UBound() const;
+
+    // action is "ADD" or "REMOVE"; any other word only refreshes the label. caller is a trace word.
+    void ProcessArrayAndList(const QString& action, qint32 index, const QString& id, const QString& caller);
+    // In arrFriendIDs, while accepting friends in lstAcceptIDs; with the flag among the addresses fetched
+    // already.
+    bool IsInList(const QString& id, bool fullGatherList);
+
+    // An empty path means the account's own file, read only while "Save on exit" is ticked.
+    void FillScannedList(const QString& path, bool clearFirst, bool checkDuplicates);
+    void SaveScannedList(const QString& path);
+    void SetScannedLabel();
+    // Fills lstFriendIDs anew from the array, up to the cap, with the message loop turning.
+    void ArrayToListBox(const QString& caller);
+    // Path of "Gathered.txt" in the scope of the account.
+    QString ScopedPath();
+
+    // The buttons, keys and menu of the list. Clear refuses while the list is being filled.
+    void Clear();
+    void Shuffle();
+    void Import();
+    void SaveToFile();
+    void lstFriendIDs_KeyDown(int keyCode);
+    void mnuContextIDsListItem_Click(int row);
+    void GoToIDsPage();
+
+private:
+    void Add(const QString& id);
+    void Remove(qint32 index);
+    void ReadLinesInto(const QString& path, bool checkDuplicates);
+    bool RefuseWhileFilling();
+
+    App& m_app;
+};
+
+// Exact test, as for the black list and the links of a page.
+inline bool IsInArray(const QString& value, const QStringList& array) {
+    return array.contains(value);
+}
+
+} // namespace qlm

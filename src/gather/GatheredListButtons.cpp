@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "core/App.h"
+#include "gather/GatheredList.h"
+
+#include <QScopeGuard>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int DeleteKey = 46;
+const QString TextFilesFilter = u"Text files (txt)|*.txt;|All files (*.*)|*.*"_s;
+// The shapes of the mouse pointer while a long piece of work is done, and at rest.
+const QString WaitPointer = u"11"_s;
+const QString DefaultPointer = u"0"_s;
+
+auto ShowWaitPointer(App& app) {
+    app.controls.SetText("MousePointer"_L1, WaitPointer);
+    return qScopeGuard([&app] { app.controls.SetText("MousePointer"_L1, DefaultPointer); });
+}
+
+} // namespace
+
+GatheredList::GatheredList(App& app) : m_app(app) {
+    Commands& commands = app.commands;
+    commands.Add(u"piccmdClearList_Click"_s, [this] { Clear(); });
+    commands.Add(u"picRandomize_Click"_s, [this] { Shuffle(); });
+    commands.Add(u"picImport_Click"_s, [this] { Import(); });
+    commands.Add(u"picSaveToFile_Click"_s, [this] { SaveToFile(); });
+    commands.Add(u"lstFriendIDs_KeyDown"_s, [this](int keyCode) { lstFriendIDs_KeyDown(keyCode); });
+    commands.Add(u"lstFriendIDs_DblClick"_s, [this] { GoToIDsPage(); });
+    commands.Add(u"mnuContextIDsListItem_Click"_s, [this](int row) { mnuContextIDsListItem_Click(row); });
+}
+
+bool GatheredList::RefuseWhileFilling() {
+    if (m_app.state.blnFillingList)
+        m_app.ShowMessage(
+            u"The ID's list is already being filled, please wait for that process to finish. This may "
+            "take a short while depending on the amount of ID's being imported."_s);
+    return m_app.state.blnFillingList;
+}
+
+void GatheredList::Clear() {
+    m_app.diagnostics.Trap(
+        "piccmdClearList_Click",
+        [this] {
+            if (RefuseWhileFilling())
+                return;
+            m_app.controls.SetItems("lstFriendIDs"_L1, {});
+            m_app.state.arrFriendIDs = {QString()};
+            SetScannedLabel();
+        },
+        [this] { return QString::number(m_app.controls.Items("lstFriendIDs"_L1).size()); });
+}
+
+void GatheredList::Shuffle() {
+    m_app.diagnostics.Trap("picRandomize_Click", [this] {
+        static const QStringList busy{u"FR"_s, u"SCANNING"_s, u"COM"_s, u"MSG"_s};
+        RunState& state = m_app.state;
+        if (RefuseWhileFilling())
+            return;
+        if (busy.contains(state.CurrentAction)) {
+            m_app.ShowMessage(u"You cannot randomize the list of ID's while sending. Please stop the current "
+                              "operation and try again."_s);
+            return;
+        }
+        if (m_app.controls.Items("lstFriendIDs"_L1).isEmpty())
+            return;
+        state.CurrentAction = u"RANDOMIZING"_s;
+        const auto pointer = ShowWaitPointer(m_app);
+        for (qint32 i = UBound(); i > 0; --i) {
+            const auto j = static_cast<qint32>(m_app.platform.Random().Next() * (i + 1));
+            state.arrFriendIDs.swapItemsAt(i, j);
+        }
+        ArrayToListBox(u"Randomize"_s);
+        if (state.CurrentAction == u"RANDOMIZING"_s)
+            state.CurrentAction.clear();
+    });
+}
+
+void GatheredList::Import() {
+    m_app.diagnostics.Trap("picImport_Click", [this] {
+        if (RefuseWhileFilling())
+            return;
+        const QString path = m_app.platform.Dialogs().ChooseFileToOpen({}, TextFilesFilter);
+        if (path.isEmpty())
+            return;
+        const Dialogs::Answer answer =
+            m_app.platform.Dialogs().ShowMessage(u"Do you want Quillmere to check the list for duplicate "
+                                                 u"ID's? This is recommended, but may take a while "
+                                                 "if you are importing a large list."_s,
+                                                 {}, Dialogs::Buttons::YesNoCancel);
+        const auto pointer = ShowWaitPointer(m_app);
+        if (answer == Dialogs::Answer::Yes || answer == Dialogs::Answer::No)
+            FillScannedList(path, false, answer == Dialogs::Answer::Yes);
+    });
+}
+
+void GatheredList::SaveToFile() {
+    m_app.diagnostics.Trap("picSaveToFile_Click", [this] {
+        const QString path = m_app.platform.Dialogs().ChooseFileToSave({}, {}, TextFilesFilter);
+        if (!path.isEmpty())
+            SaveScannedList(path);
+    });
+}
+
+void GatheredList::lstFriendIDs_KeyDown(int keyCode) {
+    m_app.diagnostics.Trap("lstFriendIDs_KeyDown", [&] {
+        const int row = m_app.controls.Selected("lstFriendIDs"_L1);
+        if (keyCode != DeleteKey || m_app.controls.SelectedText("lstFriendIDs"_L1).isEmpty())
+            return;
+        ProcessArrayAndList(u"REMOVE"_s, row, {}, u"lstFriendIDs_KeyDown"_s);
+        const auto rows = static_cast<int>(m_app.controls.Items("lstFriendIDs"_L1).size());
+        m_app.controls.SetSelected("lstFriendIDs"_L1, std::min(row, rows - 1));
+    });
+}
+
+// The rows of the menu; the second is its separator.
+void GatheredList::mnuContextIDsListItem_Click(int row) {
+    switch (row) {
+    case 0:
+        GoToIDsPage();
+        break;
+    case 2:
+        lstFriendIDs_KeyDown(DeleteKey);
+        break;
+    case 3:
+        SaveToFile();
+        break;
+    case 4:
+        Import();
+        break;
+    default:
+        break;
+    }
+}
+
+void GatheredList::GoToIDsPage() {
+    m_app.diagnostics.Trap("GoToIDsPage", [this] {
+        m_app.WebBrowser1().SetSilent(true);
+        if (!m_app.state.CurrentAction.isEmpty()) {
+            m_app.ShowMessage(u"Please stop all other operations first"_s);
+            return;
+        }
+        const QString id = m_app.controls.SelectedText("lstFriendIDs"_L1);
+        if (!id.isEmpty())
+            m_app.WebBrowser1().Navigate(m_app.Expand(u"http://{SiteRootHost}/"_s) + id);
+    });
+}
+
+} // namespace qlm

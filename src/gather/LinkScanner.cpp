@@ -1,0 +1,276 @@
+// SPDX-License-Identifier: MIT
+#include "gather/LinkScanner.h"
+
+#include "browser/PageTests.h"
+#include "core/App.h"
+#include "core/StopResume.h"
+#include "core/Text.h"
+#include "gather/GatherDriver.h"
+#include "gather/GatheredList.h"
+#include "gather/IdResolution.h"
+#include "gather/Pager.h"
+#include "gather/ProfileFilters.h"
+#include "gather/ProfileLinkRules.h"
+#include "gather/ProfileLinks.h"
+
+#include <QScopeGuard>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int SecondsForFirstPage = 5;
+constexpr qsizetype RememberedPages = 1000;
+} // namespace
+
+bool IsCommentsOrNotificationsAddress(const QString& address) {
+    return address.endsWith(u"/comments"_s, Qt::CaseInsensitive) ||
+           address.endsWith(u"/notifications"_s, Qt::CaseInsensitive);
+}
+
+bool LinkScanner::IsCommentsOrNotificationsPage() {
+    return IsCommentsOrNotificationsAddress(m_app.pageTests->LocationURL());
+}
+
+void LinkScanner::Trace(const QString& text) {
+    m_app.diagnostics.Debug(u"debuggather.txt"_s, text);
+}
+
+// A later pass, begun from within this one's message loop, takes the page over.
+bool LinkScanner::Goes(const Pass& pass) const {
+    const QString& action = m_app.state.CurrentAction;
+    return (action == u"SCANNING"_s || action == u"ACC"_s) && pass.number == m_lastPass;
+}
+
+void LinkScanner::GatherPageProfiles() {
+    Pass pass;
+    pass.number = ++m_lastPass;
+    const auto guard = qScopeGuard([&] {
+        if (pass.number == m_lastPass)
+            m_app.WebBrowser1().SetRefuseNavigations(false);
+    });
+    Diagnostics::Guard([&] { RunPass(pass); }, [&](const QString& error) { HandleError(pass, error); });
+}
+
+void LinkScanner::HandleError(const Pass& pass, const QString& error) {
+    Trace(u"GPP ERROR: 0, "_s + error);
+    if (Goes(pass) && !m_app.state.blnHoldLinkCheck)
+        m_app.state.blnRetryGatherPage = true;
+}
+
+void LinkScanner::RunPass(Pass& pass) {
+    RunState& state = m_app.state;
+    m_app.WebBrowser1().SetSilent(true);
+    pass.lngStartCount = static_cast<qint32>(m_app.controls.Items("lstFriendIDs"_L1).size());
+    pass.lngArrayCount = static_cast<qint32>(state.arrFriendIDs.size());
+    state.intCurrentIDIndex = 0;
+    m_app.pageTests->WaitForDocument();
+    state.blnClickNextLink = false;
+    Trace(u"GPP0a0a0 - "_s + QString::number(m_app.gatheredList->UBound()) + u", "_s +
+          QString::number(state.arrBlacklistIDs.size() - 1));
+    if (state.strNextPageLink.isEmpty() && !IsCommentsOrNotificationsPage())
+        WaitForFirstPage(pass);
+    if (!Goes(pass))
+        return;
+    m_app.timers->tmrAutoResume.Restart();
+    state.strNextPageLink.clear();
+    state.strGatherStartURL = m_app.pageTests->LocationURL();
+    state.arrSeenLinks.clear();
+    Trace(u"GPP1.2"_s);
+    PrepareFullGather();
+    ShowScanStatus();
+    m_app.waiting.Pump();
+    if (Goes(pass))
+        ScanLinks(pass);
+    if (!Goes(pass))
+        return;
+    FindNextPage();
+    if (!Goes(pass))
+        return;
+    RemindOfFullGather(pass);
+    m_app.WebBrowser1().SetRefuseNavigations(false);
+    Trace(u"GPP13 - NEXT PAGE LINK: "_s + state.strNextPageLink);
+    if (Goes(pass) && m_app.gatherDriver->FilterPassWanted())
+        FilterNewProfiles(pass);
+}
+
+void LinkScanner::ShowScanStatus() {
+    m_app.SetStatus(m_app.state.blnComparingIDs
+                        ? u"Comparing ID's on the current page to the gathered list..."_s
+                        : u"Gathering ID's from the current page..."_s);
+}
+
+void LinkScanner::WaitForFirstPage(const Pass& pass) {
+    m_app.SetStatus(u"Waiting for the page to finish loading..."_s);
+    m_app.stopResume->PauseLinkCheck();
+    m_app.waiting.WaitWhile(
+        [&] {
+            // A page that is just being replaced can't be read and shows no sign yet.
+            bool shows = false;
+            Diagnostics::IgnoreErrors([&] { shows = m_app.pager->ShowsNextPageSign(); });
+            return Goes(pass) && !shows;
+        },
+        SecondsForFirstPage);
+    if (!Goes(pass))
+        return;
+    m_app.stopResume->ResumeLinkCheck();
+    Trace(u"GPP1 - "_s + m_app.WebBrowser1().Document().BodyHTML());
+    Trace(u"GPP1.1"_s);
+}
+
+// While profiles are fetched in the hidden browser the page must stay where it is.
+void LinkScanner::PrepareFullGather() {
+    if (!m_app.controls.Ticked("optFullGather"_L1))
+        return;
+    if (m_app.state.lstAlreadyFullGatheredPageIDs.size() > RememberedPages) {
+        m_app.state.lstAlreadyFullGatheredPageIDs.clear();
+        return;
+    }
+    m_app.WebBrowser1().Stop();
+    m_app.waiting.Pump();
+    m_app.WebBrowser1().SetRefuseNavigations(true);
+    Trace(u"GPP1.3"_s);
+}
+
+// Of a page that grows in place only the new part is looked at, in a copy. The copy stands at about:blank, so
+// it has to be told where its relative addresses lead.
+std::vector<Element> LinkScanner::ChooseLinks() {
+    Trace(u"GPP1.4"_s);
+    if (!IsCommentsOrNotificationsPage())
+        return m_app.WebBrowser1().Document().Links();
+    const QString html = m_app.WebBrowser1().Document().BodyHTML().mid(m_app.state.lngPageScanOffset);
+    m_app.webTemp().Navigate(u"about:blank"_s);
+    m_app.pageTests->WaitForDocument(m_app.webTemp());
+    const Document copy = m_app.webTemp().Document();
+    copy.Body().SetInnerHTML(u"<base href=\""_s + m_app.pageTests->LocationURL().toHtmlEscaped() + u"\">"_s +
+                             html);
+    return copy.Links();
+}
+
+void LinkScanner::ScanLinks(Pass& pass) {
+    RunState& state = m_app.state;
+    for (const Element& element : ChooseLinks()) {
+        state.blnRememberLink = true;
+        const QString href = element.Href();
+        const bool seen = IsInArray(href, state.arrSeenLinks);
+        m_app.waiting.Turn();
+        if (!Goes(pass) || state.blnHoldLinkCheck)
+            return;
+        if (seen) {
+            ++pass.lngRepeats;
+            continue;
+        }
+        JudgedLink link(m_app, element);
+        if (m_app.profileLinks->IsProfileLink(link, false))
+            LookAtLink(pass, link);
+        if (!Goes(pass) || state.blnHoldLinkCheck)
+            return;
+        state.blnRememberLink = link.remember;
+        if (link.remember)
+            state.arrSeenLinks.append(href);
+    }
+}
+
+void LinkScanner::LookAtLink(Pass& pass, JudgedLink& link) {
+    const RunState& state = m_app.state;
+    const QString href = link.facts.Href();
+    Trace(u"GPP3 - "_s + href);
+    if (state.optFilterOnlineNow && state.optFilterWhenGathering &&
+        !m_app.profileFilters->IsUserOnline(false, link.facts.Link()))
+        return;
+    const bool whosOnline = Has(link.facts.Id(), u"whosonline"_s);
+    if (state.CurrentAction == u"ACC"_s && !whosOnline) {
+        CollectRequest(link);
+        return;
+    }
+    QString id;
+    if (!IsFoundersLink(link) && !whosOnline) {
+        const bool fetchedBefore =
+            m_app.controls.Ticked("optFullGather"_L1) && m_app.gatheredList->IsInList(href, true);
+        if (!fetchedBefore)
+            id = m_app.idResolution->GetFriendIDFromLink(link);
+        // Fetching a profile takes a while; the run may be over.
+        if (!Goes(pass))
+            return;
+        Trace(u"GPP4 - "_s + id);
+    }
+    if (!id.trimmed().isEmpty())
+        Consider(pass, id.trimmed());
+}
+
+void LinkScanner::CollectRequest(JudgedLink& link) {
+    if (m_app.gatheredList->IsInList(link.facts.Href(), true))
+        return;
+    const QString id = m_app.idResolution->GetFriendIDFromLink(link).trimmed();
+    if (!id.isEmpty() && id != m_app.state.MyProfileID && !m_app.gatheredList->IsInList(id, false))
+        m_app.controls.AddItem("lstAcceptIDs"_L1, id);
+}
+
+bool LinkScanner::IsFoundersLink(JudgedLink& link) const {
+    const QString address = m_app.deployment.Value(u"FounderAddress"_s);
+    const QString& href = link.facts.Href();
+    if (!address.isEmpty() && (href.compare(address, Qt::CaseInsensitive) == 0 ||
+                               href.compare(address + u'/', Qt::CaseInsensitive) == 0))
+        return true;
+    const QString name = m_app.deployment.Value(u"FounderName"_s);
+    return !name.isEmpty() && link.facts.Text().trimmed() == name;
+}
+
+void LinkScanner::Consider(Pass& pass, const QString& id) {
+    const RunState& state = m_app.state;
+    GatheredList& list = *m_app.gatheredList;
+    const bool listed = list.IsInList(id, false);
+    if (state.blnComparingIDs) {
+        Trace(u"GPP5 - "_s + id);
+        if (!listed)
+            return;
+        Trace(u"GPP6 - ALREADY IN LIST"_s);
+        const auto index = static_cast<qint32>(state.arrFriendIDs.indexOf(id));
+        list.ProcessArrayAndList(u"REMOVE"_s, index, {}, u"ScanForProfiles - 1"_s);
+        return;
+    }
+    Trace(u"GPP7 - "_s + id);
+    if (listed) {
+        Trace(u"GPP8 - "_s + id);
+        pass.blnFoundButKnown = true;
+        return;
+    }
+    Trace(u"GPP9 - "_s + id);
+    if (IsInArray(id, state.arrBlacklistIDs)) {
+        Trace(u"GPP10 - IN BLACK LIST"_s);
+        return;
+    }
+    if (id == state.MyProfileID)
+        return;
+    Trace(u"GPP11 - "_s + id + u", ADD TO LIST"_s);
+    list.ProcessArrayAndList(u"ADD"_s, 0, id, u"ScanForProfiles"_s);
+}
+
+void LinkScanner::FindNextPage() {
+    RunState& state = m_app.state;
+    if (!m_app.controls.Ticked("optScanFollowing"_L1) || !state.strNextPageLink.isEmpty() ||
+        state.CurrentAction != u"SCANNING"_s || IsCommentsOrNotificationsPage())
+        return;
+    m_app.SetStatus(u"Searching for the next page link..."_s);
+    if (state.blnNewLayout)
+        state.strNextPageLink = m_app.pager->GetNextPageHref();
+    if (state.strNextPageLink.isEmpty() && state.CurrentAction == u"SCANNING"_s)
+        state.strNextPageLink = m_app.pager->FindNextLink();
+    if (state.strNextPageLink == u"DONTLOOKAGAIN"_s)
+        state.strNextPageLink.clear();
+}
+
+void LinkScanner::RemindOfFullGather(const Pass& pass) {
+    const RunState& state = m_app.state;
+    const bool grew = state.arrFriendIDs.size() > pass.lngArrayCount ||
+                      m_app.controls.Items("lstFriendIDs"_L1).size() > pass.lngStartCount;
+    if (!state.strNextPageLink.isEmpty() || grew || state.CurrentAction != u"SCANNING"_s ||
+        !m_app.controls.Ticked("optScanCurrentPage"_L1) || !m_app.controls.Ticked("optQuickGather"_L1) ||
+        (state.optFilterOnlineNow && state.optFilterWhenGathering) || state.blnComparingIDs ||
+        pass.blnFoundButKnown)
+        return;
+    m_app.gatherDriver->ShowPrompt(u"frmFullGatherReminder"_s);
+}
+
+} // namespace qlm

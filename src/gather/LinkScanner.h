@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Document.h"
+
+#include <QString>
+#include <vector>
+
+namespace qlm {
+
+class App;
+struct JudgedLink;
+
+// One pass over the links of the page in the browser: for gathering, for striking friends out of the list,
+// and for the incoming requests. Results stand in arrFriendIDs, strNextPageLink, blnClickNextLink and
+// blnRetryGatherPage.
+class LinkScanner {
+public:
+    explicit LinkScanner(App& app) : m_app(app) {}
+
+    // Pumps once a link. Its own errors only ask for one more pass, by blnRetryGatherPage.
+    void GatherPageProfiles();
+    bool IsCommentsOrNotificationsPage();
+
+private:
+    // What one pass keeps of itself.
+    struct Pass {
+        int number = 0;
+        qint32 lngStartCount = 0; // rows of the list at its start
+        qint32 lngArrayCount = 0;
+        qint32 lngRepeats = 0;
+        bool blnFoundButKnown = false;
+    };
+
+    void RunPass(Pass& pass);
+    bool Goes(const Pass& pass) const;
+    void WaitForFirstPage(const Pass& pass);
+    void PrepareFullGather();
+    std::vector<Element> ChooseLinks();
+    void ScanLinks(Pass& pass);
+    void LookAtLink(Pass& pass, JudgedLink& link);
+    void CollectRequest(JudgedLink& link);
+    void Consider(Pass& pass, const QString& id);
+    bool IsFoundersLink(JudgedLink& link) const;
+    void FindNextPage();
+    void RemindOfFullGather(const Pass& pass);
+    void FilterNewProfiles(Pass& pass);
+    bool FailsFilter(const Pass& pass);
+    bool WaitForProfile(const Pass& pass);
+    void HandleError(const Pass& pass, const QString& error);
+    void ShowScanStatus();
+    void Trace(const QString& text);
+
+    App& m_app;
+    int m_lastPass = 0;
+};
+
+// The address ends with "/comments" or "/notifications".
+bool IsCommentsOrNotificationsAddress(const QString& address);
+
+} // namespace qlm

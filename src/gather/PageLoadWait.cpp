@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include "browser/PageClassifier.h"
+#include "browser/PageTests.h"
+#include "core/App.h"
+#include "gather/GatherDriver.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int ProfilesOnABrowsePage = 36;
+}
+
+// A page that is just being replaced can't be read: then what is waited for isn't there yet.
+void GatherDriver::WaitOnPage(const std::function<bool()>& stillWaiting) {
+    m_app.waiting.WaitWhile(
+        [&] {
+            bool waiting = true;
+            Diagnostics::IgnoreErrors([&] { waiting = stillWaiting(); });
+            return waiting;
+        },
+        0);
+}
+
+void GatherDriver::WaitPageLoad(int entry, const QString& oldURL) {
+    auto at = [this](const QString& part) { return m_app.pageTests->AddressContains(part); };
+    if (at(u"/friends"_s))
+        WaitForAddress(entry, oldURL, u"/page/"_s, true);
+    else if (at(u"/browse/"_s))
+        WaitForBrowsePage(entry);
+    else if (at(u"/search/"_s))
+        WaitForAddress(entry, oldURL, u"&page="_s, false);
+    else if (at(u"/music/charts"_s))
+        WaitForChart(entry, oldURL);
+    else
+        WaitForOtherPage(entry);
+}
+
+// In markup the "&" of an address is written "&amp;".
+void GatherDriver::WaitForAddress(int entry, const QString& oldURL, const QString& markup, bool checkErrors) {
+    QString escaped = markup;
+    escaped.replace(u"&"_s, u"&amp;"_s);
+    bool wentBack = false;
+    auto mendErrorPage = [&] {
+        if (checkErrors && !wentBack && m_app.pageClassifier->ClassifyErrorPage()) {
+            wentBack = true;
+            m_app.WebBrowser1().Navigate(oldURL);
+        }
+        return true;
+    };
+    Trace(u"WAITPAGELOAD1.1"_s);
+    WaitOnPage([&] { return Goes(entry) && m_app.pageTests->LocationURL() == oldURL && mendErrorPage(); });
+    Trace(u"WAITPAGELOAD1.2"_s);
+    WaitOnPage([&] {
+        return Goes(entry) && !m_app.pageTests->IsTextInPage(markup, true) &&
+               !m_app.pageTests->IsTextInPage(escaped, true) && mendErrorPage();
+    });
+}
+
+bool GatherDriver::LastPageStands() {
+    const RunState& state = m_app.state;
+    return m_app.pageTests->IsTextInPage(state.strLastPageText, state.blnLastPageAsHTML) ||
+           m_app.pageTests->HrefLoaded(state.strLastPageHref, false);
+}
+
+void GatherDriver::WaitForBrowsePage(int entry) {
+    auto building = [this] { return m_app.WebBrowser1().ReadyState() != 4; };
+    Trace(u"WAITPAGELOAD2.1"_s);
+    WaitOnPage([&] { return Goes(entry) && building() && LastPageStands(); });
+    WaitOnPage([&] {
+        return Goes(entry) && building() &&
+               CountOccurrences(m_app.WebBrowser1().Document().BodyText(), u"Age:"_s) < ProfilesOnABrowsePage;
+    });
+}
+
+// A chart builds its rows while it is scrolled; one that stops at the first dozen is loaded again.
+void GatherDriver::WaitForChart(int entry, const QString& oldURL) {
+    WaitOnPage([&] { return Goes(entry) && m_app.pageTests->LocationURL() == oldURL; });
+    if (Goes(entry))
+        m_app.SetStatus(u"Waiting for page to finish loading top 200..."_s);
+    WaitOnPage([&] {
+        if (!Goes(entry) || m_app.pageTests->IsTextInPage(u"artist-200"_s, true))
+            return false;
+        m_app.WebBrowser1().Document().ScrollToEnd();
+        if (m_app.WebBrowser1().ReadyState() == 4 && !m_app.pageTests->IsTextInPage(u"artist-12"_s, true)) {
+            const QString url = m_app.state.strNextPageLink;
+            m_app.ClearPage();
+            if (Goes(entry))
+                m_app.WebBrowser1().Navigate(url);
+        }
+        return true;
+    });
+}
+
+void GatherDriver::WaitForOtherPage(int entry) {
+    Trace(u"WAITPAGELOAD3.1"_s);
+    WaitOnPage([&] { return Goes(entry) && LastPageStands(); });
+    Trace(u"NEXTPAGEWAIT3"_s);
+    WaitOnPage([&] { return Goes(entry) && m_app.WebBrowser1().ReadyState() != 4; });
+}
+
+} // namespace qlm

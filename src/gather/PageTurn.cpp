@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include "browser/PageTests.h"
+#include "core/App.h"
+#include "core/StopResume.h"
+#include "core/Text.h"
+#include "gather/GatherDriver.h"
+#include "gather/IdResolution.h"
+#include "gather/LinkScanner.h"
+#include "gather/Pager.h"
+
+#include <QRegularExpression>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int SecondsForClick = 5;
+const QString ClickID = u"CLICKID="_s;
+
+bool SaysHidden(const QString& markup) {
+    static const QRegularExpression hidden(u"display\\s*:\\s*none"_s,
+                                           QRegularExpression::CaseInsensitiveOption);
+    return markup.contains(hidden);
+}
+
+bool IsMoreLink(const Element& link, const QString& address) {
+    if (address.endsWith(u"/comments"_s, Qt::CaseInsensitive)) {
+        const QString outer = link.OuterHTML();
+        return Has(outer, u"moreComments"_s) && !SaysHidden(outer);
+    }
+    return Has(link.OuterHTML(), u"moreLink"_s) && !SaysHidden(link.ParentElement().OuterHTML());
+}
+
+// "20 of 35": the first number, and the one behind the "of".
+bool AllIsShown(const QString& text) {
+    const qsizetype of = text.indexOf(u"of"_s, 0, Qt::CaseInsensitive);
+    return ExtractNumberFromString(text) >= ExtractNumberFromString(text.mid(of + 3));
+}
+
+} // namespace
+
+GatherDriver::Next GatherDriver::TurnPage(int entry) {
+    RunState& state = m_app.state;
+    state.lngPageScanOffset = 0;
+    if (m_app.controls.Ticked("optScanFollowing"_L1) && m_app.linkScanner->IsCommentsOrNotificationsPage()) {
+        GrowInPlace(entry);
+        if (!Goes(entry))
+            return Next::Return;
+    }
+    if (state.strNextPageLink.isEmpty()) {
+        FinishGathering();
+        return Next::Return;
+    }
+    // Growing: the tick waits until the old end of the list has gone, and the new part is scanned then.
+    if (!state.strLastPageText.isEmpty())
+        return Next::Return;
+    return OpenNextPage(entry) ? Next::GoOn : Next::Return;
+}
+
+void GatherDriver::GrowInPlace(int entry) {
+    RunState& state = m_app.state;
+    const QString address = m_app.pageTests->LocationURL();
+    const bool notifications = address.endsWith(u"/notifications"_s, Qt::CaseInsensitive);
+    state.strNextPageLink.clear();
+    for (const Element& link : m_app.WebBrowser1().Document().Links()) {
+        if (!IsMoreLink(link, address))
+            continue;
+        m_app.WebBrowser1().Stop();
+        m_app.waiting.Pump();
+        link.ScrollIntoView();
+        m_app.waiting.Pump();
+        if (!Goes(entry))
+            return;
+        const QString text = link.InnerText();
+        if (notifications && AllIsShown(text))
+            return;
+        state.strLastPageText = notifications ? link.ParentElement().InnerText() : text;
+        const QString html = m_app.WebBrowser1().Document().BodyHTML();
+        const QString listEnd = notifications ? u"paginationProgress"_s : u"moduleBodyEnd"_s;
+        state.lngPageScanOffset = static_cast<qint32>(html.indexOf(listEnd, 0, Qt::CaseInsensitive)) + 1;
+        link.Click();
+        break;
+    }
+    if (state.strLastPageText.isEmpty())
+        return;
+    m_app.SetStatus(u"Waiting for the next page to load..."_s);
+    m_app.timers->tmrCheckLinkLoaded.Restart();
+    state.blnLinkFound = false;
+    state.strLinkType = u"Text"_s;
+    state.strLinkValue = u"e"_s;
+    state.intGatherStep = 3;
+    state.strNextPageLink = u"temp"_s;
+}
+
+void GatherDriver::FinishGathering() {
+    const bool comparing = m_app.state.blnComparingIDs;
+    m_app.stopResume->StopAll(u"IGP2"_s);
+    Trace(u"IGP4.5"_s);
+    if (!comparing)
+        m_app.SetStatus(u"Finished gathering ID's"_s);
+    if (!m_app.stopResume->DoFinishedExit() && comparing)
+        m_app.ShowMessage(u"Finished removing your friends from the list"_s);
+}
+
+// True when the next page stands already and is to be scanned at once; otherwise the tick goes on.
+bool GatherDriver::OpenNextPage(int entry) {
+    RunState& state = m_app.state;
+    Trace(u"IGP4.1 - "_s + state.strNextPageLink);
+    state.intGatherStep = 3;
+    SetMustNotHaveTexts();
+    if (!Goes(entry))
+        return false;
+    if (!state.blnNewLayout) {
+        state.strLinkType = u"ID"_s;
+        state.strLinkValue = u"ListOfIDs"_s;
+    }
+    const QString oldURL = m_app.pageTests->LocationURL();
+    m_app.WebBrowser1().Stop();
+    m_app.waiting.Pump();
+    if (!Goes(entry))
+        return false;
+    m_app.SetStatus(u"Waiting for the next page to load..."_s);
+    if (state.blnClickNextLink) {
+        if (!ClickCaption(entry))
+            return false;
+    } else {
+        Trace(u"IGP4.4"_s);
+        if (state.strNextPageLink.contains(ClickID)) {
+            const QString id = QString(state.strNextPageLink).remove(ClickID);
+            m_app.WebBrowser1().Document().GetElementById(id).Click();
+        } else {
+            m_app.waiting.Pump();
+            m_app.waiting.Pump();
+            m_app.WebBrowser1().Navigate(state.strNextPageLink);
+        }
+        m_app.waiting.Pump();
+    }
+    Trace(u"NEXTPAGEWAIT0"_s);
+    if (!Goes(entry))
+        return false;
+    if (!state.blnNewLayout) {
+        state.blnLinkFound = false;
+        m_app.timers->tmrCheckLinkLoaded.Restart();
+        return false;
+    }
+    m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
+    m_app.waiting.Pump();
+    m_app.waiting.WaitSeconds(1);
+    if (!Goes(entry))
+        return false;
+    Trace(u"NEXTPAGEWAIT1"_s);
+    WaitPageLoad(entry, oldURL);
+    if (!Goes(entry))
+        return false;
+    Trace(u"NEXTPAGEWAIT - END"_s);
+    return true;
+}
+
+// A browse page is slow to take the click up; when nothing has moved after some seconds it is clicked once
+// more.
+bool GatherDriver::ClickCaption(int entry) {
+    Trace(u"IGP4.3"_s);
+    const QString caption = m_app.state.strNextPageLink;
+    m_app.pager->ClickNextPageLink(caption, {});
+    if (m_app.pageTests->AddressContains(u"/browse/"_s)) {
+        const bool taken = m_app.waiting.WaitWhile(
+            [&] { return Goes(entry) && m_app.WebBrowser1().ReadyState() == 4; }, SecondsForClick);
+        if (!taken)
+            m_app.pager->ClickNextPageLink(caption, {});
+    }
+    if (!Goes(entry))
+        return false;
+    m_app.state.blnClickNextLink = false;
+    return true;
+}
+
+void GatherDriver::SetMustNotHaveTexts() {
+    RunState& state = m_app.state;
+    state.strLastPageText = GetListingText();
+    if (!m_app.pageTests->AddressContains(u"{SiteDomain}/forums/t/"_s) && state.strLastPageText.isEmpty())
+        state.strLastPageHref = m_app.pageTests->GetHrefFromSecondID();
+    if (state.strLastPageText.isEmpty() && state.strLastPageHref.isEmpty() && state.blnNewLayout) {
+        state.strLastPageText = LastPageMarkup();
+        state.blnLastPageAsHTML = !state.strLastPageText.isEmpty();
+    }
+    Trace(u"IGP4.2 - "_s + state.strLastPageText + u", "_s + state.strLastPageHref);
+}
+
+} // namespace qlm

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "gather/Pager.h"
+
+#include "browser/PageTests.h"
+#include "core/App.h"
+#include "core/Text.h"
+#include "gather/NextLinkRules.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+QString Pager::GetNextPageHref() {
+    auto at = [this](const QString& part) { return m_app.pageTests->AddressContains(part); };
+    if (at(u"/friends"_s))
+        return LinkTitledNextPage(false);
+    if (at(u"{SiteDomain}/browse"_s)) {
+        const QString caption = LinkTitledNextPage(true);
+        m_app.state.blnClickNextLink = !caption.isEmpty();
+        return caption;
+    }
+    if (at(u"{SiteDomain}/search/"_s))
+        return LinkTitledNextPage(false);
+    if (at(u"{SiteDomain}/music/charts"_s))
+        return ShowMoreOfChart();
+    if (at(u"{SiteDomain}/forums/t/"_s))
+        return LinkWithText(u"next »"_s);
+    return {};
+}
+
+QString Pager::LinkTitledNextPage(bool wantText) {
+    for (const Element& link : m_app.WebBrowser1().Document().Links()) {
+        m_app.waiting.Turn();
+        if (m_app.state.CurrentAction != u"SCANNING"_s)
+            return {};
+        if (link.Read(ElementText::Title).trimmed().toLower() == u"next page"_s &&
+            !Has(link.OuterHTML(), u"disabled"_s))
+            return wantText ? link.InnerText().trimmed() : link.Href();
+    }
+    return {};
+}
+
+QString Pager::LinkWithText(const QString& text) {
+    for (const Element& link : m_app.WebBrowser1().Document().Links()) {
+        m_app.waiting.Turn();
+        if (m_app.state.CurrentAction != u"SCANNING"_s)
+            return {};
+        if (link.InnerText().trimmed().toLower() == text)
+            return link.Href();
+    }
+    return {};
+}
+
+QString Pager::ShowMoreOfChart() {
+    const Element more = m_app.WebBrowser1().Document().GetElementById(u"showMoreChartItems"_s);
+    if (more.IsNull())
+        return {};
+    QString href = more.Href();
+    if (href.isEmpty()) {
+        const std::vector<Element> links = more.Tags(u"a"_s);
+        href = links.empty() ? QString() : links.front().Href();
+    }
+    const QString next = ChartPageFive(href);
+    return next.isEmpty() ? u"DONTLOOKAGAIN"_s : next;
+}
+
+QString Pager::FindNextLink() {
+    const Document document = m_app.WebBrowser1().Document();
+    NextLinkPage page;
+    page.address = m_app.pageTests->LocationURL();
+    page.expand = [this](const QString& text) { return m_app.Expand(text); };
+    page.hasNextPageElement = [&document] { return !document.GetElementById(u"nextPage"_s).IsNull(); };
+    for (const Element& link : document.Links()) {
+        if (m_app.state.CurrentAction != u"SCANNING"_s)
+            return {};
+        NextLinkCandidate candidate;
+        candidate.href = PlainHref(link.Href());
+        candidate.text = link.InnerText().trimmed();
+        candidate.lower = candidate.text.toLower();
+        candidate.outerHTML = [&link] { return link.OuterHTML(); };
+        if (const std::optional<NextLink> next = MatchNextLink(candidate, page)) {
+            m_app.diagnostics.Debug(u"debuggather.txt"_s, u"GPP12 - FOUND! - "_s + candidate.href);
+            m_app.state.blnClickNextLink = next->click;
+            return next->link;
+        }
+    }
+    return {};
+}
+
+bool Pager::ClickNextPageLink(const QString& caption, const QString& newHref) {
+    m_app.pageTests->WaitForDocument();
+    m_app.WebBrowser1().SetSilent(true);
+    const bool onEventForm = m_app.state.CurrentAction == u"INV"_s &&
+                             m_app.pageTests->AddressContains(u"{EventsHost}/event/addedit"_s);
+    const Document document = m_app.WebBrowser1().Document();
+    for (const Element& link : document.Links()) {
+        if (link.InnerText().trimmed().toLower() != caption.trimmed().toLower())
+            continue;
+        if (onEventForm) {
+            const QString className = link.Read(ElementText::ClassName);
+            if (className != u"myspacepaginationDiv"_s && !Has(className, u"myspace-paginate"_s))
+                continue;
+        } else if (!newHref.isEmpty()) {
+            link.SetAttribute(u"href"_s, newHref);
+            m_app.diagnostics.Debug(u"debugevinv.txt"_s, u"NEXT LINK REPLACED"_s);
+        }
+        link.Click();
+        m_app.waiting.Pump();
+        m_app.diagnostics.DebugForAction(u"NEXT LINK CLICKED"_s);
+        return true;
+    }
+    m_app.diagnostics.DebugForAction(u"CNPL3 (NOT CLICKED) - "_s + document.BodyHTML());
+    return false;
+}
+
+} // namespace qlm

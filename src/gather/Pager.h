@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace qlm {
+
+class App;
+
+// How a page says "next page".
+class Pager {
+public:
+    explicit Pager(App& app) : m_app(app) {}
+
+    // The pages of the new layout, by their address. Pumps once a link. "DONTLOOKAGAIN" means that the page's
+    // own way leads nowhere and no other is to be tried. Sets blnClickNextLink where the answer is a caption.
+    QString GetNextPageHref();
+    // The ordered table over all links; "" when no row fits. Sets blnClickNextLink where the answer is a
+    // caption.
+    QString FindNextLink();
+    // Does the page show that its way to the next page has arrived?
+    bool ShowsNextPageSign();
+    // Clicks the first link with that caption; a newHref that isn't empty is given to it first.
+    bool ClickNextPageLink(const QString& caption, const QString& newHref);
+
+private:
+    QString LinkTitledNextPage(bool wantText);
+    QString LinkWithText(const QString& text);
+    QString ShowMoreOfChart();
+
+    App& m_app;
+};
+
+} // namespace qlm

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Document.h"
+
+#include <functional>
+
+namespace qlm {
+
+// The document of about:blank as the program sees it: a body with nothing in it. It stands at once, whatever
+// the engine still shows, and asks the engine nothing. isPresent tells whether the control still shows it.
+class BlankDocument final : public DocumentBackend {
+public:
+    explicit BlankDocument(std::function<bool(const DocumentBackend*)> isPresent)
+        : m_isPresent(std::move(isPresent)) {}
+
+    int Body() override;
+    bool HasLinks() override;
+    QString BodyText(ElementText which) override;
+    std::vector<int> Collect(ElementSet set, const QString& argument) override;
+    int ById(const QString& id) override;
+    int ActiveElement() override;
+
+    QString Read(int node, ElementText which) override;
+    QString Attribute(int node, const QString& name) override;
+    bool HasAttribute(int node, const QString& name) override;
+    int Parent(int node) override;
+    std::vector<int> Descendants(int node, const QString& tag) override;
+
+    void SetInnerText(int node, const QString& text) override;
+    void SetInnerHTML(int node, const QString& html) override;
+    void SetValue(int node, const QString& value) override;
+    void SetAttribute(int node, const QString& name, const QString& value) override;
+    void Click(int node) override;
+    void Submit(int node) override;
+    void Focus(int node) override;
+    void ScrollIntoView(int node) override;
+    void ScrollToEnd() override;
+
+private:
+    void Check() const;
+
+    std::function<bool(const DocumentBackend*)> m_isPresent;
+};
+
+} // namespace qlm

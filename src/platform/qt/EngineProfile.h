@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class QWebEngineProfile;
+class QObject;
+
+namespace qlm {
+
+// Sets what the engine reads from the environment. To be called in main() before the QApplication is made.
+void PrepareEngine();
+
+// The one profile that all browsers of the program share: cookies live as long as the program runs, nothing
+// is written to disk, downloads are refused. Must outlive every page on it.
+QWebEngineProfile* CreateEngineProfile(QObject* owner);
+
+} // namespace qlm

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/qt/PageCache.h"
+#include "platform/qt/PageCalls.h"
+
+namespace qlm {
+
+// The control, as far as one of its documents needs it.
+class DocumentOwner {
+public:
+    virtual ~DocumentOwner() = default;
+    virtual bool IsPresent(const DocumentBackend* document) const = 0;
+    // A document that was never announced answered in this one's place.
+    virtual void OnOtherDocument(const QString& document) = 0;
+    // The address as the document itself gives it.
+    virtual void OnAddress(const QString& url) = 0;
+};
+
+// A document in the engine. The first look in a turn brings text, markup, link addresses and ids in one call;
+// reads of single nodes bring their neighbours along; both are kept until the turn ends.
+class PageDocument final : public DocumentBackend {
+public:
+    PageDocument(QtPump& pump, PageCalls& calls, DocumentOwner& owner, QString id);
+
+    const QString& Id() const { return m_id; }
+
+    int Body() override;
+    bool HasLinks() override;
+    QString BodyText(ElementText which) override;
+    std::vector<int> Collect(ElementSet set, const QString& argument) override;
+    int ById(const QString& id) override;
+    int ActiveElement() override;
+
+    QString Read(int node, ElementText which) override;
+    QString Attribute(int node, const QString& name) override;
+    bool HasAttribute(int node, const QString& name) override;
+    int Parent(int node) override;
+    std::vector<int> Descendants(int node, const QString& tag) override;
+
+    void SetInnerText(int node, const QString& text) override;
+    void SetInnerHTML(int node, const QString& html) override;
+    void SetValue(int node, const QString& value) override;
+    void SetAttribute(int node, const QString& name, const QString& value) override;
+    void Click(int node) override;
+    void Submit(int node) override;
+    void Focus(int node) override;
+    void ScrollIntoView(int node) override;
+    void ScrollToEnd() override;
+
+private:
+    PageCache& Cache();
+    void Check() const;
+    // Fetches the turn's look; false when the page does not answer or is just being replaced.
+    bool Look();
+    const PageLook& NeedLook();
+    QVariant Call(const QString& name, const QJsonArray& arguments);
+    void Act(const QString& name, const QJsonArray& arguments);
+    bool IsFromHere(const PageCalls::Answer& answer);
+    void ReadTogether(const std::vector<int>& nodes, ElementText which);
+
+    QtPump& m_pump;
+    PageCalls& m_calls;
+    DocumentOwner& m_owner;
+    QString m_id;
+    PageCache m_cache;
+};
+
+} // namespace qlm

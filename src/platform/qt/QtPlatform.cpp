@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "platform/qt/QtPlatform.h"
+
+#include "core/Deployment.h"
+#include "platform/qt/EngineProfile.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QNetworkProxy>
+#include <QStandardPaths>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString WithoutTrailingSeparator(const QString& path) {
+    return QDir::cleanPath(path);
+}
+
+QString LocalDataFolder(const QString& chosen) {
+    const QString path =
+        chosen.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) : chosen;
+    return WithoutTrailingSeparator(path) + u'/';
+}
+
+} // namespace
+
+QtPlatform::QtPlatform(const QtPlatformOptions& options, qlm::Dialogs& dialogs)
+    : m_installationFolder(WithoutTrailingSeparator(options.installationFolder)),
+      m_localDataFolder(LocalDataFolder(options.localDataFolder)),
+      m_dialogs(dialogs),
+      m_settings(m_localDataFolder + u"Quillmere"_s),
+      m_http(m_pump),
+      m_shell(m_pump) {
+    ReadDeployment(options.deploymentFile.isEmpty() ? m_installationFolder + u"/deployment.ini"_s
+                                                    : options.deploymentFile);
+    SetProxy();
+}
+
+QtPlatform::~QtPlatform() {
+    m_browsers.clear();
+}
+
+void QtPlatform::ReadDeployment(const QString& fileName) {
+    QFile file(fileName);
+    if (file.open(QIODevice::ReadOnly))
+        m_deploymentText = QString::fromUtf8(file.readAll());
+    else
+        m_startProblem = u"%1 could not be read: %2"_s.arg(fileName, file.errorString());
+}
+
+void QtPlatform::SetProxy() {
+    const Deployment deployment(m_deploymentText);
+    const QString proxy = deployment.Value(u"Proxy"_s);
+    if (proxy.isEmpty())
+        return;
+    QString host = proxy.section(u':', 0, 0);
+    quint16 port = proxy.section(u':', 1, 1).toUShort();
+    if (deployment.UsesPracticeSite()) {
+        m_practice = std::make_unique<PracticeServer>(QCoreApplication::applicationDirPath() +
+                                                      u"/quillmere-practice-site"_s);
+        m_startProblem += m_practice->Problem();
+        host = u"127.0.0.1"_s;
+        // Without the site nothing is to be found under the names either: a proxy that refuses says so at
+        // once.
+        port = m_practice->Port() == 0 ? quint16(9) : m_practice->Port();
+    }
+    QNetworkProxy::setApplicationProxy(QNetworkProxy(QNetworkProxy::HttpProxy, host, port));
+}
+
+QtBrowser& QtPlatform::Browser(BrowserName name) {
+    if (!m_profile)
+        m_profile = CreateEngineProfile(&m_profileOwner);
+    std::unique_ptr<QtBrowser>& browser = m_browsers[name];
+    if (!browser)
+        browser = std::make_unique<QtBrowser>(m_pump, *m_profile);
+    return *browser;
+}
+
+QString QtPlatform::SpecialFolderPath(int id) const {
+    constexpr int localApplicationData = 28;
+    return id == localApplicationData ? m_localDataFolder : QString();
+}
+
+} // namespace qlm

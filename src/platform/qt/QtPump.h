@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Pump.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+namespace qlm {
+
+// The pump on Qt's event loop. While the program is idle, or while a dialog's own loop turns, an alarm clock
+// delivers what falls due; during a sleep or a call into a page it is held, so that neither ever runs a
+// handler.
+class QtPump final : public QObject, public Pump {
+    Q_OBJECT
+
+public:
+    // While one of these lives, nothing is delivered but by PumpMessages().
+    class Hold {
+    public:
+        explicit Hold(QtPump& pump);
+        ~Hold();
+        Hold(const Hold&) = delete;
+        Hold& operator=(const Hold&) = delete;
+
+    private:
+        QtPump& m_pump;
+    };
+
+    QtPump();
+
+    void PumpMessages() override;
+    void Sleep(int milliseconds) override;
+    QDateTime Now() const override;
+    MessageQueue& Queue() override { return m_queue; }
+
+    // Leaves the application's event loop as soon as no delivery is under way: waits that are still on the
+    // stack come to their end first.
+    void Quit();
+
+private:
+    void DeliverDue();
+    void QuitIfIdle();
+    void SetAlarm();
+    void OnAlarm();
+
+    QElapsedTimer m_clock;
+    MessageQueue m_queue;
+    QTimer m_alarm;
+    int m_holds = 0;
+    int m_deliveries = 0;
+    bool m_isQuitting = false;
+};
+
+} // namespace qlm

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Document.h"
+#include "platform/sim/SimTree.h"
+
+#include <QHash>
+#include <map>
+
+namespace qlm {
+
+// What a simulated document asks of the browser that shows it.
+class SimDocumentHost {
+public:
+    virtual ~SimDocumentHost() = default;
+    virtual void ElementClicked(int node) = 0;
+    virtual void FormSubmitted(int form) = 0;
+    virtual void ScrolledToEnd() = 0;
+    // Something was written or clicked: the turn is over.
+    virtual void Touched() = 0;
+};
+
+// One loaded page of a SimBrowser. Texts and collections are kept until the page changes.
+class SimDocument : public DocumentBackend {
+public:
+    SimDocument(SimDocumentHost& host, const QString& html, const QString& url);
+
+    // The browser shows another document: from now on every use throws.
+    void Retire() { m_host = nullptr; }
+    bool IsPresent() const { return m_host != nullptr; }
+    SimTree& Tree() { return m_tree; }
+    const QString& URL() const { return m_url; }
+    // What relative addresses are relative to.
+    const QString& BaseURL();
+    QString Title() const;
+
+    int Body() override;
+    bool HasLinks() override;
+    QString BodyText(ElementText which) override;
+    std::vector<int> Collect(ElementSet set, const QString& argument) override;
+    int ById(const QString& id) override;
+    int ActiveElement() override;
+    QString Read(int node, ElementText which) override;
+    QString Attribute(int node, const QString& name) override;
+    bool HasAttribute(int node, const QString& name) override;
+    int Parent(int node) override;
+    std::vector<int> Descendants(int node, const QString& tag) override;
+    void SetInnerText(int node, const QString& text) override;
+    void SetInnerHTML(int node, const QString& html) override;
+    void SetValue(int node, const QString& value) override;
+    void SetAttribute(int node, const QString& name, const QString& value) override;
+    void Click(int node) override;
+    void Submit(int node) override;
+    void Focus(int node) override;
+    void ScrollIntoView(int node) override;
+    void ScrollToEnd() override;
+
+private:
+    SimDocumentHost& Present() const;
+    void DropOldCaches();
+    QString ReadText(int node) const;
+    QString ReadAddress(int node, ElementText which);
+    std::vector<int> Gather(ElementSet set, const QString& argument) const;
+
+    SimDocumentHost* m_host;
+    SimTree m_tree;
+    QString m_url;
+    int m_focus = 0;
+
+    quint64 m_cachedChanges = 0;
+    QString m_baseURL;
+    std::map<ElementText, QString> m_bodyTexts;
+    std::map<std::pair<ElementSet, QString>, std::vector<int>> m_sets;
+    QHash<QString, int> m_ids;
+};
+
+} // namespace qlm

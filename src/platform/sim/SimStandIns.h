@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <vector>
+
+namespace qlm {
+
+// One act that stands in for a script of a simulated page. The acts are written in attributes, "; " between
+// them, an optional "after 2s" (or "after 500ms") before each:
+//   goto URL · show #id · hide #id · set #id name value · remove #id · append #id <html> · submit #id · click
+//   #id
+// `set` knows the names "value", "innertext" and "innerhtml" beside attributes. Where the attributes stand:
+//   data-on-click   a click on the element or on something in it; on a link or a button in place of what the
+//   click does
+//                   otherwise
+//   data-on-load    once the page is complete
+//   data-on-scroll  the window was scrolled to its end
+//   data-on-script  a part of a script's text: when a "javascript:" address that holds it is run, data-do of
+//   the same
+//                   element is carried out
+struct StandIn {
+    enum class Verb { Goto, Show, Hide, Set, Remove, Append, Submit, Click };
+
+    Verb verb;
+    int afterMs = 0;
+    QString target;   // the id, or the address of Goto
+    QString name;     // of Set
+    QString argument; // value or HTML
+};
+
+struct StandIns {
+    std::vector<StandIn> acts;
+    QString problem; // what could not be understood; empty when all is well
+};
+
+StandIns ParseStandIns(const QString& text);
+
+// "3s", "500ms" or "2m"; -1 when it is no duration.
+int ParseDuration(const QString& text);
+
+} // namespace qlm

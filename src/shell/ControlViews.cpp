@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+// How each kind of widget shows its control and hands the user's input back.
+#include "core/App.h"
+#include "shell/ControlBinder.h"
+#include "shell/ListRowsModel.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QTabWidget>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString WithoutMnemonic(const QString& text) {
+    QString plain = text;
+    plain.replace(u"&&"_s, u"\x1"_s).remove(u'&').replace(u'\x1', u'&');
+    return plain;
+}
+
+// A button's caption comes from the table; the letter to press with it from the form.
+std::function<void(const QString&)> CaptionOf(QAbstractButton& button) {
+    return [&button, own = button.text()](const QString& text) {
+        if (text.isEmpty() || text == WithoutMnemonic(own))
+            button.setText(own);
+        else
+            button.setText(QString(text).replace(u'&', u"&&"_s));
+    };
+}
+
+void ShowLabel(QLabel& label, const QString& text) {
+    label.setText(text);
+    if (label.property("hideWhenEmpty").toBool())
+        label.setVisible(!text.isEmpty());
+}
+
+} // namespace
+
+ControlBinder::Show ControlBinder::ViewFor(QWidget& widget, QLatin1StringView name) {
+    if (auto* line = qobject_cast<QLineEdit*>(&widget))
+        return ViewOfLine(*line, name);
+    if (auto* combo = qobject_cast<QComboBox*>(&widget))
+        return ViewOfCombo(*combo, name);
+    if (auto* list = qobject_cast<QListView*>(&widget))
+        return ViewOfList(*list, name);
+    if (auto* tabs = qobject_cast<QTabWidget*>(&widget))
+        return ViewOfTabs(*tabs, name);
+    if (auto* button = qobject_cast<QAbstractButton*>(&widget))
+        return ViewOfTick(*button, name);
+    if (auto* label = qobject_cast<QLabel*>(&widget)) {
+        label->setTextFormat(Qt::PlainText);
+        return [label](const Control& control, Change change, int) {
+            if (change == Change::Text)
+                ShowLabel(*label, control.text);
+        };
+    }
+    if (auto* box = qobject_cast<QGroupBox*>(&widget))
+        return [box](const Control& control, Change change, int) {
+            if (change == Change::Text && !control.text.isEmpty())
+                box->setTitle(control.text);
+        };
+    return {};
+}
+
+ControlBinder::Show ControlBinder::ViewOfLine(QLineEdit& line, QLatin1StringView name) {
+    connect(&line, &QLineEdit::textChanged, this, [this, name](const QString& text) {
+        if (!m_showing)
+            m_app.controls.SetText(name, text);
+    });
+    return [&line](const Control& control, Change change, int) {
+        if (change == Change::Text && line.text() != control.text)
+            line.setText(control.text);
+    };
+}
+
+QButtonGroup& ControlBinder::Group(const QString& group) {
+    QButtonGroup*& found = m_groups[group];
+    if (!found)
+        found = new QButtonGroup(this);
+    return *found;
+}
+
+ControlBinder::Show ControlBinder::ViewOfTick(QAbstractButton& button, QLatin1StringView name) {
+    const auto showCaption = CaptionOf(button);
+    if (!button.isCheckable())
+        return [showCaption](const Control& control, Change change, int) {
+            if (change == Change::Text)
+                showCaption(control.text);
+        };
+
+    QButtonGroup* group = nullptr;
+    if (const QLatin1StringView groupName = m_app.controls[name].group; !groupName.isEmpty()) {
+        group = &Group(groupName);
+        group->addButton(&button);
+    }
+    connect(&button, &QAbstractButton::toggled, this, [this, name, group](bool ticked) {
+        // Of a group only the newly chosen one counts: the table unticks the rest.
+        if (!m_showing && (ticked || !group))
+            m_app.controls.SetTicked(name, ticked);
+    });
+    return [&button, group, showCaption](const Control& control, Change change, int) {
+        if (change == Change::Text)
+            showCaption(control.text);
+        if (change != Change::Ticked)
+            return;
+        // A group that excludes would not let its last button go.
+        if (group)
+            group->setExclusive(false);
+        button.setChecked(control.ticked);
+        if (group)
+            group->setExclusive(true);
+    };
+}
+
+ControlBinder::Show ControlBinder::ViewOfCombo(QComboBox& combo, QLatin1StringView name) {
+    // A row that has no items yet takes the choices that the form was built with.
+    if (m_app.controls.Items(name).isEmpty() && combo.count() > 0) {
+        QStringList choices;
+        for (int i = 0; i < combo.count(); ++i)
+            choices.append(combo.itemText(i));
+        m_app.controls.SetItems(name, choices);
+        m_app.controls.SetSelected(name, static_cast<int>(choices.indexOf(m_app.controls.Text(name))));
+    }
+    connect(&combo, &QComboBox::currentIndexChanged, this, [this, name](int row) {
+        if (m_showing)
+            return;
+        m_app.controls.SetSelected(name, row);
+        Run(QString(name) + u"_Click"_s);
+    });
+    return [&combo](const Control& control, Change change, int) {
+        if (change == Change::Items || change == Change::RowAdded || change == Change::RowRemoved) {
+            combo.clear();
+            combo.addItems(control.items);
+        }
+        // A text that is no item shows in grey, as a hint.
+        combo.setPlaceholderText(control.text);
+        combo.setCurrentIndex(static_cast<int>(control.items.indexOf(control.text)));
+    };
+}
+
+ControlBinder::Show ControlBinder::ViewOfList(QListView& list, QLatin1StringView name) {
+    auto* model = new ListRowsModel(m_app.controls, name, &list);
+    list.setUniformItemSizes(true);
+    list.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list.setModel(model);
+    connect(list.selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this, name](const QModelIndex& current) {
+                if (!m_showing)
+                    m_app.controls.SetSelected(name, current.row());
+            });
+    return [&list, model](const Control& control, Change change, int row) {
+        model->Apply(change, row);
+        const bool rowsMoved = change == Change::Items || change == Change::RowRemoved;
+        if (!rowsMoved && change != Change::Selected)
+            return;
+        if (control.selected < 0)
+            list.selectionModel()->clear();
+        else if (list.currentIndex().row() != control.selected || !list.selectionModel()->hasSelection())
+            list.setCurrentIndex(model->index(control.selected));
+    };
+}
+
+ControlBinder::Show ControlBinder::ViewOfTabs(QTabWidget& tabs, QLatin1StringView) {
+    return [&tabs](const Control& control, Change change, int) {
+        if (change == Change::Selected && control.selected >= 0)
+            tabs.setCurrentIndex(control.selected);
+    };
+}
+
+} // namespace qlm

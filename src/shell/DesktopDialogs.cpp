@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "shell/DesktopDialogs.h"
+
+#include <QDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QRegularExpression>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+QString DesktopDialogs::QtFilter(const QString& filter) {
+    static const QRegularExpression patternInName(uR"(\s*\([^)]*\*[^)]*\)\s*$)"_s);
+    const QStringList parts = filter.split(u'|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QStringList patterns = parts[i + 1].split(u';', Qt::SkipEmptyParts);
+        patterns.replaceInStrings(u"*.*"_s, u"*"_s);
+        // A name that ends in a pattern of its own would be taken for it.
+        filters.append(QString(parts[i]).remove(patternInName) + u" ("_s + patterns.join(u' ') + u')');
+    }
+    return filters.join(u";;"_s);
+}
+
+QString DesktopDialogs::Remember(const QString& path) {
+    if (!path.isEmpty())
+        m_folder = QFileInfo(path).absolutePath();
+    return path;
+}
+
+QString DesktopDialogs::ChooseFileToOpen(const QString& title, const QString& filter) {
+    return Remember(QFileDialog::getOpenFileName(ParentWindow(), title.isEmpty() ? u"Open"_s : title,
+                                                 m_folder, QtFilter(filter)));
+}
+
+QString DesktopDialogs::ChooseFileToSave(const QString& title, const QString& suggestedName,
+                                         const QString& filter) {
+    return Remember(QFileDialog::getSaveFileName(ParentWindow(), title.isEmpty() ? u"Save"_s : title,
+                                                 QDir(m_folder).filePath(suggestedName), QtFilter(filter)));
+}
+
+void DesktopDialogs::RunModal(const QString&, QDialog& dialog) {
+    dialog.exec();
+}
+
+Dialogs::Answer DesktopDialogs::RunMessage(const QString& text, const QString& title, Buttons buttons) {
+    QMessageBox box(ParentWindow());
+    box.setWindowTitle(title);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QString(text).replace(u"\r\n"_s, u"\n"_s));
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    if (buttons == Buttons::Ok) {
+        box.setIcon(QMessageBox::Information);
+        box.setStandardButtons(QMessageBox::Ok);
+    } else {
+        box.setIcon(QMessageBox::Question);
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        // Escape says no where there is no cancelling.
+        box.setEscapeButton(QMessageBox::No);
+        if (buttons == Buttons::YesNoCancel) {
+            box.addButton(QMessageBox::Cancel);
+            box.setEscapeButton(QMessageBox::Cancel);
+        }
+    }
+    switch (box.exec()) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    case QMessageBox::Cancel:
+        return Answer::Cancel;
+    default:
+        return Answer::Ok;
+    }
+}
+
+} // namespace qlm

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "shell/Form.h"
+
+#include "core/App.h"
+#include "shell/WindowDialogs.h"
+
+#include <QPushButton>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+Form::Form(const FormContext& context, const QString& name, const QString& title)
+    : QDialog(context.parent),
+      m_app(context.app),
+      m_dialogs(context.dialogs),
+      m_binder(context.app, name + u'.', [&dialogs = context.dialogs] { return dialogs.MessageCount(); }) {
+    setObjectName(name);
+    setWindowTitle(title);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+}
+
+void Form::Bind() {
+    m_binder.BindAll(*this);
+    Bound();
+}
+
+void Form::reject() {
+    for (const QString& name : {u"cmdCancel"_s, u"cmdClose"_s})
+        if (const auto* button = findChild<QPushButton*>(name)) {
+            // A form that is busy has its buttons disabled and stays.
+            if (button->isEnabled() && !m_binder.Run(objectName() + u'.' + name + u"_Click"_s))
+                UserCloses();
+            return;
+        }
+    UserCloses();
+}
+
+void Form::UserCloses() {
+    m_dialogs.CloseForm(objectName());
+}
+
+} // namespace qlm

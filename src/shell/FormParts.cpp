@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "shell/FormParts.h"
+
+#include <QDialogButtonBox>
+#include <QLineEdit>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+QPushButton* NewButton(QLatin1StringView name, const QString& caption) {
+    auto* button = Named(new QPushButton(caption), name, QString(caption).remove(u'&'));
+    button->setAutoDefault(false);
+    return button;
+}
+
+QPushButton* NewLink(QLatin1StringView name, const QString& caption) {
+    QPushButton* link = NewButton(name, caption);
+    link->setFlat(true);
+    link->setCursor(Qt::PointingHandCursor);
+    link->setProperty("look", u"link"_s);
+    link->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    return link;
+}
+
+QLineEdit* NewLine(QLatin1StringView name, const QString& accessibleName) {
+    return Named(new QLineEdit, name, accessibleName);
+}
+
+QLabel* NewLabel(QLatin1StringView name, const QString& look) {
+    auto* label = Named(new QLabel, name);
+    label->setTextFormat(Qt::PlainText);
+    label->setProperty("look", look);
+    return label;
+}
+
+QLabel* NewText(const QString& text, const QString& look) {
+    auto* label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setProperty("look", look);
+    return label;
+}
+
+QDialogButtonBox* NewButtonRow(std::initializer_list<QPushButton*> buttons) {
+    auto* row = new QDialogButtonBox;
+    for (QPushButton* button : buttons) {
+        const bool leaves = button->objectName() == "cmdCancel"_L1 || button->objectName() == "cmdClose"_L1;
+        row->addButton(button, leaves ? QDialogButtonBox::RejectRole : QDialogButtonBox::AcceptRole);
+        if (button == *buttons.begin()) {
+            button->setAutoDefault(true);
+            button->setDefault(true);
+        }
+    }
+    return row;
+}
+
+} // namespace qlm

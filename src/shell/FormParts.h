@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <initializer_list>
+
+class QDialogButtonBox;
+class QLineEdit;
+
+namespace qlm {
+
+// Building stones of the forms. name is the design's name of the control and becomes the object name, by
+// which it is bound; the accessible name is what a screen reader says.
+
+template <typename Widget>
+Widget* Named(Widget* widget, QLatin1StringView name, const QString& accessibleName = {}) {
+    widget->setObjectName(QString(name));
+    if (!accessibleName.isEmpty())
+        widget->setAccessibleName(accessibleName);
+    return widget;
+}
+
+// caption may hold a mnemonic.
+QPushButton* NewButton(QLatin1StringView name, const QString& caption);
+// A button that looks like a link and can be reached by the keyboard.
+QPushButton* NewLink(QLatin1StringView name, const QString& caption);
+QLineEdit* NewLine(QLatin1StringView name, const QString& accessibleName);
+// A label that shows a control; look names its part in the style sheet ("heading", "quiet", "badge", or
+// empty).
+QLabel* NewLabel(QLatin1StringView name, const QString& look = {});
+// A fixed text that wraps.
+QLabel* NewText(const QString& text, const QString& look = {});
+
+// A row of buttons at the foot of a form; the first is the default one. Buttons named "cmdCancel" and
+// "cmdClose" take the place of those.
+QDialogButtonBox* NewButtonRow(std::initializer_list<QPushButton*> buttons);
+
+} // namespace qlm

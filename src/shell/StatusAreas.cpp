@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "shell/StatusAreas.h"
+
+#include "core/App.h"
+#include "shell/ElidedLabel.h"
+#include "shell/FormParts.h"
+
+#include <QBoxLayout>
+#include <QProgressBar>
+#include <QRegularExpression>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QProgressBar* NewProgressBar() {
+    auto* bar = Named(new QProgressBar, "prgProgress"_L1, u"Progress through the list"_s);
+    bar->setTextVisible(false);
+    bar->setFixedWidth(140);
+    bar->setMaximumHeight(8);
+    bar->hide();
+    return bar;
+}
+
+ElidedLabel* NewElided(QLatin1StringView name, const QString& look) {
+    auto* label = Named(new ElidedLabel, name);
+    label->setTextFormat(Qt::PlainText);
+    label->setProperty("look", look);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return label;
+}
+
+} // namespace
+
+ActivityStrip::ActivityStrip(App& app) : m_app(app), m_bar(NewProgressBar()) {
+    setObjectName(u"fraActivity"_s);
+    setAttribute(Qt::WA_StyledBackground);
+    ElidedLabel* action = NewElided("myfraCurrentAction"_L1, u"activity"_s);
+    action->setAccessibleDescription(u"What is being done now"_s);
+    action->SetPlaceholder(u"Ready"_s);
+    ElidedLabel* waiting = NewElided("lblWaitingFor"_L1, u"waiting"_s);
+    waiting->setProperty("hideWhenEmpty", true);
+
+    auto* words = new QVBoxLayout;
+    words->setSpacing(1);
+    words->addWidget(action);
+    words->addWidget(waiting);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(12, 7, 12, 7);
+    row->setSpacing(12);
+    row->addLayout(words, 1);
+    row->addWidget(NewLabel("lblProgress"_L1, u"quiet"_s));
+    row->addWidget(m_bar);
+
+    m_listener = m_app.controls.AddListener([this](const Control& control, Controls::Change change, int) {
+        if (control.name == "lblProgress"_L1 && change == Controls::Change::Text)
+            ShowProgress(control.text);
+    });
+    ShowProgress(m_app.controls.Text("lblProgress"_L1));
+}
+
+ActivityStrip::~ActivityStrip() {
+    m_app.controls.RemoveListener(m_listener);
+}
+
+void ActivityStrip::ShowProgress(const QString& text) {
+    static const QRegularExpression numbers(uR"((\d+) of (\d+))"_s);
+    const QRegularExpressionMatch match = numbers.match(text);
+    const int total = match.hasMatch() ? match.captured(2).toInt() : 0;
+    m_bar->setVisible(total > 0);
+    if (total > 0) {
+        m_bar->setRange(0, total);
+        m_bar->setValue(match.captured(1).toInt());
+    }
+}
+
+FootLine::FootLine() {
+    setObjectName(u"fraFoot"_s);
+    setAttribute(Qt::WA_StyledBackground);
+    ElidedLabel* status = NewElided("lblStatus"_L1, u"quiet"_s);
+    status->setAccessibleDescription(u"The browser's status"_s);
+    QLabel* account = NewLabel("lblLoggedInAs"_L1);
+    account->setAccessibleDescription(u"The account that is logged in"_s);
+    account->setProperty("hideWhenEmpty", true);
+    QLabel* practice = NewLabel("lblPracticeSite"_L1, u"badge"_s);
+    practice->setToolTip(u"The program works on the bundled practice site. No real site is touched."_s);
+    practice->setProperty("hideWhenEmpty", true);
+
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(12, 3, 12, 3);
+    row->setSpacing(16);
+    row->addWidget(status, 1);
+    row->addWidget(NewLabel("lblTimeDelay"_L1));
+    row->addWidget(account);
+    row->addWidget(practice);
+}
+
+} // namespace qlm

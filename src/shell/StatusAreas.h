@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+class QProgressBar;
+
+namespace qlm {
+
+class App;
+
+// What is being done now, in large: the line of the running activity, what it has been waiting for, and how
+// far it is.
+class ActivityStrip : public QWidget {
+public:
+    explicit ActivityStrip(App& app);
+    ~ActivityStrip() override;
+
+private:
+    // The bar follows the numbers of a text like "ID 3 of 120", and goes with them.
+    void ShowProgress(const QString& text);
+
+    App& m_app;
+    QProgressBar* m_bar;
+    int m_listener;
+};
+
+// The window's last line: the browser's status text, the time delay, the account, and the practice site's
+// mark.
+class FootLine : public QWidget {
+public:
+    FootLine();
+};
+
+} // namespace qlm

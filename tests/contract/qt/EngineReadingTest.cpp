@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#include "EngineWorld.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QWebEnginePage>
+#include <QWebEngineScriptCollection>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// About 35 kB, like a list page of the site: a hundred people, each with a picture and three links.
+QByteArray ListPage(int people) {
+    QByteArray page = "<title>list</title><body><div id=top>Listing 1-40 of 212</div>";
+    for (int i = 0; i < people; ++i) {
+        const QByteArray id = QByteArray::number(100000 + i);
+        page += "<div class=miniProfile id=p" + id + "><h5><a href='http://www.example.com/" + id +
+                "'>Person " + id + "</a></h5><a href='/" + id + "'><img src='/pictures/" + id +
+                ".svg' alt=''></a>"
+                "<ul><li><a href='/my/mail/new?t=" +
+                id +
+                "'>Send Message</a></li>"
+                "<li><a href='/my/friends/addtofriends/" +
+                id + "'>Add to Friends</a></li></ul></div>\n";
+    }
+    return page + "<form><input name=q id=q value=word><button>Go</button></form>";
+}
+
+} // namespace
+
+using EngineReading = EngineTest;
+
+// What a dispatcher pass asks of a page: many texts, markup markers, link addresses and ids.
+TEST_F(EngineReading, ADispatcherPassCostsTwoCallsAtMost) {
+    Serve(u"/list"_s, ListPage(100));
+    ASSERT_TRUE(Open(u"/list"_s));
+    pump.PumpMessages();
+    const qint64 before = browser->EngineCalls();
+    const Document document = browser->Document();
+    ASSERT_TRUE(document.Body());
+    ASSERT_TRUE(document.HasLinks());
+    for (int i = 0; i < 60; ++i) {
+        EXPECT_FALSE(document.BodyText().contains(u"marker %1"_s.arg(i)));
+        EXPECT_FALSE(document.BodyHTML().contains(u"marker %1"_s.arg(i)));
+        EXPECT_FALSE(document.GetElementById(u"missing%1"_s.arg(i)));
+    }
+    EXPECT_TRUE(document.GetElementById(u"p100007"_s));
+    int found = 0;
+    for (const Element& link : document.Links())
+        found += link.Href().contains(u"addtofriends"_s) && link.InnerText() == u"Add to Friends"_s;
+    EXPECT_EQ(found, 100);
+    EXPECT_LE(browser->EngineCalls() - before, 2);
+}
+
+TEST_F(EngineReading, ThePageIsAskedAgainAfterEveryPump) {
+    Serve(u"/a"_s, "<body>one");
+    ASSERT_TRUE(Open(u"/a"_s));
+    EXPECT_EQ(Text(), u"one"_s);
+    browser->Navigate(u"javascript:document.body.innerText='two'"_s);
+    EXPECT_EQ(Text(), u"one"_s);
+    EXPECT_TRUE(WaitForText(u"two"_s));
+}
+
+TEST_F(EngineReading, ALinksSurroundingsCostOneCallALink) {
+    Serve(u"/list"_s, ListPage(100));
+    ASSERT_TRUE(Open(u"/list"_s));
+    pump.PumpMessages();
+    const std::vector<Element> links = browser->Document().Links();
+    const qint64 before = browser->EngineCalls();
+    int profiles = 0;
+    for (const Element& link : links) {
+        for (int level = 1; level <= 2; ++level)
+            profiles += link.Ancestor(level).OuterHTML().contains(u"miniProfile"_s);
+        EXPECT_TRUE(link.Ancestor(3).OuterHTML().size() > 0);
+    }
+    EXPECT_GT(profiles, 100);
+    EXPECT_LE(browser->EngineCalls() - before, static_cast<qint64>(links.size()) * 3 / 2 + 4);
+}
+
+TEST_F(EngineReading, ALookCostsLittleMoreThanTextAndMarkupAlone) {
+    Serve(u"/list"_s, ListPage(100));
+    ASSERT_TRUE(Open(u"/list"_s));
+    auto* view = qobject_cast<QWebEngineView*>(browser->View());
+    constexpr int rounds = 100;
+    const auto bare = [&] {
+        QEventLoop loop;
+        view->page()->runJavaScript(u"({text: document.body.innerText, html: document.body.innerHTML})"_s, 1,
+                                    [&](const QVariant&) { loop.quit(); });
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    };
+    const auto look = [&] {
+        pump.Queue().EndTurn();
+        const Document document = browser->Document();
+        EXPECT_FALSE(document.BodyText().isEmpty());
+        EXPECT_FALSE(document.GetElementById(u"missing"_s));
+        for (const Element& link : document.Links())
+            EXPECT_FALSE(link.Href().isEmpty());
+    };
+    const auto change = [&] {
+        view->page()->runJavaScript(u"document.body.setAttribute('x', Math.random())"_s);
+    };
+    const auto measure = [&](const std::function<void()>& act) {
+        QElapsedTimer clock;
+        clock.start();
+        for (int i = 0; i < rounds; ++i)
+            act();
+        return static_cast<double>(clock.nsecsElapsed()) / rounds / 1e6;
+    };
+    measure(bare);
+    measure(look);
+    const double bareMs = measure(bare);
+    const double lookMs = measure(look);
+    const double changedBareMs = measure([&] {
+        change();
+        bare();
+    });
+    const double changedLookMs = measure([&] {
+        change();
+        look();
+    });
+    std::printf("bare %.3f ms, look %.3f ms; on a changed page bare %.3f ms, look %.3f ms\n", bareMs, lookMs,
+                changedBareMs, changedLookMs);
+    EXPECT_LT(lookMs, bareMs * 1.5);
+    EXPECT_LT(changedLookMs, changedBareMs * 4);
+}
+
+TEST_F(EngineReading, TwentyThousandLinksAreRead) {
+    QByteArray page = "<body>";
+    for (int i = 0; i < 20'000; ++i)
+        page += "<a href='/" + QByteArray::number(i) + "'>link " + QByteArray::number(i) + "</a> ";
+    Serve(u"/many"_s, page);
+    ASSERT_TRUE(Open(u"/many"_s));
+    ASSERT_TRUE(WaitForText(u"link 19999"_s));
+    const std::vector<Element> links = browser->Document().Links();
+    ASSERT_EQ(links.size(), 20'000U);
+    EXPECT_EQ(links[19'999].InnerText(), u"link 19999"_s);
+    EXPECT_EQ(links[12'345].Href(), server.Address(u"/12345"_s));
+}
+
+TEST_F(EngineReading, ABridgeThatWasLostIsPutBack) {
+    Serve(u"/a"_s, "<body>alpha");
+    ASSERT_TRUE(Open(u"/a"_s));
+    auto* view = qobject_cast<QWebEngineView*>(browser->View());
+    // A page from before the script was installed has none.
+    view->page()->scripts().clear();
+    Go(u"/a?again"_s);
+    EXPECT_TRUE(
+        WaitUntil([&] { return browser->LocationURL().endsWith(u"again"_s) && Text() == u"alpha"_s; }));
+}
+
+TEST_F(EngineReading, TextsComeThroughUnharmed) {
+    const QString text = u"Zo\u00eb \U0001F600 \u05e9\u05dc\u05d5\u05dd <&> \"quoted\" \\ ' \u2028 end"_s;
+    Serve(u"/a"_s, "<meta charset=utf-8><body><input id=i><p id=p>x</p><a id='l' href='#'></a>");
+    ASSERT_TRUE(Open(u"/a"_s));
+    const Document document = browser->Document();
+    document.GetElementById(u"i"_s).SetInnerText(text);
+    document.GetElementById(u"p"_s).SetInnerText(text);
+    document.GetElementById(u"l"_s).SetAttribute(u"title"_s, text);
+    EXPECT_EQ(document.GetElementById(u"i"_s).InnerText().remove(QChar(0x2028)),
+              QString(text).remove(QChar(0x2028)));
+    EXPECT_EQ(document.GetElementById(u"l"_s).Read(ElementText::Title), text);
+    EXPECT_TRUE(document.GetElementById(u"p"_s).InnerText().startsWith(text.left(8)));
+}
+
+} // namespace qlm

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHash>
+#include <QMutex>
+#include <QString>
+#include <QStringList>
+#include <QThread>
+#include <vector>
+
+class QTcpSocket;
+
+namespace qlm {
+
+// What the server answers to one path.
+struct LoopbackAnswer {
+    enum class Fault { None, Hang, Reset, BreakOff };
+
+    QByteArray body;
+    QByteArray contentType = "text/html; charset=utf-8";
+    int status = 200;
+    QByteArray headers; // whole lines
+    int delayMs = 0;
+    Fault fault = Fault::None;
+};
+
+struct LoopbackRequest {
+    QString method;
+    QString url; // as the engine sent it: absolute through the proxy
+    QByteArray headers;
+    QByteArray body;
+
+    QString Header(const QByteArray& name) const;
+};
+
+// A server of its own thread on the loopback address, so that it answers whatever the tested program does. It
+// takes absolute addresses too and can play every host as the program's proxy.
+class LoopbackServer {
+public:
+    LoopbackServer();
+    ~LoopbackServer();
+
+    quint16 Port() const { return m_port; }
+    QString Address(const QString& path) const;
+    // Answers given in a row for one path, or for one whole address with its query; the last one stays.
+    void Answer(const QString& path, const LoopbackAnswer& answer);
+    // Takes the place of all answers given before.
+    void AnswerOnly(const QString& path, const LoopbackAnswer& answer);
+    // What everything else gets; a page that says so unless set.
+    void AnswerUnknown(const LoopbackAnswer& answer);
+    void Clear();
+    std::vector<LoopbackRequest> Requests() const;
+    int CountRequests(const QString& path) const;
+
+private:
+    void OnReadable(QTcpSocket* socket);
+    void Reply(QTcpSocket* socket, const LoopbackRequest& request);
+    LoopbackAnswer Next(const QString& url);
+
+    mutable QMutex m_mutex;
+    QHash<QString, QList<LoopbackAnswer>> m_answers;
+    LoopbackAnswer m_unknown;
+    std::vector<LoopbackRequest> m_requests;
+    QThread m_thread;
+    quint16 m_port = 0;
+};
+
+} // namespace qlm

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+// Commands that work the program's own windows, as a person would.
+#include "Arguments.h"
+#include "CommandTable.h"
+#include "Stage.h"
+#include "Widgets.h"
+
+#include <QAction>
+#include <QTabBar>
+#include <QTabWidget>
+
+namespace qlm::scenario {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// A person can only work what he sees.
+QWidget* VisibleWidget(Stage& stage, Arguments& arguments) {
+    QWidget* widget = stage.Widget(arguments.Take("the widget"));
+    if (!Shows(widget))
+        Fail(u"%1 is hidden"_s.arg(widget->objectName()));
+    return widget;
+}
+
+void Start(Stage& stage, Arguments&) {
+    stage.Start();
+}
+
+void Click(Stage& stage, Arguments& arguments) {
+    ClickOn(VisibleWidget(stage, arguments));
+}
+
+void DoubleClick(Stage& stage, Arguments& arguments) {
+    DoubleClickRow(VisibleWidget(stage, arguments));
+}
+
+void Type(Stage& stage, Arguments& arguments) {
+    QWidget* widget = VisibleWidget(stage, arguments);
+    TypeInto(widget, arguments.Take("the text"));
+}
+
+void Tick(Stage& stage, Arguments& arguments) {
+    SetTick(VisibleWidget(stage, arguments), true);
+}
+
+void Untick(Stage& stage, Arguments& arguments) {
+    SetTick(VisibleWidget(stage, arguments), false);
+}
+
+void Select(Stage& stage, Arguments& arguments) {
+    QWidget* widget = VisibleWidget(stage, arguments);
+    SelectItem(widget, arguments.Take("the item"));
+}
+
+void Row(Stage& stage, Arguments& arguments) {
+    QWidget* widget = VisibleWidget(stage, arguments);
+    SelectRow(widget, arguments.TakeNumber("the row"));
+}
+
+void Key(Stage& stage, Arguments& arguments) {
+    QWidget* widget = VisibleWidget(stage, arguments);
+    PressKey(widget, arguments.Take("the key"));
+}
+
+void Tab(Stage& stage, Arguments& arguments) {
+    const QString caption = arguments.Take("the caption");
+    for (QWidget* form : stage.ReachableForms())
+        for (QTabBar* bar : form->findChildren<QTabBar*>())
+            for (int i = 0; i < bar->count(); ++i)
+                if (WithoutMnemonic(bar->tabText(i)) == caption) {
+                    bar->setCurrentIndex(i);
+                    return;
+                }
+    Fail(u"there is no tab \"%1\""_s.arg(caption));
+}
+
+void Menu(Stage& stage, Arguments& arguments) {
+    const QString name = arguments.Take("the menu item");
+    for (QWidget* form : stage.ReachableForms())
+        if (QAction* action = FindAction(form, name)) {
+            // A disabled item refuses, as it would under the mouse.
+            action->trigger();
+            return;
+        }
+    Fail(u"there is no menu item %1"_s.arg(name));
+}
+
+void Answer(Stage& stage, Arguments& arguments) {
+    const QString words = arguments.Take("words of the question");
+    const QString answer = arguments.Take("the answer");
+    using enum Dialogs::Answer;
+    if (answer == u"Yes")
+        stage.dialogs.answers.push_back({words, Yes});
+    else if (answer == u"No")
+        stage.dialogs.answers.push_back({words, No});
+    else if (answer == u"Cancel")
+        stage.dialogs.answers.push_back({words, Cancel});
+    else
+        Fail(u"Yes, No or Cancel, not %1"_s.arg(answer));
+}
+
+void ChooseFile(Stage& stage, Arguments& arguments) {
+    const bool cancel = arguments.TakeWord("cancel"_L1);
+    stage.dialogs.filesToChoose << (cancel ? QString() : stage.Path(arguments.Take("the path")));
+}
+
+void On(Stage& stage, Arguments& arguments) {
+    arguments.Take("the form");
+    stage.play->AddBlock(arguments.Source());
+}
+
+} // namespace
+
+const CommandRows& ActingCommands() {
+    static const CommandRows rows{
+        {"start", Start},
+        {"click", Click},
+        {"double-click", DoubleClick},
+        {"type", Type},
+        {"tick", Tick},
+        {"untick", Untick},
+        {"choose", Tick},
+        {"select", Select},
+        {"row", Row},
+        {"key", Key},
+        {"tab", Tab},
+        {"menu", Menu},
+        {"answer", Answer},
+        {"choose-file", ChooseFile},
+        {"on", On},
+    };
+    return rows;
+}
+
+} // namespace qlm::scenario

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+// Commands of the user in the page that WebBrowser1 shows.
+#include "Arguments.h"
+#include "CommandTable.h"
+#include "Stage.h"
+
+namespace qlm::scenario {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+template <typename Act> void InPage(const QString& what, Act&& act) {
+    try {
+        act();
+    } catch (const BrowserError&) {
+        Fail(u"the page has no %1"_s.arg(what));
+    }
+}
+
+void Browse(Stage& stage, Arguments& arguments) {
+    stage.Browser(BrowserName::WebBrowser1).Browse(arguments.Take("the address"));
+}
+
+void Follow(Stage& stage, Arguments& arguments) {
+    const QString text = arguments.Take("the link's text");
+    InPage(u"link \"%1\""_s.arg(text), [&] { stage.Browser(BrowserName::WebBrowser1).FollowLink(text); });
+}
+
+void PageClick(Stage& stage, Arguments& arguments) {
+    const QString element = arguments.Take("the element");
+    InPage(element, [&] { stage.Browser(BrowserName::WebBrowser1).PageClick(element); });
+}
+
+void PageType(Stage& stage, Arguments& arguments) {
+    const QString element = arguments.Take("the element");
+    const QString text = arguments.Take("the text");
+    InPage(element, [&] { stage.Browser(BrowserName::WebBrowser1).PageType(element, text); });
+}
+
+void StatusText(Stage& stage, Arguments& arguments) {
+    stage.Browser(BrowserName::WebBrowser1).ShowStatus(arguments.Take("the text"));
+    stage.ThePump().PumpMessages();
+}
+
+void RightClick(Stage& stage, Arguments&) {
+    stage.Browser(BrowserName::WebBrowser1).RightClick();
+    stage.ThePump().PumpMessages();
+}
+
+} // namespace
+
+const CommandRows& ActingInPageCommands() {
+    static const CommandRows rows{
+        {"browse", Browse},           {"follow", Follow},          {"page-click", PageClick},
+        {"page-type", PageType},      {"status-text", StatusText}, {"right-click", RightClick},
+    };
+    return rows;
+}
+
+} // namespace qlm::scenario

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+// Expectations about what reached the site, and about the page that is shown.
+#include "Arguments.h"
+#include "CommandTable.h"
+#include "Expect.h"
+#include "Stage.h"
+#include "platform/sim/SimAddress.h"
+
+namespace qlm::scenario {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+BrowserName TakeBrowser(Arguments& arguments) {
+    if (arguments.TakeWord("webHide"_L1))
+        return BrowserName::webHide;
+    if (arguments.TakeWord("webTemp"_L1))
+        return BrowserName::webTemp;
+    arguments.TakeWord("WebBrowser1"_L1);
+    return BrowserName::WebBrowser1;
+}
+
+QStringList Canonical(const QStringList& addresses) {
+    QStringList canonical;
+    for (const QString& address : addresses)
+        canonical << CanonicalAddress(address);
+    return canonical;
+}
+
+// expect visited [webHide|webTemp] URL ... | none
+void Visited(Stage& stage, Arguments& arguments) {
+    const BrowserName browser = TakeBrowser(arguments);
+    QStringList expected = arguments.TakeAll();
+    if (expected == QStringList{u"none"_s})
+        expected.clear();
+    const QStringList seen = stage.TakeVisited(browser);
+    ExpectLines(u"the list of visited addresses"_s, Canonical(expected), Canonical(seen));
+}
+
+// One form, its fields in page order.
+QString FormText(const SimBrowser::Posted& form) {
+    QStringList parts{CanonicalAddress(form.url)};
+    for (const SimField& field : form.fields)
+        parts << field.name + u'=' + field.value;
+    return parts.join(u"\n"_s);
+}
+
+void Posted(Stage& stage, Arguments& arguments) {
+    const BrowserName browser = TakeBrowser(arguments);
+    QStringList expected{CanonicalAddress(arguments.Take("the address"))};
+    expected << arguments.TakeAll();
+    const std::optional<SimBrowser::Posted> form = stage.TakePosted(browser);
+    if (!form)
+        Fail(u"no form was sent; %1"_s.arg(stage.Describe()));
+    ExpectLines(u"the form"_s, expected, FormText(*form).split(u'\n'));
+}
+
+void NoPosted(Stage& stage, Arguments& arguments) {
+    if (const std::optional<SimBrowser::Posted> form = stage.TakePosted(TakeBrowser(arguments)))
+        Fail(u"a form was sent: %1"_s.arg(FormText(*form).replace(u'\n', u' ')));
+}
+
+void Value(Stage& stage, Arguments& arguments) {
+    QString id = arguments.Take("the element");
+    if (id.startsWith(u'#'))
+        id.remove(0, 1);
+    const Element element = stage.Browser(BrowserName::WebBrowser1).Document().GetElementById(id);
+    if (!element)
+        Fail(u"the page has no element #%1"_s.arg(id));
+    ExpectText(u"the value of #"_s + id, arguments.Take("the text"), element.Value());
+}
+
+void Page(Stage& stage, Arguments& arguments) {
+    const QString text = arguments.Take("the text");
+    const Document document = stage.Browser(BrowserName::WebBrowser1).Document();
+    const QString body = document ? document.BodyText() : QString();
+    if (!body.contains(text))
+        Fail(u"the page does not hold the text; %1, it begins: %2"_s.arg(stage.Describe(), body.left(300)));
+}
+
+void Journal(Stage& stage, Arguments& arguments) {
+    if (!stage.site)
+        Fail(u"the practice site is not in use"_s);
+    ExpectLines(u"the journal"_s, arguments.TakeLines(), stage.site->TakeJournal());
+}
+
+} // namespace
+
+const CommandRows& ExpectingSiteCommands() {
+    static const CommandRows rows{
+        {"expect visited", Visited}, {"expect posted", Posted}, {"expect no posted", NoPosted},
+        {"expect value", Value},     {"expect page", Page},     {"expect journal", Journal},
+    };
+    return rows;
+}
+
+} // namespace qlm::scenario

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "ScenarioDialogs.h"
+
+#include "Arguments.h"
+#include "Play.h"
+
+#include <QDialog>
+#include <QPointer>
+
+namespace qlm::scenario {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString AsWritten(QString text) {
+    return text.replace(u"\r\n"_s, u"\n"_s);
+}
+
+} // namespace
+
+ScenarioDialogs::ScenarioDialogs(std::function<Play&()> play) : m_play(std::move(play)) {}
+
+Dialogs::Answer ScenarioDialogs::RunMessage(const QString& text, const QString& title, Buttons buttons) {
+    const Box box{AsWritten(text), title};
+    if (buttons == Buttons::Ok) {
+        messages.push_back(box);
+        return Answer::Ok;
+    }
+    questions.push_back(box);
+    for (auto answer = answers.begin(); answer != answers.end(); ++answer) {
+        if (!box.text.contains(answer->words))
+            continue;
+        const Answer chosen = answer->answer;
+        answers.erase(answer);
+        return chosen;
+    }
+    Fail(u"a question has no answer: \"%1\""_s.arg(box.text));
+}
+
+QString ScenarioDialogs::ChooseFile(const QString& title) {
+    if (filesToChoose.isEmpty())
+        Fail(u"a file dialog has no answer: \"%1\""_s.arg(title));
+    return filesToChoose.takeFirst();
+}
+
+QString ScenarioDialogs::ChooseFileToOpen(const QString& title, const QString&) {
+    return ChooseFile(title);
+}
+
+QString ScenarioDialogs::ChooseFileToSave(const QString& title, const QString&, const QString&) {
+    return ChooseFile(title);
+}
+
+void ScenarioDialogs::ShowForm(const QString& form) {
+    const bool wasOpen = IsFormOpen(form);
+    WindowDialogs::ShowForm(form);
+    if (!quiet && !wasOpen && IsFormOpen(form))
+        m_play().OnForm(form, false);
+}
+
+void ScenarioDialogs::RunModal(const QString& form, QDialog& dialog) {
+    const QPointer<QDialog> shown(&dialog);
+    auto closed = [&shown] { return !shown || !shown->isVisible(); };
+    dialog.show();
+    m_play().OnForm(form, true);
+    if (!closed())
+        m_play().OnModalLoop(closed);
+}
+
+} // namespace qlm::scenario

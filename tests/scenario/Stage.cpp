@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: MIT
+#include "Stage.h"
+
+#include "Arguments.h"
+#include "Widgets.h"
+#include "core/MainForm.h"
+#include "core/StartUp.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+
+namespace qlm::scenario {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int LocalApplicationData = 28;
+constexpr QLatin1StringView FolderOfData = "Quillmere"_L1;
+
+QString DeploymentText() {
+    QFile file(QStringLiteral(QUILLMERE_DEPLOYMENT));
+    if (!file.open(QIODevice::ReadOnly))
+        Fail(u"cannot read %1"_s.arg(file.fileName()));
+    return QString::fromUtf8(file.readAll());
+}
+
+} // namespace
+
+Stage::Stage() : dialogs([this]() -> Play& { return *play; }) {
+    world.installationFolder = m_folder.filePath(u"program"_s);
+    world.dataFolder = m_folder.filePath(u"data"_s);
+    QDir().mkpath(world.installationFolder);
+    QDir().mkpath(world.dataFolder);
+    world.deploymentText = DeploymentText();
+    world.settings.SaveSetting(u"General"_s, u"mnuEnableLogging"_s, u"True"_s);
+    world.http.responder = [this](const QString& url) { return AnswerHttp(url); };
+    world.web.responder = [this](const SimRequest& request) { return AnswerPage(request); };
+    MakePlatform();
+}
+
+Stage::~Stage() {
+    DropProgram();
+}
+
+void Stage::MakePlatform() {
+    m_platform = std::make_unique<SimPlatform>(world, dialogs);
+    m_platform->Pump().onPump = [this] { play->OnPump(); };
+}
+
+QWidget* Stage::ViewOf(BrowserName name) {
+    std::unique_ptr<QWidget>& view = m_views[name];
+    if (!view)
+        view = std::make_unique<QWidget>();
+    return view.get();
+}
+
+App& Stage::TheApp() {
+    if (!m_app)
+        Fail(u"the program is not running"_s);
+    return *m_app;
+}
+
+void Stage::Build() {
+    if (m_app && !HasEnded())
+        Fail(u"the program is running already"_s);
+    DropProgram();
+    m_app = std::make_unique<App>(*m_platform);
+    m_app->diagnostics.onLine = [this](const QString& text) { play->OnDebugLine(text); };
+    dialogs.Attach(*m_app, *this);
+}
+
+void Stage::Start() {
+    Build();
+    m_app->startUp->Main();
+}
+
+void Stage::DropProgram() {
+    if (!m_app)
+        return;
+    CollectRecords();
+    dialogs.Detach();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_app.reset();
+    m_platform.reset();
+    m_views.clear();
+    // The browser's session ends with its process.
+    world.web.cookies.Clear();
+    world.gate.Mend();
+    MakePlatform();
+}
+
+void Stage::Close() {
+    if (!m_app)
+        return;
+    if (dialogs.IsFormOpen(u"frmMain"_s))
+        dialogs.CloseForm(u"frmMain"_s);
+    else
+        m_app->mainForm->Unload();
+}
+
+bool Stage::HasEnded() {
+    return !m_app || m_app->state.blnClosing || m_platform->Shell().hasQuit || m_platform->Shell().hasEnded;
+}
+
+bool Stage::IsIdle() {
+    if (HasEnded())
+        return true;
+    const Timers& timers = *m_app->timers;
+    const bool isAtRest =
+        m_app->state.CurrentAction.isEmpty() && !timers.Timer1.Enabled() && !timers.tmrCheckLinkLoaded.Enabled();
+    const bool nothingDue = ThePump().Queue().NextDueMs().value_or(NowMs() + 1) > NowMs();
+    return isAtRest && nothingDue && !Browser(BrowserName::WebBrowser1).Busy();
+}
+
+void Stage::CollectRecords() {
+    for (const BrowserName name : {BrowserName::WebBrowser1, BrowserName::webHide, BrowserName::webTemp}) {
+        Records& records = m_records[name];
+        records.visited += Browser(name).TakeVisited();
+        for (SimBrowser::Posted& form : Browser(name).TakePosted())
+            records.posted.push_back(std::move(form));
+    }
+}
+
+QStringList Stage::TakeVisited(BrowserName name) {
+    CollectRecords();
+    return std::exchange(m_records[name].visited, {});
+}
+
+std::optional<SimBrowser::Posted> Stage::TakePosted(BrowserName name) {
+    CollectRecords();
+    std::deque<SimBrowser::Posted>& posted = m_records[name].posted;
+    if (posted.empty())
+        return {};
+    SimBrowser::Posted form = std::move(posted.front());
+    posted.pop_front();
+    return form;
+}
+
+QString Stage::ProgramFolder() const {
+    if (m_app && !m_app->state.ProgramFolder.isEmpty())
+        return m_app->state.ProgramFolder;
+    return world.gate.IsReadOnly(world.installationFolder) ? DataFolder() : world.installationFolder;
+}
+
+QString Stage::DataFolder() const {
+    return FileSystem::Join(m_platform->SpecialFolderPath(LocalApplicationData), FolderOfData);
+}
+
+QString Stage::Expand(const QString& text) {
+    if (!text.contains(u'{'))
+        return text;
+    QString expanded = text;
+    for (const auto& [name, value] : names)
+        expanded.replace(u'{' + name + u'}', value);
+    expanded.replace(u"{ProgramFolder}"_s, ProgramFolder());
+    expanded.replace(u"{DataFolder}"_s, DataFolder());
+    expanded.replace(u"{AccountEmail}"_s, m_app ? m_app->state.AccountEmail : QString());
+    return Deployment(world.deploymentText).Expand(expanded);
+}
+
+QString Stage::Path(const QString& text) {
+    const QString path = Expand(text);
+    return QDir::cleanPath(QDir::isAbsolutePath(path) ? path : m_folder.filePath(path));
+}
+
+std::vector<QWidget*> Stage::ReachableForms() {
+    std::vector<QWidget*> forms;
+    const QStringList open = dialogs.OpenForms();
+    for (auto name = open.rbegin(); name != open.rend(); ++name) {
+        QWidget* form = dialogs.FormWidget(*name);
+        forms.push_back(form);
+        if (form->isModal())
+            break;
+    }
+    return forms;
+}
+
+QWidget* Stage::WidgetOrNull(const QString& name) {
+    for (QWidget* form : ReachableForms())
+        if (QWidget* widget = FindWidget(form, name))
+            return widget;
+    return nullptr;
+}
+
+QWidget* Stage::Widget(const QString& name) {
+    QWidget* widget = WidgetOrNull(name);
+    if (!widget)
+        Fail(u"no open form has %1; open: %2"_s.arg(name, dialogs.OpenForms().join(u", "_s)));
+    // Fields tell that they are left only in the active window.
+    if (QApplication::activeWindow() != widget->window())
+        QApplication::setActiveWindow(widget->window());
+    return widget;
+}
+
+void Stage::DestroyClosedWindows() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+QString Stage::UnusedAnswers() const {
+    if (!dialogs.answers.empty())
+        return u"the answer to \"%1\" was never used"_s.arg(dialogs.answers.front().words);
+    if (!dialogs.filesToChoose.isEmpty())
+        return u"a file dialog's answer was never used: \"%1\""_s.arg(dialogs.filesToChoose.first());
+    if (!world.web.problems.isEmpty())
+        return world.web.problems.first();
+    return {};
+}
+
+QString Stage::Describe() {
+    if (!m_app)
+        return u"the program is not running"_s;
+    const RunState& state = m_app->state;
+    return u"status \"%1\", activity \"%2\", steps login %3 gather %4 fr %5, address %6, last message \"%7\""_s
+        .arg(m_app->Status(), state.CurrentAction)
+        .arg(state.intLoginStep)
+        .arg(state.intGatherStep)
+        .arg(state.intFRStep)
+        .arg(Browser(BrowserName::WebBrowser1).LocationURL(),
+             dialogs.messages.empty() ? QString() : dialogs.messages.back().text);
+}
+
+QStringList Stage::DebugTrail(int linesEach) const {
+    QStringList trail;
+    const QDir folder(DataFolder());
+    for (const QString& name : folder.entryList({u"debug*.txt"_s, u"Error.log"_s}, QDir::Files, QDir::Name)) {
+        QFile file(folder.filePath(name));
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        const QStringList lines = QString::fromLatin1(file.readAll()).remove(u'\r').split(u'\n', Qt::SkipEmptyParts);
+        for (const QString& line : lines.mid(std::max<qsizetype>(0, lines.size() - linesEach)))
+            trail << name + u": "_s + line.left(300);
+    }
+    return trail;
+}
+
+} // namespace qlm::scenario

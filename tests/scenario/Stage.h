@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Play.h"
+#include "ScenarioDialogs.h"
+#include "core/App.h"
+#include "platform/sim/SimPlatform.h"
+#include "practice/PracticeSite.h"
+
+#include <QTemporaryDir>
+#include <deque>
+#include <map>
+#include <memory>
+
+namespace qlm::scenario {
+
+// The world of one scenario: a machine with fresh folders, a store, a network and a clock, and on it the program, which
+// may end and start again.
+class Stage : private BrowserViews {
+public:
+    Stage();
+    ~Stage() override;
+
+    Play* play = nullptr;
+    SimWorld world;
+    ScenarioDialogs dialogs;
+    std::unique_ptr<practice::PracticeSite> site;
+    std::map<QString, QString> names; // of "let"
+    qint64 markMs = 0;
+
+    // The program.
+    bool HasProgram() const { return m_app != nullptr; }
+    App& TheApp();
+    SimPump& ThePump() { return m_platform->Pump(); }
+    SimBrowser& Browser(BrowserName name) { return m_platform->Browser(name); }
+    QStringList& AttentionCalls() { return m_platform->Attention().calls; }
+    qint64 NowMs() const { return world.clock.NowMs(); }
+
+    void Start();
+    // Puts the program into the state behind a finished login.
+    void LogIn(const QString& email, const QString& ownID);
+    // Closes the main window, or what else is open of the program.
+    void Close();
+    // The process is gone; nothing of it runs any more.
+    void DropProgram();
+    bool IsIdle();
+    bool HasEnded();
+
+    void UsePracticeSite(quint64 seed);
+    // Loads and forms of that browser since the last call, also of programs that have ended meanwhile.
+    QStringList TakeVisited(BrowserName name);
+    std::optional<SimBrowser::Posted> TakePosted(BrowserName name);
+
+    // Before a start: as the next start will find it.
+    QString ProgramFolder() const;
+    QString DataFolder() const;
+    // Replaces {names}.
+    QString Expand(const QString& text);
+    // A path as a file name of this machine; one without a folder lies in the scenario's own.
+    QString Path(const QString& text);
+
+    // Forms, the top-most first; those under a modal form can't be reached.
+    std::vector<QWidget*> ReachableForms();
+    QWidget* Widget(const QString& name);
+    // Null when no form has it.
+    QWidget* WidgetOrNull(const QString& name);
+    void DestroyClosedWindows();
+
+    QString UnusedAnswers() const;
+    // What the program is doing, for a failure's text.
+    QString Describe();
+    // The last lines of the debug files.
+    QStringList DebugTrail(int linesEach) const;
+
+private:
+    struct Records {
+        QStringList visited;
+        std::deque<SimBrowser::Posted> posted;
+    };
+
+    QWidget* ViewOf(BrowserName name) override;
+    void MakePlatform();
+    void Build();
+    void OpenMainWindow(const QString& email);
+    void CollectRecords();
+    std::optional<QString> AnswerHttp(const QString& url) const;
+    std::optional<SimAnswer> AnswerPage(const SimRequest& request);
+
+    QTemporaryDir m_folder;
+    std::map<BrowserName, std::unique_ptr<QWidget>> m_views;
+    std::map<BrowserName, Records> m_records;
+    std::unique_ptr<SimPlatform> m_platform;
+    std::unique_ptr<App> m_app;
+};
+
+} // namespace qlm::scenario

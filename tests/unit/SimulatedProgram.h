@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/App.h"
+#include "platform/sim/RecordingDialogs.h"
+#include "platform/sim/SimPlatform.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace qlm {
+
+// A test's own program on the simulated platform: folders of its own, no window, nobody logged in yet.
+class SimulatedProgram : public testing::Test {
+protected:
+    SimulatedProgram() {
+        world.installationFolder = folder.filePath(QStringLiteral("program"));
+        world.dataFolder = folder.filePath(QStringLiteral("data"));
+        QDir().mkpath(world.installationFolder);
+        QDir().mkpath(world.dataFolder);
+        world.deploymentText = QStringLiteral("SiteRootHost=www.example.com\n"
+                                              "ProductServer=http://product.example.com\n"
+                                              "ProductServerAlternate=http://product2.example.com\n");
+        app.emplace(platform.emplace(world, dialogs));
+        app->state.ProgramFolder = world.installationFolder;
+        app->state.DataFolder = world.dataFolder;
+        app->state.ErrorLogPath = app->DataFile(QStringLiteral("Error.log"));
+        app->state.ServerBaseURL = QStringLiteral("http://product.example.com");
+    }
+
+    QTemporaryDir folder;
+    SimWorld world;
+    RecordingDialogs dialogs;
+    std::optional<SimPlatform> platform;
+    std::optional<App> app;
+};
+
+} // namespace qlm
+
+// So that a failed comparison shows the text.
+inline void PrintTo(const QString& text, std::ostream* stream) {
+    *stream << '"' << text.toStdString() << '"';
+}

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "SimulatedProgram.h"
+#include "campaigns/FriendRequester.h"
+#include "campaigns/SendRuns.h"
+#include "gather/GatheredList.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace qlm {
+namespace {
+
+class FriendRequesterTest : public SimulatedProgram {
+protected:
+    FriendRequesterTest() {
+        app->state.blnNewLayout = true;
+        for (const QString& id : {u"1001"_s, u"1002"_s}) {
+            app->gatheredList->ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
+            world.web.SetPage(u"http://www.example.com/my/friends/addtofriends/"_s + id,
+                              u"<html><body><a href='/'>Home</a>Request Sent!</body></html>"_s);
+        }
+    }
+
+    // Fails once, at the moment when the status line shows this.
+    void FailAtStatus(const QString& status, const char* error) {
+        app->controls.AddListener([this, status, error](const Control& control, Controls::Change, int) {
+            if (control.name == "myfraCurrentAction"_L1 && control.text == status && !m_failed) {
+                m_failed = true;
+                throw BrowserError(error);
+            }
+        });
+    }
+
+    QStringList Run() {
+        app->sendRuns->cmdAddFriends_Click();
+        platform->Pump().RunUntil([this] { return app->state.CurrentAction != u"FR"_s; }, 600'000);
+        return platform->Browser(BrowserName::WebBrowser1).TakeVisited();
+    }
+
+    QStringList Log() { return app->files.ReadLines(app->ProgramFile(u"FriendsLog.txt"_s)); }
+
+    const QString sending = u"Sending friend request to ID 1001, waiting for confirmation page..."_s;
+    bool m_failed = false;
+};
+
+TEST_F(FriendRequesterTest, ABusyBrowserIsTriedAgainAfterThreeSecondsWithTheSameTarget) {
+    FailAtStatus(sending, "Automation error");
+    const qint64 startMs = world.clock.NowMs();
+    EXPECT_EQ(Run().size(), 2);
+    EXPECT_TRUE(m_failed);
+    EXPECT_GE(world.clock.NowMs() - startMs, 3000);
+    EXPECT_EQ(Log(), (QStringList{u"1001"_s, u"1002"_s}));
+    EXPECT_TRUE(app->files.ReadLines(app->state.ErrorLogPath).contains(u"Proc: IterateAddFriends"_s));
+}
+
+TEST_F(FriendRequesterTest, AStopEndsTheWaitForABusyBrowser) {
+    FailAtStatus(sending, "The requested resource is in use.");
+    platform->Pump().onPump = [this] {
+        if (m_failed)
+            app->commands.Run(u"piccmdAddFriendsStop_Click"_s);
+    };
+    EXPECT_TRUE(Run().isEmpty());
+    EXPECT_TRUE(app->state.CurrentAction.isEmpty());
+}
+
+TEST_F(FriendRequesterTest, AnotherErrorEndsTheStepAndTheEmptyPageRepeatsIt) {
+    FailAtStatus(sending, "Something else");
+    EXPECT_EQ(Run().size(), 1);
+    EXPECT_EQ(Log(), QStringList{u"1002"_s});
+}
+
+TEST_F(FriendRequesterTest, AMessageBehindARequestIsHandedToTheMessenger) {
+    app->commands.Add(u"picCmdMsgSend_Click"_s, [] {});
+    app->controls.SetTicked("chkFrSendMessage"_L1, true);
+    app->controls.SetText("txtMsgSubject"_L1, u"Hi"_s);
+    app->controls.SetText("txtMsgMessage"_L1, u"Hello"_s);
+    EXPECT_EQ(Run(), QStringList{u"http://www.example.com/my/friends/addtofriends/1001"_s});
+    EXPECT_EQ(app->state.CurrentAction, u"MSG"_s);
+    EXPECT_EQ(app->state.intMsgStep, 7);
+    EXPECT_EQ(app->state.intFRStep, 0);
+    EXPECT_TRUE(app->state.blnMsgAfterFR);
+    EXPECT_EQ(app->state.intCurrentIDIndex, 0);
+    EXPECT_EQ(app->Status(), u"Proceeding to send message after friend request..."_s);
+    EXPECT_EQ(app->state.strLinkValue, u"send"_s);
+    platform->Pump().RunFor(1000);
+    EXPECT_EQ(app->WebBrowser1().LocationURL(), u"http://www.example.com/my/mail/new?t=1001"_s);
+}
+
+TEST_F(FriendRequesterTest, TheNoticeOfTheErrorRedirectComesOnceARun) {
+    app->friendRequester->NoticeErrorRedirect();
+    app->friendRequester->NoticeErrorRedirect();
+    EXPECT_EQ(dialogs.shownForms, QStringList{u"frmTempMySpaceErrorFR"_s});
+    app->commands.Run(u"frmTempMySpaceErrorFR.cmdOK_Click"_s);
+    Run();
+    app->friendRequester->NoticeErrorRedirect();
+    EXPECT_EQ(dialogs.shownForms.count(u"frmTempMySpaceErrorFR"_s), 2);
+}
+
+// More than the walk's pump interval of known IDs: Stop works among them.
+TEST_F(FriendRequesterTest, StopWorksInALongWalkOverKnownIds) {
+    app->files.WriteLines(app->ProgramFile(u"FriendsLog.txt"_s), {u"7"_s});
+    QStringList known;
+    known.fill(u"7"_s, 250);
+    app->state.arrFriendIDs = known;
+    platform->Pump().onPump = [this] { app->commands.Run(u"piccmdAddFriendsStop_Click"_s); };
+    EXPECT_TRUE(Run().isEmpty());
+    EXPECT_EQ(app->state.lngSkippedCount, 100);
+    EXPECT_TRUE(dialogs.Texts().isEmpty());
+}
+
+} // namespace
+} // namespace qlm

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "SimulatedProgram.h"
+#include "campaigns/Pacing.h"
+#include "core/StopResume.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace qlm {
+namespace {
+
+class PacingTest : public SimulatedProgram {
+protected:
+    qint32 Draw(double number, qint32 upper, qint32 lower) {
+        world.random.SetNumbers({number});
+        return RandomBetween(*app, upper, lower);
+    }
+
+    void SetBounds(const QString& from, const QString& to) {
+        world.settings.SaveSetting(u"General"_s, u"TimeDelayFrom"_s, from);
+        world.settings.SaveSetting(u"General"_s, u"TimeDelayTo"_s, to);
+        app->pacing->ReadBounds();
+        app->pacing->UpdateTimeDelayLabel();
+        app->state.CurrentAction = u"FR"_s;
+    }
+
+    qint64 SecondsOfDelay() {
+        const qint64 startMs = world.clock.NowMs();
+        app->pacing->DoDelay();
+        return (world.clock.NowMs() - startMs) / 1000;
+    }
+
+    QString Label() { return app->controls.Text("lblTimeDelay"_L1); }
+};
+
+TEST_F(PacingTest, ARandomNumberLiesBetweenItsBoundsAndOneAbove) {
+    EXPECT_EQ(Draw(0.0, 10, 5), 5);
+    EXPECT_EQ(Draw(0.999, 10, 5), 11);
+    EXPECT_EQ(Draw(0.5, 10, 5), 8);
+}
+
+TEST_F(PacingTest, ARandomNumberIsRoundedHalfToEven) {
+    EXPECT_EQ(Draw(0.5, 1, 1), 2); // 1.5
+    EXPECT_EQ(Draw(0.5, 2, 2), 2); // 2.5
+}
+
+TEST_F(PacingTest, ASpanOfNothingGivesTheLowerBound) {
+    EXPECT_EQ(Draw(0.999, 4, 5), 5);
+}
+
+TEST_F(PacingTest, EqualBoundsWaitOneSecondMore) {
+    SetBounds(u"5"_s, u"5"_s);
+    EXPECT_EQ(Label(), u"Time Delay: ON"_s);
+    EXPECT_EQ(SecondsOfDelay(), 6);
+    EXPECT_EQ(Label(), u"Time Delay: ON"_s);
+}
+
+TEST_F(PacingTest, TheLongestWaitIsOneSecondBeyondTheUpperBound) {
+    SetBounds(u"60"_s, u"120"_s);
+    world.random.SetNumbers({0.9999});
+    EXPECT_EQ(SecondsOfDelay(), 121);
+    world.random.SetNumbers({0.0});
+    EXPECT_EQ(SecondsOfDelay(), 61);
+}
+
+TEST_F(PacingTest, ASingleBoundStillWaits) {
+    SetBounds(u"0"_s, u"10"_s);
+    world.random.SetNumbers({0.5});
+    EXPECT_EQ(SecondsOfDelay(), 6);
+}
+
+TEST_F(PacingTest, WithoutBoundsNothingIsWaitedAndNothingCovered) {
+    SetBounds(u"0"_s, u"0"_s);
+    app->pacing->HideCover();
+    EXPECT_EQ(SecondsOfDelay(), 0);
+    EXPECT_EQ(app->webHide().Position(), 1);
+    EXPECT_EQ(Label(), u"Time Delay: OFF"_s);
+}
+
+TEST_F(PacingTest, BoundsThatCannotBeReadCountAsNothing) {
+    SetBounds(u"soon"_s, u"99999999999"_s);
+    EXPECT_EQ(app->state.lngTimeDelayFrom, 0);
+    EXPECT_EQ(app->state.lngTimeDelayTo, 0);
+}
+
+TEST_F(PacingTest, TheCountdownShowsMinutesAndSecondsOverTheCover) {
+    SetBounds(u"70"_s, u"70"_s);
+    QStringList shown;
+    app->controls.AddListener([&](const Control& control, Controls::Change, int) {
+        if (control.name == "lblTimeDelay"_L1)
+            shown.append(control.text);
+    });
+    bool covered = false;
+    platform->Pump().onPump = [&] { covered = covered || app->webHide().Position() == 0; };
+    app->pacing->DoDelay();
+    EXPECT_TRUE(covered);
+    EXPECT_TRUE(shown.contains(u"Time Delay: 01:10"_s));
+    EXPECT_TRUE(shown.contains(u"Time Delay: 00:09"_s));
+    EXPECT_EQ(shown.count(u"Time Delay: 00:09"_s), 1);
+}
+
+TEST_F(PacingTest, SkipEndsTheDelayAndLiftsTheHold) {
+    SetBounds(u"60"_s, u"60"_s);
+    platform->Pump().onPump = [&] { app->stopResume->SkipProfile(); };
+    EXPECT_EQ(SecondsOfDelay(), 0);
+    EXPECT_FALSE(app->state.blnSkipRequested);
+    EXPECT_FALSE(app->state.blnHoldLinkCheck);
+}
+
+TEST_F(PacingTest, StopEndsTheDelayAndItsHoldStays) {
+    SetBounds(u"60"_s, u"60"_s);
+    platform->Pump().onPump = [&] { app->stopResume->StopAll(u"MAINSTOP"_s); };
+    EXPECT_EQ(SecondsOfDelay(), 0);
+    EXPECT_TRUE(app->state.blnHoldLinkCheck);
+    EXPECT_FALSE(app->state.blnInDelay);
+}
+
+} // namespace
+} // namespace qlm

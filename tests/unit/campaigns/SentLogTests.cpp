@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "SimulatedProgram.h"
+#include "campaigns/SentLog.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace qlm {
+namespace {
+
+class SentLogTest : public SimulatedProgram {
+protected:
+    SentLogTest() {
+        app->state.CurrentAction = u"FR"_s;
+        app->state.blnCheckLog = true;
+    }
+    void Log(const QStringList& lines) { app->files.WriteLines(app->sentLog->PathFor(u"FR"_s), lines); }
+    bool Exists(const QString& id) { return app->sentLog->LogEntryExists(id); }
+};
+
+TEST_F(SentLogTest, EachCampaignHasItsFileAndOthersHaveNone) {
+    EXPECT_EQ(app->sentLog->PathFor(u"FR"_s), app->ProgramFile(u"FriendsLog.txt"_s));
+    EXPECT_EQ(app->sentLog->PathFor(u"MSG"_s), app->ProgramFile(u"MessagesLog.txt"_s));
+    EXPECT_EQ(app->sentLog->PathFor(u"COM"_s), app->ProgramFile(u"CommentsLog.txt"_s));
+    EXPECT_TRUE(app->sentLog->PathFor(u"BUL"_s).isEmpty());
+    EXPECT_TRUE(app->sentLog->PathFor({}).isEmpty());
+}
+
+TEST_F(SentLogTest, ALineMatchesWholeWithSpacesAroundIt) {
+    Log({u"1001"_s, u"  1002 "_s, u"1003 and more"_s});
+    EXPECT_TRUE(Exists(u"1001"_s));
+    EXPECT_TRUE(Exists(u"1002"_s));
+    EXPECT_TRUE(Exists(u" 1001 "_s));
+    EXPECT_FALSE(Exists(u"1003"_s));
+    EXPECT_FALSE(Exists(u"100"_s));
+}
+
+TEST_F(SentLogTest, AMissingLogIsCreatedAndHoldsNobody) {
+    EXPECT_FALSE(Exists(u"1001"_s));
+    EXPECT_TRUE(app->files.FileExists(app->sentLog->PathFor(u"FR"_s)));
+}
+
+TEST_F(SentLogTest, IsReadOnlyWhenAskedFor) {
+    Log({u"1001"_s});
+    app->state.blnCheckLog = false;
+    EXPECT_FALSE(Exists(u"1001"_s));
+    EXPECT_TRUE(app->sentLog->LogEntryExists(u"1001"_s, false, true));
+}
+
+TEST_F(SentLogTest, AnActivityWithoutLogFindsAndWritesNothing) {
+    Log({u"1001"_s});
+    app->state.CurrentAction = u"BUL"_s;
+    app->state.strCurrentID = u"1002"_s;
+    EXPECT_FALSE(Exists(u"1001"_s));
+    app->sentLog->WriteLogEntry();
+    EXPECT_EQ(app->files.ReadLines(app->sentLog->PathFor(u"FR"_s)), QStringList{u"1001"_s});
+}
+
+TEST_F(SentLogTest, EntriesAreAppendedInTheOrderSent) {
+    for (const QString& id : {u"7"_s, u"5"_s, u"6"_s}) {
+        app->state.strCurrentID = id;
+        app->sentLog->WriteLogEntry();
+    }
+    EXPECT_EQ(app->files.ReadLines(app->sentLog->PathFor(u"FR"_s)), (QStringList{u"7"_s, u"5"_s, u"6"_s}));
+}
+
+TEST_F(SentLogTest, ALogThatCannotBeWrittenLosesTheEntryAndIsReported) {
+    world.gate.readOnlyFolders = {world.installationFolder};
+    app->state.strCurrentID = u"1001"_s;
+    app->sentLog->WriteLogEntry();
+    EXPECT_FALSE(Exists(u"1001"_s));
+    EXPECT_TRUE(app->files.ReadLines(app->state.ErrorLogPath).contains(u"Proc: WriteLogEntry"_s));
+}
+
+TEST_F(SentLogTest, ALineThatAPowerCutHasTornGluesToNothing) {
+    app->state.strCurrentID = u"123456"_s;
+    world.gate.CrashAtWrite(1);
+    EXPECT_THROW(app->sentLog->WriteLogEntry(), SimPowerCut);
+    world.gate.Mend();
+    app->state.strCurrentID = u"777"_s;
+    app->sentLog->WriteLogEntry();
+    EXPECT_TRUE(Exists(u"777"_s));
+    EXPECT_FALSE(Exists(u"123456"_s));
+}
+
+} // namespace
+} // namespace qlm

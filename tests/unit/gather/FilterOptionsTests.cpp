@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "SimulatedProgram.h"
+#include "core/SettingsFields.h"
+#include "gather/ProfileFilters.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace qlm {
+namespace {
+
+// The filter window as its user works it.
+class FilterOptionsTest : public SimulatedProgram {
+protected:
+    void Open(const std::function<void()>& act) {
+        dialogs.onModal[u"frmFilters"_s] = act;
+        app->commands.Run(u"picFilterOptions_Click"_s);
+    }
+    void Choose(QLatin1StringView name) {
+        app->controls.SetTicked(name, true);
+        app->commands.Run(name + u"_Click"_s);
+    }
+    void Ok() { app->commands.Run(u"frmFilters.cmdOK_Click"_s); }
+    QString Stored(const QString& key) {
+        return platform->Settings().GetSetting(u"Field Entries"_s, key, u"(none)"_s);
+    }
+    bool AgesEnabled() { return app->controls["frmFilters.cboFilterAge1"_L1].enabled; }
+};
+
+TEST_F(FilterOptionsTest, StartsWithEveryFilterOff) {
+    EXPECT_TRUE(app->profileFilters->AllOff());
+    EXPECT_FALSE(app->profileFilters->ActiveWhenSending());
+}
+
+TEST_F(FilterOptionsTest, OkStoresAndTheFieldsFollow) {
+    Open([this] {
+        Choose("frmFilters.optFilterPeople"_L1);
+        Choose("frmFilters.optFilterAgeOn"_L1);
+        app->controls.SetText("frmFilters.cboFilterAge1"_L1, u"21"_s);
+        app->controls.SetText("frmFilters.txtFilterLastLoginDays"_L1, u" 7 "_s);
+        Choose("frmFilters.optFilterLastLoginOn"_L1);
+        Ok();
+    });
+    EXPECT_TRUE(app->state.blnFilterPeople);
+    EXPECT_FALSE(app->state.blnFilterTypeOff);
+    EXPECT_TRUE(app->state.blnFilterAgeOn);
+    EXPECT_EQ(app->state.strFilterAge1, u"21"_s);
+    EXPECT_EQ(app->state.intFilterLastLoginDays, 7);
+    EXPECT_EQ(Stored(u"optFilterPeople"_s), u"True"_s);
+    EXPECT_EQ(Stored(u"blnFilterAgeOn"_s), u"True"_s);
+    EXPECT_EQ(Stored(u"optFilterAgeOn"_s), u"(none)"_s);
+    EXPECT_EQ(Stored(u"txtFilterLastLoginDays"_s), u"7"_s);
+    EXPECT_TRUE(app->profileFilters->ActiveWhenSending());
+}
+
+TEST_F(FilterOptionsTest, CancelChangesNothing) {
+    Open([this] {
+        Choose("frmFilters.optFilterBands"_L1);
+        app->commands.Run(u"frmFilters.cmdCancel_Click"_s);
+    });
+    EXPECT_TRUE(app->state.blnFilterTypeOff);
+    EXPECT_EQ(Stored(u"optFilterBands"_s), u"(none)"_s);
+    Open([this] { EXPECT_TRUE(app->controls.Ticked("frmFilters.optFilterOff"_L1)); });
+}
+
+TEST_F(FilterOptionsTest, DaysThatAreNoNumberKeepTheWindowOpen) {
+    bool open = false;
+    Open([this, &open] {
+        app->controls.SetText("frmFilters.txtFilterLastLoginDays"_L1, u"soon"_s);
+        Ok();
+        open = app->platform.Dialogs().IsFormOpen(u"frmFilters"_s);
+    });
+    EXPECT_TRUE(open);
+    EXPECT_EQ(dialogs.Texts(), QStringList{u"Please enter a valid number for the Last Login filter"_s});
+    EXPECT_EQ(Stored(u"optFilterOff"_s), u"(none)"_s);
+}
+
+TEST_F(FilterOptionsTest, BandsHaveNeitherGenderNorAge) {
+    Open([this] {
+        Choose("frmFilters.optFilterBands"_L1);
+        for (const auto& name : {"frmFilters.optFilterMale"_L1, "frmFilters.optFilterFemale"_L1,
+                                 "frmFilters.optFilterGenderOff"_L1, "frmFilters.optFilterAgeOff"_L1,
+                                 "frmFilters.optFilterAgeOn"_L1, "frmFilters.cboFilterAge2"_L1})
+            EXPECT_FALSE(app->controls[name].enabled) << name.data();
+        Choose("frmFilters.optFilterFilm"_L1);
+        EXPECT_TRUE(app->controls["frmFilters.optFilterMale"_L1].enabled);
+        EXPECT_TRUE(AgesEnabled());
+    });
+}
+
+TEST_F(FilterOptionsTest, TheAgeBoxesFollowTheAgeFilter) {
+    Open([this] {
+        EXPECT_FALSE(AgesEnabled());
+        Choose("frmFilters.optFilterAgeOn"_L1);
+        EXPECT_TRUE(AgesEnabled());
+        Choose("frmFilters.optFilterAgeOff"_L1);
+        EXPECT_FALSE(AgesEnabled());
+    });
+}
+
+TEST_F(FilterOptionsTest, WithAllFiltersOffNothingIsFilteredWhenGathering) {
+    Open([this] {
+        Choose("frmFilters.optFilterWhenGathering"_L1);
+        Ok();
+    });
+    EXPECT_FALSE(app->state.optFilterWhenGathering);
+    EXPECT_TRUE(app->state.optFilterWhenSending);
+}
+
+TEST_F(FilterOptionsTest, TheFieldsFollowARestoredAccount) {
+    platform->Settings().SaveSetting(u"Field Entries"_s, u"optFilterFemale"_s, u"True"_s);
+    platform->Settings().SaveSetting(u"Field Entries"_s, u"optFilterGenderOff"_s, u"False"_s);
+    app->settingsFields->RestoreAccountSpecificFields();
+    EXPECT_TRUE(app->state.blnFilterFemale);
+    EXPECT_FALSE(app->state.blnFilterGenderOff);
+}
+
+} // namespace
+} // namespace qlm

@@ -1,0 +1,284 @@
+// SPDX-License-Identifier: MIT
+#include "WindowTest.h"
+#include "shell/ControlBinder.h"
+#include "shell/FormParts.h"
+#include "shell/TickBox.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListView>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace qlm {
+
+namespace {
+
+class ControlBinderTest : public WindowTest {
+protected:
+    template <typename Widget> Widget* Add(QLatin1StringView name) {
+        auto* widget = Named(new Widget, name);
+        layout->addWidget(widget);
+        return widget;
+    }
+
+    ControlBinder& Bind(const QString& prefix = {}) {
+        binder.emplace(*app, prefix, [this] { return dialogs.MessageCount(); });
+        binder->BindAll(window);
+        return *binder;
+    }
+
+    Controls& Table() { return app->controls; }
+
+    static void Press(QWidget& widget, int key) {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(&widget, &press);
+    }
+
+    static void LoseFocus(QWidget& widget, Qt::FocusReason reason) {
+        QFocusEvent out(QEvent::FocusOut, reason);
+        QApplication::sendEvent(&widget, &out);
+    }
+
+    QWidget window;
+    QVBoxLayout* layout = new QVBoxLayout(&window);
+    std::optional<ControlBinder> binder;
+};
+
+} // namespace
+
+TEST_F(ControlBinderTest, AFieldShowsItsControlAndHandsTheUsersTextBack) {
+    Table().SetText("txtAddress"_L1, u"before"_s);
+    auto* line = Add<QLineEdit>("txtAddress"_L1);
+    Bind();
+    EXPECT_EQ(line->text(), u"before"_s);
+    Table().SetText("txtAddress"_L1, u"from the logic"_s);
+    EXPECT_EQ(line->text(), u"from the logic"_s);
+    line->setText(u"from the user"_s);
+    EXPECT_EQ(Table().Text("txtAddress"_L1), u"from the user"_s);
+}
+
+TEST_F(ControlBinderTest, TypingInTheMiddleOfAFieldKeepsTheCursorThere) {
+    auto* line = Add<QLineEdit>("txtAddress"_L1);
+    Bind();
+    line->setText(u"abcd"_s);
+    line->setCursorPosition(2);
+    line->insert(u"X"_s);
+    EXPECT_EQ(line->text(), u"abXcd"_s);
+    EXPECT_EQ(line->cursorPosition(), 3);
+}
+
+TEST_F(ControlBinderTest, TheWidgetsOfAFormCarryItsPrefixInTheTable) {
+    auto* line = Add<QLineEdit>("txtMinutes"_L1);
+    Bind(u"frmTimeDelay."_s);
+    line->setText(u"7"_s);
+    EXPECT_EQ(Table().Text("frmTimeDelay.txtMinutes"_L1), u"7"_s);
+}
+
+TEST_F(ControlBinderTest, EnabledVisibleAndToolTipFollowTheTable) {
+    Table().SetEnabled("txtAddress"_L1, false);
+    auto* line = Add<QLineEdit>("txtAddress"_L1);
+    Bind();
+    EXPECT_FALSE(line->isEnabled());
+    Table().SetEnabled("txtAddress"_L1, true);
+    EXPECT_TRUE(line->isEnabled());
+    Table().SetVisible("txtAddress"_L1, false);
+    EXPECT_TRUE(line->isHidden());
+    Table().SetVisible("txtAddress"_L1, true);
+    EXPECT_FALSE(line->isHidden());
+    Table().SetToolTip("txtAddress"_L1, u"a tip"_s);
+    EXPECT_EQ(line->toolTip(), u"a tip"_s);
+}
+
+TEST_F(ControlBinderTest, TheLogicMovesTheInputFocus) {
+    Add<QLineEdit>("txtFriendRequestsToSend"_L1);
+    auto* line = Add<QLineEdit>("txtAddress"_L1);
+    Bind();
+    window.show();
+    QApplication::setActiveWindow(&window);
+    Table().SetFocus("txtAddress"_L1);
+    EXPECT_TRUE(line->hasFocus());
+}
+
+TEST_F(ControlBinderTest, AButtonRunsItsCommandAndKeepsItsAccessKey) {
+    Count("frmInteken.cmdContinue_Click");
+    auto* button = Add<QPushButton>("cmdContinue"_L1);
+    button->setText(u"&Continue"_s);
+    Bind(u"frmInteken."_s);
+    EXPECT_EQ(button->text(), u"&Continue"_s);
+    button->click();
+    EXPECT_EQ(runs, 1);
+    Table().SetText("frmInteken.cmdContinue"_L1, u"Please Wait..."_s);
+    EXPECT_EQ(button->text(), u"Please Wait..."_s);
+    Table().SetText("frmInteken.cmdContinue"_L1, u"Continue"_s);
+    EXPECT_EQ(button->text(), u"&Continue"_s);
+}
+
+TEST_F(ControlBinderTest, ADisabledButtonRunsNothing) {
+    Count("frmInteken.cmdContinue_Click");
+    auto* button = Add<QPushButton>("cmdContinue"_L1);
+    Bind(u"frmInteken."_s);
+    Table().SetEnabled("frmInteken.cmdContinue"_L1, false);
+    button->click();
+    EXPECT_EQ(runs, 0);
+}
+
+TEST_F(ControlBinderTest, OptionsOfOneGroupExcludeOneAnotherAcrossDifferentParents) {
+    auto* all = Add<QRadioButton>("optScanFollowing"_L1);
+    auto* box = new QWidget;
+    layout->addWidget(box);
+    auto* clicked = Named(new QRadioButton(box), "optImportClickedProfiles"_L1);
+    auto* quick = Add<QRadioButton>("optQuickGather"_L1);
+    Bind();
+    EXPECT_TRUE(all->isChecked());
+    clicked->click();
+    EXPECT_FALSE(all->isChecked());
+    EXPECT_FALSE(Table().Ticked("optScanFollowing"_L1));
+    EXPECT_TRUE(Table().Ticked("optImportClickedProfiles"_L1));
+    EXPECT_TRUE(quick->isChecked());
+    // A second click on the chosen one leaves it chosen.
+    clicked->click();
+    EXPECT_TRUE(clicked->isChecked());
+}
+
+TEST_F(ControlBinderTest, TheLogicCanLeaveAGroupWithNothingChosen) {
+    auto* all = Add<QRadioButton>("optScanFollowing"_L1);
+    Bind();
+    Table().SetTicked("optScanFollowing"_L1, false);
+    EXPECT_FALSE(all->isChecked());
+}
+
+TEST_F(ControlBinderTest, ACheckBoxWhoseMouseDownSaysSomethingStaysAsItIs) {
+    app->commands.Add(u"chkRemoveAfterSent_MouseDown"_s, [this] { app->ShowMessage(u"not now"_s); });
+    auto* box = Add<TickBox>("chkRemoveAfterSent"_L1);
+    Bind();
+    box->click();
+    EXPECT_FALSE(box->isChecked());
+    EXPECT_FALSE(Table().Ticked("chkRemoveAfterSent"_L1));
+    EXPECT_EQ(dialogs.messages, QStringList{u"Quillmere: not now"_s});
+}
+
+TEST_F(ControlBinderTest, ACheckBoxWhoseMouseDownIsSilentTurns) {
+    Count("chkRemoveAfterSent_MouseDown");
+    auto* box = Add<TickBox>("chkRemoveAfterSent"_L1);
+    Bind();
+    box->click();
+    EXPECT_EQ(runs, 1);
+    EXPECT_TRUE(Table().Ticked("chkRemoveAfterSent"_L1));
+}
+
+TEST_F(ControlBinderTest, ALeftFieldRunsLostFocusButNotWhenAnotherProgramComesUp) {
+    Count("frmTimeDelay.txtMinutes_LostFocus");
+    auto* line = Add<QLineEdit>("txtMinutes"_L1);
+    Bind(u"frmTimeDelay."_s);
+    LoseFocus(*line, Qt::ActiveWindowFocusReason);
+    EXPECT_EQ(runs, 0);
+    LoseFocus(*line, Qt::TabFocusReason);
+    EXPECT_EQ(runs, 1);
+}
+
+TEST_F(ControlBinderTest, AComboBoxGivesItsChoicesToARowThatHasNone) {
+    auto* combo = Add<QComboBox>("cboFRPerDayOrSession"_L1);
+    combo->addItems({u"this session"_s, u"per day"_s});
+    Bind();
+    EXPECT_EQ(combo->currentText(), u"this session"_s);
+    combo->setCurrentIndex(1);
+    EXPECT_EQ(Table().Text("cboFRPerDayOrSession"_L1), u"per day"_s);
+    Table().SetText("cboFRPerDayOrSession"_L1, u"this session"_s);
+    EXPECT_EQ(combo->currentIndex(), 0);
+}
+
+TEST_F(ControlBinderTest, AListFollowsAddingRemovingAndReplacingItsRows) {
+    Table().SetItems("lstFriendIDs"_L1, {u"1"_s, u"2"_s});
+    auto* list = Add<QListView>("lstFriendIDs"_L1);
+    Bind();
+    Table().AddItem("lstFriendIDs"_L1, u"3"_s);
+    Table().RemoveItem("lstFriendIDs"_L1, 0);
+    ASSERT_EQ(list->model()->rowCount(), 2);
+    EXPECT_EQ(list->model()->index(1, 0).data().toString(), u"3"_s);
+    Table().SetItems("lstFriendIDs"_L1, {});
+    EXPECT_EQ(list->model()->rowCount(), 0);
+}
+
+TEST_F(ControlBinderTest, ARemovedRowLeavesNoSelectionThatTheTableDoesNotKnow) {
+    Table().SetItems("lstFriendIDs"_L1, {u"1"_s, u"2"_s, u"3"_s});
+    auto* list = Add<QListView>("lstFriendIDs"_L1);
+    Bind();
+    list->setCurrentIndex(list->model()->index(1, 0));
+    ASSERT_EQ(Table().Selected("lstFriendIDs"_L1), 1);
+    Table().RemoveItem("lstFriendIDs"_L1, 1);
+    EXPECT_EQ(Table().Selected("lstFriendIDs"_L1), -1);
+    EXPECT_FALSE(list->selectionModel()->hasSelection());
+    Table().SetSelected("lstFriendIDs"_L1, 0);
+    EXPECT_EQ(list->currentIndex().row(), 0);
+}
+
+TEST_F(ControlBinderTest, DeleteInAListRunsItsKeyDownWithTheKeysCode) {
+    Count("lstFriendIDs_KeyDown");
+    auto* list = Add<QListView>("lstFriendIDs"_L1);
+    Bind();
+    Press(*list, Qt::Key_Delete);
+    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(lastArgument, 46);
+    Press(*list, Qt::Key_Down);
+    EXPECT_EQ(runs, 1);
+}
+
+TEST_F(ControlBinderTest, AListOfThirtyThousandRowsIsShownWithoutCopyingThem) {
+    QStringList ids;
+    for (int i = 0; i < 30001; ++i)
+        ids.append(QString::number(100000 + i));
+    auto* list = Add<QListView>("lstFriendIDs"_L1);
+    Bind();
+    Table().SetItems("lstFriendIDs"_L1, ids);
+    EXPECT_EQ(list->model()->rowCount(), 30001);
+    EXPECT_EQ(list->model()->index(30000, 0).data().toString(), u"130000"_s);
+    EXPECT_TRUE(list->uniformItemSizes());
+}
+
+TEST_F(ControlBinderTest, AMenuItemsTickIsTurnedByItsCommandAlone) {
+    QAction action;
+    action.setObjectName(u"mnuCaptchaPopup"_s);
+    action.setCheckable(true);
+    bool turns = false;
+    app->commands.Add(u"mnuCaptchaPopup_Click"_s, [this, &turns] {
+        if (turns)
+            Table().SetTicked("mnuCaptchaPopup"_L1, true);
+    });
+    Bind().Bind(action);
+    action.trigger();
+    EXPECT_FALSE(action.isChecked());
+    turns = true;
+    action.trigger();
+    EXPECT_TRUE(action.isChecked());
+}
+
+TEST_F(ControlBinderTest, AFaultInACommandIsReportedUnderItsName) {
+    app->state.ErrorLogPath = app->DataFile(u"Error.log"_s);
+    app->commands.Add(u"picStop_Click"_s, [] { throw std::runtime_error("broken"); });
+    auto* button = Add<QPushButton>("picStop"_L1);
+    Bind();
+    button->click();
+    EXPECT_TRUE(app->files.ReadLines(app->state.ErrorLogPath).contains(u"Proc: picStop_Click"_s));
+}
+
+TEST_F(ControlBinderTest, AClickThatEndsTheProgramIsNoFault) {
+    app->state.ErrorLogPath = app->DataFile(u"Error.log"_s);
+    app->commands.Add(u"picStop_Click"_s, []() -> void { throw ProgramEnding(); });
+    auto* button = Add<QPushButton>("picStop"_L1);
+    Bind();
+    button->click();
+    EXPECT_FALSE(app->files.FileExists(app->state.ErrorLogPath));
+}
+
+TEST_F(ControlBinderTest, ABinderThatIsGoneHearsNoMoreOfTheTable) {
+    auto* line = Add<QLineEdit>("txtAddress"_L1);
+    Bind();
+    binder.reset();
+    Table().SetText("txtAddress"_L1, u"later"_s);
+    EXPECT_EQ(line->text(), QString());
+}
+
+} // namespace qlm

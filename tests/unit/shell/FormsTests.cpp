@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include "WindowTest.h"
+#include "shell/DesktopDialogs.h"
+#include "shell/FormRegistry.h"
+#include "shell/PictureButtons.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabBar>
+
+namespace qlm {
+
+namespace {
+
+class FormsTest : public WindowTest {};
+
+// Named buttons that would do nothing when pressed.
+QStringList IdleButtons(const App& app, const QWidget& window, const QString& prefix) {
+    QStringList idle;
+    for (const auto* button : window.findChildren<QAbstractButton*>()) {
+        const QString name = button->objectName();
+        const bool isQts =
+            name.isEmpty() || name.startsWith(u"qt_"_s) || qobject_cast<QTabBar*>(button->parent());
+        if (isQts || button->isCheckable() || name == "picCollapse"_L1)
+            continue;
+        const QString own = button->property("command").toString();
+        if (!app.commands.Has(own.isEmpty() ? prefix + name + u"_Click"_s : own))
+            idle.append(prefix + name);
+    }
+    return idle;
+}
+
+} // namespace
+
+TEST_F(FormsTest, EveryControlOfAFormHasItsWidget) {
+    for (const QString& form : FormNames()) {
+        dialogs.ShowForm(form);
+        const QString prefix = form + u'.';
+        for (const Control& control : app->controls.All())
+            if (const QString name = control.name; name.startsWith(prefix)) {
+                EXPECT_NE(dialogs.FormWidget(form)->findChild<QWidget*>(name.mid(prefix.size())), nullptr)
+                    << name.toStdString();
+            }
+        dialogs.CloseForm(form);
+    }
+}
+
+TEST_F(FormsTest, NoButtonOfAFormDoesNothing) {
+    for (const QString& form : FormNames()) {
+        dialogs.ShowForm(form);
+        EXPECT_EQ(IdleButtons(*app, *dialogs.FormWidget(form), form + u'.'), QStringList());
+        dialogs.CloseForm(form);
+    }
+}
+
+TEST_F(FormsTest, NoButtonOrMenuItemOfTheMainWindowDoesNothing) {
+    dialogs.ShowForm(u"frmMain"_s);
+    const QWidget* window = dialogs.FormWidget(u"frmMain"_s);
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(IdleButtons(*app, *window, {}), QStringList());
+    int items = 0;
+    for (const auto* action : window->findChildren<QAction*>()) {
+        const QString name = action->objectName();
+        if (!name.startsWith(u"mnu"_s) || name.contains(u'('))
+            continue;
+        EXPECT_TRUE(app->commands.Has(name + u"_Click"_s)) << name.toStdString();
+        ++items;
+    }
+    EXPECT_GT(items, 0);
+}
+
+TEST_F(FormsTest, EveryInputSaysWhatItIsToAScreenReader) {
+    for (const QString& form : FormNames()) {
+        dialogs.ShowForm(form);
+        for (const auto* line : dialogs.FormWidget(form)->findChildren<QLineEdit*>())
+            EXPECT_FALSE(line->accessibleName().isEmpty()) << line->objectName().toStdString();
+        dialogs.CloseForm(form);
+    }
+}
+
+TEST_F(FormsTest, OpenFormsStandInTheOrderInWhichTheyCameUp) {
+    dialogs.ShowForm(u"frmError"_s);
+    dialogs.ShowForm(u"frmLoginProblem"_s);
+    dialogs.ShowForm(u"frmError"_s);
+    EXPECT_EQ(dialogs.OpenForms(), (QStringList{u"frmError"_s, u"frmLoginProblem"_s}));
+    dialogs.CloseForm(u"frmError"_s);
+    EXPECT_FALSE(dialogs.IsFormOpen(u"frmError"_s));
+    EXPECT_TRUE(dialogs.IsFormOpen(u"frmLoginProblem"_s));
+}
+
+TEST_F(FormsTest, AModalFormIsOpenWhileItIsWaitedForAndGoneAfterwards) {
+    bool wasOpen = false;
+    dialogs.whileModal = [&](QDialog& dialog) {
+        wasOpen = dialogs.IsFormOpen(u"frmTimeDelay"_s) && dialog.isVisible();
+        dialogs.CloseForm(u"frmTimeDelay"_s);
+        EXPECT_FALSE(dialog.isVisible());
+    };
+    dialogs.ShowModal(u"frmTimeDelay"_s);
+    EXPECT_TRUE(wasOpen);
+    EXPECT_TRUE(dialogs.OpenForms().isEmpty());
+}
+
+TEST_F(FormsTest, AnUnknownFormIsAFault) {
+    EXPECT_THROW(dialogs.ShowForm(u"frmNowhere"_s), std::logic_error);
+}
+
+TEST_F(FormsTest, EscapeWorksAsTheCancelButton) {
+    Count("frmAccountDetails.cmdCancel_Click");
+    dialogs.ShowForm(u"frmAccountDetails"_s);
+    static_cast<QDialog*>(dialogs.FormWidget(u"frmAccountDetails"_s))->reject();
+    EXPECT_EQ(runs, 1);
+}
+
+TEST_F(FormsTest, EscapeLeavesAFormThatIsBusyOpen) {
+    Count("frmAccountDetails.cmdCancel_Click");
+    dialogs.ShowForm(u"frmAccountDetails"_s);
+    app->controls.SetEnabled("frmAccountDetails.cmdCancel"_L1, false);
+    static_cast<QDialog*>(dialogs.FormWidget(u"frmAccountDetails"_s))->reject();
+    EXPECT_EQ(runs, 0);
+    EXPECT_TRUE(dialogs.IsFormOpen(u"frmAccountDetails"_s));
+}
+
+TEST_F(FormsTest, AWindowIsClosedByItsTitle) {
+    dialogs.ShowForm(u"frmLoginProblem"_s);
+    EXPECT_FALSE(dialogs.CloseWindowTitled(u"Login"_s));
+    EXPECT_TRUE(dialogs.CloseWindowTitled(u"Login problem"_s));
+    EXPECT_FALSE(dialogs.IsFormOpen(u"frmLoginProblem"_s));
+}
+
+TEST_F(FormsTest, ClosingTheLoginScreenEndsTheProgram) {
+    dialogs.ShowForm(u"frmInteken"_s);
+    dialogs.FormWidget(u"frmInteken"_s)->close();
+    EXPECT_TRUE(app->state.blnClosing);
+}
+
+TEST_F(FormsTest, TheLoginScreenSaysWhatToDoWithoutAnAccount) {
+    app->controls.SetItems("frmInteken.lstAccounts"_L1, {u"No Accounts added..."_s});
+    dialogs.ShowForm(u"frmInteken"_s);
+    auto hintShows = [this] {
+        for (const auto* label : dialogs.FormWidget(u"frmInteken"_s)->findChildren<QLabel*>())
+            if (label->text().startsWith(u"Press Add"_s))
+                return !label->isHidden();
+        return false;
+    };
+    EXPECT_TRUE(hintShows());
+    app->controls.SetItems("frmInteken.lstAccounts"_L1, {u"a@example.com"_s});
+    EXPECT_FALSE(hintShows());
+}
+
+TEST_F(FormsTest, TheErrorFormNamesTheLogAndWhereToSendIt) {
+    app->controls.SetText("frmError.lblErrorLogPath"_L1, u"/data/Error.log"_s);
+    dialogs.ShowForm(u"frmError"_s);
+    QStringList texts;
+    for (const auto* label : dialogs.FormWidget(u"frmError"_s)->findChildren<QLabel*>())
+        texts.append(label->text());
+    EXPECT_TRUE(texts.contains(u"An error has occurred."_s));
+    EXPECT_TRUE(texts.contains(u"/data/Error.log"_s));
+    EXPECT_EQ(texts.filter(u"help@example.com"_s).size(), 1);
+}
+
+TEST_F(FormsTest, AMessageWithoutATitleCarriesTheProgramsName) {
+    app->ShowMessage(u"words"_s);
+    app->ShowMessage(u"words"_s, u"A title"_s);
+    EXPECT_EQ(dialogs.messages, (QStringList{u"Quillmere: words"_s, u"A title: words"_s}));
+    EXPECT_EQ(dialogs.MessageCount(), 2);
+}
+
+TEST(FileFilter, IsTranslatedForTheFileDialog) {
+    EXPECT_EQ(DesktopDialogs::QtFilter(u"Text files (txt)|*.txt;|All files (*.*)|*.*"_s),
+              u"Text files (txt) (*.txt);;All files (*)"_s);
+    EXPECT_EQ(DesktopDialogs::QtFilter(u"Pictures|*.bmp;*.png"_s), u"Pictures (*.bmp *.png)"_s);
+    EXPECT_EQ(DesktopDialogs::QtFilter({}), QString());
+}
+
+TEST(PictureButtonTable, KnowsNoOtherNames) {
+    EXPECT_STREQ(PictureButtonNamed("picSkip"_L1).image, "SKIP");
+    EXPECT_THROW(PictureButtonNamed("picNowhere"_L1), std::logic_error);
+}
+
+} // namespace qlm

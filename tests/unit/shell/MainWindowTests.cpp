@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+#include "WindowTest.h"
+#include "core/MainForm.h"
+#include "core/StopResume.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QProgressBar>
+#include <QScreen>
+#include <QStackedLayout>
+#include <QTabWidget>
+#include <QToolButton>
+
+namespace qlm {
+
+namespace {
+
+class MainWindowTest : public WindowTest {
+protected:
+    MainWindowTest() {
+        dialogs.ShowForm(u"frmMain"_s);
+        app->stopResume->StopAll(u"TEST"_s);
+        window = dialogs.FormWidget(u"frmMain"_s);
+    }
+
+    template <typename Widget> Widget* Named(const char* name) {
+        return window->findChild<Widget*>(QString::fromLatin1(name));
+    }
+
+    // The view that lies on top.
+    QWidget* Front() { return browserView.parentWidget()->findChild<QStackedLayout*>()->currentWidget(); }
+
+    QWidget* window = nullptr;
+};
+
+} // namespace
+
+TEST_F(MainWindowTest, ComesUpLoadedAndTitled) {
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(window->windowTitle(),
+              u"Quillmere v"_s + app->Version() + u" – Start Growing Your MySpace Friends!"_s);
+    EXPECT_EQ(Named<QTabWidget>("TabStrip1")->tabText(0), u"Gather ID's"_s);
+    EXPECT_EQ(Named<QTabWidget>("TabStrip1")->tabText(1), u"Friend Requester"_s);
+    EXPECT_TRUE(Named<QWidget>("ucpanelFullGatherIDNotify")->isHidden());
+}
+
+TEST_F(MainWindowTest, ClosingItUnloadsTheProgram) {
+    window->close();
+    EXPECT_TRUE(app->state.blnClosing);
+    EXPECT_FALSE(dialogs.IsFormOpen(u"frmMain"_s));
+}
+
+TEST_F(MainWindowTest, ZOrderBringsTheCoverOverTheBrowserAndBack) {
+    EXPECT_EQ(Front(), &browserView);
+    app->webHide().ZOrder(0);
+    EXPECT_EQ(Front(), &coverView);
+    app->webHide().ZOrder(1);
+    EXPECT_EQ(Front(), &browserView);
+}
+
+TEST_F(MainWindowTest, BothBrowsersStayShownSoThatNeitherIsSlowedDown) {
+    EXPECT_TRUE(browserView.isVisible());
+    EXPECT_TRUE(coverView.isVisible());
+}
+
+TEST_F(MainWindowTest, ATabClickGoesThroughTheLogicAndTheLogicMovesTheTab) {
+    app->controls.SetTicked("optImportClickedProfiles"_L1, true);
+    auto* tabs = Named<QTabWidget>("TabStrip1");
+    tabs->setCurrentIndex(1);
+    EXPECT_EQ(app->controls.Selected("TabStrip1"_L1), 1);
+    EXPECT_TRUE(app->controls.Ticked("optScanFollowing"_L1));
+    app->mainForm->ShowTab(u"Gather ID's"_s);
+    EXPECT_EQ(tabs->currentIndex(), 0);
+}
+
+TEST_F(MainWindowTest, EnterInTheAddressLineGoesThere) {
+    Count("picGO_Click");
+    Q_EMIT Named<QLineEdit>("txtAddress")->returnPressed();
+    EXPECT_EQ(runs, 1);
+}
+
+TEST_F(MainWindowTest, TheControlPanelFoldsAwayAndComesBack) {
+    auto* fold = Named<QToolButton>("picCollapse");
+    fold->click();
+    EXPECT_TRUE(Named<QTabWidget>("TabStrip1")->isHidden());
+    fold->click();
+    EXPECT_FALSE(Named<QTabWidget>("TabStrip1")->isHidden());
+}
+
+TEST_F(MainWindowTest, TheProgressBarFollowsWhichOfHowMany) {
+    auto* bar = Named<QProgressBar>("prgProgress");
+    EXPECT_TRUE(bar->isHidden());
+    app->controls.SetText("lblProgress"_L1, u"ID 3 of 120"_s);
+    EXPECT_FALSE(bar->isHidden());
+    EXPECT_EQ(bar->value(), 3);
+    EXPECT_EQ(bar->maximum(), 120);
+    app->controls.SetText("lblProgress"_L1, {});
+    EXPECT_TRUE(bar->isHidden());
+}
+
+TEST_F(MainWindowTest, WhatIsWaitedForHasALineOnlyWhileThereIsSomething) {
+    auto* waiting = Named<QLabel>("lblWaitingFor");
+    EXPECT_TRUE(waiting->isHidden());
+    app->controls.SetText("lblWaitingFor"_L1, u"Waiting for a page since 10:00"_s);
+    EXPECT_FALSE(waiting->isHidden());
+}
+
+TEST_F(MainWindowTest, TheListsMenuRunsItsItemsByTheirNumbers) {
+    Count("mnuContextIDsListItem_Click");
+    auto* menu = Named<QMenu>("mnuContextIDsList");
+    QStringList captions;
+    for (QAction* action : menu->actions())
+        captions.append(action->isSeparator() ? u"-"_s : action->text().remove(u'&'));
+    EXPECT_EQ(captions, (QStringList{u"Go to profile's page..."_s, u"-"_s, u"Remove ID"_s,
+                                     u"Export ID's..."_s, u"Import ID's..."_s}));
+    menu->actions().at(3)->trigger();
+    EXPECT_EQ(lastArgument, 3);
+}
+
+TEST_F(MainWindowTest, TheWaitPointerShowsWhileTheLogicAsksForIt) {
+    app->controls.SetText("MousePointer"_L1, u"11"_s);
+    EXPECT_EQ(window->cursor().shape(), Qt::WaitCursor);
+    app->controls.SetText("MousePointer"_L1, u"0"_s);
+    EXPECT_EQ(window->cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(MainWindowTest, ItsPlaceComesBackAsItWasTold) {
+    app->mainForm->setPlace({40, 30, 700, 500, false, false});
+    const WindowPlace place = app->mainForm->getPlace();
+    EXPECT_EQ(place.left, 40);
+    EXPECT_EQ(place.top, 30);
+    EXPECT_GE(place.width, 700);
+    EXPECT_FALSE(place.maximized);
+}
+
+TEST_F(MainWindowTest, APlaceOffTheScreenIsBroughtBackOntoIt) {
+    app->mainForm->setPlace({9000, 9000, 700, 500, false, false});
+    EXPECT_TRUE(window->screen()->availableGeometry().contains(window->geometry()));
+}
+
+TEST_F(MainWindowTest, OptionsWithoutEffectAreNotShown) {
+    for (const char* name :
+         {"optScanGoogle", "chkFRNote", "chkFRAddToCategory", "chkFRFullName", "mnuBackup"})
+        EXPECT_EQ(Named<QObject>(name), nullptr) << name;
+}
+
+} // namespace qlm

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/App.h"
+#include "platform/sim/SimPlatform.h"
+#include "shell/WindowDialogs.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+// Dialogs whose user is the test: boxes are kept, a modal form is handed to whileModal and closed behind it.
+class TestDialogs : public WindowDialogs {
+public:
+    QString ChooseFileToOpen(const QString&, const QString&) override { return {}; }
+    QString ChooseFileToSave(const QString&, const QString&, const QString&) override { return {}; }
+
+    QStringList messages;
+    std::function<void(QDialog&)> whileModal;
+
+protected:
+    void RunModal(const QString&, QDialog& dialog) override {
+        dialog.show();
+        if (whileModal)
+            whileModal(dialog);
+    }
+    Answer RunMessage(const QString& text, const QString& title, Buttons buttons) override {
+        messages.append(title + u": "_s + text);
+        return buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+    }
+};
+
+// The real windows on the simulated platform.
+class WindowTest : public testing::Test, private BrowserViews {
+protected:
+    WindowTest() {
+        world.installationFolder = folder.filePath(u"program"_s);
+        world.dataFolder = folder.filePath(u"data"_s);
+        QDir().mkpath(world.installationFolder);
+        QDir().mkpath(world.dataFolder);
+        world.deploymentText = u"SiteRootHost=www.example.com\nSupportAddress=help@example.com\n"_s;
+        world.http.responder = [](const QString&) { return u"2009-06-01"_s; };
+        app.emplace(platform.emplace(world, dialogs));
+        app->state.ProgramFolder = world.installationFolder;
+        app->state.DataFolder = world.dataFolder;
+        dialogs.Attach(*app, *this);
+    }
+    ~WindowTest() override { dialogs.Detach(); }
+
+    template <typename Widget> Widget* Find(const char* form, const char* name) {
+        QWidget* window = dialogs.FormWidget(QString::fromLatin1(form));
+        return window ? window->findChild<Widget*>(QString::fromLatin1(name)) : nullptr;
+    }
+
+    void Count(const char* command) {
+        app->commands.Add(QString::fromLatin1(command), [this](int argument) {
+            ++runs;
+            lastArgument = argument;
+        });
+    }
+
+    QTemporaryDir folder;
+    SimWorld world;
+    TestDialogs dialogs;
+    std::optional<SimPlatform> platform;
+    std::optional<App> app;
+    QWidget browserView;
+    QWidget coverView;
+    int runs = 0;
+    int lastArgument = -1;
+
+private:
+    QWidget* ViewOf(BrowserName name) override {
+        return name == BrowserName::WebBrowser1 ? &browserView : &coverView;
+    }
+};
+
+inline void PrintTo(const QString& text, std::ostream* stream) {
+    *stream << '"' << text.toStdString() << '"';
+}
+
+} // namespace qlm

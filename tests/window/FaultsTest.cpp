@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+// What may be wrong with the machine that the program is started on: no server, damaged files, no room.
+#include "PrintText.h"
+#include "ProgramProcess.h"
+#include "SiteProcess.h"
+#include "UsedProgram.h"
+
+#include <QDir>
+#include <QTcpServer>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+namespace qlm {
+namespace {
+
+const QString NoConnection = u"There seems to be a temporary Internet connection problem."_s;
+
+// A port of this machine at which nobody listens.
+quint16 ClosedPort() {
+    QTcpServer server;
+    server.listen(QHostAddress::LocalHost);
+    return server.serverPort();
+}
+
+class Faults : public testing::Test {
+protected:
+    Faults() { folders.SaveList(ids); }
+
+    // Runs the program to its end and expects all targets to be asked and logged.
+    void ExpectWholeRun();
+    void ExpectEnd(ProgramProcess& program, int exitCode);
+
+    SiteProcess site;
+    UsedProgram folders{site.Port()};
+    const QStringList ids = SomeTargets(3);
+    QString output;
+};
+
+void Faults::ExpectEnd(ProgramProcess& program, int exitCode) {
+    ASSERT_TRUE(program.WaitForEnd(2 * GenerousMs)) << program.Output().toStdString();
+    output = program.Output();
+    EXPECT_FALSE(program.HasCrashed()) << output.toStdString();
+    EXPECT_EQ(program.ExitCode(), exitCode) << output.toStdString();
+}
+
+void Faults::ExpectWholeRun() {
+    ProgramProcess program(folders.Arguments());
+    ExpectEnd(program, 0);
+    EXPECT_EQ(TargetsOf(site.Journal(), u"asked"_s), ids);
+}
+
+} // namespace
+
+TEST_F(Faults, WithoutAServerAtTheStartTheUserIsToldAndTheProgramEnds) {
+    const UsedProgram offline(ClosedPort());
+    ProgramProcess program(offline.Arguments());
+    ExpectEnd(program, 1);
+    EXPECT_EQ(output.count(NoConnection), 1) << output.toStdString();
+    EXPECT_FALSE(output.contains(u"login screen"_s));
+}
+
+TEST_F(Faults, AProductServerThatResetsEveryConnectionCountsAsNone) {
+    site.Tell(u"fault product reset"_s);
+    ProgramProcess program(folders.Arguments());
+    ExpectEnd(program, 1);
+    EXPECT_EQ(output.count(NoConnection), 1) << output.toStdString();
+}
+
+TEST_F(Faults, ASettingsFileCutInHalfIsToldKeptAndWorkedWithAsFarAsItGoes) {
+    folders.Set(u"General"_s, u"Zoo"_s, u"a value that stands behind the cut"_s);
+    const QByteArray whole = folders.Read(folders.SettingsFile());
+    // In the middle of the terms' value, with a line that makes no sense behind.
+    const QByteArray half = whole.left(whole.indexOf("Login") + 3) + QByteArray("\n[\x00\xff\x01", 5);
+    folders.Write(folders.SettingsFile(), half);
+    ProgramProcess program(folders.Arguments());
+    // Which list to restore stood behind the cut; so there is nobody to send to, and that is said.
+    ExpectEnd(program, 1);
+    EXPECT_TRUE(output.contains(u"message: The settings file was damaged."_s)) << output.toStdString();
+    EXPECT_TRUE(output.contains(u"message: Your Gathered ID's List is Empty!"_s)) << output.toStdString();
+    EXPECT_EQ(folders.Read(folders.SettingsFile() + u".damaged"_s), half);
+    EXPECT_EQ(folders.Read(folders.File(u"Gathered.txt"_s)), ids.join(u"\r\n"_s).toLatin1() + "\r\n");
+
+    // The next start finds settings that are in order, agreed terms among them.
+    folders.Set(u"Field Entries"_s, u"chkSaveScanned"_s, u"1"_s);
+    ExpectWholeRun();
+    EXPECT_FALSE(output.contains(u"damaged"_s)) << output.toStdString();
+    EXPECT_EQ(folders.Log(), ids);
+}
+
+TEST_F(Faults, GarbageInTheAccountFileHidesNoAccount) {
+    const QString path = folders.File(u"scalemodelight.txt"_s);
+    const QByteArray good = folders.Read(path);
+    const QByteArray garbage = QByteArray("\r\n\x00\x01\x02 not digits at all\r\n41424\r\nZZZZ\r\n", 37) +
+                               QByteArray(9000, 'F') + "\r\n";
+    folders.Write(path, garbage + good + "\r\n3B3B3B3B\r\nxx");
+    ExpectWholeRun();
+    EXPECT_EQ(folders.Log(), ids);
+    EXPECT_EQ(folders.Read(path), garbage + good + "\r\n3B3B3B3B\r\nxx");
+}
+
+TEST_F(Faults, AnInstallationFolderThatRefusesFilesSendsTheProgramToItsDataFolder) {
+    // A folder by the name of the file that tries the rights: not even root can write it.
+    QDir().mkpath(folders.File(u"UserRightsTest.txt"_s));
+    for (const QString& file : {u"scalemodelight.txt"_s, u"Gathered.txt"_s})
+        ASSERT_TRUE(QFile::rename(folders.File(file), folders.DataFile(file)));
+    ExpectWholeRun();
+    EXPECT_FALSE(QFile::exists(folders.File(u"FriendsLog.txt"_s)));
+    EXPECT_EQ(folders.Read(folders.DataFile(u"FriendsLog.txt"_s)), ids.join(u"\r\n"_s).toLatin1() + "\r\n");
+    EXPECT_TRUE(QFile::exists(folders.DataFile(u"timedelay.htm"_s)));
+}
+
+TEST_F(Faults, ADataFolderThatCannotBeMadeIsToldAndTheProgramGoesOnWithoutSettings) {
+    ASSERT_TRUE(QDir(folders.File(u"local"_s)).removeRecursively());
+    folders.Write(folders.File(u"local"_s), "a file in the folder's place");
+    ProgramProcess program(folders.Arguments());
+    ExpectEnd(program, 1);
+    EXPECT_TRUE(output.contains(u"message: The settings in "_s)) << output.toStdString();
+    // It has logged in; only the list's restoring was a setting.
+    EXPECT_EQ(TargetsOf(site.Journal(), u"signed-in"_s).size(), 1);
+    EXPECT_TRUE(output.contains(u"message: Your Gathered ID's List is Empty!"_s)) << output.toStdString();
+    EXPECT_EQ(folders.Read(folders.File(u"local"_s)), "a file in the folder's place");
+}
+
+// The limit stands for a disk without room: the log can take three more bytes, smaller files are not
+// affected. It must leave the engine its own shared memory.
+TEST_F(Faults, ALogThatCannotGrowIsReportedAndNoLineOfItIsLost) {
+    constexpr int limit = 48 * 1024 * 1024;
+    QByteArray log = QByteArray(limit - 3 - 2 - 8, '#') + "\r\n" + ids[0].toLatin1() + "\r\n";
+    ASSERT_EQ(log.size(), limit - 3);
+    folders.Write(folders.File(u"FriendsLog.txt"_s), log);
+    ProgramProcess program(folders.Arguments(), [] {
+        const rlimit size{limit, limit};
+        ::setrlimit(RLIMIT_FSIZE, &size);
+        std::signal(SIGXFSZ, SIG_IGN);
+    });
+    ExpectEnd(program, 0);
+    const QStringList others = ids.mid(1);
+    EXPECT_EQ(TargetsOf(site.Journal(), u"asked"_s), others);
+    const QString errors = QString::fromLatin1(folders.Read(folders.DataFile(u"Error.log"_s)));
+    EXPECT_TRUE(errors.contains(u"Proc: WriteLogEntry"_s)) << errors.toStdString();
+    EXPECT_TRUE(folders.LogBytes().startsWith(log));
+    EXPECT_LE(folders.LogBytes().size(), limit);
+
+    // With room again, the torn line stays by itself and nobody is asked a second time.
+    site.Tell(u"seed 1"_s);
+    site.Tell(u"share sent 100"_s);
+    site.TakeJournal();
+    ProgramProcess again(folders.Arguments());
+    ExpectEnd(again, 0);
+    EXPECT_EQ(TargetsOf(site.TakeJournal(), u"asked"_s), others);
+    const QStringList lines = folders.Log();
+    EXPECT_EQ(lines.mid(lines.size() - 2), others);
+    EXPECT_EQ(lines.count(ids[0]), 1);
+}
+
+} // namespace qlm

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+// The whole road, as the built program goes it: sign in, gather, send, stop.
+#include "PrintText.h"
+#include "ProgramProcess.h"
+#include "SiteProcess.h"
+#include "UsedProgram.h"
+
+#include <QImage>
+#include <gtest/gtest.h>
+
+namespace qlm {
+namespace {
+
+struct Picture {
+    const char16_t* file;
+    QSize atLeast;
+    // Of the part where the browser is; a page has text, a blank one has a colour or two.
+    int coloursInBrowser;
+};
+
+// The browser stands on the right of the control panel, below the address bar and the line of the activity.
+QRect BrowserPart(const QImage& window) {
+    return {window.width() * 55 / 100, 120, window.width() * 40 / 100, window.height() - 180};
+}
+
+int CountColours(const QImage& image, const QRect& part) {
+    QSet<QRgb> colours;
+    for (int y = part.top(); y <= part.bottom(); ++y)
+        for (int x = part.left(); x <= part.right(); ++x)
+            colours.insert(image.pixel(x, y));
+    return static_cast<int>(colours.size());
+}
+
+void ExpectPicture(const QString& folder, const Picture& wanted) {
+    const QImage picture(folder + u'/' + QString::fromUtf16(wanted.file));
+    ASSERT_FALSE(picture.isNull());
+    EXPECT_GE(picture.width(), wanted.atLeast.width());
+    EXPECT_GE(picture.height(), wanted.atLeast.height());
+    if (wanted.coloursInBrowser > 0) {
+        EXPECT_GE(CountColours(picture, BrowserPart(picture)), wanted.coloursInBrowser);
+    }
+}
+
+} // namespace
+
+TEST(Road, TheGuidedRunSignsInGathersSendsTenRequestsAndStops) {
+    const QTemporaryDir out;
+    ProgramProcess program({u"--guided"_s, out.path()});
+    ASSERT_TRUE(program.WaitForEnd(3 * GenerousMs)) << program.Output().toStdString();
+    EXPECT_FALSE(program.HasCrashed());
+    EXPECT_EQ(program.ExitCode(), 0) << program.Output().toStdString();
+
+    QFile file(out.filePath(u"summary.txt"_s));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString summary = QString::fromUtf8(file.readAll());
+    EXPECT_TRUE(summary.contains(u"Signed in as a@example.com, own profile 900001"_s))
+        << summary.toStdString();
+    EXPECT_TRUE(summary.contains(u"Sent 10 friend requests"_s)) << summary.toStdString();
+    EXPECT_TRUE(summary.contains(u"10 people asked, 0 of them twice"_s)) << summary.toStdString();
+    EXPECT_TRUE(summary.endsWith(u"The journal and the log agree.\n"_s)) << summary.toStdString();
+
+    constexpr Picture pictures[] = {
+        {u"login.png", {400, 300}, 0},
+        {u"gathering.png", {780, 550}, 60},
+        {u"sending.png", {780, 550}, 30},
+    };
+    for (const Picture& picture : pictures) {
+        SCOPED_TRACE(QString::fromUtf16(picture.file).toStdString());
+        ExpectPicture(out.path(), picture);
+    }
+}
+
+TEST(Road, PagesThatFailCostTheirOwnTargetAlone) {
+    SiteProcess site;
+    UsedProgram folders(site.Port());
+    const QStringList ids = SomeTargets(10);
+    folders.SaveList(ids);
+    site.Tell(u"fault "_s + RequestPage(ids[1]) + u" slow 2500"_s);
+    site.Tell(u"fault "_s + RequestPage(ids[3]) + u" reset"_s);
+    // The program loads it anew when it has stayed without a body for long.
+    site.Tell(u"fault "_s + RequestPage(ids[5]) + u" nobody times 1"_s);
+    site.Tell(u"fault "_s + RequestPage(ids[7]) + u" error"_s);
+    site.Tell(u"outcome "_s + ids[8] + u" private"_s);
+
+    ProgramProcess program(folders.Arguments());
+    ASSERT_TRUE(program.WaitForEnd(3 * GenerousMs)) << program.Output().toStdString();
+    EXPECT_EQ(program.ExitCode(), 0) << program.Output().toStdString();
+    EXPECT_TRUE(program.Output().contains(u"Sent 7 friend requests; Failed: 3, Skipped: 0"_s))
+        << program.Output().toStdString();
+
+    const QStringList journal = site.Journal();
+    QStringList expected = ids;
+    for (const QString& failed : {ids[3], ids[7], ids[8]})
+        expected.removeAll(failed);
+    EXPECT_EQ(TargetsOf(journal, u"asked"_s), expected);
+    EXPECT_EQ(TargetsOf(journal, u"asked-again"_s), QStringList());
+    EXPECT_EQ(folders.Log(), expected);
+}
+
+} // namespace qlm

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "RunningProgram.h"
+
+#include "core/StartUp.h"
+
+#include <QApplication>
+
+namespace qlm {
+
+RunningProgram::RunningProgram(const UsedProgram& folders)
+    : m_platform(folders.Options(), m_dialogs),
+      m_views(m_platform),
+      m_app(std::make_unique<App>(m_platform)),
+      app(*m_app),
+      driver(app) {
+    m_dialogs.Attach(app, m_views);
+}
+
+RunningProgram::~RunningProgram() {
+    m_dialogs.Detach();
+}
+
+void RunningProgram::PlanSending() {
+    driver.Add({u"The login screen"_s, 60, [this] { return driver.Form("frmInteken") != nullptr; },
+                [this] { driver.Press("frmInteken", "cmdContinue"); }});
+    driver.Add({u"The login"_s, 60, [this] { return app.Status() == u"Login successful!"_s; },
+                [this] { app.commands.Run(u"TabStrip1_Click"_s, 1); }});
+    driver.Add({u"The Friend Requester"_s, 10,
+                [this] { return driver.Find("frmMain", "piccmdAddFriends") != nullptr; },
+                [this] { driver.Press("frmMain", "piccmdAddFriends"); }});
+}
+
+void RunningProgram::PlanReport(int limitSeconds) {
+    driver.Add({u"The report"_s, limitSeconds, [this] { return driver.WasTold(u"Finished sending"_s); },
+                [this] { driver.End({}); }});
+}
+
+bool RunningProgram::Run() {
+    QTimer::singleShot(0, qApp, [this] {
+        driver.Start();
+        app.startUp->Main();
+    });
+    QApplication::exec();
+    return driver.ExitCode() == 0;
+}
+
+bool RunningProgram::IsStuckOn(const QString& id, int milliseconds) {
+    if (app.state.strCurrentID != m_target) {
+        m_target = app.state.strCurrentID;
+        m_onTarget.start();
+    }
+    return m_target == id && m_onTarget.elapsed() >= milliseconds;
+}
+
+} // namespace qlm
