@@ -24,6 +24,35 @@ bool SameWord(const QString& text, const QString& word) {
     return text.trimmed().toLower() == word;
 }
 
+// An advertiser's profile has no such line.
+bool AdvertiserInstead(App& app) {
+    return app.state.strLinkValue.compare(u"last login:"_s, Qt::CaseInsensitive) == 0 &&
+           (app.pageTests->IsAdvertiserProfile() || app.pageTests->IsTextInPage(u"view my:"_s));
+}
+
+bool FormInsteadOfComment(App& app) {
+    RunState& state = app.state;
+    if (state.CurrentAction != u"COM"_s || state.intComStep != 8 || !StepDispatcher::IsCommentFormBack(app))
+        return false;
+    state.intComStep = 4;
+    return true;
+}
+
+// A message that the site doesn't confirm on one complete page after another counts as failed.
+bool UnconfirmedMessage(App& app) {
+    RunState& state = app.state;
+    if (state.CurrentAction != u"MSG"_s || state.intMsgStep != 8 ||
+        state.strLinkValue.compare(u"your message has been sent"_s, Qt::CaseInsensitive) != 0 ||
+        app.WebBrowser1().ReadyState() != 4 || app.pageTests->IsCaptchaPage())
+        return false;
+    if (++state.intConfirmPolls >= MessageConfirmPolls) {
+        state.intConfirmPolls = 0;
+        state.blnSkipCurrentID = true;
+        app.stopResume->ResumeNext();
+    }
+    return false;
+}
+
 } // namespace
 
 bool StepDispatcher::CheckLinkFound() {
@@ -179,23 +208,7 @@ bool StepDispatcher::IsElementThere() {
 
 // Pages on which a plain text test is not the whole story. Asked only when that test has failed.
 bool StepDispatcher::TextRiders() {
-    RunState& state = m_app.state;
-    const QString awaited = state.strLinkValue.toLower();
-    // An advertiser's profile has no such line.
-    if (awaited == u"last login:"_s)
-        return m_app.pageTests->IsAdvertiserProfile() || m_app.pageTests->IsTextInPage(u"view my:"_s);
-    if (state.CurrentAction == u"COM"_s && state.intComStep == 8 && IsCommentFormBack(m_app)) {
-        state.intComStep = 4;
-        return true;
-    }
-    if (state.CurrentAction == u"MSG"_s && state.intMsgStep == 8 &&
-        awaited == u"your message has been sent"_s && m_app.WebBrowser1().ReadyState() == 4 &&
-        !m_app.pageTests->IsCaptchaPage() && ++state.intConfirmPolls >= MessageConfirmPolls) {
-        state.intConfirmPolls = 0;
-        state.blnSkipCurrentID = true;
-        m_app.stopResume->ResumeNext();
-    }
-    return false;
+    return AdvertiserInstead(m_app) || FormInsteadOfComment(m_app) || UnconfirmedMessage(m_app);
 }
 
 } // namespace qlm

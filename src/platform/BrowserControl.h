@@ -32,7 +32,7 @@ struct NavigationRequest {
 // from a property read; the two questions (BeforeNavigate2, NewWindow2) have been held back until the answer
 // is there.
 struct BrowserEvents {
-    // True cancels the navigation. The handler may read the page, click and pump.
+    // True cancels (about:blank is told, not held). The handler may read the page, click and pump.
     std::function<bool(const NavigationRequest&)> beforeNavigate2;
     // True cancels the new window; false lets it open as a window of its own.
     std::function<bool(const QString& url)> newWindow2;
@@ -70,7 +70,7 @@ public:
     // The present document; a null document before the first load has reached one.
     virtual qlm::Document Document() = 0;
     virtual QString LocationURL() = 0;
-    // 4 means complete; lower values mean that the page is still building.
+    // 4 means complete; lower: the page is still building or a load is under way, from Navigate() on.
     virtual int ReadyState() = 0;
     virtual bool Busy() = 0;
 

@@ -78,6 +78,8 @@ bool MessageQueue::DeliverNext(qint64 untilMs, quint64 beforeSequence) {
         return false;
     const std::function<void()> run = std::move(event->event);
     m_events.erase(event);
+    // A handler may bring up a dialog, whose loop needs the alarm clock set for what is left.
+    DueTimeChanged();
     Run(run);
     return true;
 }

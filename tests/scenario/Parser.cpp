@@ -58,22 +58,26 @@ private:
     QString Quoted() {
         QString text;
         for (++m_at; m_at < m_line.size() && m_line[m_at] != u'"'; ++m_at)
-            text += m_line[m_at] == u'\\' ? Escaped() : m_line[m_at];
+            if (m_line[m_at] == u'\\')
+                text += Escaped();
+            else
+                text += m_line[m_at];
         if (m_at == m_line.size())
             throw ScenarioFailure{u"a quoted text does not end on its line"_s, {}, 0};
         ++m_at;
         return text;
     }
 
-    QChar Escaped() {
+    // A backslash before any other sign stands for itself: "Counters\a@example.com".
+    QString Escaped() {
         if (++m_at == m_line.size())
             throw ScenarioFailure{u"a quoted text does not end on its line"_s, {}, 0};
         const QChar c = m_line[m_at];
         if (c == u'n')
-            return u'\n';
+            return u"\n"_s;
         if (c == u'"' || c == u'\\')
             return c;
-        throw ScenarioFailure{u"\\%1 means nothing in a quoted text"_s.arg(c), {}, 0};
+        return QString(u'\\') + c;
     }
 
     const QString& m_line;

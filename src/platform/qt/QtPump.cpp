@@ -93,6 +93,8 @@ void QtPump::SetAlarm() {
 void QtPump::OnAlarm() {
     if (m_holds > 0)
         return;
+    // Before the handlers, one of which may bring up a modal form: its loop has to deliver what is left.
+    SetAlarm();
     {
         const Counted delivery(m_deliveries);
         DeliverDue();

@@ -8,17 +8,21 @@ namespace qlm {
 
 // One act that stands in for a script of a simulated page. The acts are written in attributes, "; " between
 // them, an optional "after 2s" (or "after 500ms") before each:
-//   goto URL · show #id · hide #id · set #id name value · remove #id · append #id <html> · submit #id · click
-//   #id
-// `set` knows the names "value", "innertext" and "innerhtml" beside attributes. Where the attributes stand:
-//   data-on-click   a click on the element or on something in it; on a link or a button in place of what the
-//   click does
-//                   otherwise
-//   data-on-load    once the page is complete
-//   data-on-scroll  the window was scrolled to its end
-//   data-on-script  a part of a script's text: when a "javascript:" address that holds it is run, data-do of
-//   the same
-//                   element is carried out
+//   goto URL
+//   show #id
+//   hide #id
+//   set #id name value    the names "value", "innertext" and "innerhtml", or an attribute
+//   remove #id
+//   append #id <html>
+//   submit #id
+//   click #id
+//
+// Where the attributes stand:
+//   data-on-click    on what is clicked; on a link or a button in place of what the click does otherwise
+//   data-on-load     carried out once the page is complete
+//   data-on-scroll   carried out when the window was scrolled to its end
+//   data-on-script   a part of a script's text: data-do of the same element is carried out when a
+//                    "javascript:" address that holds it is run
 struct StandIn {
     enum class Verb { Goto, Show, Hide, Set, Remove, Append, Submit, Click };
 

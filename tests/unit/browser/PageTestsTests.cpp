@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+#include "BrowserTest.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace qlm {
+namespace {
+
+class PageTestsTest : public BrowserTest {
+protected:
+    PageTests& Tests() { return *app->pageTests; }
+};
+
+TEST_F(PageTestsTest, ATextIsFoundInAnyLetterCaseAndAsAPart) {
+    Show(u"<p>Hello World</p>"_s);
+    EXPECT_TRUE(Tests().IsTextInPage(u"LO wOr"_s));
+    EXPECT_FALSE(Tests().IsTextInPage(u"hello  world"_s));
+}
+
+TEST_F(PageTestsTest, AnEmptyTextIsNeverFound) {
+    Show({});
+    EXPECT_FALSE(Tests().IsTextInPage({}));
+    EXPECT_FALSE(Tests().IsTextInPage({}, true));
+}
+
+TEST_F(PageTestsTest, MarkupIsLookedAtOnlyWhenAskedFor) {
+    Show(u"<span class=Age>20</span>"_s);
+    EXPECT_FALSE(Tests().IsTextInPage(u"span"_s));
+    EXPECT_TRUE(Tests().IsTextInPage(u"<SPAN"_s, true));
+}
+
+TEST_F(PageTestsTest, TheBrowserIsChosenByName) {
+    Show(u"<p>main</p>"_s);
+    world.web.SetPage(u"http://hidden.example.com/"_s, u"<body>hidden</body>"_s);
+    app->webHide().Navigate(u"http://hidden.example.com/"_s);
+    platform->Pump().RunFor(500);
+    EXPECT_TRUE(Tests().IsTextInPage(u"hidden"_s, false, u"webHide"_s));
+    EXPECT_FALSE(Tests().IsTextInPage(u"main"_s, false, u"webHide"_s));
+    EXPECT_TRUE(Tests().IsTextInPage(u"main"_s, false, u"anything"_s));
+    EXPECT_FALSE(Tests().IsTextInPage(u"main"_s, false, u"webInviteLocation"_s));
+}
+
+TEST_F(PageTestsTest, EveryTestSilencesThePage) {
+    Show(u"<p>main</p>"_s);
+    Browser().SetSilent(false);
+    Tests().IsTextInPage(u"x"_s);
+    EXPECT_TRUE(Browser().Silent());
+    Browser().SetSilent(false);
+    Tests().HrefLoaded(u"x"_s, true);
+    EXPECT_TRUE(Browser().Silent());
+    Browser().SetSilent(false);
+    Tests().ImageExists(u"x"_s);
+    EXPECT_TRUE(Browser().Silent());
+}
+
+TEST_F(PageTestsTest, AnAddressIsLoadedWholeOrInPart) {
+    Show(u"<a href='http://www.site.example.com/Ann?x=1'>Ann</a><a href='/bob'>Bob</a>"_s);
+    EXPECT_TRUE(Tests().HrefLoaded(u"HTTP://www.site.example.com/ann?X=1"_s, false));
+    EXPECT_FALSE(Tests().HrefLoaded(u"http://www.site.example.com/ann"_s, false));
+    EXPECT_TRUE(Tests().HrefLoaded(u"com/ANN"_s, true));
+    EXPECT_FALSE(Tests().HrefLoaded(u"com/ann/"_s, true));
+    EXPECT_FALSE(Tests().HrefLoaded({}, true));
+    EXPECT_FALSE(Tests().HrefLoaded({}, false));
+}
+
+TEST_F(PageTestsTest, AnImageGoesByItsFileNameAnInputByAPartOfItsSource) {
+    Show(u"<img src='/i/Send.gif'><input type=image src='/i/buttons/PostNow.gif'>"_s);
+    EXPECT_TRUE(Tests().ImageExists(u"send.GIF"_s));
+    EXPECT_FALSE(Tests().ImageExists(u"end.gif"_s));
+    EXPECT_TRUE(Tests().ImageExists(u"postnow"_s));
+    EXPECT_FALSE(Tests().ImageExists(u"postlater"_s));
+}
+
+TEST_F(PageTestsTest, TheHomePageIsKnownByItsAddress) {
+    for (const QString& address :
+         {u"{HomeHost}/index.cfm?fuseaction=home"_s, u"{HomeHost}/INDEX.cfm?fuseaction=home.x&y=1"_s,
+          u"{SiteRootHost}/"_s, u"{SiteRootHost}/home"_s}) {
+        Show(address, u"x"_s);
+        EXPECT_TRUE(Tests().IsHomePageURL()) << address.toStdString();
+    }
+    for (const QString& address : {u"{SiteRootHost}/home/x"_s, u"{SiteRootHost}/ann"_s, u"{HomeHost}/"_s}) {
+        Show(address, u"x"_s);
+        EXPECT_FALSE(Tests().IsHomePageURL()) << address.toStdString();
+    }
+}
+
+TEST_F(PageTestsTest, PagesAreKnownByTheirWords) {
+    struct Row {
+        bool (PageTests::*test)();
+        QString text;
+    };
+    const std::vector<Row> rows{
+        {&PageTests::IsLoggedOutPage, u"Forgot your password?"_s},
+        {&PageTests::IsLoggedOutPage, u"FORGOT PASSWORD?"_s},
+        {&PageTests::IsCaptchaPage, u"please enter the text from the image"_s},
+        {&PageTests::IsCaptchaPage, u"Please enter the image text"_s},
+        {&PageTests::IsCaptchaPage, u"Type the two words:"_s},
+        {&PageTests::IsCaptchaPage, u"settings require that you solve a captcha"_s},
+        {&PageTests::IsRequestSentPage, u"request sent!"_s},
+        {&PageTests::IsRequestSentPage, u"fdsfsdafgsdagsdfg"_s},
+        {&PageTests::IsAdvertiserProfile, u"ADVERTISERPROFILE"_s},
+    };
+    for (const Row& row : rows) {
+        Show(u"<p>"_s + row.text + u"</p>"_s);
+        EXPECT_TRUE((Tests().*row.test)()) << row.text.toStdString();
+        Show(u"<p>nothing of the kind</p>"_s);
+        EXPECT_FALSE((Tests().*row.test)()) << row.text.toStdString();
+    }
+}
+
+TEST_F(PageTestsTest, OccurrencesAreCountedFromEachFindsSecondCharacter) {
+    EXPECT_EQ(CountOccurrences(u"aaaa"_s, u"aa"_s), 3);
+    EXPECT_EQ(CountOccurrences(u"One one ONE"_s, u"one"_s), 3);
+    EXPECT_EQ(CountOccurrences(u"one"_s, {}), 0);
+    EXPECT_EQ(CountOccurrences({}, u"one"_s), 0);
+}
+
+TEST_F(PageTestsTest, ALinkIsClickedByTheKindOfItsMatch) {
+    const QString link = u"<a id='Go1' title=' My Title ' href='/there'> Click <b>Here</b> </a>"_s;
+    const std::vector<std::pair<QString, QString>> hits{{u"Innertext"_s, u"CLICK here"_s},
+                                                        {u"InnerHTML"_s, u"<B>here"_s},
+                                                        {u"OuterHTML"_s, u"GO1"_s},
+                                                        {u"Title"_s, u"my TITLE"_s},
+                                                        {u"ID"_s, u"go1"_s}};
+    for (const auto& [kind, value] : hits) {
+        Show(u"<a href='/other'>Other</a>"_s + link);
+        EXPECT_TRUE(Tests().ClickLink(kind, value)) << kind.toStdString();
+        platform->Pump().RunFor(500);
+        EXPECT_TRUE(Address().endsWith(u"/there"_s)) << kind.toStdString();
+    }
+    const std::vector<std::pair<QString, QString>> misses{{u"Innertext"_s, u"click"_s},
+                                                          {u"InnerHTML"_s, u"go1"_s},
+                                                          {u"OuterHTML"_s, u"go2"_s},
+                                                          {u"Title"_s, u"my"_s},
+                                                          {u"ID"_s, u"go"_s},
+                                                          {u"Other"_s, u"go1"_s}};
+    Show(link);
+    for (const auto& [kind, value] : misses)
+        EXPECT_FALSE(Tests().ClickLink(kind, value)) << kind.toStdString();
+}
+
+TEST_F(PageTestsTest, ALinkIsClickedByAPartOfItsAddress) {
+    Show(u"<a href='/one'>1</a><a href='/Two?x'>2</a><a href='/two?y'>3</a>"_s);
+    EXPECT_FALSE(Tests().ClickLinkFromHref(u"/three"_s));
+    EXPECT_TRUE(Tests().ClickLinkFromHref(u"/TWO?"_s));
+    platform->Pump().RunFor(500);
+    EXPECT_TRUE(Address().endsWith(u"/Two?x"_s));
+}
+
+TEST_F(PageTestsTest, OfTheLinksThatOfferContactTheSecondOneCounts) {
+    const QString add = u"<a href='/add'>Add to Friends</a>"_s;
+    const QString send = u"<a href='/send'>SEND MESSAGE</a>"_s;
+    const QString other = u"<a href='/other'>Other</a>"_s;
+    Show(other + add + other + send + u"<a href='/third'>send message</a>"_s);
+    EXPECT_TRUE(Tests().GetHrefFromSecondID().endsWith(u"/send"_s));
+    Show(other + add);
+    EXPECT_TRUE(Tests().GetHrefFromSecondID().endsWith(u"/add"_s));
+    Show(other);
+    EXPECT_EQ(Tests().GetHrefFromSecondID(), QString());
+}
+
+TEST_F(PageTestsTest, APageWithoutABodyIsReloadedAfterThirtySeconds) {
+    const QString url = u"http://www.site.example.com/empty"_s;
+    world.web.SetFault(url, SimFault::NoBody, 2);
+    world.web.SetPage(url, u"<body>there</body>"_s);
+    world.web.SetFault(url, SimFault::NoBody, 2);
+    Browser().Navigate(url);
+    platform->Pump().RunFor(500);
+    const qint64 startMs = app->Pump().NowMs();
+    Tests().WaitForDocument();
+    EXPECT_TRUE(Tests().IsTextInPage(u"there"_s));
+    // Twice more than 30 whole seconds, then the page.
+    EXPECT_GE(app->Pump().NowMs() - startMs, 62000);
+    EXPECT_LT(app->Pump().NowMs() - startMs, 64000);
+}
+
+} // namespace
+} // namespace qlm
