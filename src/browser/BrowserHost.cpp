@@ -61,7 +61,8 @@ void BrowserHost::Attach() {
     };
     events.contextMenu = [this] {
         bool allow = false;
-        m_app.diagnostics.Trap("hGlobalDoc_oncontextmenu", [&] { allow = m_app.pageBoxes->hGlobalDoc_oncontextmenu(); });
+        m_app.diagnostics.Trap("hGlobalDoc_oncontextmenu",
+                               [&] { allow = m_app.pageBoxes->hGlobalDoc_oncontextmenu(); });
         return allow;
     };
 }

@@ -42,7 +42,9 @@ void PageTests::SpinFor(BrowserControl& browser, bool refreshWithoutBody) {
     qint64 sinceMs = m_app.Pump().NowMs();
     while (browser.Document().Body().IsNull()) {
         m_app.waiting.Turn();
-        if (refreshWithoutBody && m_app.waiting.SecondsSince(sinceMs) > SecondsWithoutBody) {
+        // The turn may have brought the body, after a long stay in another wait.
+        const bool stillWithout = browser.Document().Body().IsNull();
+        if (refreshWithoutBody && stillWithout && m_app.waiting.SecondsSince(sinceMs) > SecondsWithoutBody) {
             browser.Refresh();
             sinceMs = m_app.Pump().NowMs();
         }

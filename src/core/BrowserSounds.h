@@ -7,8 +7,8 @@ namespace qlm {
 
 class App;
 
-// Silences the desktop's click of the many navigations while the program runs. The user's own sound is kept in
-// section "General" and put back at the end. A store without such a sound has nothing to silence.
+// Silences the desktop's click of the many navigations while the program runs. The user's own sound is kept
+// in section "General" and put back at the end. A store without such a sound has nothing to silence.
 class BrowserSounds {
 public:
     explicit BrowserSounds(App& app);

@@ -71,8 +71,8 @@ public:
         }
     }
 
-    // Replaces every match of the pattern; "$1" to "$9" in the replacement stand for its groups. A pattern that
-    // is none leaves the text as it is and a line in "debuginitial.txt".
+    // Replaces every match of the pattern; "$1" to "$9" in the replacement stand for its groups. A pattern
+    // that is none leaves the text as it is and a line in "debuginitial.txt".
     QString RegExpReplace(const QString& text, const QString& pattern, const QString& replacement);
 
     static QString CleanText(const QString& text);

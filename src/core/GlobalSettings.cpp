@@ -15,7 +15,7 @@ namespace {
 
 const QString Form = u"frmGlobalSettings"_s;
 
-// The table of controls keeps its own copy of the name.
+// The name of its check box.
 QByteArray BoxOf(const GlobalFlag& flag) {
     return "frmGlobalSettings." + QByteArray(flag.checkBox);
 }
@@ -71,8 +71,8 @@ void GlobalSettings::mnuResetSettings_Click() {
     m_app.platform.Settings().DeleteEverything();
     m_app.platform.Settings().Sync();
     m_app.state.blnNoSaveOnExit = true;
-    m_app.ShowMessage(
-        u"Please restart the program for the changes to take effect.\n\nQLM will now close."_s, title);
+    m_app.ShowMessage(u"Please restart the program for the changes to take effect.\n\nQLM will now close."_s,
+                      title);
     m_app.mainForm->Unload();
 }
 

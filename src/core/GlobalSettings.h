@@ -5,8 +5,8 @@ namespace qlm {
 
 class App;
 
-// frmGlobalSettings, which says what all accounts share, and the two ways of starting over with no settings at
-// all.
+// frmGlobalSettings, which says what all accounts share, and the two ways of starting over with no settings
+// at all.
 class GlobalSettings {
 public:
     explicit GlobalSettings(App& app);

@@ -12,7 +12,8 @@ namespace {
 // Where a key stands, or where it would be added.
 struct Place {
     qsizetype line = -1;
-    qsizetype endOfSection = -1; // the line behind the section's last one that isn't blank; -1 without the section
+    qsizetype endOfSection =
+        -1; // the line behind the section's last one that isn't blank; -1 without the section
 };
 
 bool IsSection(const QString& line, const QString& section) {

@@ -106,7 +106,8 @@ qint32 ProductServer::TimeDiff() {
     // Both clocks without a zone: the difference is what is asked for.
     const QDateTime server(*date, time, Qt::UTC);
     const QDateTime now = m_app.Pump().Now();
-    const double hours = static_cast<double>(QDateTime(now.date(), now.time(), Qt::UTC).secsTo(server)) / 3600;
+    const double hours =
+        static_cast<double>(QDateTime(now.date(), now.time(), Qt::UTC).secsTo(server)) / 3600;
     const auto whole = static_cast<qint32>(std::nearbyint(hours));
     m_app.diagnostics.Debug(u"debuginitial.txt"_s, u"TimeDiff - "_s + QString::number(whole));
     return whole;

@@ -34,6 +34,9 @@ QByteArray PracticeControls::Fetch(const QString& path, const QByteArray* body) 
     QEventLoop loop;
     QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
     loop.exec();
+    // The loop also ends when the program does.
+    if (!reply->isFinished())
+        throw std::runtime_error("The practice site was asked while the program was ending");
     if (reply->error() != QNetworkReply::NoError)
         throw std::runtime_error("The practice site did not answer: " + reply->errorString().toStdString());
     return reply->readAll();

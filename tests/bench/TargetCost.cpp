@@ -27,11 +27,11 @@ class TargetCost {
 public:
     TargetCost() {
         site.Tell(u"journal visits off"_s);
-        folders.SaveList({u"100100"_s});
+        folders.SaveList(SomeTargets(2, FirstTarget - 2));
         program.app.controls.AddListener(
             [this](const Control& control, Controls::Change, int) { OnChange(control); });
         program.PlanSending();
-        program.driver.Add({u"The first target, which warms up"_s, 60, [this] { return IsThrough(); },
+        program.driver.Add({u"The first targets, which warm up"_s, 60, [this] { return IsThrough(); },
                             [this] { MakeBare(); }});
         for (int block = 0; block < Blocks; ++block)
             PlanBlock();

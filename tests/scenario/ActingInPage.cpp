@@ -52,8 +52,8 @@ void RightClick(Stage& stage, Arguments&) {
 
 const CommandRows& ActingInPageCommands() {
     static const CommandRows rows{
-        {"browse", Browse},           {"follow", Follow},          {"page-click", PageClick},
-        {"page-type", PageType},      {"status-text", StatusText}, {"right-click", RightClick},
+        {"browse", Browse},      {"follow", Follow},          {"page-click", PageClick},
+        {"page-type", PageType}, {"status-text", StatusText}, {"right-click", RightClick},
     };
     return rows;
 }

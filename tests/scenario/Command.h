@@ -18,8 +18,8 @@ struct Command {
     std::vector<Command> block; // of "on"
 };
 
-// Something is wrong with the scenario or with what it saw. Deliberately no std::exception: it must pass through the
-// program's own error traps.
+// Something is wrong with the scenario or with what it saw. Deliberately no std::exception: it must pass
+// through the program's own error traps.
 struct ScenarioFailure {
     QString text;
     // Where the text itself can't be tied to a running command: a file that does not parse.

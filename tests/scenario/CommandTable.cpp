@@ -17,8 +17,8 @@ Index BuildIndex() {
     Index index;
     for (const CommandRows* rows :
          {&SettingUpCommands(), &SettingUpSiteCommands(), &ActingCommands(), &ActingInPageCommands(),
-          &RunningCommands(), &ExpectingWindowCommands(), &ExpectingControlCommands(), &ExpectingSiteCommands(),
-          &ExpectingStoreCommands()})
+          &RunningCommands(), &ExpectingWindowCommands(), &ExpectingControlCommands(),
+          &ExpectingSiteCommands(), &ExpectingStoreCommands()})
         for (const CommandRow& row : *rows)
             index.insert(QString::fromLatin1(row.name), row.run);
     return index;

@@ -10,7 +10,8 @@ namespace qlm::scenario {
 
 class Stage;
 
-// One row a command. name holds one or more leading words ("click", "expect no message"); the longest that fits wins.
+// One row a command. name holds one or more leading words ("click", "expect no message"); the longest that
+// fits wins.
 struct CommandRow {
     const char* name;
     void (*run)(Stage& stage, Arguments& arguments);

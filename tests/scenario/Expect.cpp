@@ -27,7 +27,8 @@ void ExpectLines(const QString& what, const QStringList& expected, const QString
         if (i >= seen.size())
             Fail(u"%1 lacks line %2: %3"_s.arg(what).arg(i + 1).arg(Quoted(expected[i])));
         if (expected[i] != seen[i])
-            Fail(u"%1, line %2, is %3, expected %4"_s.arg(what).arg(i + 1).arg(Quoted(seen[i]), Quoted(expected[i])));
+            Fail(u"%1, line %2, is %3, expected %4"_s.arg(what).arg(i + 1).arg(Quoted(seen[i]),
+                                                                               Quoted(expected[i])));
     }
 }
 

@@ -136,9 +136,9 @@ void Hidden(Stage& stage, Arguments& arguments) {
 
 const CommandRows& ExpectingControlCommands() {
     static const CommandRows rows{
-        {"expect control", Control},   {"expect rows", Rows},       {"expect selected", Selected},
-        {"expect tooltip", ToolTip},   {"expect enabled", Enabled}, {"expect disabled", Disabled},
-        {"expect visible", Visible},   {"expect hidden", Hidden},
+        {"expect control", Control}, {"expect rows", Rows},       {"expect selected", Selected},
+        {"expect tooltip", ToolTip}, {"expect enabled", Enabled}, {"expect disabled", Disabled},
+        {"expect visible", Visible}, {"expect hidden", Hidden},
     };
     return rows;
 }

@@ -60,7 +60,8 @@ void Debug(Stage& stage, Arguments& arguments) {
     const QString name = arguments.Take("the debug file");
     const QStringList lines = DebugLines(stage, name);
     if (!OneHolds(lines, arguments.Take("the text")))
-        Fail(u"no line of %1 holds that; its last: %2"_s.arg(name, lines.mid(lines.size() - 5).join(u" | "_s)));
+        Fail(u"no line of %1 holds that; its last: %2"_s.arg(name,
+                                                             lines.mid(lines.size() - 5).join(u" | "_s)));
 }
 
 void NoDebug(Stage& stage, Arguments& arguments) {
@@ -89,8 +90,12 @@ void NoSetting(Stage& stage, Arguments& arguments) {
 
 const CommandRows& ExpectingStoreCommands() {
     static const CommandRows rows{
-        {"expect file", File},       {"expect no file", NoFile},       {"expect bytes", Bytes},
-        {"expect debug", Debug},     {"expect no debug", NoDebug},     {"expect setting", Setting},
+        {"expect file", File},
+        {"expect no file", NoFile},
+        {"expect bytes", Bytes},
+        {"expect debug", Debug},
+        {"expect no debug", NoDebug},
+        {"expect setting", Setting},
         {"expect no setting", NoSetting},
     };
     return rows;

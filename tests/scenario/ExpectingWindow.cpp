@@ -127,7 +127,8 @@ void Elapsed(Stage& stage, Arguments& arguments) {
 void ContextMenu(Stage& stage, Arguments& arguments) {
     const QString kind = arguments.Take("shown or none");
     ExpectText(u"the page's menu"_s, kind,
-               stage.Browser(BrowserName::WebBrowser1).contextMenuShown.value_or(false) ? u"shown"_s : u"none"_s);
+               stage.Browser(BrowserName::WebBrowser1).contextMenuShown.value_or(false) ? u"shown"_s
+                                                                                        : u"none"_s);
 }
 
 } // namespace

@@ -90,9 +90,7 @@ public:
     Parser(const QString& text, const QString& path, int depth)
         : m_lines(LinesOf(text)), m_path(path), m_depth(depth) {}
 
-    std::vector<Command> Parse() {
-        return Block(false);
-    }
+    std::vector<Command> Parse() { return Block(false); }
 
 private:
     // The commands up to "end", or to the end of the file.
@@ -158,7 +156,8 @@ private:
         } catch (const ScenarioFailure& failure) {
             Fail(failure.text);
         }
-        if (!command.words.isEmpty() && command.words.last().startsWith(u"<<") && command.words.last().size() > 2)
+        if (!command.words.isEmpty() && command.words.last().startsWith(u"<<") &&
+            command.words.last().size() > 2)
             ReadText(command);
         return command;
     }

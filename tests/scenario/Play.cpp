@@ -42,7 +42,8 @@ std::optional<ScenarioFailure> Play::Run() {
         }
     }
     if (const QString unused = Unused(); !unused.isEmpty())
-        return ScenarioFailure{unused, m_current ? m_current->file : QString(), m_current ? m_current->line : 0};
+        return ScenarioFailure{unused, m_current ? m_current->file : QString(),
+                               m_current ? m_current->line : 0};
     return {};
 }
 
@@ -65,7 +66,8 @@ void Play::AddBlock(const Command& command) {
 QString Play::Unused() const {
     for (const Block& block : m_blocks)
         if (!block.used)
-            return u"the block \"on %1\" of line %2 was never used"_s.arg(block.form).arg(block.command->line);
+            return u"the block \"on %1\" of line %2 was never used"_s.arg(block.form)
+                .arg(block.command->line);
     return m_stage.UnusedAnswers();
 }
 
@@ -94,7 +96,8 @@ void Play::PlayOn(Level level, const std::function<bool()>& leave) {
     }
 }
 
-// The message loop. False when the level is over before the goal is reached; the level below goes on with the goal.
+// The message loop. False when the level is over before the goal is reached; the level below goes on with the
+// goal.
 bool Play::ReachGoal(const std::function<bool()>& leave) {
     while (m_goal && !GoalHolds(true)) {
         if (leave())
@@ -172,7 +175,8 @@ bool Play::OnForm(const QString& form, bool modal) {
         return true;
     }
     if (modal)
-        throw ScenarioFailure{u"the modal form %1 came up and no \"on %1\" block is left for it"_s.arg(form), {}, 0};
+        throw ScenarioFailure{
+            u"the modal form %1 came up and no \"on %1\" block is left for it"_s.arg(form), {}, 0};
     return false;
 }
 
@@ -218,7 +222,8 @@ void Play::CheckStuck() {
     if (m_turnsWithoutTime > MostTurnsWithoutTime)
         throw ScenarioFailure{u"the program turns without letting time pass; "_s + m_stage.Describe(), {}, 0};
     if (!m_goal && now - m_commandStartMs > LongestCommandMs)
-        throw ScenarioFailure{u"the program did not come back to its message loop; "_s + m_stage.Describe(), {}, 0};
+        throw ScenarioFailure{
+            u"the program did not come back to its message loop; "_s + m_stage.Describe(), {}, 0};
 }
 
 } // namespace qlm::scenario

@@ -11,8 +11,8 @@ namespace qlm::scenario {
 
 class Stage;
 
-// Thrown out of the program from wherever it stands: its process has ended (kill, a power cut, the end of the script).
-// No std::exception, so that no trap of the program takes it for an error.
+// Thrown out of the program from wherever it stands: its process has ended (kill, a power cut, the end of the
+// script). No std::exception, so that no trap of the program takes it for an error.
 struct ProcessEnds {};
 
 // What a "run" or "wait" waits for.
@@ -25,9 +25,9 @@ struct Goal {
     QString what;
 };
 
-// Walks a script. The program runs inside the commands: a click calls its handlers, and those may open a modal form or
-// wait. The script then goes on from inside that form or wait, so one script position serves all levels; a level
-// returns to the program when the next "run" or "wait" asks for it.
+// Walks a script. The program runs inside the commands: a click calls its handlers, and those may open a
+// modal form or wait. The script then goes on from inside that form or wait, so one script position serves
+// all levels; a level returns to the program when the next "run" or "wait" asks for it.
 class Play {
 public:
     Play(Stage& stage, const std::vector<Command>& script);

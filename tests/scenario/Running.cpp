@@ -14,13 +14,15 @@ namespace {
 constexpr qint64 DefaultLimitMs = 24LL * 60 * 60 * 1000;
 
 void RunTo(Stage& stage, Arguments& arguments, Goal goal) {
-    const qint64 limitMs = arguments.TakeWord("limit"_L1) ? arguments.TakeDurationMs("the limit") : DefaultLimitMs;
+    const qint64 limitMs =
+        arguments.TakeWord("limit"_L1) ? arguments.TakeDurationMs("the limit") : DefaultLimitMs;
     goal.limitMs = stage.NowMs() + limitMs;
     stage.play->SetGoal(std::move(goal));
 }
 
 void Run(Stage& stage, Arguments& arguments) {
-    RunTo(stage, arguments, {[&stage] { return stage.IsIdle(); }, true, 0, false, u"the program to be idle"_s});
+    RunTo(stage, arguments,
+          {[&stage] { return stage.IsIdle(); }, true, 0, false, u"the program to be idle"_s});
 }
 
 void RunUntilStatus(Stage& stage, Arguments& arguments) {
@@ -34,8 +36,8 @@ void RunUntilAction(Stage& stage, Arguments& arguments) {
     const QString word = arguments.Take("the activity");
     const QString action = word == u"none" ? QString() : word;
     RunTo(stage, arguments,
-          {[&stage, action] { return stage.HasProgram() && stage.TheApp().state.CurrentAction == action; }, false,
-           0, false, u"the activity "_s + word});
+          {[&stage, action] { return stage.HasProgram() && stage.TheApp().state.CurrentAction == action; },
+           false, 0, false, u"the activity "_s + word});
 }
 
 void RunUntilMessage(Stage& stage, Arguments& arguments) {
@@ -46,8 +48,8 @@ void RunUntilMessage(Stage& stage, Arguments& arguments) {
 void RunUntilUrl(Stage& stage, Arguments& arguments) {
     const QString part = arguments.Take("a part of the address");
     RunTo(stage, arguments,
-          {[&stage, part] { return stage.Browser(BrowserName::WebBrowser1).LocationURL().contains(part); }, false,
-           0, false, u"an address with "_s + part});
+          {[&stage, part] { return stage.Browser(BrowserName::WebBrowser1).LocationURL().contains(part); },
+           false, 0, false, u"an address with "_s + part});
 }
 
 void Wait(Stage& stage, Arguments& arguments) {

@@ -11,8 +11,9 @@ namespace qlm::scenario {
 
 class Play;
 
-// The program's forms as real widgets, and the person before them as the script tells him: boxes with one button close
-// by themselves and are kept, questions and file dialogs take the next prepared answer, forms play their blocks.
+// The program's forms as real widgets, and the person before them as the script tells him: boxes with one
+// button close by themselves and are kept, questions and file dialogs take the next prepared answer, forms
+// play their blocks.
 class ScenarioDialogs : public WindowDialogs {
 public:
     struct Box {
@@ -27,7 +28,8 @@ public:
     explicit ScenarioDialogs(std::function<Play&()> play);
 
     QString ChooseFileToOpen(const QString& title, const QString& filter) override;
-    QString ChooseFileToSave(const QString& title, const QString& suggestedName, const QString& filter) override;
+    QString ChooseFileToSave(const QString& title, const QString& suggestedName,
+                             const QString& filter) override;
 
     void ShowForm(const QString& form) override;
 

@@ -106,15 +106,9 @@ void Let(Stage& stage, Arguments& arguments) {
 
 const CommandRows& SettingUpCommands() {
     static const CommandRows rows{
-        {"clock", Clock},
-        {"random", RandomNumbers},
-        {"setting", Setting},
-        {"file", File},
-        {"account", Account},
-        {"logged-in", LoggedIn},
-        {"list", List},
-        {"state", State},
-        {"readonly", ReadOnly},
+        {"clock", Clock}, {"random", RandomNumbers}, {"setting", Setting},
+        {"file", File},   {"account", Account},      {"logged-in", LoggedIn},
+        {"list", List},   {"state", State},          {"readonly", ReadOnly},
         {"let", Let},
     };
     return rows;

@@ -41,7 +41,7 @@ void Page(Stage& stage, Arguments& arguments) {
 
 void Redirect(Stage& stage, Arguments& arguments) {
     const QString url = arguments.Take("the address");
-    stage.world.web.SetRedirect(url, arguments.Take("the address that it leads to"));
+    stage.world.web.SetRedirect(url, WithScheme(arguments.Take("the address that it leads to")));
 }
 
 void Fault(Stage& stage, Arguments& arguments) {
@@ -75,7 +75,8 @@ void Http(Stage& stage, Arguments& arguments) {
 }
 
 void PracticeSite(Stage& stage, Arguments& arguments) {
-    const quint64 seed = arguments.TakeWord("seed"_L1) ? static_cast<quint64>(arguments.TakeNumber("the seed")) : 1;
+    const quint64 seed =
+        arguments.TakeWord("seed"_L1) ? static_cast<quint64>(arguments.TakeNumber("the seed")) : 1;
     stage.UsePracticeSite(seed);
 }
 
@@ -91,12 +92,8 @@ void SiteControl(Stage& stage, Arguments& arguments) {
 
 const CommandRows& SettingUpSiteCommands() {
     static const CommandRows rows{
-        {"page", Page},
-        {"redirect", Redirect},
-        {"fault", Fault},
-        {"http", Http},
-        {"site practice", PracticeSite},
-        {"site control", SiteControl},
+        {"page", Page}, {"redirect", Redirect},          {"fault", Fault},
+        {"http", Http}, {"site practice", PracticeSite}, {"site control", SiteControl},
     };
     return rows;
 }

@@ -108,8 +108,8 @@ bool Stage::IsIdle() {
     if (HasEnded())
         return true;
     const Timers& timers = *m_app->timers;
-    const bool isAtRest =
-        m_app->state.CurrentAction.isEmpty() && !timers.Timer1.Enabled() && !timers.tmrCheckLinkLoaded.Enabled();
+    const bool isAtRest = m_app->state.CurrentAction.isEmpty() && !timers.Timer1.Enabled() &&
+                          !timers.tmrCheckLinkLoaded.Enabled();
     const bool nothingDue = ThePump().Queue().NextDueMs().value_or(NowMs() + 1) > NowMs();
     return isAtRest && nothingDue && !Browser(BrowserName::WebBrowser1).Busy();
 }
@@ -228,7 +228,8 @@ QStringList Stage::DebugTrail(int linesEach) const {
         QFile file(folder.filePath(name));
         if (!file.open(QIODevice::ReadOnly))
             continue;
-        const QStringList lines = QString::fromLatin1(file.readAll()).remove(u'\r').split(u'\n', Qt::SkipEmptyParts);
+        const QStringList lines =
+            QString::fromLatin1(file.readAll()).remove(u'\r').split(u'\n', Qt::SkipEmptyParts);
         for (const QString& line : lines.mid(std::max<qsizetype>(0, lines.size() - linesEach)))
             trail << name + u": "_s + line.left(300);
     }

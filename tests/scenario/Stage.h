@@ -14,8 +14,8 @@
 
 namespace qlm::scenario {
 
-// The world of one scenario: a machine with fresh folders, a store, a network and a clock, and on it the program, which
-// may end and start again.
+// The world of one scenario: a machine with fresh folders, a store, a network and a clock, and on it the
+// program, which may end and start again.
 class Stage : private BrowserViews {
 public:
     Stage();

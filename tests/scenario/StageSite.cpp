@@ -24,11 +24,15 @@ QString ProductAnswer(const QString& path, const QDateTime& now) {
 SimFault FaultOf(practice::Response::Fault fault) {
     using enum practice::Response::Fault;
     switch (fault) {
-    case Hang: return SimFault::Hang;
-    case Reset: return SimFault::Reset;
-    case NoBody: return SimFault::NoBody;
+    case Hang:
+        return SimFault::Hang;
+    case Reset:
+        return SimFault::Reset;
+    case NoBody:
+        return SimFault::NoBody;
     case None:
-    case Slow: break;
+    case Slow:
+        break;
     }
     return SimFault::None;
 }
@@ -38,7 +42,8 @@ practice::Request SiteRequest(const SimRequest& request) {
     practice::Request asked;
     asked.method = request.method;
     asked.host = HostOf(request.url);
-    asked.path = url.path(QUrl::FullyEncoded) + (url.hasQuery() ? u'?' + url.query(QUrl::FullyEncoded) : QString());
+    asked.path =
+        url.path(QUrl::FullyEncoded) + (url.hasQuery() ? u'?' + url.query(QUrl::FullyEncoded) : QString());
     asked.body = request.body;
     if (!request.cookies.isEmpty())
         asked.headers[u"cookie"_s] = request.cookies;

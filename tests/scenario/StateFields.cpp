@@ -162,7 +162,8 @@ struct Writer {
     void operator()(QString RunState::*field) const { state.*field = text; }
     void operator()(QStringList RunState::*field) const { state.*field = text.split(u'\n'); }
     void operator()(bool RunState::*field) const {
-        if (text.compare(u"True", Qt::CaseInsensitive) != 0 && text.compare(u"False", Qt::CaseInsensitive) != 0)
+        if (text.compare(u"True", Qt::CaseInsensitive) != 0 &&
+            text.compare(u"False", Qt::CaseInsensitive) != 0)
             Fail(u"True or False, not %1"_s.arg(text));
         state.*field = text.compare(u"True", Qt::CaseInsensitive) == 0;
     }
@@ -189,7 +190,8 @@ void WriteStateField(RunState& state, const QString& name, const QString& text) 
 
 bool SameStateText(const RunState& state, const QString& name, const QString& expected) {
     const bool isFlag = std::holds_alternative<bool RunState::*>(FieldOf(name));
-    return ReadStateField(state, name).compare(expected, isFlag ? Qt::CaseInsensitive : Qt::CaseSensitive) == 0;
+    return ReadStateField(state, name).compare(expected, isFlag ? Qt::CaseInsensitive : Qt::CaseSensitive) ==
+           0;
 }
 
 } // namespace qlm::scenario

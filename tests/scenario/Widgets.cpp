@@ -51,11 +51,18 @@ int KeyCode(const QString& name) {
         QLatin1StringView name;
         int code;
     };
-    static constexpr Key keys[]{{"Delete"_L1, Qt::Key_Delete}, {"Enter"_L1, Qt::Key_Return},
-                                {"Return"_L1, Qt::Key_Return}, {"Escape"_L1, Qt::Key_Escape},
-                                {"Backspace"_L1, Qt::Key_Backspace}, {"Tab"_L1, Qt::Key_Tab},
-                                {"Space"_L1, Qt::Key_Space}, {"Up"_L1, Qt::Key_Up}, {"Down"_L1, Qt::Key_Down},
-                                {"Home"_L1, Qt::Key_Home}, {"End"_L1, Qt::Key_End}, {"F5"_L1, Qt::Key_F5}};
+    static constexpr Key keys[]{{"Delete"_L1, Qt::Key_Delete},
+                                {"Enter"_L1, Qt::Key_Return},
+                                {"Return"_L1, Qt::Key_Return},
+                                {"Escape"_L1, Qt::Key_Escape},
+                                {"Backspace"_L1, Qt::Key_Backspace},
+                                {"Tab"_L1, Qt::Key_Tab},
+                                {"Space"_L1, Qt::Key_Space},
+                                {"Up"_L1, Qt::Key_Up},
+                                {"Down"_L1, Qt::Key_Down},
+                                {"Home"_L1, Qt::Key_Home},
+                                {"End"_L1, Qt::Key_End},
+                                {"F5"_L1, Qt::Key_F5}};
     for (const Key& key : keys)
         if (name == key.name)
             return key.code;
@@ -187,7 +194,9 @@ void SelectRow(QWidget* list, int row) {
     if (!view)
         WrongKind(list, "list");
     if (row < 0 || row >= view->model()->rowCount())
-        Fail(u"%1 has no row %2, only %3 rows"_s.arg(list->objectName()).arg(row).arg(view->model()->rowCount()));
+        Fail(u"%1 has no row %2, only %3 rows"_s.arg(list->objectName())
+                 .arg(row)
+                 .arg(view->model()->rowCount()));
     view->setFocus();
     view->setCurrentIndex(view->model()->index(row, 0));
 }
@@ -236,7 +245,9 @@ int SelectedRow(const QWidget* list) {
     if (!view)
         WrongKind(list, "list");
     const QModelIndex current = view->currentIndex();
-    return view->selectionModel() && view->selectionModel()->hasSelection() && current.isValid() ? current.row() : -1;
+    return view->selectionModel() && view->selectionModel()->hasSelection() && current.isValid()
+               ? current.row()
+               : -1;
 }
 
 } // namespace qlm::scenario

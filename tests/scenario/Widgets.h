@@ -9,10 +9,11 @@ class QAction;
 
 namespace qlm::scenario {
 
-// Finding real widgets by their names and working them as a person would: by events that a disabled widget refuses.
+// Finding real widgets by their names and working them as a person would: by events that a disabled widget
+// refuses.
 
-// The widget of that name below the window; of several the one that shows. "picMessanger.picEditList" names the one
-// inside another. Null when there is none.
+// The widget of that name below the window; of several the one that shows. "picMessanger.picEditList" names
+// the one inside another. Null when there is none.
 QWidget* FindWidget(QWidget* window, const QString& name);
 QAction* FindAction(QWidget* window, const QString& name);
 

@@ -51,7 +51,8 @@ QString NameOf(const QString& file) {
     return QFileInfo(file).dir().dirName() + u'/' + QFileInfo(file).completeBaseName();
 }
 
-void Report(const QString& file, const ScenarioFailure& failure, const QString& source, const QStringList& trail) {
+void Report(const QString& file, const ScenarioFailure& failure, const QString& source,
+            const QStringList& trail) {
     Say(u"FAIL "_s + NameOf(file));
     Say(u"  %1:%2: %3"_s.arg(failure.file.isEmpty() ? file : failure.file).arg(failure.line).arg(source));
     Say(u"  "_s + failure.text);
@@ -68,7 +69,8 @@ bool RunOne(const QString& file, const Options& options) {
         play.trace = options.trace;
         stage.play = &play;
         if (const std::optional<ScenarioFailure> failure = play.Run()) {
-            Report(file, *failure, play.Current() ? play.Current()->source : QString(), stage.DebugTrail(TrailLines));
+            Report(file, *failure, play.Current() ? play.Current()->source : QString(),
+                   stage.DebugTrail(TrailLines));
             return false;
         }
     } catch (const ScenarioFailure& failure) {
@@ -81,7 +83,8 @@ bool RunOne(const QString& file, const Options& options) {
 
 // The offscreen platform tells what it can't do with windows that nobody sees.
 void OnQtMessage(QtMsgType, const QMessageLogContext&, const QString& text) {
-    if (!text.startsWith(u"This plugin does not support") && !text.startsWith(u"QStandardPaths: XDG_RUNTIME_DIR"))
+    if (!text.startsWith(u"This plugin does not support") &&
+        !text.startsWith(u"QStandardPaths: XDG_RUNTIME_DIR"))
         std::fprintf(stderr, "%s\n", qUtf8Printable(text));
 }
 

@@ -126,7 +126,9 @@ TEST_F(Faults, ADataFolderThatCannotBeMadeIsToldAndTheProgramGoesOnWithoutSettin
 // affected. It must leave the engine its own shared memory.
 TEST_F(Faults, ALogThatCannotGrowIsReportedAndNoLineOfItIsLost) {
     constexpr int limit = 48 * 1024 * 1024;
-    QByteArray log = QByteArray(limit - 3 - 2 - 8, '#') + "\r\n" + ids[0].toLatin1() + "\r\n";
+    QByteArray log = (QByteArray(1022, '#') + "\r\n").repeated(limit / 1024);
+    log.chop(1024);
+    log += QByteArray(1024 - 3 - 2 - 8, '#') + "\r\n" + ids[0].toLatin1() + "\r\n";
     ASSERT_EQ(log.size(), limit - 3);
     folders.Write(folders.File(u"FriendsLog.txt"_s), log);
     ProgramProcess program(folders.Arguments(), [] {

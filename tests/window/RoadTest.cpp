@@ -77,8 +77,7 @@ TEST(Road, PagesThatFailCostTheirOwnTargetAlone) {
     folders.SaveList(ids);
     site.Tell(u"fault "_s + RequestPage(ids[1]) + u" slow 2500"_s);
     site.Tell(u"fault "_s + RequestPage(ids[3]) + u" reset"_s);
-    // The program loads it anew when it has stayed without a body for long.
-    site.Tell(u"fault "_s + RequestPage(ids[5]) + u" nobody times 1"_s);
+    site.Tell(u"fault "_s + RequestPage(ids[5]) + u" alert"_s);
     site.Tell(u"fault "_s + RequestPage(ids[7]) + u" error"_s);
     site.Tell(u"outcome "_s + ids[8] + u" private"_s);
 

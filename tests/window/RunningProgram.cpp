@@ -14,6 +14,8 @@ RunningProgram::RunningProgram(const UsedProgram& folders)
       app(*m_app),
       driver(app) {
     m_dialogs.Attach(app, m_views);
+    // It would end the test's own process if it fell due while the program is closing.
+    app.timers->tmrQuit.SetEnabled(false);
 }
 
 RunningProgram::~RunningProgram() {

@@ -16,7 +16,8 @@ struct Expectation {
 class ExpectedElementTest : public BrowserTest {
 protected:
     ExpectedElementTest() { State().CurrentAction = u"BUL"_s; }
-    bool Find(const QString& type, const QString& value, const QString& page, SimFault fault = SimFault::None) {
+    bool Find(const QString& type, const QString& value, const QString& page,
+              SimFault fault = SimFault::None) {
         Show(u"{SiteRootHost}/page"_s, page, fault);
         Await(type, value);
         return Look();

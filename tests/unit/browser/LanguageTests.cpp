@@ -16,20 +16,35 @@ protected:
 };
 
 TEST_F(LanguageTest, OneWordOfManyIsEnough) {
-    for (const QString& word :
-         {u"Connecte-toi d'abord"_s, u"Mitglieder-Login"_s, u"Volver al Inicio"_s, u"Tienes que haber"_s,
-          u"Parcourir"_s, u"Iniciar Sesi"_s, u"siste innlogging:"_s, u"ultimo accesso:"_s, u"Profilaufrufe"_s,
-          u"Connexion"_s, u"Rester connect"_s, u"Todos os Direitos Reservados"_s, u"passwort vergessen"_s,
-          u"Wachtwoord vergeten"_s, u"Adgangskode"_s, u"Salasana"_s, u"Iscriviti!"_s, u"Glemt passordet"_s,
-          u"Zarejestruj"_s, u"Aanpassen aan je eigen smaak"_s}) {
+    for (const QString& word : {u"Connecte-toi d'abord"_s,
+                                u"Mitglieder-Login"_s,
+                                u"Volver al Inicio"_s,
+                                u"Tienes que haber"_s,
+                                u"Parcourir"_s,
+                                u"Iniciar Sesi"_s,
+                                u"siste innlogging:"_s,
+                                u"ultimo accesso:"_s,
+                                u"Profilaufrufe"_s,
+                                u"Connexion"_s,
+                                u"Rester connect"_s,
+                                u"Todos os Direitos Reservados"_s,
+                                u"passwort vergessen"_s,
+                                u"Wachtwoord vergeten"_s,
+                                u"Adgangskode"_s,
+                                u"Salasana"_s,
+                                u"Iscriviti!"_s,
+                                u"Glemt passordet"_s,
+                                u"Zarejestruj"_s,
+                                u"Aanpassen aan je eigen smaak"_s}) {
         EXPECT_TRUE(IsForeign(u"x "_s + word + u" x"_s)) << word.toStdString();
         EXPECT_TRUE(IsForeign(word.toUpper())) << word.toStdString();
     }
 }
 
 TEST_F(LanguageTest, SomeWordsCountOnlyTogether) {
-    const QList<QStringList> groups{
-        {u"Postfach"_s, u"Ausloggen"_s}, {u"Inicio"_s, u"Correo"_s, u"mi cuenta"_s}, {u"Mitt konto"_s, u"Logga Ut"_s}};
+    const QList<QStringList> groups{{u"Postfach"_s, u"Ausloggen"_s},
+                                    {u"Inicio"_s, u"Correo"_s, u"mi cuenta"_s},
+                                    {u"Mitt konto"_s, u"Logga Ut"_s}};
     for (const QStringList& group : groups) {
         EXPECT_TRUE(IsForeign(group.join(u" - "_s)));
         for (qsizetype left = 0; left < group.size(); ++left) {

@@ -84,7 +84,8 @@ TEST_F(LastPageTest, AnEmptyRequestsFolderEndsTheWaitForItsApproveButton) {
 TEST_F(LastPageTest, ACommentFormThatIsBackBeginsTheCommentAnew) {
     const std::pair<bool, QString> forms[] = {
         {false, u"<p>page before</p><i id=ctl00_ctl00_cpMain_cpMain_ctl02_ctl00></i>"_s},
-        {true, u"<p>page before</p><i id='ctl00$ctl00$cpMain$UserWriteCommentsControl$commentTextBox'></i>"_s}};
+        {true,
+         u"<p>page before</p><i id='ctl00$ctl00$cpMain$UserWriteCommentsControl$commentTextBox'></i>"_s}};
     for (const auto& [editor, form] : forms) {
         Show(form);
         Begin(u"COM"_s);
@@ -116,9 +117,10 @@ TEST_F(LastPageTest, TheThousandAndFirstPageStopsGatheringAtTheTenthLook) {
     EXPECT_EQ(State().CurrentAction, u"SCANNING"_s);
     EXPECT_FALSE(Check());
     EXPECT_EQ(State().CurrentAction, QString());
-    EXPECT_EQ(dialogs.Texts(),
-              QStringList{u"MySpace only displays the first 1000 pages, after which the same ID's just repeat "
-                          "page after page.\n\nThe gathering process has been stopped."_s});
+    EXPECT_EQ(
+        dialogs.Texts(),
+        QStringList{u"MySpace only displays the first 1000 pages, after which the same ID's just repeat "
+                    "page after page.\n\nThe gathering process has been stopped."_s});
 }
 
 TEST_F(LastPageTest, AnotherPageOfAListIsWaitedForWithoutEnd) {

@@ -136,11 +136,11 @@ TEST_F(PageClassTest, TheErrorAddressIsTriedBetweenItsNeighbours) {
 }
 
 TEST_F(PageClassTest, AClassOfTwoTextsNeedsBoth) {
-    for (const QString& half :
-         {u"invalid id"_s, u"go to user profile"_s, u"friend to send, you must be"_s, u"you must be a message"_s,
-          u"friend to send a message"_s, u"LinkContent1"_s, u"ReturnMessage1"_s, u"invalid user"_s,
-          u"send a message"_s, u"You have blocked"_s, u"and removed them from your friends list"_s,
-          u"sorry, the profile of"_s, u"is only viewable by friends"_s})
+    for (const QString& half : {u"invalid id"_s, u"go to user profile"_s, u"friend to send, you must be"_s,
+                                u"you must be a message"_s, u"friend to send a message"_s, u"LinkContent1"_s,
+                                u"ReturnMessage1"_s, u"invalid user"_s, u"send a message"_s,
+                                u"You have blocked"_s, u"and removed them from your friends list"_s,
+                                u"sorry, the profile of"_s, u"is only viewable by friends"_s})
         EXPECT_EQ(ClassOf(half), 0) << half.toStdString();
 }
 

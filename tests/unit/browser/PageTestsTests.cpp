@@ -128,12 +128,9 @@ TEST_F(PageTestsTest, ALinkIsClickedByTheKindOfItsMatch) {
         platform->Pump().RunFor(500);
         EXPECT_TRUE(Address().endsWith(u"/there"_s)) << kind.toStdString();
     }
-    const std::vector<std::pair<QString, QString>> misses{{u"Innertext"_s, u"click"_s},
-                                                          {u"InnerHTML"_s, u"go1"_s},
-                                                          {u"OuterHTML"_s, u"go2"_s},
-                                                          {u"Title"_s, u"my"_s},
-                                                          {u"ID"_s, u"go"_s},
-                                                          {u"Other"_s, u"go1"_s}};
+    const std::vector<std::pair<QString, QString>> misses{
+        {u"Innertext"_s, u"click"_s}, {u"InnerHTML"_s, u"go1"_s}, {u"OuterHTML"_s, u"go2"_s},
+        {u"Title"_s, u"my"_s},        {u"ID"_s, u"go"_s},         {u"Other"_s, u"go1"_s}};
     Show(link);
     for (const auto& [kind, value] : misses)
         EXPECT_FALSE(Tests().ClickLink(kind, value)) << kind.toStdString();

@@ -72,3 +72,20 @@ TEST(Diagnostics, TrailLinesKeepPrintableSignsAlone) {
                                      "é ok [x]{y}~`"_s),
               u"FR 11 -  ok [x]{y}~`"_s);
 }
+
+TEST(Text, HexadecimalNeedsItsPrefix) {
+    EXPECT_EQ(FromHexadecimal(u"&H1f"_s), 31);
+    EXPECT_EQ(FromHexadecimal(u"&hFF"_s), 255);
+    for (const QString& other : {u"1F"_s, u"&H"_s, u"&HG"_s, u"&H-1"_s, u"&H 1"_s, u"0x1F"_s, QString()})
+        EXPECT_EQ(FromHexadecimal(other), std::nullopt) << other.toStdString();
+}
+
+TEST(Text, Base36GoesToZ) {
+    EXPECT_EQ(ToBase36(35), u"z"_s);
+    EXPECT_EQ(ToBase36(36), u"10"_s);
+    EXPECT_EQ(ToBase36(-46655), u"-zzz"_s);
+    EXPECT_EQ(FromBase36(u"zzz"_s), 46655);
+    EXPECT_EQ(FromBase36(u"Z"_s), 35);
+    EXPECT_EQ(FromBase36(u"a!"_s), std::nullopt);
+    EXPECT_EQ(FromBase36({}), std::nullopt);
+}

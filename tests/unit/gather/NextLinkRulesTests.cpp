@@ -88,6 +88,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{u"More"_s, u"http://www.example.com/music/charts/songs/2"_s,
              u"http://www.example.com/music/charts/songs/5"_s, Charts},
         Case{u"More songs"_s, u"http://www.example.com/music/charts/songs/2"_s, u""_s, Charts},
+        Case{u"Next"_s, u"http://www.example.com/7/friends/all"_s, u""_s},
         Case{u"Previous"_s, u"http://www.example.com/7/friends/page/1"_s, u""_s}));
 
 TEST(ChartPageFive, ReplacesTheLastNumberEverywhere) {

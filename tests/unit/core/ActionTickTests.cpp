@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+#include "../browser/BrowserTest.h"
+#include "core/ActionTick.h"
+
+#include <QFile>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace qlm {
+namespace {
+
+class ActionTickTest : public BrowserTest {
+protected:
+    void Begin(const QString& action, const QString& page) {
+        Show(page);
+        State().CurrentAction = action;
+        Await(u"Text"_s, u"wanted"_s);
+        app->timers->tmrCheckLinkLoaded.Restart();
+    }
+    void Tick() { app->actionTick->tmrCheckLinkLoaded_Timer(); }
+    Timers& The() { return *app->timers; }
+};
+
+TEST_F(ActionTickTest, AFoundElementHandsOverToTheActionTick) {
+    Begin(u"BUL"_s, u"wanted"_s);
+    State().intBlankTicks = 7;
+    State().intGatherRetryTicks = 3;
+    State().blnRetryGatherPage = true;
+    Tick();
+    EXPECT_FALSE(The().tmrCheckLinkLoaded.Enabled());
+    EXPECT_TRUE(The().Timer1.Enabled());
+    EXPECT_TRUE(The().tmrAutoResume.Enabled());
+    EXPECT_TRUE(State().blnLinkCheckFired);
+    EXPECT_EQ(State().intBlankTicks, 0);
+    EXPECT_EQ(State().intGatherRetryTicks, 0);
+    EXPECT_FALSE(State().blnRetryGatherPage);
+    platform->Pump().RunFor(500);
+    EXPECT_FALSE(The().Timer1.Enabled());
+}
+
+TEST_F(ActionTickTest, AMissingElementIsLookedForAgain) {
+    Begin(u"BUL"_s, u"other"_s);
+    Tick();
+    EXPECT_TRUE(The().tmrCheckLinkLoaded.Enabled());
+    EXPECT_FALSE(The().Timer1.Enabled());
+}
+
+TEST_F(ActionTickTest, AHeldCheckLooksAtNothing) {
+    Begin(u"BUL"_s, u"wanted"_s);
+    State().blnHoldLinkCheck = true;
+    trail.clear();
+    Tick();
+    EXPECT_FALSE(The().Timer1.Enabled());
+    EXPECT_TRUE(trail.isEmpty());
+}
+
+TEST_F(ActionTickTest, AWaitForACaptchaLeavesTheWatchdogAlone) {
+    Begin(u"BUL"_s, u"wanted"_s);
+    State().blnWaitingForCaptcha = true;
+    Tick();
+    EXPECT_TRUE(The().Timer1.Enabled());
+    EXPECT_FALSE(The().tmrAutoResume.Enabled());
+}
+
+TEST_F(ActionTickTest, AFolderThatIsEmptyGoesOnAlthoughThePageIsTheLastOne) {
+    Begin(u"ACC"_s, u"page before: You have no requests"_s);
+    Await(u"ID"_s, u"spanapprovebottom"_s);
+    State().strLastPageText = u"page before"_s;
+    State().intAccStep = 2;
+    Tick();
+    EXPECT_TRUE(The().Timer1.Enabled());
+}
+
+TEST_F(ActionTickTest, AnElementFoundOnTheLastPageWaitsForTheNext) {
+    // At this step the comment form itself is the last page.
+    Begin(u"COM"_s, u"page before <i id=ctl00_ctl00_cpMain_cpMain_ctl02_ctl00></i>"_s);
+    State().strLastPageText = u"page before"_s;
+    State().intComStep = 11;
+    Tick();
+    EXPECT_EQ(State().intComStep, 4);
+    EXPECT_FALSE(State().blnLinkFound);
+    EXPECT_FALSE(The().Timer1.Enabled());
+}
+
+TEST_F(ActionTickTest, TheThirtyFirstBlankTickResumes) {
+    State().CurrentAction = u"DEL PEN"_s;
+    Await(u"Text"_s, u"wanted"_s);
+    app->ClearPage();
+    for (int tick = 1; tick <= 30; ++tick)
+        Tick();
+    EXPECT_EQ(State().intBlankTicks, 30);
+    EXPECT_FALSE(The().tmrAutoResume.Enabled());
+    Tick();
+    EXPECT_EQ(State().intBlankTicks, 0);
+    EXPECT_TRUE(The().tmrAutoResume.Enabled());
+}
+
+TEST_F(ActionTickTest, OnlyAnEmptyPageCounts) {
+    Begin(u"DEL PEN"_s, u"other"_s);
+    for (int tick = 1; tick <= 40; ++tick)
+        Tick();
+    EXPECT_EQ(State().intBlankTicks, 0);
+}
+
+TEST_F(ActionTickTest, EachCheckLeavesALine) {
+    struct Row {
+        QString action;
+        QString line;
+    };
+    const QString rest = u" ... Found = False ... EX: False ... PRESSED: False"_s;
+    for (const Row& row :
+         {Row{u"FR"_s, u"checking... - Text, wanted"_s}, Row{u"MSG"_s, u"checking... - Text, wanted"_s},
+          Row{u"COM"_s, u"checking... - Text, wanted"_s}, Row{u"SCANNING"_s, u"checking..."_s},
+          Row{u"ACC"_s, u"checking..."_s}, Row{u"BUL"_s, u"checking..."_s},
+          Row{u"LOGIN"_s, u"checking: "_s}}) {
+        Begin(row.action, u"other"_s);
+        trail.clear();
+        Tick();
+        EXPECT_TRUE(Said(row.line + rest))
+            << row.action.toStdString() << ": " << trail.join(u'|').toStdString();
+    }
+    State().strLastPageText = u"other"_s;
+    Tick();
+    EXPECT_TRUE(Said(u"checking:  ... Found = False ... EX: True ... PRESSED: False"_s));
+}
+
+TEST_F(ActionTickTest, FiveActivitiesNoteThatTheLinkWasFound) {
+    for (const QString& action : {u"SCANNING"_s, u"FR"_s, u"MSG"_s, u"COM"_s, u"LOGIN"_s}) {
+        Begin(action, u"wanted"_s);
+        trail.clear();
+        Tick();
+        EXPECT_TRUE(Said(u"Link Found"_s)) << action.toStdString();
+        The().Timer1.SetEnabled(false);
+    }
+    Begin(u"ACC"_s, u"wanted"_s);
+    trail.clear();
+    Tick();
+    EXPECT_FALSE(Said(u"Link Found"_s));
+}
+
+TEST_F(ActionTickTest, ALoginNotesTheCaptchaItWaitsFor) {
+    Begin(u"LOGIN"_s, u"Enter the text"_s);
+    trail.clear();
+    Tick();
+    ASSERT_EQ(trail.size(), 2);
+    EXPECT_EQ(trail[0], u"waiting for CAPTCHA"_s);
+    EXPECT_TRUE(trail[1].startsWith(u"checking: "_s));
+}
+
+TEST_F(ActionTickTest, TheActionTickIsOneShotAndRunsNoStepForActivitiesWithoutOne) {
+    Show(u"x"_s);
+    for (const QString& action : {u"INV"_s, u"STATUSUPDATES"_s, u"RANDOMIZING"_s, QString()}) {
+        State().CurrentAction = action;
+        State().intFRStep = 5;
+        The().Timer1.Restart();
+        platform->Pump().RunFor(2000);
+        EXPECT_FALSE(The().Timer1.Enabled()) << action.toStdString();
+        EXPECT_EQ(State().intFRStep, 5);
+        EXPECT_EQ(State().CurrentAction, action);
+    }
+}
+
+TEST_F(ActionTickTest, AnHangingShutdownIsEnded) {
+    platform->Pump().RunFor(6500);
+    EXPECT_FALSE(platform->Shell().hasEnded);
+    State().blnClosing = true;
+    EXPECT_TRUE(The().tmrQuit.Enabled());
+    platform->Pump().RunFor(6000);
+    EXPECT_TRUE(platform->Shell().hasEnded);
+}
+
+TEST_F(ActionTickTest, TheWatchdogOnlyLeavesATrail) {
+    The().tmrAutoResume.Restart();
+    platform->Pump().RunFor(41000);
+    EXPECT_EQ(trail.size(), 1);
+    EXPECT_TRUE(QFile::exists(app->DataFile(u"debugautoresume.txt"_s)));
+}
+
+} // namespace
+} // namespace qlm

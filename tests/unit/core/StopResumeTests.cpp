@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: MIT
+#include "../browser/BrowserTest.h"
+#include "core/MainForm.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace qlm {
+namespace {
+
+using StopResumeTest = BrowserTest;
+
+TEST_F(StopResumeTest, AStopClearsWhatBelongsToTheRun) {
+    RunState& state = State();
+    const std::vector<qint16 RunState::*> numbers{
+        &RunState::intGatherStep,  &RunState::intFRStep,      &RunState::intMsgStep,
+        &RunState::intComStep,     &RunState::intBulStep,     &RunState::intAccStep,
+        &RunState::intLoginStep,   &RunState::intDelPenStep,  &RunState::intGatherRetryTicks,
+        &RunState::intFRLimitHits, &RunState::intConfirmPolls};
+    const std::vector<bool RunState::*> flags{
+        &RunState::blnLinkFound,     &RunState::blnLastPageAsHTML,   &RunState::blnForceAdvance,
+        &RunState::blnClickNextLink, &RunState::blnComparingIDs,     &RunState::blnRetryGatherPage,
+        &RunState::blnSkipCurrentID, &RunState::blnBulletinDeleting, &RunState::blnCommentFormShown,
+        &RunState::blnSkipRequested, &RunState::blnInDelay,          &RunState::blnBulletinWaiting,
+        &RunState::blnStatusWaiting};
+    const std::vector<QString RunState::*> texts{&RunState::CurrentAction,   &RunState::strLinkType,
+                                                 &RunState::strLinkValue,    &RunState::strLastPageText,
+                                                 &RunState::strLastPageHref, &RunState::strFRResumeURL,
+                                                 &RunState::strNextPageLink, &RunState::strCurrentID};
+    for (auto number : numbers)
+        state.*number = 3;
+    for (auto flag : flags)
+        state.*flag = true;
+    for (auto text : texts)
+        state.*text = u"x"_s;
+    state.lngPageScanOffset = 3;
+    app->SetStatus(u"busy"_s);
+    app->timers->tmrAutoResume.Restart();
+    app->timers->tmrCheckLinkLoaded.Restart();
+    app->timers->Timer1.Restart();
+
+    app->stopResume->StopAll(u"MAINSTOP"_s);
+    for (size_t i = 0; i < numbers.size(); ++i)
+        EXPECT_EQ(state.*numbers[i], 0) << i;
+    for (size_t i = 0; i < flags.size(); ++i)
+        EXPECT_FALSE(state.*flags[i]) << i;
+    for (size_t i = 0; i < texts.size(); ++i)
+        EXPECT_EQ(state.*texts[i], QString()) << i;
+    EXPECT_EQ(state.lngPageScanOffset, 0);
+    EXPECT_EQ(app->Status(), QString());
+    EXPECT_TRUE(state.blnHoldLinkCheck);
+    EXPECT_FALSE(app->timers->tmrAutoResume.Enabled());
+    EXPECT_FALSE(app->timers->tmrCheckLinkLoaded.Enabled());
+    // Off between two steps anyway; not the stop's to touch.
+    EXPECT_TRUE(app->timers->Timer1.Enabled());
+}
+
+TEST_F(StopResumeTest, AStopNeverTouchesTheListAndTheCounters) {
+    State().arrFriendIDs = {u"1001"_s};
+    State().lngDailyFR = 5;
+    State().lngSessionFR = 4;
+    app->stopResume->StopAll(u"MAINSTOP"_s);
+    EXPECT_EQ(State().arrFriendIDs, QStringList{u"1001"_s});
+    EXPECT_EQ(State().lngDailyFR, 5);
+    EXPECT_EQ(State().lngSessionFR, 4);
+}
+
+TEST_F(StopResumeTest, AStopLeavesItsMarkInTheTrailOfTheActivity) {
+    struct Row {
+        QString action;
+        QString mark; // %1 the time
+    };
+    for (const Row& row : {Row{u"SCANNING"_s, u"GATHER stop - (TAG)%1"_s}, Row{u"FR"_s, u"FR stop - %1"_s},
+                           Row{u"COM"_s, u"COM stop - (TAG)%1"_s}, Row{u"MSG"_s, u"MSG stop - (TAG)%1"_s},
+                           Row{u"ACC"_s, u"ACC stop - (TAG)%1"_s}, Row{u"LOGIN"_s, u"LOGIN stop - (TAG)%1"_s},
+                           Row{u"INV"_s, u"EVINV stop - (TAG)%1"_s}}) {
+        trail.clear();
+        State().CurrentAction = row.action;
+        app->stopResume->StopAll(u"TAG"_s);
+        EXPECT_EQ(trail, QStringList{row.mark.arg(app->NowText())}) << row.action.toStdString();
+    }
+    for (const QString& action : {u"BUL"_s, u"DEL PEN"_s, u"STATUSUPDATES"_s, QString()}) {
+        trail.clear();
+        State().CurrentAction = action;
+        app->stopResume->StopAll(u"TAG"_s);
+        EXPECT_TRUE(trail.isEmpty()) << action.toStdString();
+    }
+}
+
+TEST_F(StopResumeTest, ALabelThatFailsDoesNotStopTheStop) {
+    app->SetStatus(u"busy"_s);
+    State().strCurrentID = u"1001"_s;
+    app->controls.AddListener([](const Control& control, Controls::Change, int) {
+        if (control.name == "myfraCurrentAction"_L1)
+            throw std::runtime_error("no window");
+    });
+    app->stopResume->StopAll(u"TAG"_s);
+    EXPECT_EQ(State().strCurrentID, QString());
+}
+
+TEST_F(StopResumeTest, ResumingRunsTheStepAsItStands) {
+    State().CurrentAction = u"FR"_s;
+    State().intFRStep = 6; // the end of a run
+    State().blnHoldLinkCheck = true;
+    Browser().SetSilent(false);
+    app->stopResume->ResumeNext();
+    EXPECT_TRUE(SaidBeginningWith(u"cmdRes - "_s));
+    EXPECT_EQ(dialogs.Texts(), QStringList{u"Finished sending friend requests."_s});
+    EXPECT_TRUE(Browser().Silent());
+}
+
+TEST_F(StopResumeTest, ResumingALoginOnlyArmsTheWatchdog) {
+    for (const QString& action : {u"LOGIN"_s, u"INV"_s, QString()}) {
+        State().CurrentAction = action;
+        State().intLoginStep = 3;
+        State().blnHoldLinkCheck = true;
+        app->timers->tmrAutoResume.SetEnabled(false);
+        trail.clear();
+        app->stopResume->ResumeNext();
+        EXPECT_TRUE(app->timers->tmrAutoResume.Enabled());
+        EXPECT_FALSE(State().blnHoldLinkCheck);
+        EXPECT_TRUE(trail.isEmpty());
+        EXPECT_EQ(State().intLoginStep, 3);
+    }
+}
+
+TEST_F(StopResumeTest, ASkipInADelayOnlyEndsTheDelay) {
+    State().CurrentAction = u"MSG"_s;
+    State().intMsgStep = 9;
+    State().blnInDelay = true;
+    State().blnHoldLinkCheck = true;
+    app->stopResume->SkipProfile();
+    EXPECT_FALSE(State().blnInDelay);
+    EXPECT_FALSE(State().blnSkipRequested);
+    EXPECT_EQ(State().intMsgStep, 9);
+    EXPECT_FALSE(State().blnHoldLinkCheck);
+    EXPECT_TRUE(app->timers->tmrAutoResume.Enabled());
+}
+
+TEST_F(StopResumeTest, ASkipGoesToTheStepBehindTheSending) {
+    State().CurrentAction = u"MSG"_s;
+    State().intMsgStep = 7;
+    app->stopResume->SkipProfile();
+    EXPECT_EQ(State().intMsgStep, 8);
+    EXPECT_TRUE(State().blnSkipRequested);
+    State().CurrentAction = u"COM"_s;
+    State().intComStep = 7;
+    app->stopResume->SkipProfile();
+    EXPECT_EQ(State().intComStep, 8);
+    State().CurrentAction = u"BUL"_s;
+    State().intBulStep = 2;
+    app->stopResume->SkipProfile();
+    EXPECT_EQ(State().intBulStep, 2);
+    State().CurrentAction = u"SCANNING"_s;
+    State().intGatherStep = 3;
+    app->stopResume->SkipProfile();
+    EXPECT_EQ(State().intGatherStep, 3);
+}
+
+TEST_F(StopResumeTest, ASkippedRequestIsGivenUp) {
+    State().CurrentAction = u"FR"_s;
+    State().intFRStep = 8;
+    State().strCurrentID = u"1001"_s;
+    State().intCurrentIDIndex = 1;
+    app->stopResume->SkipProfile();
+    EXPECT_EQ(State().lngFailedCount, 1);
+    EXPECT_EQ(dialogs.Texts(), QStringList{u"Finished sending friend requests."_s});
+}
+
+TEST_F(StopResumeTest, PausingHoldsTheCheckAndTheWatchdog) {
+    app->timers->tmrAutoResume.Restart();
+    app->stopResume->PauseLinkCheck();
+    EXPECT_TRUE(State().blnHoldLinkCheck);
+    EXPECT_FALSE(app->timers->tmrAutoResume.Enabled());
+    app->stopResume->ResumeLinkCheck();
+    EXPECT_FALSE(State().blnHoldLinkCheck);
+    EXPECT_TRUE(app->timers->tmrAutoResume.Enabled());
+}
+
+TEST_F(StopResumeTest, TheStopButtonStopsThePageToo) {
+    State().CurrentAction = u"MSG"_s;
+    app->webHide().ZOrder(0);
+    Browser().Navigate(u"http://www.site.example.com/slow"_s);
+    app->commands.Run(u"picStop_Click"_s);
+    EXPECT_FALSE(Browser().Busy());
+    EXPECT_TRUE(State().blnUserNavigated);
+    EXPECT_EQ(app->webHide().Position(), 1);
+    EXPECT_EQ(State().CurrentAction, QString());
+    EXPECT_TRUE(SaidBeginningWith(u"MSG stop - (MAINSTOP)"_s));
+}
+
+TEST_F(StopResumeTest, ExitWhenFinishedIsAskedForAndTaken) {
+    EXPECT_FALSE(app->stopResume->DoFinishedExit());
+    app->commands.Run(u"mnuExitWhenFinished_Click"_s); // not confirmed
+    EXPECT_FALSE(State().blnExitWhenFinished);
+    dialogs.answers = {Dialogs::Answer::Yes};
+    app->commands.Run(u"mnuExitWhenFinished_Click"_s);
+    EXPECT_TRUE(State().blnExitWhenFinished);
+    EXPECT_TRUE(app->controls.Ticked("mnuExitWhenFinished"_L1));
+    EXPECT_TRUE(app->stopResume->DoFinishedExit());
+    EXPECT_TRUE(platform->Shell().hasQuit);
+}
+
+} // namespace
+} // namespace qlm
