@@ -16,6 +16,7 @@
 #include <QNetworkProxy>
 #include <QScopeGuard>
 #include <QTimer>
+#include <cstdio>
 
 namespace {
 
@@ -69,6 +70,13 @@ std::unique_ptr<WindowDriver> NewDriver(App& app, PracticeControls& controls, co
     return std::make_unique<GuidedRun>(app, controls, guidance.folder);
 }
 
+// A guided run tells its story on the standard output; what the offscreen display cannot do is no part of it.
+void TellProblems(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtDebugMsg || type == QtInfoMsg || text.startsWith(u"This plugin does not support"_s))
+        return;
+    std::fprintf(stderr, "%s\n", qUtf8Printable(text));
+}
+
 int RunProgram(QApplication& application, QtPlatform& platform, DesktopDialogs& dialogs,
                const Guidance& guidance) {
     EngineViews views(platform);
@@ -104,6 +112,8 @@ int main(int argc, char** argv) {
     ApplyLook(application);
 
     const Guidance guidance = GuidanceIn(QApplication::arguments());
+    if (guidance.IsWanted())
+        qInstallMessageHandler(TellProblems);
     DesktopDialogs dialogs;
     QtPlatform platform(OptionsFor(guidance), dialogs);
     return RunProgram(application, platform, dialogs, guidance);

@@ -20,6 +20,7 @@ const QString Password = u"secret"_s;
 // Somebody with two pages of friends.
 const QString Popular = u"100001"_s;
 constexpr int PopularFriends = 76;
+constexpr QSize PictureSize(1180, 760);
 
 } // namespace
 
@@ -65,6 +66,9 @@ void GuidedRun::PlanLogin() {
          [this] {
              m_summary.append(u"Signed in as "_s + m_app.state.AccountEmail + u", own profile "_s +
                               m_app.state.MyProfileID);
+             // An offscreen display is small; the pictures want the size of a usual window.
+             if (QWidget* window = Form("frmMain"))
+                 window->resize(PictureSize);
              Type("frmMain", "txtAddress", m_app.Expand(u"{SiteRootHost}/"_s) + Popular + u"/friends"_s);
              Press("frmMain", "picGO");
          }});
