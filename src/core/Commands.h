@@ -17,7 +17,7 @@ public:
     // argument is the key code of a KeyDown, the index of a control array's item, else 0.
     using Handler = std::function<void(int argument)>;
 
-    void Add(const QString& name, Handler handler) { m_handlers.insert(name, std::move(handler)); }
+    void Add(const QString& name, const Handler& handler) { m_handlers.insert(name, handler); }
     void Add(const QString& name, std::function<void()> handler) {
         m_handlers.insert(name, [handler = std::move(handler)](int) { handler(); });
     }

@@ -49,7 +49,7 @@ void Diagnostics::AppendToFile(const QString& path, const QString& text, bool st
     IgnoreErrors([&] {
         if (startNew)
             m_app.files.CreateFile(path);
-        m_app.files.AppendLine(path, line);
+        m_app.files.AppendLine(path, line, Readers::Everyone, Durability::Quick);
     });
     if (onLine)
         onLine(line);

@@ -179,7 +179,8 @@ void FileSystem::WriteAll(int descriptor, const QByteArray& bytes, const QString
         m_gate->Cut();
 }
 
-void FileSystem::AppendLine(const QString& path, const QString& line, Readers readers) {
+void FileSystem::AppendLine(const QString& path, const QString& line, Readers readers,
+                            Durability durability) {
     CreateFolder(QFileInfo(path).absolutePath());
     Refuse(path);
     const Descriptor file(path, O_RDWR | O_CREAT | O_APPEND | O_CLOEXEC, ModeFor(readers));
@@ -187,7 +188,8 @@ void FileSystem::AppendLine(const QString& path, const QString& line, Readers re
     if (EndsInsideLine(file.Number()))
         bytes.prepend("\r\n");
     WriteAll(file.Number(), bytes, path);
-    file.Sync(path);
+    if (durability == Durability::Synced)
+        file.Sync(path);
 }
 
 void FileSystem::WriteLines(const QString& path, const QStringList& lines, Readers readers) {

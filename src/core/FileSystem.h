@@ -18,6 +18,8 @@ public:
 };
 
 enum class Readers { Everyone, OwnerAlone };
+// Synced has reached the disk when the call returns; Quick survives the process, not a power cut.
+enum class Durability { Synced, Quick };
 
 // All file access of the program. Files are opened, used and closed within one call. Text files are
 // Windows-1252 with CR LF ends; LF ends are read too. Every member throws FileError when it cannot do what it
@@ -44,7 +46,8 @@ public:
     void ForEachLine(const QString& path, const std::function<bool(QByteArrayView line)>& visit) const;
     QByteArray ReadBytes(const QString& path) const;
 
-    void AppendLine(const QString& path, const QString& line, Readers readers = Readers::Everyone);
+    void AppendLine(const QString& path, const QString& line, Readers readers = Readers::Everyone,
+                    Durability durability = Durability::Synced);
     void WriteLines(const QString& path, const QStringList& lines, Readers readers = Readers::Everyone);
     void WriteBytes(const QString& path, const QByteArray& bytes, Readers readers = Readers::Everyone);
     // Overwrites the target, whole or not at all.

@@ -202,10 +202,10 @@ void MainForm::picRefresh_Click() {
     });
 }
 
+// Once set it stays: answering No later doesn't take it back.
 void MainForm::mnuExitWhenFinished_Click() {
-    m_app.state.blnExitWhenFinished =
-        m_app.AskYesNo(u"Are you sure you want Quillmere to exit when the current operation is finished?"_s);
-    m_app.controls.SetTicked("mnuExitWhenFinished"_L1, m_app.state.blnExitWhenFinished);
+    if (m_app.AskYesNo(u"Are you sure you want Quillmere to exit when the current operation is finished?"_s))
+        m_app.state.blnExitWhenFinished = true;
 }
 
 void MainForm::TabStrip1_Click(const QString& caption) {

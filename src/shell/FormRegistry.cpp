@@ -5,6 +5,7 @@
 #include "shell/frmAccountDetails.h"
 #include "shell/frmError.h"
 #include "shell/frmFilters.h"
+#include "shell/frmGlobalSettings.h"
 #include "shell/frmInteken.h"
 #include "shell/frmLog.h"
 #include "shell/frmLoginProblem.h"
@@ -36,6 +37,7 @@ constexpr Registered Forms[] = {
     {"frmError"_L1, Make<frmError>},
     {"frmTimeDelay"_L1, Make<frmTimeDelay>},
     {"frmFilters"_L1, Make<frmFilters>},
+    {"frmGlobalSettings"_L1, Make<frmGlobalSettings>},
     {"frmLog"_L1, Make<frmLog>},
 };
 

@@ -27,6 +27,7 @@ struct MenuRow {
 constexpr MenuRow Rows[] = {
     {Kind::Menu, "", "mnuOptions", u"&Options"},
     {Kind::Item, "mnuOptions", "mnuSwitchLogin", u"S&witch Login...", "Ctrl+Shift+L"},
+    {Kind::Item, "mnuOptions", "mnuGlobalSettings", u"&Global Settings..."},
     {Kind::Separator, "mnuOptions", "", u""},
     {Kind::Item, "mnuOptions", "mnuTimeDelay", u"&Time Delay...", "Ctrl+T"},
     {Kind::Menu, "mnuOptions", "mnuCAPTCHAAlerts", u"&CAPTCHA Settings"},
@@ -41,6 +42,8 @@ constexpr MenuRow Rows[] = {
     {Kind::Item, "mnuOptions", "mnuExitWhenFinished", u"Exit When &Finished"},
     {Kind::Item, "mnuOptions", "mnuExit", u"E&xit", "Ctrl+Q"},
     {Kind::Menu, "", "mnuHelp", u"&Help"},
+    {Kind::Item, "mnuHelp", "mnuResetSettings", u"&Reset Settings..."},
+    {Kind::Item, "mnuHelp", "mnuSaveScreenshot", u"&Save screenshot and page source..."},
     {Kind::Tick, "mnuHelp", "mnuEnableLogging", u"&Enable logging for support"},
     {Kind::Item, "mnuHelp", "mnuGoToQLMDataFolder", u"&Go to QLM Data Folder"},
 };

@@ -76,8 +76,8 @@ TEST_F(FormsContract, ADisabledButtonSendsNothing) {
 
 TEST_F(FormsContract, ALabelClicksItsField) {
     ServeBody(u"sent?box=on"_s, u"thank you"_s);
-    Show(
-        u"<form id=f action='/sent'><input type=checkbox name=box id=box><label id=label for=box>tick me</label></form>"_s);
+    Show(u"<form id=f action='/sent'><input type=checkbox name=box id=box>"
+         "<label id=label for=box>tick me</label></form>"_s);
     ById(u"label"_s).Click();
     ById(u"f"_s).Submit();
     ASSERT_TRUE(WaitForText(u"thank you"_s));
