@@ -91,7 +91,8 @@ void OnQtMessage(QtMsgType, const QMessageLogContext&, const QString& text) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The platform's own screen is too small for a main window.
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" QUILLMERE_SCREEN);
     qInstallMessageHandler(OnQtMessage);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
