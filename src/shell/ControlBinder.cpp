@@ -92,7 +92,7 @@ void ControlBinder::OnChange(const Control& control, Change change, int row) {
     if (found == m_bound.constEnd() || !found->object)
         return;
     // A copy: showing may bind or unbind others.
-    const Bound bound = *found;
+    const Bound bound = *found; // NOLINT(performance-unnecessary-copy-initialization)
     QScopedValueRollback showing(m_showing, true);
     if (auto* widget = qobject_cast<QWidget*>(bound.object.data()))
         ShowCommon(*widget, control, change);
