@@ -109,7 +109,7 @@ void FileSystem::EnsureFile(const QString& path, Readers readers) {
         return;
     CreateFolder(QFileInfo(path).absolutePath());
     Refuse(path);
-    Descriptor(path, O_WRONLY | O_CREAT | O_CLOEXEC, ModeFor(readers));
+    const Descriptor created(path, O_WRONLY | O_CREAT | O_CLOEXEC, ModeFor(readers));
 }
 
 void FileSystem::CreateFile(const QString& path, Readers readers) {
@@ -221,7 +221,7 @@ bool FileSystem::IsWritable(const QString& folder, const QString& testFileName) 
     try {
         DeleteFile(path);
         Refuse(path);
-        Descriptor(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+        const Descriptor created(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
         DeleteFile(path);
         return true;
     } catch (const FileError&) {

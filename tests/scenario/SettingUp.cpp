@@ -94,12 +94,17 @@ void ReadOnly(Stage& stage, Arguments& arguments) {
     stage.world.gate.readOnlyFolders << stage.Path(arguments.Take("the folder"));
 }
 
-// let NAME = text
+// let NAME = text, let NAME = "text" or let NAME = <<END. A text without quotes around it stays as written,
+// with whatever quotes it holds.
 void Let(Stage& stage, Arguments& arguments) {
     const QString name = arguments.Take("the name");
     if (!arguments.TakeWord("="_L1))
         Fail(u"let NAME = text"_s);
-    stage.names[name] = arguments.TakeAll().join(u' ');
+    const Command& command = arguments.Source();
+    const QString written = command.source.section(u'=', 1).trimmed();
+    const QStringList words = arguments.TakeAll();
+    const bool isOneQuotedWord = words.size() == 1 && written.startsWith(u'"') && written.endsWith(u'"');
+    stage.names[name] = command.lastIsText || isOneQuotedWord ? words.join(u' ') : stage.Expand(written);
 }
 
 } // namespace

@@ -135,6 +135,11 @@ const QHash<QString, Field>& Fields() {
         {u"IssueAlertText"_s, &RunState::IssueAlertText},
         {u"strWaitingFor"_s, &RunState::strWaitingFor},
         {u"ClosePopupResult"_s, &RunState::ClosePopupResult},
+        {u"lngFailedCount"_s, &RunState::lngFailedCount},
+        {u"lngRemovedCount"_s, &RunState::lngRemovedCount},
+        {u"lngTargetNumber"_s, &RunState::lngTargetNumber},
+        {u"blnErrorRedirectTold"_s, &RunState::blnErrorRedirectTold},
+        {u"blnSubmittingComment"_s, &RunState::blnSubmittingComment},
     };
     // clang-format on
     return fields;

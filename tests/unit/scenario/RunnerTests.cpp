@@ -170,6 +170,19 @@ TEST(Runner, StopsInTheMiddleOfAStep) {
     EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
 }
 
+TEST(Runner, ATextWithoutQuotesAroundItStaysAsWritten) {
+    const Outcome outcome =
+        RunScenario("let WHERE = {SiteRootHost}/one\n"
+                    "let PAGE = <p title=\"a b\">He says \"yes  yes\"</p><input id=\"i\" value=\"{WHERE}\">\n"
+                    "let WORDS = \"in \\\"quotes\\\"\"\n"
+                    "page {WHERE} \"{PAGE}{WORDS}\"\n"
+                    "logged-in a@b 12\nbrowse {WHERE}\nrun\n"
+                    "expect page \"He says \\\"yes yes\\\"\"\n"
+                    "expect page \"in \\\"quotes\\\"\"\n"
+                    "expect value #i \"www.myspace.example.com/one\"");
+    EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
+}
+
 TEST(Runner, AModalFormLetsTheScriptGoOnInside) {
     const Outcome outcome =
         RunScenario("on frmTimeDelay\ntype txtSeconds \"5\"\nend\nlogged-in a@b 12\n"
