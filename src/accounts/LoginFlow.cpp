@@ -7,6 +7,7 @@
 #include "core/SettingsFields.h"
 #include "core/StopResume.h"
 #include "core/Text.h"
+#include "gather/GatheredList.h"
 
 namespace qlm {
 
@@ -14,7 +15,18 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr qsizetype ShownEmailLength = 27;
-}
+
+struct ChainedStart {
+    QLatin1StringView campaign;
+    QLatin1StringView command;
+};
+
+constexpr ChainedStart ChainedStarts[]{
+    {"FR"_L1, "piccmdAddFriends_Click"_L1},
+    {"MSG"_L1, "picCmdMsgSend_Click"_L1},
+    {"BUL"_L1, "picCmdBulSend_Click"_L1},
+};
+} // namespace
 
 LoginFlow::LoginFlow(App& app) : m_app(app) {
     app.timers->tmrLoginProblem.SetHandler([this] { tmrLoginProblem_Timer(); });
@@ -184,9 +196,23 @@ void LoginFlow::FinishLogin() {
     Log(m_app.state.MyProfileID);
     ShowLoggedInAs();
     m_app.state.AccountsLoadedOnce = false;
+    if (m_app.state.blnChaining) {
+        RestartCampaign();
+        return;
+    }
     m_app.stopResume->StopAll(u"ILA"_s);
     m_app.SetStatus(u"Login successful!"_s);
     m_app.stopResume->DoFinishedExit();
+}
+
+// The next account of a chain goes on with the campaign of the one before it.
+void LoginFlow::RestartCampaign() {
+    if (m_app.controls.Ticked("chkSaveScanned"_L1))
+        m_app.gatheredList->FillScannedList(m_app.gatheredList->ScopedPath(), true, false);
+    m_app.state.CurrentAction.clear();
+    for (const ChainedStart& start : ChainedStarts)
+        if (m_app.state.ChainedCampaign == start.campaign)
+            m_app.commands.Run(QString(start.command));
 }
 
 void LoginFlow::ShowLanguageMessage() {

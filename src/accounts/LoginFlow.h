@@ -41,6 +41,7 @@ private:
     bool ClickSignOutLink(); // false when the login was stopped meanwhile
     void OpenLoginPage();    // 2
     void FinishLogin();      // 4
+    void RestartCampaign();  // 4, in a chain
 
     void FillAndSubmit();
     void WaitForCompletePage();

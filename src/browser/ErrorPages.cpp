@@ -3,6 +3,7 @@
 #include "campaigns/FriendRequester.h"
 #include "campaigns/Pacing.h"
 #include "core/App.h"
+#include "core/SettingsFields.h"
 #include "core/StopResume.h"
 
 namespace qlm {
@@ -87,6 +88,13 @@ void HandleForCommenter(App& app) {
 }
 
 void HandleForLogin(App& app) {
+    // An account that meets an error page costs the chain no more than itself.
+    if (app.state.blnChaining) {
+        TraceClass(app, u"Maint1: "_s);
+        app.settingsFields->SaveListsAndSettings();
+        app.commands.Run(u"LoginNextCycleAccount"_s);
+        return;
+    }
     if (app.state.intLoginStep != 1) {
         TraceClass(app, u"Maint3: "_s);
         return;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "RequestRun.h"
+#include "core/SettingsFields.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -154,6 +155,22 @@ TEST_F(ErrorPageTest, ALoginElsewhereOnlyNotesIt) {
     EXPECT_TRUE(Said(u"Maint3: 10"_s));
     EXPECT_NE(Address(), u"about:blank"_s);
     EXPECT_TRUE(State().blnHoldLinkCheck);
+}
+
+TEST_F(ErrorPageTest, ALoginInAChainSavesItsAccountAndGoesOnWithTheNext) {
+    QString savedFirst;
+    app->commands.Add(u"LoginNextCycleAccount"_s, [&] {
+        savedFirst = world.settings.GetSetting(u"Field Entries"_s, u"txtFriendRequestsToSend"_s, {});
+    });
+    app->settingsFields->RestoreAccountSpecificFields();
+    app->controls.SetText("txtFriendRequestsToSend"_L1, u"25"_s);
+    State().blnChaining = true;
+    State().intLoginStep = 1;
+    EXPECT_FALSE(Check(u"LOGIN"_s, Refusal));
+    EXPECT_TRUE(Said(u"Maint1: 10"_s));
+    EXPECT_FALSE(SaidBeginningWith(u"Maint2"_s));
+    EXPECT_EQ(savedFirst, u"25"_s);
+    EXPECT_EQ(Browser().TakeVisited(), QStringList());
 }
 
 TEST_F(ErrorPageTest, ABulletinOnlyNotesIt) {
