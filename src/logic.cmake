@@ -25,14 +25,19 @@ add_library(quillmere_logic STATIC
 
     browser/BrowserHost.cpp
     browser/ErrorPages.cpp
+    browser/ExpectedElement.cpp
+    browser/FocusHelper.cpp
     browser/GatherPageTest.cpp
     browser/LanguageTest.cpp
-    browser/FocusHelper.cpp
+    browser/LastPageRules.cpp
+    browser/LinkClicks.cpp
     browser/PageBoxes.cpp
     browser/PageClassTable.cpp
     browser/PageClassifier.cpp
     browser/PageDetours.cpp
     browser/PageTests.cpp
+    browser/PageWords.cpp
+    browser/ScriptEdits.cpp
     browser/StepDispatcher.cpp
 
     accounts/AccountDetails.cpp

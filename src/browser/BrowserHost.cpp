@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "browser/BrowserHost.h"
 
+#include "browser/NavigationGuard.h"
 #include "browser/PageBoxes.h"
 #include "browser/PageTests.h"
+#include "browser/ScriptEdits.h"
 #include "campaigns/Pacing.h"
 #include "core/ActionTick.h"
 #include "core/App.h"
@@ -10,6 +12,9 @@
 #include "gather/GatheredList.h"
 #include "gather/IdResolution.h"
 #include "gather/ProfileLinks.h"
+
+#include <algorithm>
+#include <vector>
 
 namespace qlm {
 
@@ -20,20 +25,17 @@ constexpr int ResumeIntervalMs = 30000;
 constexpr int ResumeSoonIntervalMs = 2000;
 const QString InitialTrail = u"debuginitial.txt"_s;
 const QString GatherTrail = u"debuggather.txt"_s;
+const QString ComposePage = u"{MessagingHost}/index.cfm?fuseaction=mail.message"_s;
 
-// The main browser's own refusal of navigations while the program walks the document for a click.
-class NavigationGuard {
-public:
-    explicit NavigationGuard(BrowserControl& browser) : m_browser(browser) {
-        m_browser.SetRefuseNavigations(true);
-    }
-    ~NavigationGuard() { m_browser.SetRefuseNavigations(false); }
-    NavigationGuard(const NavigationGuard&) = delete;
-    NavigationGuard& operator=(const NavigationGuard&) = delete;
-
-private:
-    BrowserControl& m_browser;
-};
+// Texts that would expose the program's own step pages.
+const std::vector<QString>& HiddenStatusTexts() {
+    static const std::vector<QString> rows{
+        u"join.processstep3"_s,
+        u"join.step3"_s,
+        u"{InviteHost}"_s,
+    };
+    return rows;
+}
 } // namespace
 
 void BrowserHost::Attach() {
@@ -74,7 +76,11 @@ bool BrowserHost::WebBrowser1_BeforeNavigate2(const NavigationRequest& request) 
     if (request.url == u"javascript:void()"_s &&
         m_app.pageTests->AddressContains(u"{MessagingHost}/index.cfm?fuseaction=mail"_s))
         return true;
-    NoteFocusWindow(request.url);
+    const bool isComposePage = m_app.pageTests->AddressContains(ComposePage, Qt::CaseSensitive);
+    if (isComposePage && !m_app.WebBrowser1().Document().IsNull())
+        ChangeJavascriptMessaging(m_app);
+    else
+        NoteFocusWindow(request.url);
     if (m_app.WebBrowser1().Document().IsNull() || request.url == u"about:blank"_s)
         return false;
     // A finished request may be redirected to an error page: that stays behind the cover until the next
@@ -202,11 +208,9 @@ void BrowserHost::WebBrowser1_DocumentComplete(bool topLevel, const QString& url
 
 void BrowserHost::WebBrowser1_StatusTextChange(const QString& text) {
     m_app.WebBrowser1().SetSilent(true);
-    // These texts would expose the program's own step pages.
-    const bool suppressed = m_app.pageTests->AddressContains(u"{GroupsHost}"_s, Qt::CaseSensitive) ||
-                            Has(text, u"join.processstep3"_s) || Has(text, u"join.step3"_s) ||
-                            Has(text, m_app.Expand(u"{InviteHost}"_s));
-    if (!suppressed)
+    const bool hidden = std::any_of(HiddenStatusTexts().begin(), HiddenStatusTexts().end(),
+                                    [&](const QString& part) { return Has(text, m_app.Expand(part)); });
+    if (!hidden && !m_app.pageTests->AddressContains(u"{GroupsHost}"_s, Qt::CaseSensitive))
         m_app.controls.SetText("lblStatus"_L1, text + u"  "_s);
 }
 

@@ -3,8 +3,9 @@
 #include "campaigns/FriendRequester.h"
 #include "campaigns/Pacing.h"
 #include "core/App.h"
-#include "core/SettingsFields.h"
 #include "core/StopResume.h"
+
+#include <vector>
 
 namespace qlm {
 
@@ -29,6 +30,8 @@ void CountLimitPage(App& app) {
     }
     state.blnDailyLimitHit = false;
     state.blnLinkFound = true;
+    if (app.stopResume->HandOverInChain())
+        return;
     app.stopResume->StopAll(u"LF2"_s);
     if (!app.stopResume->DoFinishedExit())
         app.ShowMessage(
@@ -87,18 +90,13 @@ void HandleForCommenter(App& app) {
     app.stopResume->ResumeNext();
 }
 
-void HandleForLogin(App& app) {
-    // An account that meets an error page costs the chain no more than itself.
-    if (app.state.blnChaining) {
-        TraceClass(app, u"Maint1: "_s);
-        app.settingsFields->SaveListsAndSettings();
-        app.commands.Run(u"LoginNextCycleAccount"_s);
-        return;
-    }
-    if (app.state.intLoginStep != 1) {
-        TraceClass(app, u"Maint3: "_s);
-        return;
-    }
+// An account that meets an error page costs the chain no more than itself.
+void LeaveAccount(App& app) {
+    TraceClass(app, u"Maint1: "_s);
+    app.stopResume->HandOverInChain();
+}
+
+void LoadSiteAgain(App& app) {
     TraceClass(app, u"Maint2: "_s);
     app.ClearPage();
     if (app.state.CurrentAction != u"LOGIN"_s)
@@ -112,22 +110,35 @@ void HandleForPendingDeletion(App& app) {
     app.stopResume->ResumeNext();
 }
 
+bool Always(const RunState&) {
+    return true;
+}
+
 struct ErrorPageRow {
     QLatin1StringView action;
+    bool (*applies)(const RunState&);
     void (*handle)(App&);
 };
 
-constexpr ErrorPageRow ErrorPageRows[]{
-    {"FR"_L1, HandleForRequester},  {"MSG"_L1, HandleForMessenger},
-    {"COM"_L1, HandleForCommenter}, {"DEL PEN"_L1, HandleForPendingDeletion},
-    {"LOGIN"_L1, HandleForLogin},   {"BUL"_L1, [](App& app) { TraceClass(app, u"Maint: "_s); }},
-};
+const std::vector<ErrorPageRow>& ErrorPages() {
+    static const std::vector<ErrorPageRow> rows{
+        {"FR"_L1, Always, HandleForRequester},
+        {"MSG"_L1, Always, HandleForMessenger},
+        {"COM"_L1, Always, HandleForCommenter},
+        {"DEL PEN"_L1, Always, HandleForPendingDeletion},
+        {"LOGIN"_L1, [](const RunState& state) { return state.blnChaining; }, LeaveAccount},
+        {"LOGIN"_L1, [](const RunState& state) { return state.intLoginStep == 1; }, LoadSiteAgain},
+        {"LOGIN"_L1, Always, [](App& app) { TraceClass(app, u"Maint3: "_s); }},
+        {"BUL"_L1, Always, [](App& app) { TraceClass(app, u"Maint: "_s); }},
+    };
+    return rows;
+}
 
 } // namespace
 
 void HandleErrorPage(App& app) {
-    for (const ErrorPageRow& row : ErrorPageRows)
-        if (app.state.CurrentAction == row.action) {
+    for (const ErrorPageRow& row : ErrorPages())
+        if (app.state.CurrentAction == row.action && row.applies(app.state)) {
             row.handle(app);
             return;
         }

@@ -151,7 +151,8 @@ bool StopAtLimit(const Page& page) {
     page.state.blnDailyLimitHit = false;
     page.state.blnLinkFound = true;
     page.app.stopResume->StopAll(u"LF2"_s);
-    page.app.stopResume->DoFinishedExit();
+    if (!page.app.stopResume->HandOverInChain())
+        page.app.stopResume->DoFinishedExit();
     return false;
 }
 

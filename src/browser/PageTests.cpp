@@ -83,13 +83,6 @@ bool PageTests::IsTextInPage(const QString& text, bool asHTML, const QString& br
     return Lowered(asHTML ? document.BodyHTML() : document.BodyText()).contains(text.toLower());
 }
 
-bool PageTests::AnyInPage(std::initializer_list<const char16_t*> texts) {
-    for (const char16_t* text : texts)
-        if (IsTextInPage(QString::fromUtf16(text)))
-            return true;
-    return false;
-}
-
 bool PageTests::HrefLoaded(const QString& href, bool partial) {
     if (href.isEmpty())
         return false;
@@ -135,74 +128,6 @@ bool PageTests::AddressEquals(const QString& text) {
 bool PageTests::IsHomePageURL() {
     return AddressContains(u"{HomeHost}/index.cfm?fuseaction=home"_s) ||
            AddressEquals(u"{SiteRootHost}/"_s) || AddressEquals(u"{SiteRootHost}/home"_s);
-}
-
-bool PageTests::IsLoggedOutPage() {
-    return AnyInPage({u"forgot your password?", u"forgot password?"});
-}
-
-bool PageTests::IsCaptchaPage() {
-    return AnyInPage({u"Please enter the text from the image", u"Please enter the image text",
-                      u"Type the two words:", u"Settings require that you solve a CAPTCHA"});
-}
-
-// The second marker stands on no page; the test has always had it.
-bool PageTests::IsRequestSentPage() {
-    return AnyInPage({u"Request Sent!", u"fdsfsdafgsdagsdfg"});
-}
-
-bool PageTests::IsAdvertiserProfile() {
-    m_app.WebBrowser1().SetSilent(true);
-    WaitForDocument();
-    return m_app.WebBrowser1().Document().BodyOuterHTML().contains(u"advertiserProfile"_s,
-                                                                   Qt::CaseInsensitive);
-}
-
-bool PageTests::ClickLink(const QString& kind, const QString& value) {
-    m_app.WebBrowser1().SetSilent(true);
-    const QString wanted = value.toLower();
-    for (const Element& link : m_app.WebBrowser1().Document().Links()) {
-        const bool matches = kind == u"Innertext"_s   ? link.InnerText().trimmed().toLower() == wanted
-                             : kind == u"InnerHTML"_s ? link.InnerHTML().toLower().contains(wanted)
-                             : kind == u"OuterHTML"_s ? link.OuterHTML().toLower().contains(wanted)
-                             : kind == u"Title"_s
-                                 ? link.Read(ElementText::Title).trimmed().toLower() == wanted
-                             : kind == u"ID"_s ? link.Id().trimmed().toLower() == wanted
-                                               : false;
-        if (matches) {
-            link.Click();
-            return true;
-        }
-    }
-    return false;
-}
-
-bool PageTests::ClickLinkFromHref(const QString& hrefPart, const QString& browser) {
-    m_app.WebBrowser1().SetSilent(true);
-    m_app.webHide().SetSilent(true);
-    BrowserControl& control = browser == u"webHide"_s ? m_app.webHide() : m_app.WebBrowser1();
-    for (const Element& link : control.Document().Links())
-        if (link.Href().contains(hrefPart, Qt::CaseInsensitive)) {
-            link.Click();
-            return true;
-        }
-    return false;
-}
-
-QString PageTests::GetHrefFromSecondID() {
-    WaitForDocument();
-    QString href;
-    int counted = 0;
-    for (const Element& link : m_app.WebBrowser1().Document().Links()) {
-        const QString text = link.GetAttribute(u"innertext"_s);
-        if (!text.contains(u"add to friends"_s, Qt::CaseInsensitive) &&
-            !text.contains(u"send message"_s, Qt::CaseInsensitive))
-            continue;
-        href = link.Href();
-        if (++counted == 2)
-            break;
-    }
-    return href;
 }
 
 } // namespace qlm

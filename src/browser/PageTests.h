@@ -55,7 +55,6 @@ public:
 
 private:
     void SpinFor(BrowserControl& browser, bool refreshWithoutBody);
-    bool AnyInPage(std::initializer_list<const char16_t*> texts);
 
     struct LoweredText {
         QString original;

@@ -28,20 +28,23 @@ public:
 
 private:
     bool RunStages();
-    Verdict StillLastPage();
     Verdict ErrorPage();
-    bool ExpectedElement();
-    bool IsElementThere();
-    bool TextRiders();
 
     App& m_app;
 };
+
+// Does the previous page still stand in the browser? Then nothing on it counts, but for what the rules of
+// some steps say.
+Verdict JudgeLastPage(App& app);
+
+// Error pages, by the activity they hit.
+void HandleErrorPage(App& app);
 
 // Session losses, detours and interstitials by the markers of their pages, in order; the first row that
 // applies acts.
 Verdict TakeDetour(App& app, bool captchaPage);
 
-// Error pages, by the activity they hit.
-void HandleErrorPage(App& app);
+// Is strLinkValue there, as strLinkType says? Once a wait: a find sets blnLinkFound.
+bool FindExpectedElement(App& app);
 
 } // namespace qlm

@@ -4,6 +4,7 @@
 #include "core/Activities.h"
 #include "core/App.h"
 #include "core/MainForm.h"
+#include "core/SettingsFields.h"
 
 namespace qlm {
 
@@ -126,6 +127,14 @@ bool StopResume::DoFinishedExit() {
     if (!m_app.state.blnExitWhenFinished)
         return false;
     m_app.mainForm->Unload();
+    return true;
+}
+
+bool StopResume::HandOverInChain() {
+    if (!m_app.state.blnChaining)
+        return false;
+    m_app.settingsFields->SaveListsAndSettings();
+    m_app.commands.Run(u"LoginNextCycleAccount"_s);
     return true;
 }
 

@@ -24,6 +24,9 @@ public:
     // At the end of every activity: true when the program was set to exit now and the main window has been
     // unloaded.
     bool DoFinishedExit();
+    // What a chain of accounts does when one of them has done its share: saves its entries and has the next
+    // one logged in, which replaces the running activity. False without chaining.
+    bool HandOverInChain();
 
 private:
     App& m_app;

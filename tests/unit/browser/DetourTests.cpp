@@ -350,6 +350,20 @@ TEST_F(DetourTest, ADailyLimitStopsTheRun) {
     EXPECT_TRUE(TakesNone());
 }
 
+TEST_F(DetourTest, InAChainADailyLimitHandsOver) {
+    QStringList asked;
+    app->commands.Add(u"LoginNextCycleAccount"_s, [this, &asked] { asked += State().CurrentAction; });
+    Show(u"x"_s);
+    State().CurrentAction = u"MSG"_s;
+    State().blnDailyLimitHit = true;
+    State().blnChaining = true;
+    app->state.blnExitWhenFinished = true;
+    EXPECT_TRUE(TakesUnfound());
+    // The run has been stopped when the next account is asked for, and the program goes on.
+    EXPECT_EQ(asked, QStringList{QString()});
+    EXPECT_FALSE(State().blnClosing);
+}
+
 // Row 19
 TEST_F(DetourTest, ACertificateErrorIsExplained) {
     Show(u"There is a problem with this site's security certificate"_s);

@@ -22,6 +22,12 @@ protected:
         Browser().TakeVisited();
         return Check();
     }
+    // The account that comes next in the chain is asked for.
+    void BeginChain() {
+        State().blnChaining = true;
+        app->commands.Add(u"LoginNextCycleAccount"_s, [this] { ++handedOver; });
+    }
+    int handedOver = 0;
     bool Resumed() { return !State().blnHoldLinkCheck && app->timers->tmrAutoResume.Enabled(); }
 };
 
@@ -63,6 +69,40 @@ TEST_F(ErrorPageTest, TheThirdLimitPageIsBelieved) {
     EXPECT_EQ(dialogs.Texts(),
               QStringList{u"You have reached the maximum limit of friend requests that MySpace "
                           "allows in a day."_s});
+}
+
+TEST_F(ErrorPageTest, EveryPageOfALimitIsCounted) {
+    int page = 0;
+    for (const QString& text :
+         {u"you have exceeded your daily useage"_s, u"user has exceeded their daily useage"_s}) {
+        Show(text);
+        BeginRequests(8);
+        EXPECT_FALSE(Check());
+        EXPECT_EQ(State().intFRLimitHits, ++page) << text.toStdString();
+        EXPECT_TRUE(WentOn());
+    }
+}
+
+TEST_F(ErrorPageTest, InAChainTheThirdLimitPageHandsOver) {
+    BeginChain();
+    Show(Limit);
+    BeginRequests(8);
+    State().intFRLimitHits = 2;
+    EXPECT_FALSE(Check());
+    EXPECT_EQ(handedOver, 1);
+    EXPECT_FALSE(State().blnDailyLimitHit);
+    EXPECT_TRUE(State().blnLinkFound);
+    EXPECT_FALSE(WentOn());
+    EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(ErrorPageTest, ALimitPageInPlaceOfTheConfirmationStopsTheRun) {
+    Show(Limit);
+    BeginRequests(9);
+    EXPECT_FALSE(Check());
+    EXPECT_EQ(State().CurrentAction, QString());
+    EXPECT_TRUE(SaidBeginningWith(u"FR stop - "_s));
+    EXPECT_TRUE(dialogs.messages.empty());
 }
 
 TEST_F(ErrorPageTest, TheErrorRedirectCountsAsSentUnderTheCover) {
@@ -171,6 +211,19 @@ TEST_F(ErrorPageTest, ALoginInAChainSavesItsAccountAndGoesOnWithTheNext) {
     EXPECT_FALSE(SaidBeginningWith(u"Maint2"_s));
     EXPECT_EQ(savedFirst, u"25"_s);
     EXPECT_EQ(Browser().TakeVisited(), QStringList());
+}
+
+TEST_F(ErrorPageTest, ALoginInAChainGoesOnToTheNextAccount) {
+    BeginChain();
+    for (qint16 step : {1, 4}) {
+        State().intLoginStep = step;
+        EXPECT_FALSE(Check(u"LOGIN"_s, Refusal));
+        EXPECT_TRUE(Browser().TakeVisited().isEmpty());
+    }
+    EXPECT_EQ(handedOver, 2);
+    EXPECT_EQ(trail.count(u"Maint1: 10"_s), 2);
+    EXPECT_FALSE(SaidBeginningWith(u"Maint2"_s));
+    EXPECT_FALSE(SaidBeginningWith(u"Maint3"_s));
 }
 
 TEST_F(ErrorPageTest, ABulletinOnlyNotesIt) {

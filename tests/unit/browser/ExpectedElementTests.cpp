@@ -109,6 +109,68 @@ TEST_F(ExpectedElementTest, ACommentFormInPlaceOfTheConfirmationBeginsAnew) {
     EXPECT_EQ(State().intComStep, 8);
 }
 
+TEST_F(ExpectedElementTest, APostedCommentIsNotBegunAnewByTheFormBesideIt) {
+    State().CurrentAction = u"COM"_s;
+    State().intComStep = 8;
+    EXPECT_TRUE(Find(u"Text"_s, u"your comment has been posted"_s,
+                     u"Your comment has been posted!<i id=ctl00_ctl00_cpMain_cpMain_ctl02_ctl00></i>"_s));
+    EXPECT_EQ(State().intComStep, 8);
+}
+
+// A comment that the site wants confirmed on a page of its own.
+class CommentConfirmationTest : public ExpectedElementTest {
+protected:
+    CommentConfirmationTest() {
+        State().CurrentAction = u"COM"_s;
+        State().intComStep = 8;
+        app->commands.Add(u"ConfirmComment"_s, [this] { ++confirmed; });
+    }
+    bool FindConfirmation(const QString& page, SimFault fault = SimFault::None) {
+        return Find(u"Text"_s, u"your comment has been posted"_s, page, fault);
+    }
+    int confirmed = 0;
+    const QString ConfirmPage = u"<p>Click the button below to confirm</p>"_s;
+};
+
+TEST_F(CommentConfirmationTest, ThePageIsClickedAtTheFifthCompleteLook) {
+    EXPECT_FALSE(FindConfirmation(ConfirmPage));
+    for (int look = 2; look <= 4; ++look)
+        EXPECT_FALSE(Look());
+    EXPECT_EQ(confirmed, 0);
+    EXPECT_EQ(State().intConfirmPolls, 4);
+    EXPECT_FALSE(Look());
+    EXPECT_EQ(confirmed, 1);
+    EXPECT_EQ(State().intConfirmPolls, 0);
+    EXPECT_FALSE(State().blnLinkFound);
+}
+
+TEST_F(CommentConfirmationTest, AnyOtherLookBeginsTheCountAnew) {
+    const std::vector<std::pair<QString, SimFault>> others{
+        {u"<p>Welcome</p>"_s, SimFault::None},
+        {ConfirmPage, SimFault::Incomplete},
+        {ConfirmPage + u"Type the two words:"_s, SimFault::None},
+        {ConfirmPage + u"Your comment has been posted"_s, SimFault::None}};
+    for (const auto& [page, fault] : others) {
+        State().intConfirmPolls = 4;
+        FindConfirmation(page, fault);
+        EXPECT_EQ(State().intConfirmPolls, 0) << page.toStdString();
+    }
+    EXPECT_EQ(confirmed, 0);
+}
+
+TEST_F(CommentConfirmationTest, OnlyTheStepThatAwaitsTheConfirmationCounts) {
+    State().intConfirmPolls = 4;
+    State().intComStep = 7;
+    FindConfirmation(ConfirmPage);
+    State().intComStep = 8;
+    Find(u"Text"_s, u"something else"_s, ConfirmPage);
+    Find(u"TextHTML"_s, u"your comment has been posted"_s, ConfirmPage);
+    State().CurrentAction = u"MSG"_s;
+    FindConfirmation(ConfirmPage);
+    EXPECT_EQ(State().intConfirmPolls, 4);
+    EXPECT_EQ(confirmed, 0);
+}
+
 TEST_F(ExpectedElementTest, AnUnconfirmedMessageFailsAtTheTenthCompletePage) {
     State().CurrentAction = u"MSG"_s;
     State().intMsgStep = 8;
@@ -127,6 +189,8 @@ TEST_F(ExpectedElementTest, OnlyCompletePagesCountAgainstAMessage) {
     State().CurrentAction = u"MSG"_s;
     State().intMsgStep = 8;
     Find(u"Text"_s, u"your message has been sent"_s, u"<p>Welcome</p>"_s, SimFault::Incomplete);
+    EXPECT_EQ(State().intConfirmPolls, 0);
+    Find(u"Text"_s, u"your message has been sent"_s, u"<p>Please enter the image text</p>"_s);
     EXPECT_EQ(State().intConfirmPolls, 0);
     State().intMsgStep = 7;
     Find(u"Text"_s, u"your message has been sent"_s, u"<p>Welcome</p>"_s);

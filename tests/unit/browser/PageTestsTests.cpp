@@ -36,6 +36,11 @@ TEST_F(PageTestsTest, TheBrowserIsChosenByName) {
     platform->Pump().RunFor(500);
     EXPECT_TRUE(Tests().IsTextInPage(u"hidden"_s, false, u"webHide"_s));
     EXPECT_FALSE(Tests().IsTextInPage(u"main"_s, false, u"webHide"_s));
+    world.web.SetPage(u"http://worker.example.com/"_s, u"<body>worker</body>"_s);
+    app->webTemp().Navigate(u"http://worker.example.com/"_s);
+    platform->Pump().RunFor(500);
+    EXPECT_TRUE(Tests().IsTextInPage(u"worker"_s, false, u"webTemp"_s));
+    EXPECT_FALSE(Tests().IsTextInPage(u"main"_s, false, u"webTemp"_s));
     EXPECT_TRUE(Tests().IsTextInPage(u"main"_s, false, u"anything"_s));
     EXPECT_FALSE(Tests().IsTextInPage(u"main"_s, false, u"webInviteLocation"_s));
 }
@@ -51,6 +56,21 @@ TEST_F(PageTestsTest, EveryTestSilencesThePage) {
     Browser().SetSilent(false);
     Tests().ImageExists(u"x"_s);
     EXPECT_TRUE(Browser().Silent());
+    Browser().SetSilent(false);
+    Tests().ClickLink(u"ID"_s, u"x"_s);
+    EXPECT_TRUE(Browser().Silent());
+    Browser().SetSilent(false);
+    Tests().IsAdvertiserProfile();
+    EXPECT_TRUE(Browser().Silent());
+    app->webTemp().Navigate(u"about:blank"_s);
+    app->webTemp().SetSilent(false);
+    Tests().IsTextInPage(u"x"_s, false, u"webTemp"_s);
+    EXPECT_TRUE(app->webTemp().Silent());
+    Browser().SetSilent(false);
+    app->webHide().SetSilent(false);
+    Tests().ClickLinkFromHref(u"x"_s);
+    EXPECT_TRUE(Browser().Silent());
+    EXPECT_TRUE(app->webHide().Silent());
 }
 
 TEST_F(PageTestsTest, AnAddressIsLoadedWholeOrInPart) {
@@ -113,6 +133,9 @@ TEST_F(PageTestsTest, OccurrencesAreCountedFromEachFindsSecondCharacter) {
     EXPECT_EQ(CountOccurrences(u"One one ONE"_s, u"one"_s), 3);
     EXPECT_EQ(CountOccurrences(u"one"_s, {}), 0);
     EXPECT_EQ(CountOccurrences({}, u"one"_s), 0);
+    // The number has sixteen bits.
+    EXPECT_EQ(CountOccurrences(QString(32767, u'a'), u"A"_s), 32767);
+    EXPECT_EQ(CountOccurrences(QString(70000, u'a'), u"a"_s), 32767);
 }
 
 TEST_F(PageTestsTest, ALinkIsClickedByTheKindOfItsMatch) {
@@ -144,6 +167,20 @@ TEST_F(PageTestsTest, ALinkIsClickedByAPartOfItsAddress) {
     EXPECT_TRUE(Address().endsWith(u"/Two?x"_s));
 }
 
+TEST_F(PageTestsTest, ALinkOfTheHiddenBrowserIsClickedThere) {
+    Show(u"<a href='/one'>1</a>"_s);
+    world.web.SetPage(u"http://hidden.example.com/"_s, u"<body><a href='/one'>1</a></body>"_s);
+    app->webHide().Navigate(u"http://hidden.example.com/"_s);
+    platform->Pump().RunFor(500);
+    EXPECT_TRUE(Tests().ClickLinkFromHref(u"/one"_s, u"webHide"_s));
+    platform->Pump().RunFor(500);
+    EXPECT_EQ(app->webHide().LocationURL(), u"http://hidden.example.com/one"_s);
+    EXPECT_EQ(Address(), u"http://www.site.example.com/page"_s);
+    EXPECT_TRUE(Tests().ClickLinkFromHref(u"/one"_s, u"webTemp"_s));
+    platform->Pump().RunFor(500);
+    EXPECT_EQ(Address(), u"http://www.site.example.com/one"_s);
+}
+
 TEST_F(PageTestsTest, OfTheLinksThatOfferContactTheSecondOneCounts) {
     const QString add = u"<a href='/add'>Add to Friends</a>"_s;
     const QString send = u"<a href='/send'>SEND MESSAGE</a>"_s;
@@ -169,6 +206,33 @@ TEST_F(PageTestsTest, APageWithoutABodyIsReloadedAfterThirtySeconds) {
     // Twice more than 30 whole seconds, then the page.
     EXPECT_GE(app->Pump().NowMs() - startMs, 62000);
     EXPECT_LT(app->Pump().NowMs() - startMs, 64000);
+}
+
+TEST_F(PageTestsTest, AFirstDocumentIsWaitedForWithoutALimit) {
+    const QString url = u"http://www.site.example.com/late"_s;
+    world.web.SetPage(url, u"<body>late</body>"_s);
+    const qint64 startMs = app->Pump().NowMs();
+    app->Pump().Queue().PostAt(startMs + 100000, [this, url] { Browser().Navigate(url); });
+    EXPECT_TRUE(Tests().IsTextInPage(u"late"_s));
+    EXPECT_GE(app->Pump().NowMs() - startMs, 100000);
+    EXPECT_EQ(Browser().TakeVisited(), QStringList{url});
+}
+
+TEST_F(PageTestsTest, TheOtherBrowsersAreNeverReloadedForABody) {
+    const QString url = u"http://www.site.example.com/empty"_s;
+    const QString full = u"http://www.site.example.com/full"_s;
+    world.web.SetFault(url, SimFault::NoBody, 9);
+    world.web.SetPage(full, u"<body>there</body>"_s);
+    for (const BrowserName name : {BrowserName::webTemp, BrowserName::webHide}) {
+        SimBrowser& browser = platform->Browser(name);
+        browser.Navigate(url);
+        platform->Pump().RunFor(500);
+        const qint64 startMs = app->Pump().NowMs();
+        app->Pump().Queue().PostAt(startMs + 100000, [&browser, full] { browser.Navigate(full); });
+        Tests().WaitForDocument(browser);
+        EXPECT_GE(app->Pump().NowMs() - startMs, 100000);
+        EXPECT_EQ(browser.TakeVisited(), (QStringList{url, full}));
+    }
 }
 
 } // namespace

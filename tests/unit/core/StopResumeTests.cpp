@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "../browser/BrowserTest.h"
 #include "core/MainForm.h"
+#include "core/SettingsFields.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -186,6 +187,25 @@ TEST_F(StopResumeTest, TheStopButtonStopsThePageToo) {
     EXPECT_EQ(app->webHide().Position(), 1);
     EXPECT_EQ(State().CurrentAction, QString());
     EXPECT_TRUE(SaidBeginningWith(u"MSG stop - (MAINSTOP)"_s));
+}
+
+TEST_F(StopResumeTest, OnlyAChainHandsOverAndSavesFirst) {
+    int asked = 0;
+    app->commands.Add(u"LoginNextCycleAccount"_s, [this, &asked] {
+        ++asked;
+        const SimSettings::Sections& stored = world.settings.All();
+        EXPECT_TRUE(std::any_of(stored.begin(), stored.end(), [](const auto& section) {
+            return std::any_of(section.second.begin(), section.second.end(),
+                               [](const auto& entry) { return entry.second == u"limit 17"_s; });
+        }));
+    });
+    app->settingsFields->RestoreAccountSpecificFields();
+    app->controls.SetText("txtFriendRequestsToSend"_L1, u"limit 17"_s);
+    EXPECT_FALSE(app->stopResume->HandOverInChain());
+    EXPECT_EQ(asked, 0);
+    State().blnChaining = true;
+    EXPECT_TRUE(app->stopResume->HandOverInChain());
+    EXPECT_EQ(asked, 1);
 }
 
 TEST_F(StopResumeTest, ExitWhenFinishedIsAskedForAndTaken) {
