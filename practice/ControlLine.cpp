@@ -2,6 +2,7 @@
 #include "ControlLine.h"
 
 #include "Address.h"
+#include "Refusals.h"
 #include "World.h"
 
 #include <algorithm>
@@ -109,6 +110,27 @@ void SetOutcome(World& world, Arguments& args) {
     world.requests.Fix(target, outcome);
 }
 
+void SetRefusal(World& world, Arguments& args) {
+    const qint64 target = args.Number();
+    const int number = args.NextIs("off"_L1) ? 0 : args.Count();
+    args.End();
+    if (number != 0 && RefusalText(number, {}).isEmpty())
+        throw BadControl(u"no refusal has the number %1"_s.arg(number));
+    world.requests.SetRefusal(target, number);
+}
+
+void SetCaptchaKind(World& world, Arguments& args) {
+    std::optional<CaptchaKind> kind;
+    if (!args.NextIs("mixed"_L1)) {
+        const QString word = args.Word();
+        kind = CaptchaKindNamed(word);
+        if (!kind)
+            throw BadControl(u"unknown kind of CAPTCHA: "_s + word);
+    }
+    args.End();
+    world.requests.SetCaptchaKind(kind);
+}
+
 void SetCaptchaWord(World& world, Arguments& args) {
     const QString word = args.NextIs("off"_L1) ? QString() : args.Word();
     args.End();
@@ -146,10 +168,17 @@ void SetFault(World& world, Arguments& args) {
 }
 
 void SetJournal(World& world, Arguments& args) {
-    args.Expect("visits"_L1);
+    const bool isOfTimes = args.NextIs("times"_L1);
+    if (!isOfTimes)
+        args.Expect("visits"_L1);
     const bool keep = args.OnOff();
     args.End();
-    world.journal.KeepVisits(keep);
+    if (!isOfTimes)
+        world.journal.KeepVisits(keep);
+    else if (keep)
+        world.journal.PutBehind([&world] { return world.now().toString(u" yyyy-MM-ddThh:mm:ss"_s); });
+    else
+        world.journal.PutBehind({});
 }
 
 // Sessions opened later must not be taken for those of before, so their numbering goes on.
@@ -182,7 +211,9 @@ constexpr std::array controlRows{
     ControlRow{"limit"_L1, SetLimit},
     ControlRow{"share"_L1, SetShare},
     ControlRow{"outcome"_L1, SetOutcome},
+    ControlRow{"refuse"_L1, SetRefusal},
     ControlRow{"captcha-word"_L1, SetCaptchaWord},
+    ControlRow{"captcha-kind"_L1, SetCaptchaKind},
     ControlRow{"friends"_L1, SetFriends},
     ControlRow{"fault"_L1, SetFault},
     ControlRow{"journal"_L1, SetJournal},

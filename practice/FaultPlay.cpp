@@ -2,6 +2,7 @@
 #include "FaultPlay.h"
 
 #include "Frame.h"
+#include "pages/CaptchaPages.h"
 #include "pages/NoticePages.h"
 #include "pages/RequestPages.h"
 
@@ -70,6 +71,12 @@ Response AnswerThrough(const Fault& fault, Visit& visit, Handler handler) {
                           u"window.onbeforeunload = function () { return 'Leave the practice site?'; };");
     case FaultKind::Endless:
         return WithScript(handler(visit), u"for (;;) {}");
+    case FaultKind::Lost:
+        handler(visit);
+        return Broken(Response::Fault::Reset);
+    case FaultKind::Blank:
+        handler(visit);
+        return Broken(Response::Fault::NoBody);
     case FaultKind::Wrong:
         return WrongPage(visit);
     }

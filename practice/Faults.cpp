@@ -21,6 +21,7 @@ constexpr std::array faultRows{
     FaultRow{FaultKind::Limit, "limit"_L1},     FaultRow{FaultKind::Captcha, "captcha"_L1},
     FaultRow{FaultKind::Alert, "alert"_L1},     FaultRow{FaultKind::Unload, "unload"_L1},
     FaultRow{FaultKind::Endless, "endless"_L1}, FaultRow{FaultKind::Wrong, "wrong"_L1},
+    FaultRow{FaultKind::Lost, "lost"_L1},       FaultRow{FaultKind::Blank, "blank"_L1},
 };
 
 QString Bare(const QString& prefix) {

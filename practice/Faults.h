@@ -21,6 +21,8 @@ enum class FaultKind {
     Unload,    ///< the page with a script that asks before it is left
     Endless,   ///< the page with a script that never ends
     Wrong,     ///< quite another page
+    Lost,      ///< the page is run, and the connection breaks before its answer arrives
+    Blank,     ///< the page is run, and an empty answer arrives
 };
 
 std::optional<FaultKind> FaultNamed(const QString& name);

@@ -29,6 +29,20 @@ constexpr std::array outcomeRows{
     OutcomeRow{Outcome::Captcha, "captcha"_L1, 2},
     OutcomeRow{Outcome::ErrorRedirect, "error-redirect"_L1, 2},
     OutcomeRow{Outcome::ServerError, "server-error"_L1, 1},
+    OutcomeRow{Outcome::HomeRedirect, "home"_L1, 0},
+    OutcomeRow{Outcome::InboxRedirect, "inbox"_L1, 0},
+};
+
+struct KindRow {
+    CaptchaKind kind;
+    QLatin1StringView name;
+};
+
+constexpr std::array kindRows{
+    KindRow{CaptchaKind::Image, "image"_L1},
+    KindRow{CaptchaKind::ImageText, "image-text"_L1},
+    KindRow{CaptchaKind::Words, "words"_L1},
+    KindRow{CaptchaKind::Settings, "settings"_L1},
 };
 
 } // namespace
@@ -44,6 +58,13 @@ std::optional<Outcome> OutcomeNamed(const QString& name) {
     for (const OutcomeRow& row : outcomeRows)
         if (name == row.name)
             return row.outcome;
+    return std::nullopt;
+}
+
+std::optional<CaptchaKind> CaptchaKindNamed(const QString& name) {
+    for (const KindRow& row : kindRows)
+        if (name == row.name)
+            return row.kind;
     return std::nullopt;
 }
 
@@ -91,11 +112,17 @@ bool FriendRequests::LimitReached(qint64 asker, QDate day) const {
     return m_dailyLimit && m_askedOn.value({asker, day}) >= *m_dailyLimit;
 }
 
+CaptchaKind FriendRequests::KindOfCaptcha(qint64 target) const {
+    return m_captchaKind.value_or(kindRows[static_cast<size_t>(target) % kindRows.size()].kind);
+}
+
 QString FriendRequests::CaptchaWord(qint64 asker, qint64 target) const {
     if (!m_captchaWord.isEmpty())
         return m_captchaWord;
     const quint64 pair = Mix(static_cast<quint64>(asker), static_cast<quint64>(target), 7);
-    return Draw(Mix(m_seed, pair, static_cast<quint64>(CaptchaRound(asker, target)))).Pick(CaptchaWords());
+    Draw draw(Mix(m_seed, pair, static_cast<quint64>(CaptchaRound(asker, target))));
+    const QString word = draw.Pick(CaptchaWords());
+    return KindOfCaptcha(target) == CaptchaKind::Words ? word + u' ' + draw.Pick(CaptchaWords()) : word;
 }
 
 void FriendRequests::ShowCaptcha(qint64 asker, qint64 target) {
@@ -104,7 +131,7 @@ void FriendRequests::ShowCaptcha(qint64 asker, qint64 target) {
 }
 
 bool FriendRequests::AnswerCaptcha(qint64 asker, qint64 target, const QString& answer) {
-    const bool right = answer.trimmed().compare(CaptchaWord(asker, target), Qt::CaseInsensitive) == 0;
+    const bool right = answer.simplified().compare(CaptchaWord(asker, target), Qt::CaseInsensitive) == 0;
     if (right)
         m_captchas.remove({asker, target});
     else

@@ -23,11 +23,17 @@ enum class Outcome {
     Captcha,
     ErrorRedirect,
     ServerError,
+    HomeRedirect,
+    InboxRedirect,
 };
 
 /// The word for an outcome in controls and journal, such as "error-redirect".
 QString OutcomeName(Outcome outcome);
 std::optional<Outcome> OutcomeNamed(const QString& name);
+
+/// How a CAPTCHA asks for its word.
+enum class CaptchaKind { Image, ImageText, Words, Settings };
+std::optional<CaptchaKind> CaptchaKindNamed(const QString& name);
 
 /// Who has asked whom, and what the site answers whom. Keyed by the IDs of asker and target.
 class FriendRequests {
@@ -37,6 +43,10 @@ public:
     /// A target's own nature, before anybody has asked it: fixed by hand, or drawn by the shares.
     Outcome NatureOf(qint64 target) const;
     void Fix(qint64 target, Outcome outcome) { m_fixed.insert(target, outcome); }
+
+    /// The target answers with that one of the refusals; 0 for none.
+    void SetRefusal(qint64 target, int number) { m_refusals.insert(target, number); }
+    int RefusalOf(qint64 target) const { return m_refusals.value(target); }
 
     /// Share of all profiles that answer so, in per cent; what is left over is sent. "Sent" itself takes only
     /// 100, which clears all others. Returns "" or what is wrong.
@@ -52,6 +62,9 @@ public:
     /// The word drawn in the image. It stays until a wrong answer; a word set by hand stays for good.
     QString CaptchaWord(qint64 asker, qint64 target) const;
     void SetCaptchaWord(const QString& word) { m_captchaWord = word; }
+    /// Nothing lets the target's number decide.
+    void SetCaptchaKind(std::optional<CaptchaKind> kind) { m_captchaKind = kind; }
+    CaptchaKind KindOfCaptcha(qint64 target) const;
     /// Notes that the image is in front of the user.
     void ShowCaptcha(qint64 asker, qint64 target);
     bool CaptchaShown(qint64 asker, qint64 target) const { return m_captchas.contains({asker, target}); }
@@ -66,10 +79,12 @@ private:
     quint64 m_seed;
     QMap<Outcome, int> m_shares;
     QHash<qint64, Outcome> m_fixed;
+    QHash<qint64, int> m_refusals;
     QSet<Pair> m_asked;
     QHash<std::pair<qint64, QDate>, int> m_askedOn;
     std::optional<int> m_dailyLimit;
     QString m_captchaWord;
+    std::optional<CaptchaKind> m_captchaKind = CaptchaKind::Image;
     QHash<Pair, int> m_captchas;
 };
 

@@ -3,19 +3,22 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
 
 namespace qlm::practice {
 
 /// What was done to the site, line by line, in order.
 class Journal {
 public:
-    void Write(const QString& line) { m_lines.append(line); }
+    void Write(const QString& line) { m_lines.append(m_times ? line + m_times() : line); }
     /// A page visit, kept only while visits are on.
     void Visit(const QString& address) {
         if (m_visits)
-            m_lines.append(QStringLiteral("visit ") + address);
+            Write(QStringLiteral("visit ") + address);
     }
     void KeepVisits(bool keep) { m_visits = keep; }
+    /// What is put behind each line from now on, such as the time; nothing without one.
+    void PutBehind(std::function<QString()> times) { m_times = std::move(times); }
 
     const QStringList& Lines() const { return m_lines; }
     QStringList Take() {
@@ -28,6 +31,7 @@ private:
     QStringList m_lines;
     qsizetype m_taken = 0;
     bool m_visits = false;
+    std::function<QString()> m_times;
 };
 
 } // namespace qlm::practice

@@ -21,10 +21,12 @@ struct World;
 ///     signed-in MAIL ID              signed-out MAIL ID           wrong-password MAIL
 ///     request ASKER TARGET OUTCOME   what a request page answered: sent, already, pending, private, band,
 ///                                    disabled, limit, captcha, captcha-wrong, error-redirect, server-error,
-///                                    self, invalid
+///                                    home, inbox, refused-N, self, invalid
 ///     asked ASKER TARGET             a request has come into being, behind its request line
 ///     asked-again ASKER TARGET       a request page was visited for somebody already asked by that account
 ///     visit HOST/PATH                every page request, while `journal visits on`
+///
+/// Behind each line stands when, while `journal times on`.
 ///
 /// The controls, one a line:
 ///
@@ -33,13 +35,15 @@ struct World;
 ///     limit friend-requests N|off    requests of one account in a day before the limit page
 ///     share OUTCOME PERCENT          how many profiles answer so
 ///     outcome ID OUTCOME             how one profile answers
+///     refuse ID N|off                that profile answers with the Nth of the refusals
 ///     captcha-word WORD|off          the word of every CAPTCHA image
+///     captcha-kind KIND|mixed        image, image-text, words, settings; image at the start
 ///     friends ID COUNT               length of a friends list
 ///     fault ADDRESS KIND [MS] [times N] | fault ADDRESS off
 ///                                    ADDRESS is the beginning of an address, or a whole one with "$" behind;
 ///                                    KIND: slow MS, hang, reset, nobody, error, loggedout, limit, captcha,
-///                                    alert, unload, endless, wrong
-///     journal visits on|off          logout-all          clear-faults          reset
+///                                    alert, unload, endless, wrong, lost, blank
+///     journal visits|times on|off    logout-all          clear-faults          reset
 ///
 /// Over the wire they stand at the control host: POST /control, GET /journal, POST /journal/take.
 class PracticeSite {

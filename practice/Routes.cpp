@@ -2,6 +2,7 @@
 #include "Routes.h"
 
 #include "pages/AssetPages.h"
+#include "pages/CaptchaPages.h"
 #include "pages/CommentPages.h"
 #include "pages/ControlPages.h"
 #include "pages/HomePages.h"
@@ -42,6 +43,7 @@ constexpr std::array routeRows{
     RouteRow{Role::SiteRoot, u"browse/people", u"", BrowsePage},
     RouteRow{Role::SiteRoot, u"my/friends/addtofriends/{id}", u"", AddToFriends},
     RouteRow{Role::Friends, u"index.cfm", u"invite.addfriend_verify", AddFriendVerify},
+    RouteRow{Role::Messaging, u"index.cfm", u"mail.inbox", InboxPage},
     RouteRow{Role::Friends, u"index.cfm", u"user.viewfriends", OldFriendsAddress},
     RouteRow{Role::Profile, u"index.cfm", u"user.viewprofile", OldProfileAddress},
     RouteRow{Role::SiteRoot, u"{id}", u"", ProfilePage},

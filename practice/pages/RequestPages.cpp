@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "RequestPages.h"
 
-#include "../Artwork.h"
-#include "../Chance.h"
 #include "../Frame.h"
 #include "../Html.h"
 #include "../MiniProfile.h"
+#include "../Refusals.h"
+#include "CaptchaPages.h"
 #include "NoticePages.h"
 
 #include <algorithm>
@@ -14,42 +14,6 @@
 namespace qlm::practice {
 
 namespace {
-
-enum class Design { Newer, Older };
-
-// Which input holds the answer tells the designs apart.
-QString AnswerField(Design design) {
-    return design == Design::Newer ? u"ctl00$captcha_text"_s : u"ctl00$captchaResponseTextBox"_s;
-}
-
-std::optional<QString> SentAnswer(const Visit& visit) {
-    for (const Design design : {Design::Newer, Design::Older})
-        if (const auto field = visit.form.constFind(AnswerField(design).toLower());
-            field != visit.form.constEnd())
-            return *field;
-    return std::nullopt;
-}
-
-Response CaptchaPage(Visit& visit, qint64 target, Design design, const QString& intro, bool refused) {
-    FriendRequests& requests = visit.world.requests;
-    const qint64 asker = visit.account ? visit.account->id : 0;
-    requests.ShowCaptcha(asker, target);
-    const QString image = u"/captcha/%1-%2.svg"_s.arg(target).arg(requests.CaptchaRound(asker, target));
-    const QString box =
-        Fill(uR"(<div class="box notice"><h2>One more step</h2><div class="in">{!refused}
-<p>{intro}</p><p>Please enter the text from the image:</p>
-<form method="post" action="{action}" id="captchaForm">
-<p><img class="captcha" src="{image}" width="260" height="64" alt="letters"></p>
-<p><input type="text" name="{field}" id="captchaText" value="" autocomplete="off"></p>
-<p class="go"><input type="submit" class="button" id="addFrdBtn" name="addFrdBtn" value="Continue"></p>
-</form></div></div>)",
-             {{u"refused", refused ? u"<p class=\"warn\">Security code does not match</p>"_s : QString()},
-              {u"intro", intro},
-              {u"action", u"http://"_s + visit.FullAddress()},
-              {u"image", Url(Role::SiteRoot, image)},
-              {u"field", AnswerField(design)}});
-    return Framed(visit, {.title = u"One more step"_s, .main = box, .tab = {}});
-}
 
 // One request page visit: who asks whom, in which design.
 class RequestVisit {
@@ -70,6 +34,7 @@ private:
     std::optional<Response> Refusal();
     std::optional<Response> Captcha();
     Response Refuse(Outcome outcome);
+    Response Divert(Outcome outcome);
     Response Form();
     Response Send(bool throughError);
     bool Odd() const { return m_target % 2 != 0; }
@@ -98,6 +63,8 @@ Response RequestVisit::Answer() {
     if (auto captcha = Captcha())
         return *captcha;
     const Outcome nature = m_requests.NatureOf(m_target);
+    if (nature == Outcome::HomeRedirect || nature == Outcome::InboxRedirect)
+        return Divert(nature);
     if (nature != Outcome::Sent && nature != Outcome::Captcha && nature != Outcome::ErrorRedirect)
         return Refuse(nature);
     if (m_design == Design::Older && !m_visit.IsPost())
@@ -118,6 +85,8 @@ std::optional<Response> RequestVisit::Refusal() {
     }
     if (m_requests.LimitReached(m_asker, Today()))
         return Refuse(Outcome::Limit);
+    if (const int number = m_requests.RefusalOf(m_target); number != 0)
+        return Say(u"refused-%1"_s.arg(number), u"Add to Friends"_s, RefusalText(number, m_person->name));
     return std::nullopt;
 }
 
@@ -167,9 +136,19 @@ Response RequestVisit::Refuse(Outcome outcome) {
     case Outcome::Sent:
     case Outcome::Captcha:
     case Outcome::ErrorRedirect:
+    case Outcome::HomeRedirect:
+    case Outcome::InboxRedirect:
         break;
     }
     throw std::logic_error("not a refusal");
+}
+
+// The site loses its way and shows another page of the asker's own; nobody is asked.
+Response RequestVisit::Divert(Outcome outcome) {
+    Write(OutcomeName(outcome));
+    return Redirect(outcome == Outcome::HomeRedirect
+                        ? Url(Role::Home, u"/index.cfm?fuseaction=home"_s)
+                        : Url(Role::Messaging, u"/index.cfm?fuseaction=mail.inbox"_s));
 }
 
 Response RequestVisit::Form() {
@@ -209,24 +188,6 @@ Response AddFriendVerify(Visit& visit) {
     if (!visit.account)
         return RedirectToSignIn();
     return RequestVisit(visit, visit.address.query.value(u"friendid"_s).toLongLong(), Design::Older).Answer();
-}
-
-Response CaptchaImage(Visit& visit) {
-    const qint64 asker = visit.account ? visit.account->id : 0;
-    const qint64 target = visit.captures.value(0).section(u'-', 0, 0).toLongLong();
-    Response image = Svg(CaptchaDrawing(visit.world.requests.CaptchaWord(asker, target),
-                                        Mix(visit.world.seed, static_cast<quint64>(target), 8)));
-    image.headers = {{u"Cache-Control"_s, u"no-store"_s}};
-    return image;
-}
-
-std::optional<Response> CaptchaGate(Visit& visit) {
-    const qint64 asker = visit.account ? visit.account->id : 0;
-    const auto answer = SentAnswer(visit);
-    const bool answered = visit.IsPost() && answer && visit.world.requests.CaptchaShown(asker, 0);
-    if (answered && visit.world.requests.AnswerCaptcha(asker, 0, *answer))
-        return std::nullopt;
-    return CaptchaPage(visit, 0, Design::Newer, u"Please show that you are a person."_s, answered);
 }
 
 } // namespace qlm::practice

@@ -87,6 +87,16 @@ TEST_F(FaultAtAPage, AFaultAtARequestPageAsksNobody) {
     EXPECT_TRUE(Holds(client.Ask(100003), u"Request Sent!"_s));
 }
 
+TEST_F(FaultAtAPage, ALostOrBlankAnswerHidesARequestThatHasGoneOut) {
+    for (const auto& [fault, target] : {std::pair{u"lost"_s, 100003}, std::pair{u"blank"_s, 100004}}) {
+        client.Control(u"fault %1 %2 times 1"_s.arg(SiteClient::requestPage, fault));
+        const Response answer = client.Get(SiteClient::requestPage + QString::number(target));
+        EXPECT_EQ(answer.body, QByteArray());
+        EXPECT_NE(answer.fault, Response::Fault::None);
+        EXPECT_EQ(client.site.TakeJournal().last(), u"asked 900001 %1"_s.arg(target));
+    }
+}
+
 TEST_F(FaultAtAPage, TimesCountsTheRequestsItMeets) {
     client.Control(u"fault www.myspace.example.com/100003 error times 2"_s);
     EXPECT_EQ(client.Get(page).status, 500);

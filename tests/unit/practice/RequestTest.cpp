@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SiteClient.h"
+#include "practice/Refusals.h"
 
 #include <QMap>
 
@@ -118,6 +119,45 @@ TEST_F(FriendRequest, TheDailyLimitCountsRequestsOfOneAccountAndEndsAtMidnight) 
     EXPECT_TRUE(Holds(client.Ask(100005), u"Request Sent!"_s));
 }
 
+TEST_F(FriendRequest, EveryNumberedRefusalSaysItsWordsAndAsksNobody) {
+    qint64 target = 100003;
+    for (const ::qlm::practice::Refusal& refusal : Refusals()) {
+        client.Control(u"refuse %1 %2"_s.arg(++target).arg(refusal.number));
+        const QString page = client.Ask(target).replace(u"&#39;"_s, u"'"_s);
+        const QString words = QString::fromUtf16(refusal.text).section(u"%1"_s, -1, -1);
+        EXPECT_TRUE(Holds(page, words)) << refusal.number;
+        EXPECT_EQ(client.site.TakeJournal(),
+                  QStringList{u"request 900001 %1 refused-%2"_s.arg(target).arg(refusal.number)});
+        client.Control(u"refuse %1 off"_s.arg(target));
+        EXPECT_TRUE(Holds(client.Ask(target), u"Request Sent!"_s));
+        client.site.TakeJournal();
+    }
+    EXPECT_EQ(client.site.Control(u"refuse 100003 12"_s), u"refuse: no refusal has the number 12"_s);
+}
+
+TEST_F(FriendRequest, AVisitMayEndAtHomeOrInTheInboxAndThenAsksNobody) {
+    for (const auto& [word, part] :
+         {std::pair{u"home"_s, u"fuseaction=home"_s}, std::pair{u"inbox"_s, u"fuseaction=mail.inbox"_s}}) {
+        client.Control(u"outcome 100003 "_s + word);
+        const Response answer = client.Get(SiteClient::requestPage + u"100003"_s);
+        const QString target = SiteClient::Header(answer, u"Location"_s);
+        EXPECT_TRUE(Holds(target, part));
+        EXPECT_EQ(client.Get(target).status, 200);
+        EXPECT_EQ(client.site.TakeJournal(), QStringList{u"request 900001 100003 "_s + word});
+    }
+}
+
+TEST_F(FriendRequest, TheJournalSaysWhenIfItIsToldTo) {
+    client.Control(u"journal times on"_s);
+    client.Ask(100003);
+    client.Control(u"journal times off"_s);
+    client.Ask(100003);
+    EXPECT_EQ(client.site.TakeJournal(),
+              (QStringList{u"request 900001 100003 sent 2009-06-01T10:00:00"_s,
+                           u"asked 900001 100003 2009-06-01T10:00:00"_s, u"asked-again 900001 100003"_s,
+                           u"request 900001 100003 pending"_s}));
+}
+
 class Captcha : public FriendRequest {
 protected:
     void SetUp() override {
@@ -170,6 +210,24 @@ TEST_F(Captcha, AWordSetByHandHoldsForEverybody) {
     client.Control(u"captcha-word RIVER"_s);
     client.Ask(100003);
     EXPECT_TRUE(Holds(Reply(u"river"_s), u"Request Sent!"_s));
+}
+
+TEST_F(Captcha, EachKindAsksInItsOwnWordsAndTakesItsAnswer) {
+    for (const auto& [kind, words] :
+         {std::pair{u"image"_s, u"Please enter the text from the image"_s},
+          std::pair{u"image-text"_s, u"Please enter the image text"_s},
+          std::pair{u"words"_s, u"Type the two words:"_s},
+          std::pair{u"settings"_s, u"Settings require that you solve a CAPTCHA"_s}}) {
+        client.Control(u"seed 1"_s);
+        client.Control(u"outcome 100003 captcha"_s);
+        client.Control(u"captcha-kind "_s + kind);
+        EXPECT_TRUE(Holds(client.Ask(100003), words));
+        EXPECT_TRUE(Holds(Reply(u"surely-not"_s), u"Security code does not match"_s));
+        const QString word = client.site.CaptchaWord(900001, 100003);
+        EXPECT_EQ(word.contains(u' '), kind == u"words"_s);
+        EXPECT_TRUE(Holds(Reply(word), u"Request Sent!"_s));
+    }
+    EXPECT_EQ(client.site.Control(u"captcha-kind odd"_s), u"captcha-kind: unknown kind of CAPTCHA: odd"_s);
 }
 
 TEST_F(FriendRequest, TheOlderPageAsksOnlyWhenItsButtonIsPressed) {
