@@ -74,7 +74,11 @@ add_library(quillmere_logic STATIC
     campaigns/FriendRequester.cpp
     campaigns/LogDialog.cpp
     campaigns/Pacing.cpp
+    campaigns/RefusalTexts.cpp
+    campaigns/ReportDialog.cpp
+    campaigns/ReportRows.cpp
     campaigns/RequestSubmission.cpp
+    campaigns/RunReport.cpp
     campaigns/SendRuns.cpp
     campaigns/SentLog.cpp
     campaigns/StartChecks.cpp

@@ -2,6 +2,7 @@
 #include "browser/StepDispatcher.h"
 #include "campaigns/FriendRequester.h"
 #include "campaigns/Pacing.h"
+#include "campaigns/SendRuns.h"
 #include "core/App.h"
 #include "core/StopResume.h"
 
@@ -40,6 +41,7 @@ void CountLimitPage(App& app) {
 
 void HandleForRequester(App& app) {
     TraceClass(app, u"FR Maint: "_s);
+    app.sendRuns->Report().RemarkPage(app.state.intPageClass);
     if (app.state.blnDailyLimitHit) {
         CountLimitPage(app);
         return;

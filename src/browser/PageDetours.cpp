@@ -3,6 +3,7 @@
 #include "browser/PageTests.h"
 #include "browser/StepDispatcher.h"
 #include "campaigns/Pacing.h"
+#include "campaigns/SendRuns.h"
 #include "core/App.h"
 #include "core/SettingsFields.h"
 #include "core/StopResume.h"
@@ -29,6 +30,7 @@ struct Page {
     }
     bool Complete() const { return app.WebBrowser1().ReadyState() == 4; }
     void Trace(const QString& text) const { app.diagnostics.DebugForAction(text); }
+    void Remark(const char* why) const { app.sendRuns->Report().Remark(QString::fromLatin1(why)); }
     QString Body() const { return app.WebBrowser1().Document().BodyText(); }
 };
 
@@ -50,6 +52,7 @@ bool GiveUpRequest(const Page& page, const QString& trace, bool skipCurrentID) {
 bool LogInAgain(const Page& page) {
     const QString action = page.state.CurrentAction;
     page.state.blnLinkFound = true;
+    page.Remark("The session was lost; you were signed in again");
     page.app.loginFlow->DoLogin();
     while (page.app.WebBrowser1().Busy() && page.state.CurrentAction == action)
         page.app.waiting.Pump();
@@ -70,6 +73,7 @@ bool ConfirmedWhileWaiting(const Page& page) {
 
 bool RedirectedHome(const Page& page) {
     page.Trace(u"FR LF3"_s);
+    page.Remark("The site showed your home page instead of a confirmation");
     page.app.pacing->ShowCover();
     page.app.stopResume->ResumeNext();
     return false;
@@ -84,6 +88,7 @@ bool MessageLandedHome(const Page& page) {
 
 bool LandedOnProfile(const Page& page) {
     page.Trace(u"FR LF-Homepage2 (chinese?)"_s);
+    page.Remark("The site showed a profile instead of a confirmation");
     page.app.stopResume->ResumeNext();
     return false;
 }
@@ -213,7 +218,10 @@ const std::vector<DetourRow>& Detours() {
         {[](const Page& p) {
              return (p.Requesting(7) || p.Requesting(8)) && p.app.pageTests->IsHomePageURL();
          },
-         [](const Page& p) { return GiveUpRequest(p, u"FR LF-Homepage3"_s, true); }},
+         [](const Page& p) {
+             p.Remark("The site showed your home page instead of the request page");
+             return GiveUpRequest(p, u"FR LF-Homepage3"_s, true);
+         }},
         {[](const Page& p) {
              return p.Is("MSG") && p.state.intMsgStep == 9 && p.app.pageTests->IsHomePageURL();
          },
@@ -230,7 +238,10 @@ const std::vector<DetourRow>& Detours() {
          },
          CommentPageUnknown},
         {[](const Page& p) { return p.Is("FR") && p.At(u"fuseaction=mail.inbox"); },
-         [](const Page& p) { return GiveUpRequest(p, u"FR LF-Inbox"_s, false); }},
+         [](const Page& p) {
+             p.Remark("The site showed your inbox instead of a confirmation");
+             return GiveUpRequest(p, u"FR LF-Inbox"_s, false);
+         }},
         {[](const Page& p) {
              return p.Is("SCANNING") && p.Shows(u"Sorry! an unexpected error has occurred") && p.Complete() &&
                     p.app.pageTests->AddressBeginsWith(u"{ForumHost}"_s) && p.At(u"&page");

@@ -132,6 +132,7 @@ bool FriendRequester::PassLoggedTarget() {
         m_app.SetStatus(u"Skipping ID's you've sent to before..."_s);
     ++state.lngSkippedCount;
     state.intFRLimitHits = 0;
+    m_app.sendRuns->Report().PassOver(state.strCurrentID, u"You sent to this one before"_s);
     m_app.sendRuns->ShowCounts();
     m_app.sendRuns->AdvanceAfterUse(u"IterateAddFriends - 1"_s);
     if (state.lngSkippedCount % SkipsBetweenPumps != 0)
@@ -148,6 +149,7 @@ bool FriendRequester::PassLoggedTarget() {
 
 FriendRequester::Next FriendRequester::OpenTarget() {
     const qint32 target = m_app.state.lngTargetNumber;
+    m_app.sendRuns->Report().Open(m_app.state.strCurrentID);
     m_app.WebBrowser1().Navigate(u"about:blank"_s);
     m_app.sendRuns->MoveCursor();
     m_app.waiting.Pump();
@@ -200,6 +202,7 @@ FriendRequester::Next FriendRequester::DecideFilter() {
         return Next::Wait;
     if (!passes) {
         ++state.lngFilteredCount;
+        m_app.sendRuns->Report().Close(ReportResult::Skipped, u"Doesn't match your filter settings"_s);
         m_app.sendRuns->ShowCounts();
         m_app.ClearPage();
         if (!IsCurrent(target))
@@ -221,9 +224,22 @@ FriendRequester::Next FriendRequester::DecideFilter() {
 
 FriendRequester::Next FriendRequester::AfterSend() {
     const RunState& state = m_app.state;
+    CloseReport();
     const bool messageFollows =
         m_app.controls.Ticked("chkFrSendMessage"_L1) && !state.blnFRSkipMessage && !state.blnSkipRequested;
     return messageFollows ? SendMessageBehind() : GoOnBehindTarget();
+}
+
+// A request that was logged has its result already.
+void FriendRequester::CloseReport() {
+    const RunState& state = m_app.state;
+    RunReport& report = m_app.sendRuns->Report();
+    if (!state.blnSkipCurrentID && !state.blnSkipRequested)
+        report.Close(ReportResult::SentNotLogged, u"The site did not confirm it"_s);
+    else if (m_movedToEnd)
+        report.Close(ReportResult::PutOff, u"Asks for a CAPTCHA; comes again at the end of the list"_s);
+    else
+        report.Close(ReportResult::Failed, u"You pressed Skip"_s);
 }
 
 FriendRequester::Next FriendRequester::GoOnBehindTarget() {

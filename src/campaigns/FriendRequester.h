@@ -44,6 +44,7 @@ private:
     Next EndRun();       // 6
     Next DecideFilter(); // 7
     Next AfterSend();    // 9
+    void CloseReport();
     Next GoOnBehindTarget();
     Next SendMessageBehind();
 

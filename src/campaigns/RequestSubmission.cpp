@@ -4,6 +4,7 @@
 #include "campaigns/Counters.h"
 #include "campaigns/FriendRequester.h"
 #include "campaigns/Pacing.h"
+#include "campaigns/SendRuns.h"
 #include "campaigns/SentLog.h"
 #include "core/App.h"
 #include "core/StopResume.h"
@@ -57,7 +58,9 @@ bool FriendRequester::RequestWasSent() {
     if (!m_app.counters->AddFriendCount())
         return false;
     state.intFRStep = 9;
-    m_app.sentLog->WriteLogEntry();
+    const bool logged = m_app.sentLog->WriteLogEntry();
+    m_app.sendRuns->Report().Close(logged ? ReportResult::Sent : ReportResult::SentNotLogged,
+                                   logged ? QString() : u"The log could not be written"_s);
     return true;
 }
 

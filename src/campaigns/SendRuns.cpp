@@ -13,7 +13,7 @@ namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
-SendRuns::SendRuns(App& app) : m_app(app), m_logDialog(app) {
+SendRuns::SendRuns(App& app) : m_app(app), m_logDialog(app), m_report(app), m_reportDialog(app, m_report) {
     Commands& commands = app.commands;
     commands.Add(u"piccmdAddFriends_Click"_s, [this] { cmdAddFriends_Click(); });
     commands.Add(u"piccmdAddFriendsStop_Click"_s, [this] { StopFriendRequests(); });
@@ -33,6 +33,7 @@ void SendRuns::cmdAddFriends_Click() {
             return;
         m_app.diagnostics.Debug(u"debugfr.txt"_s, u"FR BEGIN2 - "_s + m_app.NowText());
         ResetFriendRun();
+        m_report.BeginRun();
         m_app.state.intFRStep = 5;
         m_app.friendRequester->IterateAddFriends();
     });

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "campaigns/LogDialog.h"
+#include "campaigns/ReportDialog.h"
+#include "campaigns/RunReport.h"
 
 #include <QString>
 
@@ -15,6 +17,8 @@ public:
     explicit SendRuns(App& app);
 
     void cmdAddFriends_Click();
+    RunReport& Report() { return m_report; }
+    ReportDialog& ReportWindow() { return m_reportDialog; }
     // The end step of the running campaign; reason is the trace word of the stop.
     void Finish(const QString& reason);
 
@@ -41,6 +45,8 @@ private:
 
     App& m_app;
     LogDialog m_logDialog;
+    RunReport m_report;
+    ReportDialog m_reportDialog;
 };
 
 } // namespace qlm

@@ -58,11 +58,12 @@ bool SentLog::LogEntryExists(const QString& id, bool noPause, bool force) {
     return found;
 }
 
-void SentLog::WriteLogEntry() {
-    m_app.diagnostics.Trap("WriteLogEntry", [this] {
+bool SentLog::WriteLogEntry() {
+    const QString error = m_app.diagnostics.Trap("WriteLogEntry", [this] {
         if (const QString path = PathFor(m_app.state.CurrentAction); !path.isEmpty())
             m_app.files.AppendLine(path, m_app.state.strCurrentID);
     });
+    return error.isEmpty();
 }
 
 } // namespace qlm

@@ -19,8 +19,8 @@ public:
     // Looks in the log of CurrentAction, when blnCheckLog or force says so. The page check rests meanwhile
     // unless noPause.
     bool LogEntryExists(const QString& id, bool noPause = false, bool force = false);
-    // Appends strCurrentID to the log of CurrentAction.
-    void WriteLogEntry();
+    // Appends strCurrentID to the log of CurrentAction. False when the line could not be written.
+    bool WriteLogEntry();
 
 private:
     bool IsInFile(const QString& path, const QString& id);

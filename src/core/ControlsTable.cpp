@@ -294,6 +294,11 @@ const std::vector<ControlRow>& Controls::Table() {
         {"frmLog.cmdExportLog", Button, "", "", "", u"Export Log"},
         {"frmLog.cmdImportLog", Button, "", "", "", u"Import Log"},
         {"frmLog.cmdClose", Button, "", "", "", u"Close"},
+        {"frmRunReport.cboRuns", ComboBox},
+        {"frmRunReport.lblSummary", Label},
+        {"frmRunReport.lblProblem", Label},
+        {"frmRunReport.cmdSaveCSV", Button, "", "", "", u"Save as CSV..."},
+        {"frmRunReport.cmdClose", Button, "", "", "", u"Close"},
         {"frmTempMySpaceErrorFR.chkDontShowAgain", CheckBox, "", "", "", u"Don't show again"},
         {"frmTempMySpaceErrorFR.cmdOK", Button, "", "", "", u"OK"},
     };

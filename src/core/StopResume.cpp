@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/StopResume.h"
 
+#include "campaigns/SendRuns.h"
 #include "core/Activities.h"
 #include "core/App.h"
 #include "core/MainForm.h"
@@ -47,6 +48,7 @@ void StopResume::StopAll(const QString& reason) {
     if (activity && activity->stopMark[0])
         m_app.diagnostics.DebugForAction(StopMark(*activity, reason, m_app.NowText()));
 
+    m_app.sendRuns->Report().EndRun(reason);
     for (const Activity& each : Activities())
         if (each.step)
             state.*each.step = 0;

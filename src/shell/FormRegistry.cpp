@@ -9,6 +9,7 @@
 #include "shell/frmInteken.h"
 #include "shell/frmLog.h"
 #include "shell/frmLoginProblem.h"
+#include "shell/frmRunReport.h"
 #include "shell/frmSwitchAccount.h"
 #include "shell/frmTimeDelay.h"
 
@@ -39,6 +40,7 @@ constexpr Registered Forms[] = {
     {"frmFilters"_L1, Make<frmFilters>},
     {"frmGlobalSettings"_L1, Make<frmGlobalSettings>},
     {"frmLog"_L1, Make<frmLog>},
+    {"frmRunReport"_L1, Make<frmRunReport>},
 };
 
 Form* MakeForm(const QString& name, const FormContext& context) {

@@ -50,6 +50,7 @@ constexpr PictureButton Table[] = {
      u"Send a friend request to each ID in the gathered list"},
     {"piccmdAddFriendsStop", "SENDSTOP", u"S&top", u"Stop sending friend requests"},
     {"piccmdFrClearLog", "LOG", u"&Log...", u"The record of everyone you have sent friend requests to"},
+    {"piccmdFrReport", "REPORT", u"&Report...", u"What became of each profile of a run"},
     {"piccmdFrTimeDelay", "DELAY", u"Time &Delay...", u"Set the pause between two friend requests",
      "mnuTimeDelay_Click"},
 };

@@ -63,7 +63,8 @@ QGroupBox* CountersFrame() {
 
 QLayout* ToolRow(const App& app) {
     auto* row = new QHBoxLayout;
-    AddPictureButtons(*row, app.commands, Caption::Beside, {"piccmdFrTimeDelay"_L1, "piccmdFrClearLog"_L1});
+    AddPictureButtons(*row, app.commands, Caption::Beside,
+                      {"piccmdFrTimeDelay"_L1, "piccmdFrClearLog"_L1, "piccmdFrReport"_L1});
     row->addStretch();
     return row;
 }

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "campaigns/ReportRows.h"
+#include "platform/MessageQueue.h"
+
+#include <functional>
+
+namespace qlm {
+
+class App;
+class RunReport;
+
+// The window that shows the report of a run, the newest one first, and keeps up with one that is going on.
+class ReportDialog {
+public:
+    ReportDialog(App& app, RunReport& report);
+
+    // Empty without a run.
+    const QList<ReportRow>& Rows() const { return m_shown.rows; }
+    // Told when there are other rows to show. Set by the form while it is there.
+    std::function<void()> onRows;
+
+private:
+    void piccmdFrReport_Click();
+    void cmdSaveCSV_Click();
+    void Load();
+    void ShowRun(qsizetype run);
+    void KeepUp();
+
+    App& m_app;
+    RunReport& m_report;
+    Timer m_clock;
+    QList<ReportedRun> m_runs; // newest first
+    ReportedRun m_shown;
+    bool m_isStale = false;
+};
+
+} // namespace qlm

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace qlm {
+
+enum class ReportResult {
+    Sent,
+    SentNotLogged, // it went out, and the log doesn't know
+    Skipped,
+    PutOff, // comes again at the end of the list
+    Failed,
+    Unfinished, // the run ended, or was ended, while this target was being worked on
+};
+
+// One target of a run.
+struct ReportRow {
+    int number = 0; // counted within the run
+    QString time;   // "YYYY-MM-DD hh:mm:ss"
+    QString id;
+    ReportResult result = ReportResult::Unfinished;
+    int pageClass = 0; // of the page that the site showed; 0 for none
+    QString why;
+};
+
+struct ReportedRun {
+    QString begun; // when
+    QString account;
+    QString ended; // when; empty for a run without a last line
+    QString how;   // why it ended
+    QList<ReportRow> rows;
+};
+
+// "Sent", as the user reads it.
+QString ResultText(ReportResult result);
+// What the site said, for each class of the page classifier; "" for a class that has no words.
+QString RefusalText(int pageClass);
+
+// The lines of a report's file. Each ends with a mark of its own, so that one which a power cut left
+// unfinished is told from a whole one and passed over.
+QString RunLine(const QString& time, const QString& account);
+QString BegunLine(const ReportRow& row);
+QString ResultLine(const ReportRow& row);
+QString EndLine(const QString& time, const QString& how);
+bool IsRunLine(const QString& line);
+
+// The runs of a file, oldest first.
+QList<ReportedRun> RunsIn(const QStringList& lines);
+
+// UTF-8, a heading and a line for each target, quoted as RFC 4180 says.
+QByteArray ReportAsCsv(const ReportedRun& run);
+
+} // namespace qlm

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "shell/frmRunReport.h"
+
+#include "campaigns/ReportDialog.h"
+#include "campaigns/SendRuns.h"
+#include "core/App.h"
+#include "shell/FormParts.h"
+#include "shell/ReportTable.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QScreen>
+#include <QSortFilterProxyModel>
+#include <QTableView>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr QSize StartingSize(760, 460);
+}
+
+frmRunReport::frmRunReport(const FormContext& context)
+    : Form(context, u"frmRunReport"_s, u"Run Report"_s), m_rows(new ReportTable(this)) {
+    auto* runs = Named(new QComboBox, "cboRuns"_L1, u"Run"_s);
+    runs->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    auto* caption = new QLabel(u"&Run of"_s);
+    caption->setBuddy(runs);
+    auto* choice = new QHBoxLayout;
+    choice->addWidget(caption);
+    choice->addWidget(runs, 1);
+    QLabel* summary = NewLabel("lblSummary"_L1);
+    summary->setWordWrap(true);
+    QLabel* problem = NewLabel("lblProblem"_L1, u"notice"_s);
+    problem->setWordWrap(true);
+    problem->setProperty("hideWhenEmpty", true);
+
+    auto* column = new QVBoxLayout(this);
+    column->setSpacing(10);
+    column->addLayout(choice);
+    column->addWidget(summary);
+    column->addWidget(problem);
+    column->addWidget(NewTable(), 1);
+    column->addWidget(NewButtonRow(
+        {NewButton("cmdClose"_L1, u"&Close"_s), NewButton("cmdSaveCSV"_L1, u"&Save as CSV..."_s)}));
+    resize(StartingSize.boundedTo(screen()->availableSize()));
+
+    ReportDialog& report = m_app.sendRuns->ReportWindow();
+    report.onRows = [this, &report] { m_rows->SetRows(report.Rows()); };
+    report.onRows();
+}
+
+frmRunReport::~frmRunReport() {
+    m_app.sendRuns->ReportWindow().onRows = {};
+}
+
+QWidget* frmRunReport::NewTable() {
+    auto* sorted = new QSortFilterProxyModel(this);
+    sorted->setSortRole(ReportTable::SortRole);
+    sorted->setSourceModel(m_rows);
+    auto* table = Named(new QTableView, "grdTargets"_L1, u"What became of each profile"_s);
+    table->setModel(sorted);
+    table->setSortingEnabled(true);
+    // As they were worked on, until the user clicks a heading.
+    table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->horizontalHeader()->setResizeContentsPrecision(100);
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->verticalHeader()->hide();
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setAlternatingRowColors(true);
+    table->setShowGrid(false);
+    table->setWordWrap(false);
+    // Tab leaves the table; the arrow keys move in it.
+    table->setTabKeyNavigation(false);
+    return table;
+}
+
+} // namespace qlm
