@@ -106,6 +106,51 @@ TEST_F(BrowserHostTest, AProfileIsGatheredOnlyByTheUsersOwnClickWhileIdle) {
     EXPECT_TRUE(app->gatheredList->IsEmpty());
 }
 
+TEST_F(BrowserHostTest, AClickedProfileWithoutANumberIsToldAndNotOpened) {
+    const QString bob = u"http://www.site.example.com/bob"_s;
+    world.web.SetPage(bob, u"<body>Bob</body>"_s);
+    Show(u"<ul><li><a href='"_s + bob + u"'>Bob</a></li></ul>"_s);
+    GatherByClick();
+    EXPECT_TRUE(Cancels(bob));
+    EXPECT_EQ(dialogs.Texts(), QStringList{u"An error has occurred on MySpace's end while trying to retrieve "
+                                           "the ID. Please try again."_s});
+    EXPECT_TRUE(app->gatheredList->IsEmpty());
+    EXPECT_FALSE(Browser().RefusesNavigations());
+}
+
+TEST_F(BrowserHostTest, OfLinksToOneAddressTheFirstProfileIsTaken) {
+    // The first of the two stands where no profile does.
+    Show(u"<div class='footer'><a href='"_s + Profile + u"&x=about'></a></div><a href='"_s + Profile +
+         u"'>Ann</a>"_s);
+    GatherByClick();
+    EXPECT_TRUE(Cancels(Profile));
+    EXPECT_EQ(trail.count(u"CLICK-GATHER2"_s), 1);
+    EXPECT_EQ(trail.count(u"CLICK-GATHER3 - "_s + Profile), 1);
+    EXPECT_EQ(trail.count(u"CLICK-GATHER4 - "_s + Profile), 1);
+    EXPECT_TRUE(Said(u"CLICK-GATHER5 - 77"_s));
+    EXPECT_TRUE(Said(u"CLICK-GATHER6 - False"_s));
+}
+
+TEST_F(BrowserHostTest, AnEmptyPageIsNeverHeldBack) {
+    State().blnUserNavigated = true;
+    EXPECT_FALSE(Cancels(u"http://{GroupsHost}/x"_s)); // nothing has been shown yet
+    EXPECT_FALSE(State().blnUserNavigated);
+    Show(u"x"_s);
+    State().CurrentAction = u"LOGIN"_s;
+    EXPECT_FALSE(Cancels(u"about:blank"_s, u"Referer: http://creative.site.example.com/ad"_s));
+    EXPECT_FALSE(Said(u"WebBefNav-Flash-Cancel"_s));
+}
+
+TEST_F(BrowserHostTest, EveryEventSilencesThePage) {
+    Show(u"x"_s);
+    Browser().SetSilent(false);
+    Complete(false, Address());
+    EXPECT_TRUE(Browser().Silent());
+    Browser().SetSilent(false);
+    Browser().events.statusTextChange(u"Done"_s);
+    EXPECT_TRUE(Browser().Silent());
+}
+
 TEST_F(BrowserHostTest, AnAccountTypedByHandIsTakenOver) {
     Show(u"x"_s);
     State().CurrentAction = u"LOGIN"_s;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "BrowserTest.h"
 
+#include <QFile>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace qlm {
@@ -156,6 +158,18 @@ TEST_F(CommentConfirmationTest, AnyOtherLookBeginsTheCountAnew) {
         EXPECT_EQ(State().intConfirmPolls, 0) << page.toStdString();
     }
     EXPECT_EQ(confirmed, 0);
+}
+
+TEST_F(CommentConfirmationTest, AnErrorOfTheLookIsLeftToTheNextOne) {
+    app->commands.Add(u"ConfirmComment"_s, [this] {
+        ++confirmed;
+        throw BrowserError();
+    });
+    State().intConfirmPolls = 4;
+    EXPECT_FALSE(FindConfirmation(ConfirmPage));
+    EXPECT_EQ(confirmed, 1);
+    EXPECT_EQ(State().intConfirmPolls, 0);
+    EXPECT_FALSE(QFile::exists(State().ErrorLogPath));
 }
 
 TEST_F(CommentConfirmationTest, OnlyTheStepThatAwaitsTheConfirmationCounts) {
