@@ -51,13 +51,17 @@ bool GiveUpRequest(const Page& page, const QString& trace, bool skipCurrentID) {
 
 bool LogInAgain(const Page& page) {
     const QString action = page.state.CurrentAction;
+    const qint32 target = page.state.lngTargetNumber;
+    auto isStillAt = [&page, &action, target] {
+        return page.state.CurrentAction == action && page.state.lngTargetNumber == target;
+    };
     page.state.blnLinkFound = true;
     page.Remark("The session was lost; you were signed in again");
     page.app.loginFlow->DoLogin();
-    while (page.app.WebBrowser1().Busy() && page.state.CurrentAction == action)
+    while (page.app.WebBrowser1().Busy() && isStillAt())
         page.app.waiting.Pump();
-    // A stop meanwhile is the last word.
-    if (page.state.CurrentAction != action)
+    // A stop meanwhile is the last word; and the page behind the login may have given the target up already.
+    if (!isStillAt())
         return false;
     page.state.blnSkipCurrentID = true;
     page.app.stopResume->SkipProfile();

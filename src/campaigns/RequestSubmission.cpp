@@ -64,14 +64,17 @@ bool FriendRequester::RequestWasSent() {
     return true;
 }
 
-// Neither a confirmation nor a CAPTCHA: the page may still be building.
+// Neither a confirmation nor a CAPTCHA: the page may still be building. The older one has a button of its
+// own, which nobody but the user presses.
 FriendRequester::Next FriendRequester::LookAgain(qint32 target) {
     m_app.diagnostics.DebugForAction(m_app.WebBrowser1().Document().BodyHTML());
     m_app.waiting.WaitSeconds(UnknownPageSeconds);
-    if (IsCurrent(target)) {
-        m_app.state.blnLinkFound = false;
-        m_app.timers->tmrCheckLinkLoaded.Restart();
-    }
+    if (!IsCurrent(target))
+        return Next::Wait;
+    if (!m_app.state.blnNewLayout)
+        return GoOnBehindSubmit(target);
+    m_app.state.blnLinkFound = false;
+    m_app.timers->tmrCheckLinkLoaded.Restart();
     return Next::Wait;
 }
 

@@ -1,0 +1,343 @@
+// SPDX-License-Identifier: MIT
+#include "Trial.h"
+
+#include "accounts/AccountFile.h"
+#include "core/MainForm.h"
+#include "core/StartUp.h"
+#include "tests/support/SimulatedSite.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace qlm::fire {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qint64 LookEveryMs = 1000;
+constexpr qint64 SilentWaitMs = 130'000;
+constexpr qint64 LongestStandMs = 20 * 60 * 1000;
+constexpr qint64 LongestTrialMs = 23LL * 60 * 60 * 1000;
+constexpr qint64 MostTurnsBetweenLooks = 1'000'000;
+constexpr int MostRuns = 400;
+const QString Account = u"a@example.com"_s;
+constexpr qint64 AccountID = 900001;
+const QString Fields = u"Field Entries"_s;
+
+// Memory instead of a disk where there is one: half a million synced lines are written.
+QString FolderTemplate() {
+    const QString memory = u"/dev/shm"_s;
+    return (QDir(memory).exists() ? memory : QDir::tempPath()) + u"/quillmere-fire-XXXXXX"_s;
+}
+
+QString DeploymentText() {
+    QFile file(QStringLiteral(QUILLMERE_DEPLOYMENT));
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("cannot read deployment.ini");
+    return QString::fromUtf8(file.readAll());
+}
+
+void WriteFile(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        throw std::runtime_error("cannot write " + path.toStdString());
+}
+
+// The target of a request page's address; empty for any other address.
+QString RequestedID(const QString& url) {
+    for (const QString& mark : {u"/my/friends/addtofriends/"_s, u"invite.addfriend_verify&friendID="_s})
+        if (const qsizetype at = url.indexOf(mark); at >= 0)
+            return url.mid(at + mark.size());
+    return {};
+}
+
+} // namespace
+
+Dialogs::Answer FormsWithoutWidgets::ShowMessage(const QString& text, const QString& title, Buttons buttons) {
+    if (onMessage)
+        onMessage(text);
+    return RecordingDialogs::ShowMessage(text, title, buttons);
+}
+
+void FormsWithoutWidgets::ShowForm(const QString& form) {
+    RecordingDialogs::ShowForm(form);
+    if (form == u"frmMain"_s)
+        app->mainForm->Form_Load();
+}
+
+Trial::Trial(quint64 seed, int targets, bool isTraced)
+    : m_seed(seed),
+      m_isTraced(isTraced),
+      m_plan(seed, targets),
+      m_dice(seed * 2),
+      m_folder(FolderTemplate()),
+      m_site(seed, [this] { return m_world.clock.Now(); }),
+      m_judge(m_plan, m_folder.filePath(u"program/FriendsLog.txt"_s)) {
+    m_judge.trace = [this](const QString& text) { Trace(text); };
+}
+
+Trial::~Trial() {
+    DropProgram();
+}
+
+void Trial::Trace(const QString& text) const {
+    if (m_isTraced)
+        std::fprintf(stderr, "%10.3f  %s\n", static_cast<double>(m_world.clock.NowMs()) / 1000.0,
+                     qPrintable(text));
+}
+
+void Trial::TraceState() {
+    const RunState& state = m_app->state;
+    const QString now = u"    %1 step %2, target %3, \"%4\", at %5"_s.arg(state.CurrentAction)
+                            .arg(state.CurrentAction == u"LOGIN"_s ? state.intLoginStep : state.intFRStep)
+                            .arg(state.strCurrentID, m_app->Status(), m_app->WebBrowser1().LocationURL());
+    if (now != std::exchange(m_traced, now))
+        Trace(now);
+}
+
+void Trial::SetUp() {
+    m_world.clock.SetNow(QDateTime(QDate(2009, 6, 1), QTime(0, 5)));
+    m_world.random.SetSeed(m_seed);
+    m_world.installationFolder = m_folder.filePath(u"program"_s);
+    m_world.dataFolder = m_folder.filePath(u"data"_s);
+    QDir().mkpath(m_world.installationFolder);
+    QDir().mkpath(m_world.dataFolder);
+    m_world.deploymentText = DeploymentText();
+    WriteFile(m_folder.filePath(u"program/Gathered.txt"_s), m_plan.ids.join(u"\r\n"_s).toLatin1() + "\r\n");
+    WriteFile(m_folder.filePath(u"program/scalemodelight.txt"_s),
+              EncodeAccountLine(Account + u";secret"_s).toLatin1() + "\r\n");
+    SimSettings& settings = m_world.settings;
+    settings.SaveSetting(Fields, u"Login - chkTOS"_s, u"1"_s);
+    settings.SaveSetting(Fields, u"Login - txtEmail"_s, Account);
+    settings.SaveSetting(Fields, u"chkSaveScanned"_s, u"1"_s);
+    settings.SaveSetting(u"General"_s, u"TimeDelayFrom"_s, QString::number(m_plan.delayFrom));
+    settings.SaveSetting(u"General"_s, u"TimeDelayTo"_s, QString::number(m_plan.delayTo));
+    if (m_plan.filter)
+        for (const QString& key : {u"optFilterMale"_s, u"optFilterWhenSending"_s})
+            settings.SaveSetting(Fields, key, u"True"_s);
+    for (const QString& line : m_plan.controls)
+        if (const QString wrong = m_site.Control(line); !wrong.isEmpty())
+            throw std::logic_error(wrong.toStdString());
+    m_world.web.responder = [this](const SimRequest& request) { return AnswerPage(request); };
+    m_world.http.responder = [this](const QString& url) {
+        return ProductAnswer(url.mid(url.indexOf(u'/', 8)), m_world.clock.Now());
+    };
+    m_dialogs.onMessage = [this](const QString& text) {
+        m_judge.OnMessage(*m_app, text);
+        m_isOver = m_isOver || text.startsWith(u"Finished sending friend requests."_s);
+    };
+}
+
+SimAnswer Trial::AnswerPage(const SimRequest& request) {
+    SimAnswer answer;
+    if (request.url.endsWith(u"/timedelay.htm")) {
+        answer.html = u"<html><body><a href='/'>a short pause</a></body></html>"_s;
+        return answer;
+    }
+    const QString id = RequestedID(request.url);
+    if (!id.isEmpty())
+        m_judge.BeforeRequest(id);
+    m_site.TakeJournal();
+    answer = AnswerOf(m_site, request);
+    if (!id.isEmpty())
+        m_judge.AfterRequest(id, m_site.TakeJournal(), answer.html);
+    return answer;
+}
+
+int Trial::StoredCount() const {
+    return m_world.settings.GetSetting(u"Counters\\"_s + Account, u"Daily Friends Count"_s, u"0"_s).toInt();
+}
+
+void Trial::StartProgram() {
+    m_platform = std::make_unique<SimPlatform>(m_world, m_dialogs);
+    m_platform->Pump().onPump = [this] { Watch(); };
+    m_app = std::make_unique<App>(*m_platform);
+    m_dialogs.app = m_app.get();
+    m_standing.clear();
+    m_answerAtMs = -1;
+    m_judge.OnStart();
+    Trace(u"the program starts"_s);
+    m_platform->Pump().Queue().Post([this] {
+        m_app->startUp->Main();
+        m_app->commands.Run(u"frmInteken.cmdContinue_Click"_s);
+    });
+    m_platform->Pump().Queue().PostAt(m_world.clock.NowMs() + LookEveryMs, [this] { Look(); });
+}
+
+void Trial::DropProgram() {
+    m_app.reset();
+    m_platform.reset();
+    for (const QString& form : m_dialogs.OpenForms())
+        m_dialogs.CloseForm(form);
+    m_world.web.cookies.Clear();
+    m_world.gate.Mend();
+    m_world.gate.readOnlyFolders.clear();
+    m_diskRefusesUntilMs = -1;
+    m_killAtTurn = -1;
+}
+
+// Until the run is over or the process ends.
+void Trial::LiveOn() {
+    try {
+        m_platform->Pump().RunUntil([this] { return m_isOver; }, LongestTrialMs);
+        if (!m_isOver)
+            throw Broken(u"the program has come to rest without an end"_s);
+    } catch (const ProcessEnds&) {
+        ++m_kills;
+        Trace(u"the program is killed"_s);
+    } catch (const SimPowerCut&) {
+        ++m_kills;
+        Trace(u"the program is killed in the middle of a write"_s);
+    }
+}
+
+QString Trial::Run() {
+    try {
+        SetUp();
+        while (!m_isOver) {
+            StartProgram();
+            LiveOn();
+            if (m_isOver)
+                break;
+            m_judge.OnKill(StoredCount());
+            DropProgram();
+        }
+        m_judge.Look(*m_app, StoredCount(), m_diskRefusesUntilMs >= 0);
+        m_judge.OnEnd(*m_app);
+    } catch (const std::exception& broken) {
+        return QString::fromUtf8(broken.what());
+    }
+    return {};
+}
+
+// At each turn of the message loop, also deep inside the program's waits.
+void Trial::Watch() {
+    if (++m_turnsSinceLook > MostTurnsBetweenLooks)
+        throw Broken(u"the program turns without letting time pass"_s);
+    if (m_writesSeen != m_world.gate.writes) {
+        m_writesSeen = m_world.gate.writes;
+        m_judge.Look(*m_app, StoredCount(), m_diskRefusesUntilMs >= 0);
+    }
+    if (m_isTraced)
+        TraceState();
+    if (m_killAtTurn >= 0 && --m_killAtTurn < 0)
+        throw ProcessEnds();
+}
+
+void Trial::MaybeKill() {
+    if (!m_dice.Happens(m_plan.killsInThousandLooks))
+        return;
+    if (m_dice.Happens(600))
+        m_world.gate.CrashAtWrite(m_dice.Between(1, 12));
+    else
+        m_killAtTurn = m_dice.Below(300);
+}
+
+void Trial::Do(const char* command) {
+    Trace(u"user: "_s + QString::fromLatin1(command));
+    m_app->commands.Run(QString::fromLatin1(command));
+}
+
+// The user before the window.
+void Trial::Look() {
+    m_platform->Pump().Queue().PostAt(m_world.clock.NowMs() + LookEveryMs, [this] { Look(); });
+    m_turnsSinceLook = 0;
+    if (m_world.clock.NowMs() > LongestTrialMs)
+        throw Broken(u"the trial takes longer than a day"_s);
+    MaybeKill();
+    if (m_diskRefusesUntilMs >= 0 && m_world.clock.NowMs() > m_diskRefusesUntilMs) {
+        m_world.gate.readOnlyFolders.clear();
+        m_judge.Look(*m_app, StoredCount(), true);
+        m_diskRefusesUntilMs = -1;
+    } else if (m_diskRefusesUntilMs < 0 && m_dice.Happens(m_plan.refusedDisksInThousandLooks)) {
+        Trace(u"the disk refuses"_s);
+        m_world.gate.readOnlyFolders = {m_world.installationFolder};
+        m_diskRefusesUntilMs = m_world.clock.NowMs() + m_dice.Between(1, 20) * 1000;
+    }
+    if (m_app->state.CurrentAction.isEmpty())
+        LookAtIdleProgram();
+    else
+        LookAtRunningProgram();
+}
+
+void Trial::LookAtIdleProgram() {
+    const bool isLoggedIn = !m_app->state.MyProfileID.isEmpty() && m_dialogs.IsFormOpen(u"frmMain"_s);
+    if (m_isOver || !isLoggedIn)
+        return;
+    if (++m_runs > MostRuns)
+        throw Broken(u"the run doesn't come to its end"_s);
+    Controls& controls = m_app->controls;
+    controls.SetTicked("chkRemoveAfterSent"_L1, m_plan.removeAfterSent);
+    controls.SetTicked("mnuSkipProfileCAPTCHAs"_L1, m_plan.skipCaptchas);
+    controls.SetText("cboFRPerDayOrSession"_L1, m_plan.limitPerDay ? u"per day"_s : u"this session"_s);
+    // A limit for the day that has been reached would let one more out at each start.
+    m_limitLifted =
+        m_limitLifted || (m_plan.limitPerDay && StoredCount() >= m_plan.limit && m_dice.Happens(500));
+    const bool limited = m_plan.limit > 0 && !m_limitLifted;
+    controls.SetText("txtFriendRequestsToSend"_L1, limited ? QString::number(m_plan.limit) : QString());
+    m_app->state.blnNewLayout = !m_plan.oldLayout;
+    m_judge.OnRun(m_app->state.lngDailyFR);
+    Do("piccmdAddFriends_Click");
+}
+
+void Trial::LookAtRunningProgram() {
+    const RunState& state = m_app->state;
+    const QString standing = state.CurrentAction + QString::number(state.lngTargetNumber) + u' ' +
+                             QString::number(state.intFRStep) + QString::number(state.intLoginStep);
+    if (standing != m_standing) {
+        m_standing = standing;
+        m_standingSinceMs = m_world.clock.NowMs();
+    }
+    const qint64 standsMs = m_world.clock.NowMs() - m_standingSinceMs;
+    if (standsMs > LongestStandMs)
+        throw Broken(u"the program waits without an end at "_s + m_app->Status());
+    if (state.CurrentAction != u"FR"_s || AnswerCaptcha())
+        return;
+    PressOldButton();
+    const bool isTold = !m_app->controls.Text("lblWaitingFor"_L1).isEmpty();
+    if (standsMs > SilentWaitMs && !isTold)
+        throw Broken(u"a wait of two minutes isn't told: "_s + m_app->Status());
+    if (isTold || m_dice.Happens(m_plan.skipsInThousandLooks)) {
+        m_judge.OnUserGivesUp();
+        Do("picSkip_Click");
+    } else if (m_dice.Happens(m_plan.stopsInThousandLooks)) {
+        m_judge.OnUserGivesUp();
+        Do("piccmdAddFriendsStop_Click");
+    }
+}
+
+// True while a CAPTCHA is the user's business. He is told the word, reads for a while, and errs at times.
+bool Trial::AnswerCaptcha() {
+    if (!m_app->state.blnWaitingForCaptcha) {
+        m_answerAtMs = -1;
+        return false;
+    }
+    if (m_answerAtMs < 0)
+        m_answerAtMs = m_world.clock.NowMs() + m_dice.Between(4, 25) * 1000;
+    const Document document = m_app->WebBrowser1().Document();
+    const Element field = document.IsNull() ? Element() : document.GetElementById(u"captchaText"_s);
+    if (m_world.clock.NowMs() < m_answerAtMs || field.IsNull())
+        return true;
+    m_answerAtMs = -1;
+    const bool errs = m_dice.Happens(300);
+    const qint64 target = m_app->state.strCurrentID.toLongLong();
+    field.SetValue(errs ? u"surely-not"_s : m_site.CaptchaWord(AccountID, target));
+    Trace(errs ? u"user: a wrong answer"_s : u"user: the right answer"_s);
+    document.GetElementById(u"addFrdBtn"_s).Click();
+    return true;
+}
+
+// On the older page nothing but its button sends the request, and no step presses it.
+void Trial::PressOldButton() {
+    if (!m_plan.oldLayout || !m_dice.Happens(300))
+        return;
+    const Document document = m_app->WebBrowser1().Document();
+    const Element button = document.IsNull() ? Element() : document.GetElementById(u"addFrdBtn"_s);
+    if (button.IsNull() || button.Value() != u"Add to Friends"_s)
+        return;
+    Trace(u"user: presses the page's button"_s);
+    button.Click();
+}
+
+} // namespace qlm::fire
