@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/CaptchaCalls.h"
 
+#include "browser/PageTests.h"
 #include "campaigns/Pacing.h"
 #include "core/App.h"
+#include "core/StopResume.h"
 #include "core/Text.h"
 
 namespace qlm {
@@ -10,6 +12,9 @@ namespace qlm {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+const QString WaitingForUser = u"Waiting for user to enter and submit CAPTCHA..."_s;
+const QString MessageSent = u"your message has been sent"_s;
 
 void FlipTick(App& app, QLatin1StringView item) {
     app.controls.SetTicked(item, !app.controls.Ticked(item));
@@ -45,7 +50,7 @@ void CaptchaCalls::CallUser() {
         attention.PlayWAV(m_app.InstalledFile(u"blip.wav"_s));
     m_app.state.blnWaitingForCaptcha = true;
     attention.FlashWindow();
-    m_app.SetStatus(u"Waiting for user to enter and submit CAPTCHA..."_s);
+    m_app.SetStatus(WaitingForUser);
     if (m_app.controls.Ticked("mnuCaptchaPopup"_L1))
         m_app.ShowMessage(u"Please enter the CAPTCHA code to continue"_s);
     if (m_app.state.CurrentAction != action)
@@ -63,6 +68,57 @@ void CaptchaCalls::FocusAnswerField() {
             return;
         }
     }
+}
+
+void CaptchaCalls::MessagingCAPTCHAReached() {
+    m_app.diagnostics.Trap("MessagingCAPTCHAReached", [this] {
+        RunState& state = m_app.state;
+        m_app.WebBrowser1().SetSilent(true);
+        m_app.webHide().SetSilent(true);
+        if (m_app.pageTests->IsCaptchaPage()) {
+            WaitForUser();
+            return;
+        }
+        if (m_app.pageTests->IsTextInPage(MessageSent)) {
+            m_app.SetStatus(u"Message sent, waiting for confirmation page..."_s);
+            m_app.timers->tmrAutoResume.Restart();
+            state.blnWaitingForCaptcha = false;
+            state.intMsgStep = 8;
+            state.strLinkType = u"Text"_s;
+            state.strLinkValue = MessageSent;
+            state.blnLinkFound = false;
+            m_app.timers->tmrCheckLinkLoaded.Restart();
+            return;
+        }
+        m_app.diagnostics.DebugForAction(m_app.WebBrowser1().Document().BodyHTML());
+        state.intMsgStep = 8;
+        m_app.stopResume->ResumeNext();
+    });
+}
+
+void CaptchaCalls::WaitForUser() {
+    RunState& state = m_app.state;
+    const QString action = state.CurrentAction;
+    const qint32 target = state.lngTargetNumber;
+    auto isStillAt = [&] { return state.CurrentAction == action && state.lngTargetNumber == target; };
+    m_app.SetStatus(WaitingForUser);
+    m_app.timers->tmrAutoResume.SetEnabled(false);
+    if (state.blnWaitingForCaptcha) {
+        // The site has refused the answer; the user is there already.
+        FocusAnswerField();
+    } else {
+        CallUser();
+        if (!isStillAt())
+            return;
+        m_app.stopResume->PauseLinkCheck();
+        m_app.waiting.WaitWhile([&] { return isStillAt() && m_app.WebBrowser1().ReadyState() < 4; }, 0);
+        if (!isStillAt())
+            return;
+        m_app.stopResume->ResumeLinkCheck();
+    }
+    state.blnWaitingForCaptcha = true;
+    m_app.timers->tmrCheckLinkLoaded.Restart();
+    state.blnLinkFound = false;
 }
 
 } // namespace qlm

@@ -17,9 +17,12 @@ public:
     void CallUser();
     // Puts the input focus into the field for the answer, if the page has one.
     void FocusAnswerField();
+    // The messenger's step 9: a CAPTCHA stands before a message, or the message has gone out behind one.
+    void MessagingCAPTCHAReached();
 
 private:
     void mnuSkipProfileCAPTCHAs_Click();
+    void WaitForUser();
 
     App& m_app;
 };

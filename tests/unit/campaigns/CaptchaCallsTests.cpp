@@ -57,5 +57,102 @@ TEST_F(CaptchaCallsTest, AClickFlipsATick) {
     EXPECT_FALSE(app->controls.Ticked("mnuCaptchaSound"_L1));
 }
 
+class MessagingCaptchaTest : public CaptchaCallsTest {
+protected:
+    MessagingCaptchaTest() {
+        app->state.CurrentAction = u"MSG"_s;
+        app->state.intMsgStep = 9;
+        app->state.blnLinkFound = true;
+    }
+    void Show(const QString& text) {
+        world.web.SetPage(u"http://www.example.com/page"_s,
+                          u"<html><body><a href='/'>Home</a><input name='x$captchaResponseTextBox' "
+                          "id='answer' value='typed'>"_s +
+                              text + u"</body></html>"_s);
+        app->WebBrowser1().Navigate(u"http://www.example.com/page"_s);
+        platform->Pump().RunFor(1000);
+        app->timers->tmrCheckLinkLoaded.SetEnabled(false);
+    }
+    void ExpectArmed(bool waiting, int step) {
+        EXPECT_EQ(app->state.blnWaitingForCaptcha, waiting);
+        EXPECT_EQ(app->state.intMsgStep, step);
+        EXPECT_TRUE(app->timers->tmrCheckLinkLoaded.Enabled());
+        EXPECT_FALSE(app->state.blnLinkFound);
+        EXPECT_FALSE(app->state.blnHoldLinkCheck);
+    }
+};
+
+TEST_F(MessagingCaptchaTest, ACaptchaCallsTheUserOnce) {
+    Show(u"Type the two words:"_s);
+    app->captchaCalls->MessagingCAPTCHAReached();
+    EXPECT_EQ(platform->Attention().calls, QStringList{u"flash"_s});
+    EXPECT_EQ(app->Status(), u"Waiting for user to enter and submit CAPTCHA..."_s);
+    EXPECT_TRUE(app->timers->tmrAutoResume.Enabled());
+    ExpectArmed(true, 9);
+    EXPECT_EQ(Focused(), u"answer"_s);
+
+    // A wrong answer: what was typed stays, and nobody is called.
+    Show(u"Type the two words:"_s);
+    app->timers->tmrAutoResume.SetEnabled(true);
+    app->state.blnLinkFound = true;
+    app->captchaCalls->MessagingCAPTCHAReached();
+    EXPECT_EQ(platform->Attention().calls, QStringList{u"flash"_s});
+    EXPECT_FALSE(app->timers->tmrAutoResume.Enabled());
+    ExpectArmed(true, 9);
+    EXPECT_EQ(Focused(), u"answer"_s);
+    EXPECT_EQ(app->WebBrowser1().Document().GetElementById(u"answer"_s).Value(), u"typed"_s);
+}
+
+TEST_F(MessagingCaptchaTest, APageThatIsStillLoadingIsWaitedForWithThePageCheckHeld) {
+    Show(u"Please enter the image text"_s);
+    SimAnswer late;
+    late.html = u"<html><body><a href='/'>Home</a></body></html>"_s;
+    late.latencyMs = 5000;
+    world.web.SetAnswer(u"http://www.example.com/late"_s, late);
+    bool wasHeld = false;
+    platform->Pump().onPump = [&] { wasHeld = wasHeld || app->state.blnHoldLinkCheck; };
+    const qint64 startMs = world.clock.NowMs();
+    app->WebBrowser1().Navigate(u"http://www.example.com/late"_s);
+    platform->Pump().PumpMessages();
+    app->captchaCalls->MessagingCAPTCHAReached();
+    EXPECT_TRUE(wasHeld);
+    EXPECT_GE(world.clock.NowMs() - startMs, 5000);
+    EXPECT_FALSE(app->state.blnHoldLinkCheck);
+}
+
+TEST_F(MessagingCaptchaTest, AStopEndsTheWaitAndArmsNothing) {
+    Show(u"Please enter the image text"_s);
+    world.web.SetFault(u"http://www.example.com/never"_s, SimFault::Hang);
+    app->WebBrowser1().Navigate(u"http://www.example.com/never"_s);
+    platform->Pump().PumpMessages();
+    platform->Pump().onPump = [&] {
+        if (app->state.blnHoldLinkCheck)
+            app->state.CurrentAction.clear();
+    };
+    app->captchaCalls->MessagingCAPTCHAReached();
+    EXPECT_FALSE(app->timers->tmrCheckLinkLoaded.Enabled());
+}
+
+TEST_F(MessagingCaptchaTest, BehindARightAnswerTheConfirmationIsAwaited) {
+    Show(u"Your message has been sent!"_s);
+    app->state.blnWaitingForCaptcha = true;
+    app->captchaCalls->MessagingCAPTCHAReached();
+    EXPECT_EQ(app->Status(), u"Message sent, waiting for confirmation page..."_s);
+    EXPECT_TRUE(app->timers->tmrAutoResume.Enabled());
+    EXPECT_EQ(app->state.strLinkType + app->state.strLinkValue, u"Textyour message has been sent"_s);
+    ExpectArmed(false, 8);
+}
+
+TEST_F(MessagingCaptchaTest, AnyOtherPageGivesTheTargetToTheStepBehind) {
+    app->state.blnLoggingEnabled = true;
+    Show(u"Something else"_s);
+    app->state.blnHoldLinkCheck = true;
+    app->captchaCalls->MessagingCAPTCHAReached();
+    EXPECT_EQ(app->state.intMsgStep, 8);
+    EXPECT_FALSE(app->state.blnHoldLinkCheck);
+    const QString trail = app->files.ReadLines(app->DataFile(u"debugmsg.txt"_s)).join(u'\n');
+    EXPECT_TRUE(trail.contains(u"Something else"_s));
+}
+
 } // namespace
 } // namespace qlm
