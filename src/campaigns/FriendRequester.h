@@ -51,6 +51,7 @@ private:
     Next SubmitFriend(); // 8
     bool RequestWasSent();
     Next LookAgain(qint32 target);
+    bool AwaitsProfile() const;
     Next GoOnBehindSubmit(qint32 target);
     bool MayPutTargetOff();
     Next PutTargetOff(qint32 target);

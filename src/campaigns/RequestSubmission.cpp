@@ -71,11 +71,21 @@ FriendRequester::Next FriendRequester::LookAgain(qint32 target) {
     m_app.waiting.WaitSeconds(UnknownPageSeconds);
     if (!IsCurrent(target))
         return Next::Wait;
+    if (AwaitsProfile()) {
+        m_app.state.blnWaitingForCaptcha = false;
+        m_app.state.intFRStep = 7;
+        return Next::Again;
+    }
     if (!m_app.state.blnNewLayout)
         return GoOnBehindSubmit(target);
     m_app.state.blnLinkFound = false;
     m_app.timers->tmrCheckLinkLoaded.Restart();
     return Next::Wait;
+}
+
+// A CAPTCHA may have stood in front of the profile, too: then the filter's decision is still to come.
+bool FriendRequester::AwaitsProfile() const {
+    return m_app.state.strLinkType == u"Text"_s && m_app.state.strLinkValue == u"View"_s;
 }
 
 FriendRequester::Next FriendRequester::GoOnBehindSubmit(qint32 target) {
@@ -149,10 +159,15 @@ FriendRequester::Next FriendRequester::WaitForAnswer(qint32 target) {
     }
     if (!page.IsTextInPage(WrongAnswer))
         return Next::Again;
-    Await(u"TextHTML"_s, u"addFrdBtn"_s);
+    const bool awaitsProfile = AwaitsProfile();
     m_app.ClearPage();
     if (!IsCurrent(target))
         return Next::Wait;
+    if (awaitsProfile) {
+        OpenProfile();
+        return Next::Wait;
+    }
+    Await(u"TextHTML"_s, u"addFrdBtn"_s);
     m_app.WebBrowser1().Navigate(m_app.Expand(u"{SiteRootHost}/my/friends/addtofriends/"_s) +
                                  state.strCurrentID);
     state.blnLinkFound = false;

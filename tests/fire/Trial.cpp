@@ -28,7 +28,7 @@ const QString Fields = u"Field Entries"_s;
 // Memory instead of a disk where there is one: half a million synced lines are written.
 QString FolderTemplate() {
     const QString memory = u"/dev/shm"_s;
-    return (QDir(memory).exists() ? memory : QDir::tempPath()) + u"/quillmere-fire-XXXXXX"_s;
+    return (QDir(memory).exists() ? memory : QDir::tempPath()) + u"/quillmere-fire-"_s + QString(6, u'X');
 }
 
 QString DeploymentText() {
@@ -156,6 +156,7 @@ void Trial::StartProgram() {
     m_dialogs.app = m_app.get();
     m_standing.clear();
     m_answerAtMs = -1;
+    m_pressedFor = -1;
     m_judge.OnStart();
     Trace(u"the program starts"_s);
     m_platform->Pump().Queue().Post([this] {
@@ -284,7 +285,8 @@ void Trial::LookAtIdleProgram() {
 void Trial::LookAtRunningProgram() {
     const RunState& state = m_app->state;
     const QString standing = state.CurrentAction + QString::number(state.lngTargetNumber) + u' ' +
-                             QString::number(state.intFRStep) + QString::number(state.intLoginStep);
+                             QString::number(state.intFRStep) + QString::number(state.intLoginStep) +
+                             state.strLinkValue;
     if (standing != m_standing) {
         m_standing = standing;
         m_standingSinceMs = m_world.clock.NowMs();
@@ -321,7 +323,9 @@ bool Trial::AnswerCaptcha() {
         return true;
     m_answerAtMs = -1;
     const bool errs = m_dice.Happens(300);
-    const qint64 target = m_app->state.strCurrentID.toLongLong();
+    // The site's own gate before a page that isn't about a request has a word for everybody.
+    const bool isGate = m_app->WebBrowser1().LocationURL().endsWith(u"/classic"_s);
+    const qint64 target = isGate ? 0 : m_app->state.strCurrentID.toLongLong();
     field.SetValue(errs ? u"surely-not"_s : m_site.CaptchaWord(AccountID, target));
     Trace(errs ? u"user: a wrong answer"_s : u"user: the right answer"_s);
     document.GetElementById(u"addFrdBtn"_s).Click();
@@ -330,7 +334,8 @@ bool Trial::AnswerCaptcha() {
 
 // On the older page nothing but its button sends the request, and no step presses it.
 void Trial::PressOldButton() {
-    if (!m_plan.oldLayout || !m_dice.Happens(300))
+    const qint32 target = m_app->state.lngTargetNumber;
+    if (!m_plan.oldLayout || target == m_pressedFor || !m_dice.Happens(300))
         return;
     const Document document = m_app->WebBrowser1().Document();
     const Element button = document.IsNull() ? Element() : document.GetElementById(u"addFrdBtn"_s);
@@ -338,6 +343,7 @@ void Trial::PressOldButton() {
         return;
     Trace(u"user: presses the page's button"_s);
     button.Click();
+    m_pressedFor = target;
 }
 
 } // namespace qlm::fire

@@ -79,6 +79,7 @@ private:
     QString m_standing; // what the program was at, at the last look
     qint64 m_standingSinceMs = 0;
     qint64 m_answerAtMs = -1;
+    qint32 m_pressedFor = -1;
     qint64 m_diskRefusesUntilMs = -1;
     qint64 m_turnsSinceLook = 0;
     QString m_traced;
