@@ -49,6 +49,25 @@ TEST_F(DetourTest, AnOrdinaryPageIsNone) {
     }
 }
 
+// A step variable says nothing while another activity runs.
+TEST_F(DetourTest, AStepCountsForItsOwnActivityAlone) {
+    State().intFRStep = 9;
+    State().intMsgStep = 9;
+    State().intComStep = 6;
+    State().intLoginStep = 4;
+    State().CurrentAction = u"BUL"_s;
+    for (const QString& address : {Home, Root}) {
+        Show(address, u"return to myspace! You are logged in."_s);
+        EXPECT_TRUE(TakesNone()) << address.toStdString();
+    }
+}
+
+TEST_F(DetourTest, AForumPageThatShowsIsGatheredFrom) {
+    State().CurrentAction = u"SCANNING"_s;
+    Show(u"{ForumHost}/t?x=1&page=2"_s, u"<p>Welcome</p>"_s);
+    EXPECT_TRUE(TakesNone());
+}
+
 // Row 1
 TEST_F(DetourTest, ALostSessionIsLoggedInAgainAndTheTargetSkipped) {
     Show(Root, u"<p>Forgot Password?</p>"_s);

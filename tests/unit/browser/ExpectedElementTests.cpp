@@ -71,6 +71,21 @@ TEST_F(ExpectedElementTest, TheCommentButtonIsAnImageAtItsStep) {
     EXPECT_FALSE(Look());
 }
 
+TEST_F(ExpectedElementTest, AStepCountsForItsOwnActivityAlone) {
+    State().intComStep = 8;
+    State().intMsgStep = 8;
+    EXPECT_FALSE(Find(u"Text"_s, u"your comment has been posted"_s,
+                      u"<i id=ctl00_ctl00_cpMain_cpMain_ctl02_ctl00></i>"_s));
+    EXPECT_FALSE(Find(u"Text"_s, u"your message has been sent"_s, u"<p>Welcome</p>"_s));
+    EXPECT_EQ(State().intConfirmPolls, 0);
+    EXPECT_EQ(State().intComStep, 8);
+    // At the step of the comment button a page without one has none.
+    State().intComStep = 7;
+    EXPECT_FALSE(Find(u"Image"_s, u"any.gif"_s, u"<button value='Preview'>x</button>"_s));
+    State().CurrentAction = u"ACC"_s;
+    EXPECT_FALSE(Find(u"Link"_s, u"nowhere"_s, u"<p>There are 2 requests in this folder</p>"_s));
+}
+
 TEST_F(ExpectedElementTest, WhatWasFoundOnceIsNotFoundAgain) {
     EXPECT_TRUE(Find(u"Text"_s, u"hello"_s, u"hello"_s));
     EXPECT_FALSE(app->stepDispatcher->CheckLinkFound());
@@ -196,6 +211,7 @@ TEST_F(ExpectedElementTest, AnUnconfirmedMessageFailsAtTheTenthCompletePage) {
     EXPECT_FALSE(Look());
     EXPECT_EQ(State().intConfirmPolls, 0);
     EXPECT_TRUE(State().blnSkipCurrentID);
+    EXPECT_TRUE(app->timers->tmrAutoResume.Enabled());
     EXPECT_EQ(State().intMsgStep, 8);
 }
 

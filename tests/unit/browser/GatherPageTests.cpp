@@ -84,6 +84,7 @@ TEST_F(GatherPageTest, AForumIsFullWithOneOfItsElements) {
     EXPECT_TRUE(IsFull(u"{ForumHost}/t?x=1&page=2"_s, u"<i id=UserDataNode2></i>"_s, 0));
     EXPECT_FALSE(IsFull(u"{ForumHost}/t?x=1"_s, u"<i id=UserDataNode2></i>"_s, 99));
     EXPECT_FALSE(IsFull(u"{SiteRootHost}/t?x=1&page=2"_s, u"<i id=UserDataNode2></i>"_s, 99));
+    EXPECT_FALSE(IsFull(u"{ForumHost}/t?x=1&page=2"_s, u"<i id=UserDataNode3></i>"_s, 99));
     EXPECT_TRUE(IsFull(Plain, u"Band Name: <i id=UserDataNode29></i>"_s, 0));
     EXPECT_FALSE(IsFull(Plain, u"Band: <i id=UserDataNode29></i>"_s, 99));
     EXPECT_FALSE(IsFull(Plain, u"band name: <i id=UserDataNode28></i>"_s, 99));

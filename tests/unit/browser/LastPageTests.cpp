@@ -137,6 +137,18 @@ TEST_F(LastPageTest, AnotherPageOfAListIsWaitedForWithoutEnd) {
     EXPECT_EQ(State().intGatherRetryTicks, 30);
 }
 
+TEST_F(LastPageTest, AStepCountsForItsOwnActivityAlone) {
+    Show(u"<p>page before: You have no requests</p><i id=ctl00_ctl00_cpMain_cpMain_ctl02_ctl00></i>"_s);
+    Begin(u"BUL"_s);
+    Await(u"ID"_s, u"spanapprovebottom"_s);
+    State().intAccStep = 2;
+    State().intComStep = 11;
+    State().intGatherStep = 3;
+    EXPECT_FALSE(Check());
+    EXPECT_EQ(State().intComStep, 11);
+    EXPECT_EQ(State().intGatherRetryTicks, 0);
+}
+
 TEST_F(LastPageTest, TwoActivitiesNoteThatTheyWait) {
     Show(Before);
     for (const QString& action : {u"COM"_s, u"FR"_s}) {
