@@ -15,6 +15,7 @@ add_library(quillmere_logic STATIC
     core/GlobalSettings.cpp
     core/IniFile.cpp
     core/MainForm.cpp
+    core/PasswordMask.cpp
     core/ProductServer.cpp
     core/SettingsFields.cpp
     core/StartUp.cpp
@@ -39,6 +40,7 @@ add_library(quillmere_logic STATIC
     browser/PageWords.cpp
     browser/ScriptEdits.cpp
     browser/StepDispatcher.cpp
+    browser/TypedLogin.cpp
 
     accounts/AccountDetails.cpp
     accounts/AccountFile.cpp

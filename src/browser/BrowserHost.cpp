@@ -103,7 +103,7 @@ bool BrowserHost::WebBrowser1_BeforeNavigate2(const NavigationRequest& request) 
     if (!clickToGather && state.blnUserNavigated &&
         request.url.contains(m_app.Expand(u"{GroupsHost}"_s), Qt::CaseSensitive))
         return true;
-    if (loggingIn && request.isForm)
+    if (loggingIn)
         ReadTypedLogin(request);
     return false;
 }
@@ -146,35 +146,6 @@ void BrowserHost::AddClickedProfile(const Element& link) {
     m_app.gatheredList->ProcessArrayAndList(u"ADD"_s, 0, id, u"WebBrowser1_BeforeNavigate2"_s);
 }
 
-// A login form is being sent, by the program or by the user who logs in by hand.
-void BrowserHost::ReadTypedLogin(const NavigationRequest& request) {
-    QString email;
-    QString password;
-    for (const NavigationRequest::Input& input : request.inputs) {
-        if (Has(input.id, u"Email_Textbox"_s) && !input.value.isEmpty())
-            email = input.value.trimmed();
-        if (Has(input.id, u"Password_Textbox"_s) && !input.value.isEmpty())
-            password = input.value.trimmed();
-    }
-    auto mask = [](const QString& text) { return text.isEmpty() ? QString() : u"****"_s; };
-    SettingsStore& settings = m_app.platform.Settings();
-    m_app.diagnostics.Debug(InitialTrail, u"Navigate 2.3 - "_s + mask(email) + u", "_s + mask(password));
-    if (!password.isEmpty())
-        settings.SaveSetting(u"Field Entries"_s, u"Login - txtPassword"_s, password);
-
-    RunState& state = m_app.state;
-    m_app.diagnostics.Debug(InitialTrail, u"Navigate 3.1 (e) - "_s + mask(email));
-    const bool anotherAccount =
-        !email.isEmpty() && email.compare(state.AccountEmail, Qt::CaseInsensitive) != 0;
-    if (!anotherAccount || (state.intLoginStep != 0 && state.intLoginStep != 4))
-        return;
-    state.AccountEmail = email.toLower();
-    state.AccountPassword = password;
-    settings.SaveSetting(u"Field Entries"_s, u"Login - txtEmail"_s, state.AccountEmail);
-    settings.SaveSetting(u"Field Entries"_s, u"Login - txtPassword"_s, state.AccountPassword);
-    m_app.diagnostics.Debug(InitialTrail, u"Navigate 3.5"_s);
-}
-
 bool BrowserHost::WebBrowser1_NewWindow2() {
     const Document document = m_app.WebBrowser1().Document();
     if (document.IsNull())
@@ -191,7 +162,7 @@ void BrowserHost::WebBrowser1_DocumentComplete(bool topLevel, const QString& url
     Timers& timers = *m_app.timers;
     const QString address = m_app.WebBrowser1().LocationURL();
     if (address != u"about:blank"_s)
-        m_app.controls.SetText("txtAddress"_L1, address);
+        m_app.controls.SetText("txtAddress"_L1, m_app.diagnostics.WithoutPasswords(address));
     if (url == u"about:blank"_s || m_app.state.blnHoldLinkCheck)
         return;
     timers.tmrAutoResume.SetInterval(ResumeIntervalMs);
@@ -211,7 +182,7 @@ void BrowserHost::WebBrowser1_StatusTextChange(const QString& text) {
     const bool hidden = std::any_of(HiddenStatusTexts().begin(), HiddenStatusTexts().end(),
                                     [&](const QString& part) { return Has(text, m_app.Expand(part)); });
     if (!hidden && !m_app.pageTests->AddressContains(u"{GroupsHost}"_s, Qt::CaseSensitive))
-        m_app.controls.SetText("lblStatus"_L1, text + u"  "_s);
+        m_app.controls.SetText("lblStatus"_L1, m_app.diagnostics.WithoutPasswords(text) + u"  "_s);
 }
 
 } // namespace qlm

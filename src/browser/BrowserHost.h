@@ -27,6 +27,7 @@ private:
     bool GatherClickedProfile(const QString& url);
     Element FindProfileLink(const QString& url);
     void AddClickedProfile(const Element& link);
+    // TypedLogin.cpp
     void ReadTypedLogin(const NavigationRequest& request);
 
     App& m_app;

@@ -38,6 +38,16 @@ QString Diagnostics::CleanText(const QString& text) {
     return cleaned.remove(unwanted);
 }
 
+QString Diagnostics::Masked(const QString& text) {
+    m_mask.Learn(m_app.state.AccountPassword);
+    return m_mask.Masked(text);
+}
+
+QString Diagnostics::WithoutPasswords(const QString& address) {
+    m_mask.Learn(m_app.state.AccountPassword);
+    return m_mask.MaskedAddress(address);
+}
+
 void Diagnostics::AppendToFile(const QString& path, const QString& text, bool startNew, bool onlyIfLogging,
                                const QString& onlyForAction) {
     if (onlyIfLogging && !m_app.state.blnLoggingEnabled)
@@ -45,7 +55,7 @@ void Diagnostics::AppendToFile(const QString& path, const QString& text, bool st
     if (!onlyForAction.isEmpty() && onlyForAction != m_app.state.CurrentAction)
         return;
     const bool clean = onlyIfLogging || text.size() > UncleanedLength;
-    const QString line = clean ? CleanText(text) : text;
+    const QString line = clean ? CleanText(Masked(text)) : Masked(text);
     IgnoreErrors([&] {
         if (startNew)
             m_app.files.CreateFile(path);
@@ -93,12 +103,12 @@ void Diagnostics::ReportError(const QString& procedure, const QString& descripti
     const QStringList block{u"Product: QLM"_s,
                             u"Time: "_s + m_app.NowText(),
                             u"Version: "_s + m_app.Version(),
-                            u"PI: "_s + CleanText(address),
+                            u"PI: "_s + CleanText(Masked(address)),
                             u"IEV: "_s + QString::fromLatin1(qVersion()),
-                            u"Error: 0  -  "_s + CleanText(description),
+                            u"Error: 0  -  "_s + CleanText(Masked(description)),
                             u"Proc: "_s + procedure,
                             u"Line: "_s + line,
-                            u"Data: "_s + CleanText(data)};
+                            u"Data: "_s + CleanText(Masked(data))};
     try {
         for (const QString& text : block)
             m_app.files.AppendLine(m_app.state.ErrorLogPath, text);

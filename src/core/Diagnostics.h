@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/PasswordMask.h"
 #include "platform/MessageQueue.h"
 
 #include <QString>
@@ -12,7 +13,7 @@ namespace qlm {
 class App;
 
 // The program's own story: the debug files for support, the error log, and the traps at the edges of
-// procedures.
+// procedures. No password gets into any of it.
 class Diagnostics {
 public:
     explicit Diagnostics(App& app) : m_app(app) {}
@@ -77,13 +78,20 @@ public:
 
     static QString CleanText(const QString& text);
 
+    // A password that is not the account's: one that was typed into a page.
+    void LearnPassword(const QString& password) { m_mask.Learn(password); }
+    // An address as it may be shown.
+    QString WithoutPasswords(const QString& address);
+
     // Told of each line behind its writing; a test stops the program there.
     std::function<void(const QString& line)> onLine;
 
 private:
+    QString Masked(const QString& text);
     void ShowErrorFormOnce();
 
     App& m_app;
+    PasswordMask m_mask;
     bool m_shown = false;
     bool m_reporting = false;
 };
