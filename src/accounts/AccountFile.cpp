@@ -54,8 +54,14 @@ QString AccountFile::Path() const {
     return m_app.ProgramFile(u"scalemodelight.txt"_s);
 }
 
-QStringList AccountFile::Lines() {
+// A file that was brought from elsewhere may stand open to others.
+void AccountFile::Ensure() {
     m_app.files.EnsureFile(Path(), Readers::OwnerAlone);
+    m_app.files.CloseToOthers(Path());
+}
+
+QStringList AccountFile::Lines() {
+    Ensure();
     QStringList lines;
     for (const QString& digits : m_app.files.ReadLines(Path()))
         lines.append(DecodeAccountLine(digits));
@@ -86,7 +92,10 @@ QStringList AccountFile::GetAccountDetails(const QString& email) {
 }
 
 AccountFile::Listing AccountFile::Emails(const QString& path, bool encrypted, bool skipBlank) {
-    m_app.files.EnsureFile(path, Readers::OwnerAlone);
+    if (path == Path())
+        Ensure();
+    else
+        m_app.files.EnsureFile(path);
     Listing listing;
     for (const QString& line : m_app.files.ReadLines(path)) {
         listing.hadLines = true;
@@ -117,13 +126,17 @@ QString DialogTemporaryPath(const QString& accountFilePath) {
 void AccountFile::Add(const QString& email, const QString& password) {
     const QString temporary = DialogTemporaryPath(Path());
     MarkAddAccount(m_app, 8);
-    m_app.files.EnsureFile(Path(), Readers::OwnerAlone);
+    Ensure();
     MarkAddAccount(m_app, 9);
     m_app.files.EnsureFile(temporary, Readers::OwnerAlone);
     MarkAddAccount(m_app, 10);
     const QString line = (email + u';' + password).toLower();
     MarkAddAccount(m_app, 11);
-    m_app.files.AppendLine(Path(), EncodeAccountLine(line), Readers::OwnerAlone);
+    // Not appended in place: half a line would be an account that nobody has.
+    QByteArray bytes = m_app.files.ReadBytes(Path());
+    if (!bytes.isEmpty() && !bytes.endsWith('\n'))
+        bytes += "\r\n";
+    m_app.files.WriteBytes(Path(), bytes + EncodeAccountLine(line).toLatin1() + "\r\n", Readers::OwnerAlone);
     MarkAddAccount(m_app, 12);
 }
 

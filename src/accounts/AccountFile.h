@@ -14,8 +14,8 @@ QString EncodeAccountLine(const QString& plain);
 QString DecodeAccountLine(const QString& digits);
 
 // The store of accounts, "scalemodelight.txt" in ProgramFolder, readable by its owner alone. Nothing is
-// cached: every operation opens, reads and closes the file, and creates it empty when it is missing. Throws
-// FileError.
+// cached: every operation opens, reads and closes the file, and creates it empty when it is missing. At
+// whatever write an operation is cut off, the old or the new list stands whole. Throws FileError.
 class AccountFile {
 public:
     struct Listing {
@@ -49,6 +49,7 @@ public:
     void Import(const QString& path);
 
 private:
+    void Ensure();
     QStringList Lines();
     void Rewrite(const QStringList& plainLines, const QString& temporaryPath);
 

@@ -112,6 +112,14 @@ void FileSystem::EnsureFile(const QString& path, Readers readers) {
     const Descriptor created(path, O_WRONLY | O_CREAT | O_CLOEXEC, ModeFor(readers));
 }
 
+void FileSystem::CloseToOthers(const QString& path) {
+    struct stat status {};
+    const QByteArray name = QFile::encodeName(path);
+    if (stat(name, &status) == 0 && (status.st_mode & 077) != 0 && status.st_uid == geteuid() &&
+        chmod(name, status.st_mode & 0700) != 0)
+        Fail("Cannot protect", path);
+}
+
 void FileSystem::CreateFile(const QString& path, Readers readers) {
     CreateFolder(QFileInfo(path).absolutePath());
     WriteBytes(path, {}, readers);
@@ -200,6 +208,8 @@ void FileSystem::WriteBytes(const QString& path, const QByteArray& bytes, Reader
     Refuse(path);
     const QString temporary = path + u".new"_s;
     try {
+        // What an earlier end has left there may stand open to others.
+        unlink(QFile::encodeName(temporary));
         const Descriptor file(temporary, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, ModeFor(readers));
         WriteAll(file.Number(), bytes, temporary);
         file.Sync(temporary);

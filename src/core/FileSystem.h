@@ -37,6 +37,8 @@ public:
     void CreateFolder(const QString& path);
     // Creates an empty file, and its folder, when the file is missing.
     void EnsureFile(const QString& path, Readers readers = Readers::Everyone);
+    // Takes others' rights away from the file, if there are any and it is the user's own.
+    void CloseToOthers(const QString& path);
     // Creates the file anew, empty.
     void CreateFile(const QString& path, Readers readers = Readers::Everyone);
     void DeleteFile(const QString& path);

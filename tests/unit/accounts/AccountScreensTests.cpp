@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+// What fails on an account screen is reported under the name of its procedure.
+#include "SimulatedProgram.h"
+#include "accounts/AccountFile.h"
+#include "accounts/AccountScreens.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace qlm {
+namespace {
+
+class AccountScreensTest : public SimulatedProgram {
+protected:
+    AccountScreensTest() { app->accountFile->Add(u"a@example.com"_s, u"secret"_s); }
+
+    void ReplaceByFolder(const QString& path) {
+        QFile::remove(path);
+        QDir().mkpath(path);
+    }
+    QStringList Reported() {
+        QStringList names;
+        if (app->files.FileExists(app->state.ErrorLogPath))
+            for (const QString& line : app->files.ReadLines(app->state.ErrorLogPath))
+                if (line.startsWith(u"Proc: "_s))
+                    names.append(line.mid(6));
+        return names;
+    }
+};
+
+TEST_F(AccountScreensTest, AListThatCannotBeReadIsReportedAndTheScreenComesUp) {
+    ReplaceByFolder(app->accountFile->Path());
+    app->accountScreens->ShowLoginScreen();
+    EXPECT_EQ(Reported(), QStringList{u"FillAccountsList - frmInteken"_s});
+    EXPECT_TRUE(app->platform.Dialogs().IsFormOpen(u"frmInteken"_s));
+}
+
+TEST_F(AccountScreensTest, TheSwitchScreensListHasItsOwnName) {
+    ReplaceByFolder(app->accountFile->Path());
+    app->commands.Run(u"mnuSwitchLogin_Click"_s);
+    EXPECT_EQ(Reported(), QStringList{u"FillAccountsList - frmSwitchAccount"_s});
+}
+
+TEST_F(AccountScreensTest, ADeleteThatFailsLeavesTheList) {
+    app->accountScreens->ShowLoginScreen();
+    world.gate.readOnlyFolders = {world.installationFolder};
+    app->commands.Run(u"frmInteken.cmdDelete_Click"_s);
+    EXPECT_EQ(Reported(), QStringList{u"cmdDelete_Click - frmInteken"_s});
+    EXPECT_EQ(app->controls.Items("frmInteken.lstAccounts"_L1), QStringList{u"a@example.com"_s});
+}
+
+TEST_F(AccountScreensTest, AContinueThatFailsIsReported) {
+    app->accountScreens->ShowLoginScreen();
+    app->controls.SetTicked("frmInteken.chkTOS"_L1, true);
+    ReplaceByFolder(app->accountFile->Path());
+    app->commands.Run(u"frmInteken.cmdContinue_Click"_s);
+    EXPECT_EQ(Reported(), QStringList{u"cmdContinue_Click"_s});
+    EXPECT_TRUE(app->platform.Dialogs().IsFormOpen(u"frmInteken"_s));
+}
+
+TEST_F(AccountScreensTest, WithoutASelectionContinueAsksForOne) {
+    app->accountScreens->ShowLoginScreen();
+    app->controls.SetTicked("frmInteken.chkTOS"_L1, true);
+    app->controls.SetSelected("frmInteken.lstAccounts"_L1, -1);
+    app->commands.Run(u"frmInteken.cmdContinue_Click"_s);
+    EXPECT_EQ(dialogs.Texts(), QStringList{u"Please select an account to log in with"_s});
+    EXPECT_EQ(app->state.AccountEmail, QString());
+}
+
+// A list of blank lines alone is not an empty list, though there is nothing to choose.
+TEST_F(AccountScreensTest, BlankLinesAreEntriesOfTheLoginScreenAlone) {
+    app->files.WriteBytes(app->accountFile->Path(), "\r\n  \r\n");
+    app->accountScreens->ShowLoginScreen();
+    EXPECT_EQ(app->controls.Items("frmInteken.lstAccounts"_L1).size(), 2);
+    dialogs.onModal[u"frmSwitchAccount"_s] = [this] {
+        EXPECT_TRUE(app->controls.Items("frmSwitchAccount.lstAccounts"_L1).isEmpty());
+        EXPECT_TRUE(app->controls["frmSwitchAccount.cmdOK"_L1].enabled);
+        app->commands.Run(u"frmSwitchAccount.cmdOK_Click"_s);
+    };
+    app->commands.Run(u"mnuSwitchLogin_Click"_s);
+    EXPECT_EQ(app->state.CurrentAction, QString());
+}
+
+} // namespace
+} // namespace qlm
