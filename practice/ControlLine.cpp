@@ -86,6 +86,13 @@ void SetAccount(World& world, Arguments& args) {
     world.AddAccount(mail, password, id);
 }
 
+void SetSignIn(World& world, Arguments& args) {
+    const QString name = args.Word();
+    args.End();
+    if (!SignInDesignNamed(name, world.signInDesign))
+        throw BadControl(u"unknown design: "_s + name);
+}
+
 void SetLimit(World& world, Arguments& args) {
     args.Expect("friend-requests"_L1);
     std::optional<int> limit;
@@ -185,6 +192,7 @@ void SetJournal(World& world, Arguments& args) {
 void Reset(World& world, Arguments& args) {
     args.End();
     world.accounts.Restore();
+    world.signInDesign = SignInDesign::Ids;
     world.faults.Clear();
     world.journal = Journal();
     world.Sow(world.firstSeed);
@@ -208,6 +216,7 @@ struct ControlRow {
 constexpr std::array controlRows{
     ControlRow{"seed"_L1, SetSeed},
     ControlRow{"account"_L1, SetAccount},
+    ControlRow{"sign-in"_L1, SetSignIn},
     ControlRow{"limit"_L1, SetLimit},
     ControlRow{"share"_L1, SetShare},
     ControlRow{"outcome"_L1, SetOutcome},

@@ -5,6 +5,7 @@
 #include "pages/CaptchaPages.h"
 #include "pages/NoticePages.h"
 #include "pages/RequestPages.h"
+#include "pages/SignInDetours.h"
 
 namespace qlm::practice {
 
@@ -79,6 +80,15 @@ Response AnswerThrough(const Fault& fault, Visit& visit, Handler handler) {
         return Broken(Response::Fault::NoBody);
     case FaultKind::Wrong:
         return WrongPage(visit);
+    case FaultKind::Advert:
+    case FaultKind::Moving:
+    case FaultKind::Foreign:
+    case FaultKind::Return:
+    case FaultKind::Welcome:
+    case FaultKind::Cached:
+    case FaultKind::Birthday:
+    case FaultKind::Certificate:
+        return SignInDetour(visit, fault.kind, handler);
     }
     return handler(visit);
 }

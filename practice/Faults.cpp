@@ -15,13 +15,17 @@ struct FaultRow {
 };
 
 constexpr std::array faultRows{
-    FaultRow{FaultKind::Slow, "slow"_L1},       FaultRow{FaultKind::Hang, "hang"_L1},
-    FaultRow{FaultKind::Reset, "reset"_L1},     FaultRow{FaultKind::NoBody, "nobody"_L1},
-    FaultRow{FaultKind::Error, "error"_L1},     FaultRow{FaultKind::LoggedOut, "loggedout"_L1},
-    FaultRow{FaultKind::Limit, "limit"_L1},     FaultRow{FaultKind::Captcha, "captcha"_L1},
-    FaultRow{FaultKind::Alert, "alert"_L1},     FaultRow{FaultKind::Unload, "unload"_L1},
-    FaultRow{FaultKind::Endless, "endless"_L1}, FaultRow{FaultKind::Wrong, "wrong"_L1},
-    FaultRow{FaultKind::Lost, "lost"_L1},       FaultRow{FaultKind::Blank, "blank"_L1},
+    FaultRow{FaultKind::Slow, "slow"_L1},         FaultRow{FaultKind::Hang, "hang"_L1},
+    FaultRow{FaultKind::Reset, "reset"_L1},       FaultRow{FaultKind::NoBody, "nobody"_L1},
+    FaultRow{FaultKind::Error, "error"_L1},       FaultRow{FaultKind::LoggedOut, "loggedout"_L1},
+    FaultRow{FaultKind::Limit, "limit"_L1},       FaultRow{FaultKind::Captcha, "captcha"_L1},
+    FaultRow{FaultKind::Alert, "alert"_L1},       FaultRow{FaultKind::Unload, "unload"_L1},
+    FaultRow{FaultKind::Endless, "endless"_L1},   FaultRow{FaultKind::Wrong, "wrong"_L1},
+    FaultRow{FaultKind::Advert, "advert"_L1},     FaultRow{FaultKind::Moving, "moving"_L1},
+    FaultRow{FaultKind::Foreign, "foreign"_L1},   FaultRow{FaultKind::Return, "return"_L1},
+    FaultRow{FaultKind::Welcome, "welcome"_L1},   FaultRow{FaultKind::Cached, "cached"_L1},
+    FaultRow{FaultKind::Birthday, "birthday"_L1}, FaultRow{FaultKind::Certificate, "certificate"_L1},
+    FaultRow{FaultKind::Lost, "lost"_L1},         FaultRow{FaultKind::Blank, "blank"_L1},
 };
 
 QString Bare(const QString& prefix) {

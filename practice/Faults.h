@@ -23,6 +23,15 @@ enum class FaultKind {
     Wrong,     ///< quite another page
     Lost,      ///< the page is run, and the connection breaks before its answer arrives
     Blank,     ///< the page is run, and an empty answer arrives
+    // Pages that may come in the middle of a sign-in.
+    Advert,      ///< an advertisement that wants to be skipped
+    Moving,      ///< a notice that players are moving
+    Foreign,     ///< a sign-in page that isn't in English
+    Return,      ///< a page that only leads back
+    Welcome,     ///< a page that only says that one is signed in
+    Cached,      ///< the page of somebody who is signed in, out of a cache
+    Birthday,    ///< a question about birthdays
+    Certificate, ///< a warning about the certificate
 };
 
 std::optional<FaultKind> FaultNamed(const QString& name);

@@ -32,6 +32,7 @@ struct World;
 ///
 ///     seed N                         new people; who was asked is forgotten
 ///     account MAIL PASSWORD ID       adds or changes an account
+///     sign-in DESIGN                 ids, splash, names, button, image, link, element or get
 ///     limit friend-requests N|off    requests of one account in a day before the limit page
 ///     share OUTCOME PERCENT          how many profiles answer so
 ///     outcome ID OUTCOME             how one profile answers
@@ -42,7 +43,9 @@ struct World;
 ///     fault ADDRESS KIND [MS] [times N] | fault ADDRESS off
 ///                                    ADDRESS is the beginning of an address, or a whole one with "$" behind;
 ///                                    KIND: slow MS, hang, reset, nobody, error, loggedout, limit, captcha,
-///                                    alert, unload, endless, wrong, lost, blank
+///                                    alert, unload, endless, wrong, lost, blank; and what comes between a
+///                                    sign-in and the home page: advert, moving, foreign, return, welcome,
+///                                    cached, birthday, certificate
 ///     journal visits|times on|off    logout-all          clear-faults          reset
 ///
 /// Over the wire they stand at the control host: POST /control, GET /journal, POST /journal/take.

@@ -7,6 +7,7 @@
 #include "FriendRequests.h"
 #include "Journal.h"
 #include "People.h"
+#include "SignInDesigns.h"
 
 #include <QDateTime>
 #include <functional>
@@ -28,6 +29,7 @@ struct World {
     FriendLists friends;
     FriendRequests requests;
     Accounts accounts;
+    SignInDesign signInDesign = SignInDesign::Ids;
     Faults faults;
     Journal journal;
 };

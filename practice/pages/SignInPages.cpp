@@ -4,6 +4,7 @@
 #include "../Frame.h"
 #include "../Html.h"
 #include "../MiniProfile.h"
+#include "../SignInDesigns.h"
 #include "NoticePages.h"
 
 namespace qlm::practice {
@@ -21,7 +22,7 @@ QString SomeFaces(const World& world) {
     return faces;
 }
 
-// The form's fields have long names that begin with the control they stand in; only their ends matter.
+// Most designs' fields have long names that begin with the control they stand in; only their ends matter.
 QString FieldEndingIn(const Fields& form, const QString& end) {
     for (auto field = form.constBegin(); field != form.constEnd(); ++field)
         if (field.key().endsWith(end))
@@ -50,22 +51,13 @@ Look around as long as you like.</p></div></div>
 <div class="box"><h2>Cool New People</h2><div class="in faces">{!faces}</div></div>
 </div><div class="col">
 <div class="box login"><h2>Member Login</h2><div class="in">{!note}
-<form method="post" action="{action}" id="loginForm">
-<p><label for="ctl00_Main_Email_Textbox">E-Mail:</label>
-<input type="text" id="ctl00_Main_Email_Textbox" name="ctl00$Main$Email_Textbox" value=""></p>
-<p><label for="ctl00_Main_Password_Textbox">Password:</label>
-<input type="password" id="ctl00_Main_Password_Textbox" name="ctl00$Main$Password_Textbox" value=""></p>
-<p class="check"><input type="checkbox" id="rememberTray" name="remember">
-<label for="rememberTray">Remember me</label></p>
-<p class="go"><input type="submit" class="button" id="ctl00_Main_loginBtn" name="ctl00$Main$loginBtn"
- value="Log In"></p>
-</form>
+{!form}
 <ul class="links"><li><a href="{forgot}">Forgot your password?</a></li><li><a href="{signup}">Sign Up!</a>
 </li></ul>
 </div></div></div></div>)",
              {{u"faces", SomeFaces(visit.world)},
               {u"note", note},
-              {u"action", Url(Role::Login, u"/index.cfm?fuseaction=login.process"_s)},
+              {u"form", SignInForm(visit.world.signInDesign)},
               {u"forgot", Url(Role::Login, u"/index.cfm?fuseaction=user.retrievepassword"_s)},
               {u"signup", Url(Role::SiteRoot, u"/signup"_s)}});
     return Framed(visit, {.title = u"Welcome"_s, .main = main, .tab = u"Home"_s});
@@ -76,10 +68,12 @@ Response LoginPage(Visit& visit) {
 }
 
 Response LoginProcess(Visit& visit) {
-    if (!visit.IsPost())
+    const Fields& sent = visit.IsPost() ? visit.form : visit.address.query;
+    const SignInFields fields = FieldsOf(visit.world.signInDesign);
+    if (!visit.IsPost() && FieldEndingIn(sent, fields.mail).isEmpty())
         return LoginPage(visit);
-    const QString mail = FieldEndingIn(visit.form, u"email_textbox"_s).trimmed();
-    const QString password = FieldEndingIn(visit.form, u"password_textbox"_s);
+    const QString mail = FieldEndingIn(sent, fields.mail).trimmed();
+    const QString password = FieldEndingIn(sent, fields.password);
     const Account* account = visit.world.accounts.Check(mail, password);
     if (!account) {
         visit.world.journal.Write(u"wrong-password "_s + mail.simplified());
