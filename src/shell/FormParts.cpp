@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "shell/FormParts.h"
 
+#include <QAbstractItemModel>
 #include <QDialogButtonBox>
 #include <QLineEdit>
+#include <QListView>
 
 namespace qlm {
 
@@ -40,6 +42,14 @@ QLabel* NewText(const QString& text, const QString& look) {
     label->setWordWrap(true);
     label->setProperty("look", look);
     return label;
+}
+
+void HintOnRows(QListView& list, QLabel& hint, std::function<bool()> isWanted) {
+    auto show = [&hint, isWanted = std::move(isWanted)] { hint.setVisible(isWanted()); };
+    QObject::connect(list.model(), &QAbstractItemModel::modelReset, &hint, show);
+    QObject::connect(list.model(), &QAbstractItemModel::rowsInserted, &hint, show);
+    QObject::connect(list.model(), &QAbstractItemModel::rowsRemoved, &hint, show);
+    show();
 }
 
 QDialogButtonBox* NewButtonRow(std::initializer_list<QPushButton*> buttons) {

@@ -3,10 +3,12 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <functional>
 #include <initializer_list>
 
 class QDialogButtonBox;
 class QLineEdit;
+class QListView;
 
 namespace qlm {
 
@@ -31,6 +33,9 @@ QLineEdit* NewLine(QLatin1StringView name, const QString& accessibleName);
 QLabel* NewLabel(QLatin1StringView name, const QString& look = {});
 // A fixed text that wraps.
 QLabel* NewText(const QString& text, const QString& look = {});
+
+// Shows the hint while isWanted answers so; asks when the rows of the bound list change.
+void HintOnRows(QListView& list, QLabel& hint, std::function<bool()> isWanted);
 
 // A row of buttons at the foot of a form; the first is the default one. Buttons named "cmdCancel" and
 // "cmdClose" take the place of those.

@@ -8,7 +8,6 @@
 #include "shell/TickBox.h"
 #include "shell/WindowDialogs.h"
 
-#include <QAbstractItemModel>
 #include <QBoxLayout>
 #include <QListView>
 
@@ -79,14 +78,10 @@ frmInteken::frmInteken(const FormContext& context)
 }
 
 void frmInteken::Bound() {
-    connect(m_list->model(), &QAbstractItemModel::modelReset, this, [this] { ShowHint(); });
-    connect(m_list->model(), &QAbstractItemModel::rowsInserted, this, [this] { ShowHint(); });
-    ShowHint();
-}
-
-void frmInteken::ShowHint() {
-    const QStringList& accounts = m_app.controls.Items("frmInteken.lstAccounts"_L1);
-    m_hint->setVisible(accounts.isEmpty() || accounts.first() == "No Accounts added..."_L1);
+    HintOnRows(*m_list, *m_hint, [this] {
+        const QStringList& accounts = m_app.controls.Items("frmInteken.lstAccounts"_L1);
+        return accounts.isEmpty() || accounts.first() == "No Accounts added..."_L1;
+    });
 }
 
 void frmInteken::UserCloses() {

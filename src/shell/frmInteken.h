@@ -19,8 +19,6 @@ protected:
     void Bound() override;
 
 private:
-    void ShowHint();
-
     QListView* m_list;
     QLabel* m_hint; // what to do first, while there is no account
 };
