@@ -319,7 +319,7 @@ bool Trial::AnswerCaptcha() {
         m_answerAtMs = m_world.clock.NowMs() + m_dice.Between(4, 25) * 1000;
     const Document document = m_app->WebBrowser1().Document();
     const Element field = document.IsNull() ? Element() : document.GetElementById(u"captchaText"_s);
-    if (m_world.clock.NowMs() < m_answerAtMs || field.IsNull())
+    if (m_world.clock.NowMs() < m_answerAtMs || field.IsNull() || m_app->WebBrowser1().Busy())
         return true;
     m_answerAtMs = -1;
     const bool errs = m_dice.Happens(300);
