@@ -17,6 +17,7 @@ add_library(quillmere_logic STATIC
     core/MainForm.cpp
     core/PasswordMask.cpp
     core/ProductServer.cpp
+    core/Registry.cpp
     core/SettingsFields.cpp
     core/StartUp.cpp
     core/StopResume.cpp

@@ -4,6 +4,7 @@
 #include "accounts/AccountFile.h"
 #include "accounts/LoginFlow.h"
 #include "core/App.h"
+#include "core/Text.h"
 
 namespace qlm {
 
@@ -34,6 +35,12 @@ const AccountScreen& SwitchScreen() {
         "FillAccountsList - frmSwitchAccount",
         "cmdDelete_Click - frmSwitchAccount"};
     return screen;
+}
+
+bool NamesMissingLibrary(const QString& error) {
+    static const QStringList libraries{u"MSCOMCTL"_s, u"COMDLG32"_s, u"ieframe"_s, u"MyFramePanel"_s};
+    return std::any_of(libraries.begin(), libraries.end(),
+                       [&error](const QString& library) { return Has(error, library); });
 }
 
 } // namespace
@@ -154,10 +161,17 @@ void AccountScreens::cmdContinue_Click() {
     // A double click on the list comes here too, also while the main window is already being loaded.
     if (!m_app.controls["frmInteken.cmdContinue"_L1].enabled)
         return;
-    m_app.diagnostics.Trap("cmdContinue_Click", [this] {
+    const QString error = m_app.diagnostics.Trap("cmdContinue_Click", [this] {
         if (MayContinue())
             Continue();
     });
+    if (error.isEmpty())
+        return;
+    if (NamesMissingLibrary(error))
+        m_app.ShowMessage(
+            u"One of the files that Quillmere needs to run has been corrupted. Please reinstall this program."_s);
+    m_app.controls.SetText("frmInteken.cmdContinue"_L1, u"Continue"_s);
+    m_app.controls.SetEnabled("frmInteken.cmdContinue"_L1, true);
 }
 
 void AccountScreens::Continue() {

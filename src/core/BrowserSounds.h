@@ -20,8 +20,11 @@ public:
 
 private:
     void mnuDisableBrowserSounds_Click();
+    QString Sound() const;
+    void SetSound(const QString& sound);
 
     App& m_app;
+    QString m_taken; // by this run; empty when it has taken none
 };
 
 } // namespace qlm

@@ -30,6 +30,12 @@ Control& Controls::Get(QLatin1StringView name) {
     return const_cast<Control&>(std::as_const(*this)[name]);
 }
 
+void Controls::ListBoxToArray(QLatin1StringView name, QStringList& array) const {
+    array = Items(name);
+    if (array.isEmpty())
+        array = {QString()};
+}
+
 QString Controls::SelectedText(QLatin1StringView name) const {
     const Control& control = (*this)[name];
     return control.items.value(control.selected);

@@ -80,6 +80,8 @@ public:
     bool Ticked(QLatin1StringView name) const { return (*this)[name].ticked; }
     int Selected(QLatin1StringView name) const { return (*this)[name].selected; }
     const QStringList& Items(QLatin1StringView name) const { return (*this)[name].items; }
+    // Copies the rows of a list; an empty list gives the empty array, which is one entry "".
+    void ListBoxToArray(QLatin1StringView name, QStringList& array) const;
     // Text of the selected row; empty when there is none.
     QString SelectedText(QLatin1StringView name) const;
 

@@ -299,6 +299,7 @@ const std::vector<ControlRow>& Controls::Table() {
         {"frmRunReport.lblProblem", Label},
         {"frmRunReport.cmdSaveCSV", Button, "", "", "", u"Save as CSV..."},
         {"frmRunReport.cmdClose", Button, "", "", "", u"Close"},
+        {"frmStarting.cmdClose", Button, "", "", "", u"Close"},
         {"frmTempMySpaceErrorFR.chkDontShowAgain", CheckBox, "", "", "", u"Don't show again"},
         {"frmTempMySpaceErrorFR.cmdOK", Button, "", "", "", u"OK"},
     };

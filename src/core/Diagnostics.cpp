@@ -3,6 +3,7 @@
 
 #include "core/Activities.h"
 #include "core/App.h"
+#include "core/Registry.h"
 
 #include <QRegularExpression>
 #include <QScopedValueRollback>
@@ -26,6 +27,21 @@ QString WithGroups(const QString& replacement, const QRegularExpressionMatch& ma
         }
     }
     return filled;
+}
+
+// The numbers by which support knows the kinds of errors: the browser's, a file's, any other.
+int ErrorNumber(const std::exception& error) {
+    if (dynamic_cast<const BrowserError*>(&error))
+        return 440;
+    if (dynamic_cast<const FileError*>(&error))
+        return 75;
+    return 5;
+}
+
+QString BrowserVersion(App& app) {
+    return modRegistry(app.platform.Settings())
+        .ReadString(modRegistry::Root::CurrentUser, u"Software\\Microsoft\\Internet Explorer"_s, u"Version"_s,
+                    u"x"_s);
 }
 } // namespace
 
@@ -92,7 +108,7 @@ QString Diagnostics::RegExpReplace(const QString& text, const QString& pattern, 
     return replaced + text.mid(end);
 }
 
-void Diagnostics::ReportError(const QString& procedure, const QString& description, const QString& line,
+void Diagnostics::ReportError(const QString& procedure, const std::exception& error, const QString& line,
                               const QString& data) {
     // An error while reporting must not report itself again.
     if (m_reporting)
@@ -104,8 +120,9 @@ void Diagnostics::ReportError(const QString& procedure, const QString& descripti
                             u"Time: "_s + m_app.NowText(),
                             u"Version: "_s + m_app.Version(),
                             u"PI: "_s + CleanText(Masked(address)),
-                            u"IEV: "_s + QString::fromLatin1(qVersion()),
-                            u"Error: 0  -  "_s + CleanText(Masked(description)),
+                            u"IEV: "_s + CleanText(BrowserVersion(m_app)),
+                            u"Error: "_s + QString::number(ErrorNumber(error)) + u"  -  "_s +
+                                CleanText(Masked(QString::fromUtf8(error.what()))),
                             u"Proc: "_s + procedure,
                             u"Line: "_s + line,
                             u"Data: "_s + CleanText(Masked(data))};

@@ -28,7 +28,7 @@ public:
     void DebugForAction(const QString& text);
 
     // Appends a block to the error log and shows frmError, that once in a program run.
-    void ReportError(const QString& procedure, const QString& description, const QString& line = {},
+    void ReportError(const QString& procedure, const std::exception& error, const QString& line = {},
                      const QString& data = {});
 
     // Runs the body of a procedure; an exception is reported under the procedure's name and ends it there.
@@ -39,9 +39,8 @@ public:
         } catch (const ProgramEnding&) {
             throw;
         } catch (const std::exception& error) {
-            const QString description = QString::fromUtf8(error.what());
-            ReportError(QString::fromLatin1(procedure), description);
-            return description;
+            ReportError(QString::fromLatin1(procedure), error);
+            return QString::fromUtf8(error.what());
         }
         return {};
     }
@@ -52,7 +51,7 @@ public:
         } catch (const ProgramEnding&) {
             throw;
         } catch (const std::exception& error) {
-            ReportError(QString::fromLatin1(procedure), QString::fromUtf8(error.what()), {}, data());
+            ReportError(QString::fromLatin1(procedure), error, {}, data());
         }
     }
     // For procedures that answer their own errors: onError gets the error's text.

@@ -3,6 +3,7 @@
 
 #include "core/App.h"
 #include "core/MainForm.h"
+#include "core/Registry.h"
 #include "core/SettingsFields.h"
 
 #include <QSet>
@@ -68,7 +69,7 @@ void GlobalSettings::mnuResetSettings_Click() {
     const QString title = u"Reset Settings"_s;
     if (!m_app.AskYesNo(u"Are you sure you want to reset all your Quillmere settings?"_s, title))
         return;
-    m_app.platform.Settings().DeleteEverything();
+    modRegistry(m_app.platform.Settings()).DeleteKey(modRegistry::Root::CurrentUser, modRegistry::AppBranch);
     m_app.platform.Settings().Sync();
     m_app.state.blnNoSaveOnExit = true;
     m_app.ShowMessage(u"Please restart the program for the changes to take effect.\n\nQLM will now close."_s,

@@ -26,8 +26,16 @@ std::optional<QDate> ParseDate(const QString& text) {
     return date.isValid() ? std::optional(date) : std::nullopt;
 }
 
+// The user may have closed the program while it waited.
+std::optional<QString> ProductServer::Ask(const QString& url) {
+    std::optional<QString> answer = m_app.platform.Http().Get(url);
+    if (m_app.state.blnClosing)
+        throw ProgramEnding();
+    return answer;
+}
+
 QString ProductServer::HTTPGet(const QString& url) {
-    const std::optional<QString> answer = m_app.platform.Http().Get(url);
+    const std::optional<QString> answer = Ask(url);
     if (answer)
         return *answer;
     m_app.ShowMessage(
@@ -41,7 +49,7 @@ QString ProductServer::HTTPGet(const QString& url) {
 }
 
 QString ProductServer::TestGet(const QString& url) {
-    return m_app.platform.Http().Get(url).value_or(u"try alternate server"_s);
+    return Ask(url).value_or(u"try alternate server"_s);
 }
 
 void ProductServer::CheckVersion() {

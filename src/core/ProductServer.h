@@ -31,6 +31,7 @@ public:
     qint32 TimeDiff();
 
 private:
+    std::optional<QString> Ask(const QString& url);
     QString DateAndTime();
 
     App& m_app;

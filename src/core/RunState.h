@@ -66,7 +66,8 @@ struct RunState {
 
     // Chaining of accounts.
     bool blnChaining = false;
-    QString ChainedCampaign; // "FR", "MSG" or "BUL"
+    QString ChainedCampaign;       // "FR", "MSG" or "BUL"
+    bool SwitchingAccount = false; // the next start of a campaign goes on behind a change of account
 
     // Ending the program.
     bool blnExitWhenFinished = false;

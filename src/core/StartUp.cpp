@@ -3,6 +3,7 @@
 
 #include "accounts/AccountScreens.h"
 #include "core/App.h"
+#include "core/MainForm.h"
 #include "core/ProductServer.h"
 #include "core/Text.h"
 
@@ -12,24 +13,38 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int LocalApplicationData = 28;
+constexpr int PatienceMs = 1000;
+const QString Notice = u"frmStarting"_s;
+} // namespace
+
+StartUp::StartUp(App& app) : m_app(app), m_slowServer(app.platform.Pump().Queue(), PatienceMs, false) {
+    // A server that says nothing may take its whole time limit, twice; nobody should look at an empty screen.
+    m_slowServer.SetHandler([this] {
+        m_slowServer.SetEnabled(false);
+        m_app.platform.Dialogs().ShowForm(Notice);
+    });
+    app.commands.Add(Notice + u".cmdClose_Click"_s, [this] { m_app.mainForm->Unload(); });
 }
 
 void StartUp::Main() {
     try {
         SettleFolders();
+        m_slowServer.Restart();
         m_app.diagnostics.Trap("TestServerOnline", [this] { TestServerOnline(); });
         LookUpServer();
+        m_slowServer.SetEnabled(false);
         if (m_app.deployment.UsesPracticeSite())
             m_app.controls.SetText(
                 "frmInteken.lblPracticeSite"_L1,
                 u"This program works on its own practice site. Sign in there as a@example.com (to "
                 "j@example.com) with the password \"secret\"."_s);
         m_app.diagnostics.Trap("Main", [this] { m_app.accountScreens->ShowLoginScreen(); });
+        m_app.platform.Dialogs().CloseForm(Notice);
         if (const QString problem = m_app.platform.Settings().TakeProblem(); !problem.isEmpty())
             m_app.ShowMessage(problem);
     } catch (const ProgramEnding&) {
-        // The product server could not be reached; the user has been told.
-        return;
+        // The product server could not be reached and the user has been told, or he would not wait for it.
+        m_slowServer.SetEnabled(false);
     }
 }
 

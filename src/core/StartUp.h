@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/MessageQueue.h"
+
 #include <QString>
 
 namespace qlm {
@@ -11,7 +13,7 @@ class App;
 // screen.
 class StartUp {
 public:
-    explicit StartUp(App& app) : m_app(app) {}
+    explicit StartUp(App& app);
 
     // Called once by main, before the message loop. A failure of one step doesn't stop the next.
     void Main();
@@ -25,6 +27,7 @@ private:
     void Launch(const QString& mark);
 
     App& m_app;
+    Timer m_slowServer; // runs while the product server is asked; shows frmStarting
 };
 
 } // namespace qlm

@@ -73,6 +73,7 @@ void StopResume::StopAll(const QString& reason) {
     state.blnComparingIDs = false;
     state.blnRetryGatherPage = false;
     state.intGatherRetryTicks = 0;
+    state.SwitchingAccount = false;
     state.blnSkipCurrentID = false;
     state.blnBulletinDeleting = false;
     state.blnCommentFormShown = false;
@@ -110,8 +111,15 @@ void StopResume::SkipProfile() {
     }
     state.blnSkipRequested = true;
     for (const SkipRow& row : SkipRows)
-        if (state.CurrentAction == row.action)
+        if (state.CurrentAction == row.action) {
             SkipTo(m_app, row);
+            return;
+        }
+    // An account of a chain that can't be logged in.
+    if (state.CurrentAction == u"LOGIN"_s && state.blnChaining) {
+        m_app.diagnostics.DebugForAction(u"Skip"_s);
+        HandOverInChain();
+    }
 }
 
 void StopResume::PauseLinkCheck() {

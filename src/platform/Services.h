@@ -49,9 +49,12 @@ public:
     virtual QString GetSetting(const QString& section, const QString& key, const QString& fallback) const = 0;
     virtual void SaveSetting(const QString& section, const QString& key, const QString& value) = 0;
     virtual bool HasSection(const QString& section) const = 0;
+    // Every section that holds a value of its own.
+    virtual QStringList Sections() const = 0;
+    // The keys of a section, not of those below it.
+    virtual QStringList Keys(const QString& section) const = 0;
     // Deletes the section and all below it.
     virtual void DeleteSetting(const QString& section) = 0;
-    virtual void DeleteEverything() = 0;
     // Makes what was saved so far durable.
     virtual void Sync() = 0;
     // A message for the user when the stored settings could not be read as they stood; empty otherwise.

@@ -14,6 +14,7 @@ QSize ElidedLabel::minimumSizeHint() const {
 
 void ElidedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    drawFrame(&painter); // the background of a style sheet, too
     QString shown = text();
     if (shown.isEmpty()) {
         shown = m_placeholder;

@@ -42,6 +42,7 @@ constexpr MenuRow Rows[] = {
     {Kind::Item, "mnuOptions", "mnuExitWhenFinished", u"Exit When &Finished"},
     {Kind::Item, "mnuOptions", "mnuExit", u"E&xit", "Ctrl+Q"},
     {Kind::Menu, "", "mnuHelp", u"&Help"},
+    {Kind::Tick, "mnuHelp", "mnuDisableBrowserSounds", u"&Disable Browser Sounds"},
     {Kind::Item, "mnuHelp", "mnuResetSettings", u"&Reset Settings..."},
     {Kind::Item, "mnuHelp", "mnuSaveScreenshot", u"&Save screenshot and page source..."},
     {Kind::Tick, "mnuHelp", "mnuEnableLogging", u"&Enable logging for support"},

@@ -42,6 +42,10 @@ const std::vector<Notice>& Notices() {
          u"depending on the speed of your internet connection.\n"
          u"If 'Quick Gather' is selected, those ID's will be skipped during the gathering process.",
          false},
+        {"frmStarting", u"Quillmere", u"Quillmere is starting",
+         u"The product server is being asked for news and has not answered yet. After a minute at most the "
+         u"login screen comes up, or a message says what is wrong.\nClose ends Quillmere.",
+         false},
         {"frmTempMySpaceErrorFR", u"Friend Requests", u"",
          u"A current issue on MySpace's end is causing friend requests for some accounts to redirect to an "
          u"error page "

@@ -80,6 +80,19 @@ void ExpectAttention(Stage& stage, Arguments& arguments) {
     calls.erase(call);
 }
 
+// expect opened folder PATH | file PATH | address URL | none
+void Opened(Stage& stage, Arguments& arguments) {
+    const QString kind = arguments.Take("folder, file, address or none");
+    QStringList& opened = stage.Opened();
+    if (kind == u"none") {
+        ExpectText(u"what was opened"_s, {}, opened.join(u", "_s));
+        return;
+    }
+    const QString what = arguments.Take("the path or address");
+    const QString seen = opened.isEmpty() ? u"nothing"_s : opened.takeFirst();
+    ExpectText(u"what was opened"_s, kind + u' ' + (kind == u"address" ? what : stage.Path(what)), seen);
+}
+
 void Focus(Stage& stage, Arguments& arguments) {
     const QString name = arguments.Take("the widget");
     const QWidget* wanted = stage.Widget(name);
@@ -142,6 +155,7 @@ const CommandRows& ExpectingWindowCommands() {
         {"expect no form", NoForm},
         {"expect cover", Cover},
         {"expect attention", ExpectAttention},
+        {"expect opened", Opened},
         {"expect focus", Focus},
         {"expect status", Status},
         {"expect action", Action},

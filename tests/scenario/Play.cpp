@@ -137,6 +137,7 @@ bool Play::GoalHolds(bool atRest) {
 }
 
 void Play::OnPump() {
+    ++m_turns;
     if (m_ownTurn) {
         m_ownTurn = false;
         return;
@@ -205,6 +206,7 @@ void Play::PopFinishedFrames() {
 
 void Play::Execute(const Command& command) {
     m_current = &command;
+    ++m_commands;
     m_commandStartMs = m_stage.NowMs();
     if (trace)
         std::fprintf(stderr, "%10.3f  %s:%d  %s\n", static_cast<double>(m_commandStartMs) / 1000.0,

@@ -44,6 +44,9 @@ public:
     // Ends the program's process without any unloading and goes on with the script.
     void Kill();
     bool InsideAProgramCall() const { return m_level > 0; }
+    // Commands of the script so far, and turns of the program's message loop.
+    qint64 Commands() const { return m_commands; }
+    qint64 Turns() const { return m_turns; }
     const Command* Current() const { return m_current; }
 
     // For what the program calls.
@@ -91,6 +94,8 @@ private:
     QString m_stopAt;
     const Command* m_current = nullptr;
     int m_level = 0;
+    qint64 m_commands = 0;
+    qint64 m_turns = 0;
     bool m_ownTurn = false;
     bool m_scriptIsOver = false;
     qint64 m_commandStartMs = 0;

@@ -67,9 +67,12 @@ void Fault(Stage& stage, Arguments& arguments) {
 
 void Http(Stage& stage, Arguments& arguments) {
     const QString url = arguments.Take("the address");
-    // The word without quotes fails; an answer that reads so can be given as <<END lines.
-    if (arguments.Source().source.endsWith(u" fail") && arguments.TakeWord("fail"_L1))
+    // The words without quotes are faults; an answer that reads so can be given as <<END lines.
+    const QString& source = arguments.Source().source;
+    if (source.endsWith(u" fail") && arguments.TakeWord("fail"_L1))
         stage.world.http.Fail(WithScheme(url));
+    else if (source.endsWith(u" hang") && arguments.TakeWord("hang"_L1))
+        stage.world.http.Hang(WithScheme(url));
     else
         stage.world.http.Set(WithScheme(url), arguments.Take("the answer"));
 }

@@ -34,6 +34,8 @@ public:
     SimPump& ThePump() { return m_platform->Pump(); }
     SimBrowser& Browser(BrowserName name) { return m_platform->Browser(name); }
     QStringList& AttentionCalls() { return m_platform->Attention().calls; }
+    // What the desktop was asked to open: "folder PATH", "address URL", "file PATH".
+    QStringList& Opened() { return m_platform->Shell().opened; }
     qint64 NowMs() const { return world.clock.NowMs(); }
 
     void Start();

@@ -61,6 +61,7 @@ const QHash<QString, Field>& Fields() {
         {u"blnNewLayout"_s, &RunState::blnNewLayout},
         {u"blnChaining"_s, &RunState::blnChaining},
         {u"ChainedCampaign"_s, &RunState::ChainedCampaign},
+        {u"SwitchingAccount"_s, &RunState::SwitchingAccount},
         {u"blnExitWhenFinished"_s, &RunState::blnExitWhenFinished},
         {u"blnClosing"_s, &RunState::blnClosing},
         {u"blnNoSaveOnExit"_s, &RunState::blnNoSaveOnExit},

@@ -5,24 +5,37 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <cstdio>
+#include <ctime>
 
 namespace {
 
 using namespace qlm::scenario;
 using namespace Qt::Literals::StringLiterals;
 
-constexpr int TrailLines = 10;
-
 struct Options {
     QStringList files;
     QString filter;
     bool list = false;
     bool trace = false;
+    bool figures = false;
+    int trailLines = 10; // of each debug file, shown with a failure
 };
 
-const char Usage[] = "quillmere-scenario [--list] [--filter TEXT] [--trace] FILE...\n";
+const char Usage[] =
+    "quillmere-scenario [--list] [--filter TEXT] [--trace] [--trail LINES] [--figures] FILE...\n";
+
+// How much was played, and what that took on this machine.
+struct Figures {
+    qint64 commands = 0;
+    qint64 turns = 0; // of the program's message loop
+    qint64 virtualMs = 0;
+    double seconds = 0;
+    double processorSeconds = 0;
+};
 
 void Say(const QString& text) {
     std::fputs(qUtf8Printable(text + u'\n'), stdout);
@@ -37,6 +50,10 @@ std::optional<Options> ReadOptions(QStringList arguments) {
             options.list = true;
         else if (word == u"--trace")
             options.trace = true;
+        else if (word == u"--figures")
+            options.figures = true;
+        else if (word == u"--trail" && !arguments.isEmpty())
+            options.trailLines = arguments.takeFirst().toInt();
         else if (word == u"--filter" && !arguments.isEmpty())
             options.filter = arguments.takeFirst();
         else if (word.startsWith(u"--") && word != u"--browser=sim")
@@ -61,16 +78,28 @@ void Report(const QString& file, const ScenarioFailure& failure, const QString& 
     Say(u"  repeat: quillmere-scenario --trace "_s + file);
 }
 
-bool RunOne(const QString& file, const Options& options) {
+bool RunOne(const QString& file, const Options& options, Figures& figures) {
+    QElapsedTimer timer;
+    timer.start();
+    const std::clock_t processor = std::clock();
+    const auto addTime = qScopeGuard([&] {
+        figures.seconds += static_cast<double>(timer.nsecsElapsed()) / 1e9;
+        figures.processorSeconds += static_cast<double>(std::clock() - processor) / CLOCKS_PER_SEC;
+    });
     try {
         const std::vector<Command> script = ParseScenarioFile(file);
         Stage stage;
         Play play(stage, script);
         play.trace = options.trace;
         stage.play = &play;
-        if (const std::optional<ScenarioFailure> failure = play.Run()) {
+        const qint64 startMs = stage.NowMs();
+        const std::optional<ScenarioFailure> failure = play.Run();
+        figures.commands += play.Commands();
+        figures.turns += play.Turns();
+        figures.virtualMs += stage.NowMs() - startMs;
+        if (failure) {
             Report(file, *failure, play.Current() ? play.Current()->source : QString(),
-                   stage.DebugTrail(TrailLines));
+                   stage.DebugTrail(options.trailLines));
             return false;
         }
     } catch (const ScenarioFailure& failure) {
@@ -79,6 +108,22 @@ bool RunOne(const QString& file, const Options& options) {
     }
     Say(u"ok "_s + NameOf(file));
     return true;
+}
+
+void ReportFigures(const Figures& figures) {
+    auto msEach = [](double seconds, qint64 count) {
+        return QString::number(seconds * 1000 / static_cast<double>(std::max<qint64>(count, 1)), 'f', 4);
+    };
+    auto report = [&](const QString& what, qint64 count) {
+        Say(u"%1 %2: %3 ms each, %4 ms of the processor"_s.arg(count).arg(
+            what, msEach(figures.seconds, count), msEach(figures.processorSeconds, count)));
+    };
+    report(u"commands"_s, figures.commands);
+    report(u"turns of the message loop"_s, figures.turns);
+    Say(u"%1 h of the program's time in %2 s, %3 s of the processor"_s
+            .arg(static_cast<double>(figures.virtualMs) / 3'600'000, 0, 'f', 1)
+            .arg(figures.seconds, 0, 'f', 1)
+            .arg(figures.processorSeconds, 0, 'f', 1));
 }
 
 // The offscreen platform tells what it can't do with windows that nobody sees.
@@ -103,6 +148,7 @@ int main(int argc, char* argv[]) {
     }
     int passed = 0;
     int failed = 0;
+    Figures figures;
     for (const QString& file : options->files) {
         if (!file.contains(options->filter))
             continue;
@@ -110,9 +156,11 @@ int main(int argc, char* argv[]) {
             Say(NameOf(file));
             continue;
         }
-        ++(RunOne(file, *options) ? passed : failed);
+        ++(RunOne(file, *options, figures) ? passed : failed);
         std::fflush(stdout);
     }
+    if (options->figures)
+        ReportFigures(figures);
     if (!options->list)
         Say(u"%1 passed, %2 failed"_s.arg(passed).arg(failed));
     return failed == 0 ? 0 : 1;

@@ -22,6 +22,13 @@ QString Escaped(const QString& name) {
     return escaped;
 }
 
+QString Unescaped(const QString& name) {
+    if (name == u"%")
+        return {};
+    QString unescaped = name;
+    return unescaped.replace(u"%5C"_s, u"\\"_s).replace(u"%2F"_s, u"/"_s).replace(u"%25"_s, u"%"_s);
+}
+
 QString GroupOf(const QString& section) {
     QStringList names = section.split(u'\\');
     for (QString& name : names)
@@ -107,12 +114,30 @@ bool QtSettings::HasSection(const QString& section) const {
     return hasSection;
 }
 
-void QtSettings::DeleteSetting(const QString& section) {
-    m_file->remove(GroupOf(section));
+QStringList QtSettings::Sections() const {
+    QStringList sections;
+    for (const QString& path : m_file->allKeys()) {
+        QStringList names = path.split(u'/');
+        names.removeLast();
+        for (QString& name : names)
+            name = Unescaped(name);
+        sections += names.join(u'\\');
+    }
+    sections.removeDuplicates();
+    return sections;
 }
 
-void QtSettings::DeleteEverything() {
-    m_file->clear();
+QStringList QtSettings::Keys(const QString& section) const {
+    m_file->beginGroup(GroupOf(section));
+    QStringList keys = m_file->childKeys();
+    m_file->endGroup();
+    for (QString& key : keys)
+        key = Unescaped(key);
+    return keys;
+}
+
+void QtSettings::DeleteSetting(const QString& section) {
+    m_file->remove(GroupOf(section));
 }
 
 void QtSettings::Sync() {

@@ -18,8 +18,9 @@ public:
     QString GetSetting(const QString& section, const QString& key, const QString& fallback) const override;
     void SaveSetting(const QString& section, const QString& key, const QString& value) override;
     bool HasSection(const QString& section) const override;
+    QStringList Sections() const override;
+    QStringList Keys(const QString& section) const override;
     void DeleteSetting(const QString& section) override;
-    void DeleteEverything() override;
     void Sync() override;
     QString TakeProblem() override { return std::exchange(m_problem, {}); }
 

@@ -24,11 +24,13 @@ QString RecordingDialogs::NextFile() {
     return file;
 }
 
-QString RecordingDialogs::ChooseFileToOpen(const QString&, const QString&) {
-    return NextFile();
+QString RecordingDialogs::ChooseFileToOpen(const QString& title, const QString& filter) {
+    return ChooseFileToSave(title, {}, filter);
 }
 
-QString RecordingDialogs::ChooseFileToSave(const QString&, const QString&, const QString&) {
+QString RecordingDialogs::ChooseFileToSave(const QString& title, const QString& suggestedName,
+                                           const QString& filter) {
+    fileDialogs += title + u'\n' + suggestedName + u'\n' + filter;
     return NextFile();
 }
 

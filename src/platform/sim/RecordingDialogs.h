@@ -37,8 +37,10 @@ public:
     QStringList unanswered;
     std::deque<Answer> answers;
     std::deque<QString> files; // the next file dialogs' choices; empty text cancels
-    QStringList shownForms;    // in order, modal or not
-    QStringList windowTitles;  // open windows that CloseWindowTitled() can close
+    // What the file dialogs were opened with: title, suggested name and filter, on a line each.
+    QStringList fileDialogs;
+    QStringList shownForms;   // in order, modal or not
+    QStringList windowTitles; // open windows that CloseWindowTitled() can close
     // What happens in a modal form until it closes.
     std::map<QString, std::function<void()>> onModal;
 

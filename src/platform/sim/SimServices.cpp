@@ -9,14 +9,16 @@ using namespace Qt::Literals::StringLiterals;
 
 std::optional<QString> SimHttp::Get(const QString& url) {
     m_answers.asked += url;
-    const qint64 endMs = m_pump.NowMs() + m_answers.latencyMs;
+    const auto row = m_answers.table.find(url);
+    const bool isListed = row != m_answers.table.end();
+    const qint64 endMs =
+        m_pump.NowMs() + (isListed && row->second.hangs ? SimHttpAnswers::hangMs : m_answers.latencyMs);
     while (m_pump.NowMs() < endMs) {
         m_pump.PumpMessages();
         m_pump.Sleep(10);
     }
-    const auto row = m_answers.table.find(url);
-    if (row != m_answers.table.end())
-        return row->second;
+    if (isListed)
+        return row->second.text;
     return m_answers.responder ? m_answers.responder(url) : std::nullopt;
 }
 
@@ -43,6 +45,21 @@ bool SimSettings::HasSection(const QString& section) const {
         if (name == section || name.startsWith(below))
             return true;
     return false;
+}
+
+QStringList SimSettings::Sections() const {
+    QStringList sections;
+    for (const auto& [name, keys] : m_sections)
+        sections += name;
+    return sections;
+}
+
+QStringList SimSettings::Keys(const QString& section) const {
+    QStringList names;
+    if (const auto keys = m_sections.find(section); keys != m_sections.end())
+        for (const auto& [name, value] : keys->second)
+            names += name;
+    return names;
 }
 
 void SimSettings::DeleteSetting(const QString& section) {

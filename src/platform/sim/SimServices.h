@@ -12,10 +12,17 @@ namespace qlm {
 
 // What the plain GET outside the browser is answered.
 struct SimHttpAnswers {
-    void Set(const QString& url, const QString& text) { table[url] = text; }
-    void Fail(const QString& url) { table[url] = std::nullopt; }
+    void Set(const QString& url, const QString& text) { table[url] = {text, false}; }
+    void Fail(const QString& url) { table[url] = {std::nullopt, false}; }
+    // Accepts and never answers: fails when the product's time limit is over.
+    void Hang(const QString& url) { table[url] = {std::nullopt, true}; }
 
-    std::map<QString, std::optional<QString>> table;
+    struct Row {
+        std::optional<QString> text;
+        bool hangs = false;
+    };
+    static constexpr int hangMs = 30 * 1000;
+    std::map<QString, Row> table;
     // Answers addresses that the table doesn't name; without one they cannot be opened.
     std::function<std::optional<QString>(const QString& url)> responder;
     int latencyMs = 20;
@@ -38,20 +45,21 @@ public:
     QString GetSetting(const QString& section, const QString& key, const QString& fallback) const override;
     void SaveSetting(const QString& section, const QString& key, const QString& value) override;
     bool HasSection(const QString& section) const override;
+    QStringList Sections() const override;
+    QStringList Keys(const QString& section) const override;
     void DeleteSetting(const QString& section) override;
-    void DeleteEverything() override { m_sections.clear(); }
     void Sync() override { ++syncs; }
     QString TakeProblem() override { return std::exchange(problem, {}); }
 
     bool HasSetting(const QString& section, const QString& key) const;
-    using Sections = std::map<QString, std::map<QString, QString>>;
-    const Sections& All() const { return m_sections; }
+    using Content = std::map<QString, std::map<QString, QString>>;
+    const Content& All() const { return m_sections; }
 
     int syncs = 0;
     QString problem;
 
 private:
-    Sections m_sections;
+    Content m_sections;
 };
 
 class SimShell : public Shell {

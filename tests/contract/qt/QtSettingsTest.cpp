@@ -68,8 +68,21 @@ TEST_F(QtSettingsTest, ADeletedSectionTakesAllBelowItAndNothingBesides) {
     EXPECT_FALSE(settings.HasSection(u"Counters"_s));
     EXPECT_FALSE(settings.HasSection(u"Counters\\a@example.com"_s));
     EXPECT_EQ(settings.GetSetting(u"Counters2"_s, u"k"_s, {}), u"3"_s);
-    settings.DeleteEverything();
-    EXPECT_FALSE(settings.HasSection(u"Counters2"_s));
+}
+
+TEST_F(QtSettingsTest, SectionsAndKeysComeBackByTheirOwnNames) {
+    QtSettings settings(path);
+    settings.SaveSetting(u"Counters\\a/b%5C@example.com"_s, u"Daily/Friends"_s, u"2"_s);
+    settings.SaveSetting(u"Counters\\a/b%5C@example.com"_s, {}, u"3"_s);
+    settings.SaveSetting(u"Counters"_s, u"k"_s, u"1"_s);
+    QStringList sections = settings.Sections();
+    sections.sort();
+    EXPECT_EQ(sections, (QStringList{u"Counters"_s, u"Counters\\a/b%5C@example.com"_s}));
+    EXPECT_EQ(settings.Keys(u"Counters"_s), QStringList{u"k"_s});
+    QStringList keys = settings.Keys(u"Counters\\a/b%5C@example.com"_s);
+    keys.sort();
+    EXPECT_EQ(keys, (QStringList{QString(), u"Daily/Friends"_s}));
+    EXPECT_EQ(settings.Keys(u"None"_s), QStringList());
 }
 
 TEST_F(QtSettingsTest, OnlyTheOwnerReadsTheFile) {

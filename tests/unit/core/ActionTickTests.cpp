@@ -169,6 +169,33 @@ TEST_F(ActionTickTest, AnHangingShutdownIsEnded) {
     EXPECT_TRUE(platform->Shell().hasEnded);
 }
 
+TEST_F(ActionTickTest, TheTimersHaveTheirIntervalsAndTwoRunFromTheStart) {
+    struct Row {
+        const char* name;
+        Timer& timer;
+        int intervalMs;
+        bool runs;
+    };
+    // A program of its own: the one above has begun to work.
+    SimWorld fresh;
+    SimPlatform machine(fresh, dialogs);
+    App started(machine);
+    Timers& timers = *started.timers;
+    for (const Row& row : {Row{"Timer1", timers.Timer1, 400, false},
+                           Row{"tmrCheckLinkLoaded", timers.tmrCheckLinkLoaded, 3000, false},
+                           Row{"tmrAutoResume", timers.tmrAutoResume, 40000, false},
+                           Row{"tmrHelper", timers.tmrHelper, 1000, false},
+                           Row{"tmrBulletinWait", timers.tmrBulletinWait, 60000, false},
+                           Row{"tmrStatusUpdatesWait", timers.tmrStatusUpdatesWait, 60000, false},
+                           Row{"tmrLoginProblem", timers.tmrLoginProblem, 36000, false},
+                           Row{"tmrAutoStart", timers.tmrAutoStart, 60000, true},
+                           Row{"tmrNewVersionAvailable", timers.tmrNewVersionAvailable, 3000, false},
+                           Row{"tmrQuit", timers.tmrQuit, 6000, true}}) {
+        EXPECT_EQ(row.timer.Interval(), row.intervalMs) << row.name;
+        EXPECT_EQ(row.timer.Enabled(), row.runs) << row.name;
+    }
+}
+
 TEST_F(ActionTickTest, TheWatchdogOnlyLeavesATrail) {
     The().tmrAutoResume.Restart();
     platform->Pump().RunFor(41000);

@@ -16,6 +16,15 @@ TEST(Controls, EveryNameStandsOnceInTheTable) {
     }
 }
 
+// What depends on the filter's choices settles on the final state only if this one is restored last.
+TEST(Controls, TheFilterThatIsOffStandsLastOfItsKind) {
+    QByteArray last;
+    for (const ControlRow& row : Controls::Table())
+        if (QByteArray(row.kind) == "Filter")
+            last = row.name;
+    EXPECT_EQ(last, "optFilterOff");
+}
+
 TEST(Controls, OneOptionOfEachGroupIsChosenAtMost) {
     QHash<QString, int> chosen;
     for (const ControlRow& row : Controls::Table())
@@ -46,6 +55,16 @@ TEST(Controls, AListKeepsItsSelectionOnTheSameRowWhenAnEarlierOneGoes) {
     EXPECT_EQ(controls.SelectedText("lstFriendIDs"_L1), u"3"_s);
     controls.RemoveItem("lstFriendIDs"_L1, 1);
     EXPECT_EQ(controls.Selected("lstFriendIDs"_L1), -1);
+}
+
+TEST(Controls, TheRowsOfAListBecomeAnArrayWhoseEmptyStateIsOneEmptyEntry) {
+    Controls controls;
+    QStringList array{u"old"_s, u"older"_s};
+    controls.ListBoxToArray("lstFriendIDs"_L1, array);
+    EXPECT_EQ(array, QStringList{QString()});
+    controls.SetItems("lstFriendIDs"_L1, {u"1001"_s, u"1002"_s});
+    controls.ListBoxToArray("lstFriendIDs"_L1, array);
+    EXPECT_EQ(array, (QStringList{u"1001"_s, u"1002"_s}));
 }
 
 TEST(Controls, AnUnknownNameIsAMistakeThatShows) {

@@ -89,14 +89,33 @@ TEST_F(DiagnosticsTest, AnErrorLeavesABlockInTheLogAndShowsItsFormOnce) {
     EXPECT_EQ(lines[1], u"Time: "_s + app->NowText());
     EXPECT_EQ(lines[2], u"Version: "_s + app->Version());
     EXPECT_TRUE(lines[3].startsWith(u"PI: "_s));
-    EXPECT_TRUE(lines[4].startsWith(u"IEV: "_s));
-    EXPECT_TRUE(lines[5].startsWith(u"Error: "_s) && lines[5].endsWith(u"  -  Automation error"_s));
+    EXPECT_EQ(lines[4], u"IEV: x"_s);
+    EXPECT_EQ(lines[5], u"Error: 5  -  Automation error"_s);
     EXPECT_EQ(lines[6], u"Proc: IterateAddFriends"_s);
     EXPECT_TRUE(lines[7].startsWith(u"Line: "_s));
     EXPECT_TRUE(lines[8].startsWith(u"Data: "_s));
     EXPECT_EQ(lines[15], u"Proc: DoDelay"_s);
     EXPECT_EQ(dialogs.shownForms, QStringList{u"frmError"_s});
     EXPECT_EQ(app->controls.Text("frmError.lblErrorLogPath"_L1), app->state.ErrorLogPath);
+}
+
+TEST_F(DiagnosticsTest, TheBlockTellsPageBrowserKindOfErrorAndDataCleaned) {
+    world.web.SetPage(u"http://www.example.com/"_s, u"<body>x</body>"_s);
+    app->WebBrowser1().Navigate(u"http://www.example.com/"_s);
+    platform->Pump().RunFor(500);
+    world.settings.SaveSetting(u"Software\\Microsoft\\Internet Explorer"_s, u"Version"_s, u"7.0"_s);
+    The().Trap(
+        "GatherPageProfiles", [] { throw BrowserError(); }, [] { return u"Initial: é\n1"_s; });
+    The().ReportError(u"DoDelay"_s, FileError("Cannot open \"é\""), u"12"_s);
+    const QStringList lines = Lines(u"Error.log"_s);
+    ASSERT_EQ(lines.size(), 18);
+    EXPECT_EQ(lines[3], u"PI: http://www.example.com/"_s);
+    EXPECT_EQ(lines[4], u"IEV: 7.0"_s);
+    EXPECT_EQ(lines[5], u"Error: 440  -  Automation error"_s);
+    EXPECT_EQ(lines[7], u"Line: "_s);
+    EXPECT_EQ(lines[8], u"Data: Initial: 1"_s);
+    EXPECT_EQ(lines[14], u"Error: 75  -  Cannot open \"\""_s);
+    EXPECT_EQ(lines[16], u"Line: 12"_s);
 }
 
 TEST_F(DiagnosticsTest, AnErrorLogThatCannotBeWrittenIsTold) {

@@ -157,6 +157,58 @@ TEST_F(SettingsTest, EachKindFollowsItsOwnFlag) {
     }
 }
 
+// One key of the store is two inputs of different kinds.
+bool IsOfTwoKinds(const ControlRow& row) {
+    return QByteArray(row.name) == "chkComSendFromList" || QByteArray(row.name) == "chkMsgSendFromList";
+}
+
+bool Governs(const GlobalFlag& flag, const char* kind) {
+    return std::any_of(flag.kinds.begin(), flag.kinds.end(),
+                       [kind](const char* governed) { return QByteArray(governed) == kind; });
+}
+
+TEST_F(SettingsTest, AFlagThatIsOffMovesTheInputsOfItsKindsAndNoOthers) {
+    for (const GlobalFlag& flag : SettingsFields::GlobalFlags()) {
+        SCOPED_TRACE(flag.key);
+        world.settings = {};
+        Share(true);
+        world.settings.SaveSetting(General, QString::fromLatin1(flag.key), u"False"_s);
+        Restart();
+        Save();
+        for (const ControlRow& row : Controls::Table()) {
+            const QByteArray kind = row.kind;
+            if (kind.isEmpty() || kind == "General" || kind == "Field Entries" || IsOfTwoKinds(row))
+                continue;
+            const QString key = QString::fromLatin1(row.key[0] ? row.key : row.name);
+            const bool own = Governs(flag, row.kind);
+            EXPECT_EQ(world.settings.HasSetting(OwnOfA, key), own) << row.name;
+            EXPECT_EQ(world.settings.HasSetting(Shared, key), !own) << row.name;
+        }
+    }
+}
+
+TEST_F(SettingsTest, AFlagThatIsOffMovesTheListsOfItsKindsAndNoOthers) {
+    for (const GlobalFlag& flag : SettingsFields::GlobalFlags()) {
+        SCOPED_TRACE(flag.key);
+        world.settings = {};
+        world.settings.SaveSetting(General, QString::fromLatin1(flag.key), u"False"_s);
+        Restart();
+        for (const char* kind : {"BookmarksList", "Log", "GatheredList", "BulletinsList", "StatusesList",
+                                 "CommentsList", "MessagesList"})
+            EXPECT_EQ(app->settingsFields->AccountDataPath(QString::fromLatin1(kind)),
+                      Governs(flag, kind) ? u"\\ACCOUNTS\\a@example.com"_s : QString())
+                << kind;
+        EXPECT_EQ(app->settingsFields->AccountDataPath(u"Invite"_s),
+                  Governs(flag, "Invite") ? u"\\a@example.com"_s : QString());
+    }
+}
+
+TEST_F(SettingsTest, TheSharedFolderIsNotMadeForTheAccount) {
+    Restart();
+    app->settingsFields->AccountDataPath(u"Log"_s);
+    EXPECT_FALSE(QDir(folder.filePath(u"program/ACCOUNTS"_s)).exists());
+}
+
 TEST_F(SettingsTest, EverythingIsSharedUnlessTheStoreSaysNo) {
     Restart();
     for (const GlobalFlag& flag : SettingsFields::GlobalFlags())

@@ -114,6 +114,10 @@ TEST_F(SupportFilesTest, APictureAndTheSourceOfThePageAreSaved) {
     EXPECT_EQ(Bytes(Picture), platform->Desktop().picture);
     EXPECT_EQ(Bytes(Source), "<p id=\"x\">\xD6</p>");
     ASSERT_EQ(dialogs.messages.size(), 2);
+    EXPECT_EQ(dialogs.fileDialogs,
+              (QStringList{u"Save Screenshot\nScreenshot.bmp\nBitmap (bmp)|*.bmp;|All files (*.*)|*.*"_s,
+                           u"Save Page Source\nPagesource.txt\n"
+                           "Text Documents (txt)|*.bmp;|All files (*.*)|*.*"_s}));
     EXPECT_TRUE(dialogs.Texts()[0].startsWith(u"A screenshot of the current window has been saved."_s));
     EXPECT_TRUE(dialogs.Texts()[1].startsWith(u"The source code of the current web page has been saved."_s));
 }
@@ -176,6 +180,16 @@ TEST_F(BrowserSoundsTest, TheEndPutsItBackOnlyWhenItWasTaken) {
     Click();
     app->mainForm->Form_Unload();
     EXPECT_EQ(Sound(), u"click.wav"_s);
+}
+
+TEST_F(BrowserSoundsTest, AResetDoesNotTakeTheUsersSoundWithIt) {
+    SetSound(u"click.wav"_s);
+    Click();
+    dialogs.answers = {Dialogs::Answer::Yes};
+    app->commands.Run(u"mnuResetSettings_Click"_s);
+    app->mainForm->Form_Unload();
+    EXPECT_EQ(Sound(), u"click.wav"_s);
+    EXPECT_FALSE(world.settings.HasSection(u"General"_s));
 }
 
 TEST_F(BrowserSoundsTest, AMachineWithoutTheSoundIsLeftAlone) {

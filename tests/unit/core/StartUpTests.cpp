@@ -104,6 +104,33 @@ TEST_F(StartUpTest, ANewerVersionIsNoted) {
     EXPECT_TRUE(app->state.blnNewVersionAvailable);
 }
 
+TEST_F(StartUpTest, AMissingLibraryIsToldInWordsForTheUser) {
+    for (const auto& [error, isLibrary] : {std::pair("Component \"mscomctl.ocx\" is missing", true),
+                                           {"COMDLG32.OCX", true},
+                                           {"ieframe.dll", true},
+                                           {"MyFramePanel", true},
+                                           {"Overflow", false}}) {
+        SCOPED_TRACE(error);
+        Start();
+        app->controls.SetItems("frmInteken.lstAccounts"_L1, {u"a@example.com"_s});
+        app->controls.SetSelected("frmInteken.lstAccounts"_L1, 0);
+        app->controls.SetTicked("frmInteken.chkTOS"_L1, true);
+        const int listener = app->controls.AddListener([&](const Control& control, Controls::Change, int) {
+            if (control.name == "frmInteken.cmdContinue"_L1 && !control.enabled)
+                throw std::runtime_error(error);
+        });
+        dialogs.messages.clear();
+        app->commands.Run(u"frmInteken.cmdContinue_Click"_s);
+        app->controls.RemoveListener(listener);
+        EXPECT_EQ(dialogs.Texts(),
+                  isLibrary ? QStringList{u"One of the files that Quillmere needs to run has been corrupted. "
+                                          u"Please reinstall this program."_s}
+                            : QStringList());
+        EXPECT_TRUE(app->controls["frmInteken.cmdContinue"_L1].enabled);
+        EXPECT_EQ(app->controls.Text("frmInteken.cmdContinue"_L1), u"Continue"_s);
+    }
+}
+
 class MainWindowTest : public StartUpTest {
 protected:
     MainWindowTest() {

@@ -22,7 +22,7 @@ TEST_F(StopResumeTest, AStopClearsWhatBelongsToTheRun) {
         &RunState::blnClickNextLink, &RunState::blnComparingIDs,     &RunState::blnRetryGatherPage,
         &RunState::blnSkipCurrentID, &RunState::blnBulletinDeleting, &RunState::blnCommentFormShown,
         &RunState::blnSkipRequested, &RunState::blnInDelay,          &RunState::blnBulletinWaiting,
-        &RunState::blnStatusWaiting};
+        &RunState::blnStatusWaiting, &RunState::SwitchingAccount};
     const std::vector<QString RunState::*> texts{&RunState::CurrentAction,   &RunState::strLinkType,
                                                  &RunState::strLinkValue,    &RunState::strLastPageText,
                                                  &RunState::strLastPageHref, &RunState::strFRResumeURL,
@@ -167,6 +167,35 @@ TEST_F(StopResumeTest, ASkippedRequestIsGivenUp) {
     EXPECT_EQ(dialogs.Texts(), QStringList{u"Finished sending friend requests."_s});
 }
 
+TEST_F(StopResumeTest, AnAccountOfAChainThatCannotBeLoggedInMakesRoomForTheNext) {
+    int calls = 0;
+    app->commands.Add(u"LoginNextCycleAccount"_s, [&calls] { ++calls; });
+    app->state.AccountEmail = u"a@example.com"_s;
+    world.http.responder = [](const QString&) { return std::optional(u"2009-06-02"_s); };
+    app->settingsFields->RestoreAccountSettings();
+    app->settingsFields->RestoreAccountSpecificFields();
+    app->controls.SetText("txtFRNote"_L1, u"kept"_s);
+    State().CurrentAction = u"LOGIN"_s;
+    State().intLoginStep = 3;
+    app->stopResume->SkipProfile();
+    EXPECT_EQ(calls, 0);
+    EXPECT_FALSE(Said(u"Skip"_s));
+    State().blnChaining = true;
+    app->stopResume->SkipProfile();
+    EXPECT_EQ(calls, 1);
+    EXPECT_TRUE(Said(u"Skip"_s));
+    EXPECT_EQ(State().intLoginStep, 3);
+    EXPECT_EQ(world.settings.GetSetting(u"Field Entries"_s, u"txtFRNote"_s, {}), u"kept"_s);
+}
+
+TEST_F(StopResumeTest, WithoutAccountChainingTheSkippedLoginStays) {
+    State().CurrentAction = u"LOGIN"_s;
+    State().blnChaining = true;
+    app->stopResume->SkipProfile();
+    EXPECT_TRUE(Said(u"Skip"_s));
+    EXPECT_EQ(State().CurrentAction, u"LOGIN"_s);
+}
+
 TEST_F(StopResumeTest, PausingHoldsTheCheckAndTheWatchdog) {
     app->timers->tmrAutoResume.Restart();
     app->stopResume->PauseLinkCheck();
@@ -193,7 +222,7 @@ TEST_F(StopResumeTest, OnlyAChainHandsOverAndSavesFirst) {
     int asked = 0;
     app->commands.Add(u"LoginNextCycleAccount"_s, [this, &asked] {
         ++asked;
-        const SimSettings::Sections& stored = world.settings.All();
+        const SimSettings::Content& stored = world.settings.All();
         EXPECT_TRUE(std::any_of(stored.begin(), stored.end(), [](const auto& section) {
             return std::any_of(section.second.begin(), section.second.end(),
                                [](const auto& entry) { return entry.second == u"limit 17"_s; });

@@ -87,8 +87,9 @@ TEST(SimSettingsTests, SectionsNestByBackslash) {
     settings.DeleteSetting(u"Counters"_s);
     EXPECT_FALSE(settings.HasSection(u"Counters"_s));
     EXPECT_TRUE(settings.HasSetting(u"CountersOfOthers"_s, u"Daily"_s));
-    settings.DeleteEverything();
-    EXPECT_FALSE(settings.HasSection(u"CountersOfOthers"_s));
+    EXPECT_EQ(settings.Sections(), QStringList{u"CountersOfOthers"_s});
+    EXPECT_EQ(settings.Keys(u"CountersOfOthers"_s), QStringList{u"Daily"_s});
+    EXPECT_EQ(settings.Keys(u"Counters"_s), QStringList());
 }
 
 TEST(SimHttpTests, AnswersByTableThenByResponder) {

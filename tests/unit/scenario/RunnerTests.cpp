@@ -77,6 +77,11 @@ const Case Failing[] = {
     {"Focus", "start\nclick cmdContinue\nexpect focus chkTOS", 3, "the focus is on cmdAdd, not on chkTOS"},
     {"Cover", "logged-in a@b 12\nexpect cover front", 2, "the cover is \"back\""},
     {"Attention", "logged-in a@b 12\nexpect attention flash", 2, "no flash; seen: none"},
+    {"Opened", "logged-in a@b 12\nmenu mnuGoToQLMDataFolder\nexpect opened folder {ProgramFolder}", 3,
+     "what was opened is \"folder "},
+    {"OpenedNone", "logged-in a@b 12\nmenu mnuGoToQLMDataFolder\nexpect opened none", 3,
+     "what was opened is \"folder "},
+    {"OpenedNothing", "start\nexpect opened file x", 2, "what was opened is \"nothing\""},
     {"Setting", "setting \"General\" \"x\" \"1\"\nexpect setting \"General\" \"x\" \"2\"", 2,
      "General, x is \"1\""},
     {"NoSetting", "setting \"General\" \"x\" \"1\"\nexpect no setting \"General\" \"x\"", 2,
@@ -149,6 +154,21 @@ TEST(Runner, PassesAndCounts) {
 TEST(Runner, ListsAndFiltersByName) {
     EXPECT_TRUE(RunScenario("dance", {u"--list"_s}).output.endsWith(u"case\n"_s));
     EXPECT_EQ(RunScenario("dance", {u"--filter"_s, u"nothing"_s}).output, u"0 passed, 0 failed\n"_s);
+}
+
+TEST(Runner, TellsWhatItPlayedAndWhatThatCost) {
+    const QString output = RunScenario("start\nwait 1h\nexpect form frmInteken", {u"--figures"_s}).output;
+    EXPECT_TRUE(output.contains(u"\n3 commands: "_s)) << output.toStdString();
+    EXPECT_TRUE(output.contains(u" turns of the message loop: "_s)) << output.toStdString();
+    EXPECT_TRUE(output.contains(u"\n1.0 h of the program's time in "_s)) << output.toStdString();
+}
+
+TEST(Runner, ShowsAsMuchOfTheTrailAsIsAskedFor) {
+    const QByteArray script = "start\nexpect debug debugreg.txt \"LAUNCH9\"";
+    EXPECT_TRUE(RunScenario(script).output.contains(u"debugreg.txt: LAUNCH2"_s));
+    const QString output = RunScenario(script, {u"--trail"_s, u"1"_s}).output;
+    EXPECT_TRUE(output.contains(u"debugreg.txt: LAUNCH5"_s));
+    EXPECT_FALSE(output.contains(u"debugreg.txt: LAUNCH4"_s));
 }
 
 TEST(Runner, TheSameScenarioTwiceSaysTheSame) {

@@ -2,11 +2,13 @@
 #include "WindowTest.h"
 #include "core/MainForm.h"
 #include "core/StopResume.h"
+#include "shell/Look.h"
 
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QProgressBar>
 #include <QScreen>
 #include <QStackedLayout>
@@ -44,6 +46,17 @@ TEST_F(MainWindowTest, ComesUpLoadedAndTitled) {
     EXPECT_EQ(Named<QTabWidget>("TabStrip1")->tabText(0), u"Gather ID's"_s);
     EXPECT_EQ(Named<QTabWidget>("TabStrip1")->tabText(1), u"Friend Requester"_s);
     EXPECT_TRUE(Named<QWidget>("ucpanelFullGatherIDNotify")->isHidden());
+}
+
+TEST_F(MainWindowTest, MenuBarAndStatusLineHaveOneBackground) {
+    ApplyLook(*qApp);
+    const QColor bar = QColor::fromRgb(0xE9, 0xE9, 0xED);
+    for (QWidget* widget :
+         {static_cast<QWidget*>(window->findChild<QMenuBar*>()), Named<QWidget>("lblStatus")}) {
+        const QImage picture = widget->grab().toImage();
+        EXPECT_EQ(picture.pixelColor(picture.width() - 2, picture.height() / 2).name(), bar.name());
+    }
+    qApp->setStyleSheet({});
 }
 
 TEST_F(MainWindowTest, ClosingItUnloadsTheProgram) {
