@@ -170,8 +170,8 @@ void AccountScreens::cmdContinue_Click() {
     if (NamesMissingLibrary(error))
         m_app.ShowMessage(
             u"One of the files that Quillmere needs to run has been corrupted. Please reinstall this program."_s);
-    m_app.controls.SetText("frmInteken.cmdContinue"_L1, u"Continue"_s);
     m_app.controls.SetEnabled("frmInteken.cmdContinue"_L1, true);
+    m_app.controls.SetText("frmInteken.cmdContinue"_L1, u"Continue"_s);
 }
 
 void AccountScreens::Continue() {
