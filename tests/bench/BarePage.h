@@ -17,11 +17,11 @@ public:
     // Turns the event loop until all are done. Answers the milliseconds taken. Throws when a page is not a
     // confirmation.
     double Visit(const QStringList& addresses);
-
-private:
+    // Each until it has been done.
     void Load(const QUrl& url);
     QString Read(const QString& script);
 
+private:
     QWebEnginePage m_page;
     std::unique_ptr<QWebEngineView> m_view;
 };

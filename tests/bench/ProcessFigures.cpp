@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "ProcessFigures.h"
+
+#include <QDir>
+#include <QFile>
+#include <QHash>
+#include <unistd.h>
+
+namespace qlm {
+
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+struct Process {
+    QString name;
+    int parent = 0;
+    double ticks = 0;
+};
+
+QByteArray ReadProc(int process, const char* file) {
+    QFile source(u"/proc/%1/%2"_s.arg(process).arg(QLatin1StringView(file)));
+    return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
+}
+
+// The name stands in brackets and may hold anything; the numbers are counted from behind it.
+Process ReadProcess(int number) {
+    const QByteArray stat = ReadProc(number, "stat");
+    const qsizetype open = stat.indexOf('('), close = stat.lastIndexOf(')');
+    const QList<QByteArray> fields = stat.mid(close + 2).split(' ');
+    constexpr int parentField = 1, firstTimeField = 11, timeFields = 4;
+    Process process{QString::fromUtf8(stat.mid(open + 1, close - open - 1)),
+                    fields.value(parentField).toInt()};
+    for (int i = 0; i < timeFields; ++i)
+        process.ticks += fields.value(firstTimeField + i).toDouble();
+    return process;
+}
+
+double ProportionalMb(int process) {
+    for (const QByteArray& line : ReadProc(process, "smaps_rollup").split('\n'))
+        if (line.startsWith("Pss:"))
+            return line.mid(4).trimmed().split(' ').value(0).toDouble() / 1024;
+    return 0;
+}
+
+} // namespace
+
+ProgramFigures FiguresOfProgram(const QString& without) {
+    QHash<int, Process> all;
+    for (const QString& entry : QDir(u"/proc"_s).entryList(QDir::Dirs))
+        if (const int number = entry.toInt(); number > 0)
+            all.insert(number, ReadProcess(number));
+    ProgramFigures figures;
+    QList<int> family{static_cast<int>(::getpid())};
+    for (qsizetype i = 0; i < family.size(); ++i) {
+        figures.memoryMb += ProportionalMb(family[i]);
+        figures.processorMs +=
+            all.value(family[i]).ticks * 1000 / static_cast<double>(::sysconf(_SC_CLK_TCK));
+        for (auto process = all.cbegin(); process != all.cend(); ++process)
+            if (process->parent == family[i] && !without.startsWith(process->name))
+                family.append(process.key());
+    }
+    figures.processes = static_cast<int>(family.size());
+    return figures;
+}
+
+} // namespace qlm

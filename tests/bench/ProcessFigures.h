@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace qlm {
+
+// This process and everything that it has started, apart from programs of the given name.
+struct ProgramFigures {
+    // The sum of the proportional set sizes: pages that several of the processes share count once.
+    double memoryMb = 0;
+    // Processor time so far, of processes that have ended too.
+    double processorMs = 0;
+    int processes = 0;
+};
+
+ProgramFigures FiguresOfProgram(const QString& without);
+
+} // namespace qlm
