@@ -18,36 +18,43 @@ namespace {
 constexpr int CommentConfirmPolls = 5;
 constexpr int MessageConfirmPolls = 10;
 
-bool SameWord(const QString& text, const QString& value) {
-    return text.trimmed().toLower() == value.toLower();
+using Questions = std::vector<Question>;
+using enum Question::Match;
+
+Question InLinks(ElementText which, const QString& value) {
+    return {ElementSet::Links, {}, which, Contains, value.toLower()};
 }
 
-template <typename Test> bool Any(const std::vector<Element>& elements, const Test& test) {
-    return std::any_of(elements.begin(), elements.end(), test);
+Question InTags(const QString& tag, ElementText which, Question::Match match, const QString& value) {
+    return {ElementSet::ByTag, tag, which, match, value.toLower()};
 }
 
-bool LinkIsThere(App& app, const QString& value) {
-    return Any(app.WebBrowser1().Document().Links(), [&value](const Element& link) {
-        return Has(link.InnerText(), value) || Has(link.Href(), value);
-    });
+Questions AboutLink(const RunState&, const QString& value) {
+    return {InLinks(ElementText::InnerText, value), InLinks(ElementText::Href, value)};
 }
 
-bool ImageIsThere(App& app, const QString& value) {
+Questions AboutImage(const RunState& state, const QString& value) {
+    Questions questions = PageTests::ImageQuestions(value);
+    questions.push_back(InTags(u"input"_s, ElementText::Name, Contains, value));
+    if (state.intComStep == 7)
+        questions.push_back(InTags(u"button"_s, ElementText::Value, EqualsTrimmed, u"post a comment"_s));
+    return questions;
+}
+
+Questions AboutButton(const RunState&, const QString& value) {
+    return {InTags(u"input"_s, ElementText::Value, EqualsTrimmed, value),
+            InTags(u"button"_s, ElementText::Value, EqualsTrimmed, value),
+            InTags(u"button"_s, ElementText::InnerText, EqualsTrimmed, value)};
+}
+
+Questions AboutNothing(const RunState&, const QString&) {
+    return {};
+}
+
+bool IsAnyTrue(App& app, const Questions& questions) {
     const Document document = app.WebBrowser1().Document();
-    auto bearsName = [&value](const Element& input) { return Has(input.Name(), value); };
-    auto postsComment = [](const Element& button) { return SameWord(button.Value(), u"post a comment"_s); };
-    return app.pageTests->ImageExists(value) || Any(document.GetElementsByTagName(u"input"_s), bearsName) ||
-           (app.state.intComStep == 7 && Any(document.GetElementsByTagName(u"button"_s), postsComment));
-}
-
-bool ButtonIsThere(App& app, const QString& value) {
-    const Document document = app.WebBrowser1().Document();
-    auto asInput = [&value](const Element& input) { return SameWord(input.Value(), value); };
-    auto asButton = [&value](const Element& button) {
-        return SameWord(button.Value(), value) || SameWord(button.InnerText(), value);
-    };
-    return Any(document.GetElementsByTagName(u"input"_s), asInput) ||
-           Any(document.GetElementsByTagName(u"button"_s), asButton);
+    return std::any_of(questions.begin(), questions.end(),
+                       [&](const Question& question) { return document.Any(question); });
 }
 
 bool IdIsThere(App& app, const QString& value) {
@@ -56,23 +63,37 @@ bool IdIsThere(App& app, const QString& value) {
     return !app.WebBrowser1().Document().GetElementById(value).IsNull();
 }
 
-// What strLinkType may say, and when strLinkValue is there.
+// What strLinkType may say, and when strLinkValue is there: when one of the questions is answered with yes,
+// or when the test holds.
 struct LinkTypeRow {
     QLatin1StringView type;
+    Questions (*questions)(const RunState&, const QString& value);
     bool (*isThere)(App&, const QString& value);
 };
 
+bool IsNothingElse(App&, const QString&) {
+    return false;
+}
+
 const std::vector<LinkTypeRow>& LinkTypes() {
     static const std::vector<LinkTypeRow> rows{
-        {"Text"_L1, [](App& app, const QString& value) { return app.pageTests->IsTextInPage(value); }},
-        {"TextHTML"_L1,
+        {"Text"_L1, AboutNothing,
+         [](App& app, const QString& value) { return app.pageTests->IsTextInPage(value); }},
+        {"TextHTML"_L1, AboutNothing,
          [](App& app, const QString& value) { return app.pageTests->IsTextInPage(value, true); }},
-        {"Link"_L1, LinkIsThere},
-        {"Image"_L1, ImageIsThere},
-        {"Button"_L1, ButtonIsThere},
-        {"ID"_L1, IdIsThere},
+        {"Link"_L1, AboutLink, IsNothingElse},
+        {"Image"_L1, AboutImage, IsNothingElse},
+        {"Button"_L1, AboutButton, IsNothingElse},
+        {"ID"_L1, AboutNothing, IdIsThere},
     };
     return rows;
+}
+
+Questions AboutExpectation(const RunState& state) {
+    for (const LinkTypeRow& row : LinkTypes())
+        if (state.strLinkType == row.type)
+            return row.questions(state, state.strLinkValue);
+    return {};
 }
 
 // Nothing to do on such a folder, whatever is waited for there.
@@ -156,13 +177,30 @@ const std::vector<TextRider>& TextRiders() {
 
 } // namespace
 
+// On a list page that is whatever the recognition of profile links asks of each link.
+Foresight WhatACheckAsks(const RunState& state) {
+    Foresight ahead;
+    ahead.questions = AboutExpectation(state);
+    if (!state.strLastPageHref.isEmpty())
+        ahead.questions.push_back(PageTests::HrefQuestion(state.strLastPageHref, state.blnLastPageAsHTML));
+    if (state.strLinkType != u"ID"_s || state.strLinkValue != u"ListOfIDs"_s)
+        return ahead;
+    ahead.tree = true;
+    for (const auto which : {ElementText::Href, ElementText::HostName, ElementText::InnerText})
+        ahead.readings.push_back({ElementSet::Links, {}, which});
+    for (const int level : {1, 2})
+        ahead.readings.push_back({ElementSet::Links, {}, ElementText::InnerText, level});
+    return ahead;
+}
+
 bool FindExpectedElement(App& app) {
     RunState& state = app.state;
     if (state.blnLinkFound)
         return false;
     const auto isType = [&state](const LinkTypeRow& row) { return state.strLinkType == row.type; };
     const auto type = std::find_if(LinkTypes().begin(), LinkTypes().end(), isType);
-    bool found = (type != LinkTypes().end() && type->isThere(app, state.strLinkValue)) || IsFolderEmpty(app);
+    bool found = IsAnyTrue(app, AboutExpectation(state)) ||
+                 (type != LinkTypes().end() && type->isThere(app, state.strLinkValue)) || IsFolderEmpty(app);
     if (state.strLinkType == u"Text"_s)
         for (const TextRider rider : TextRiders())
             found = rider(app, found) || found;

@@ -3,6 +3,7 @@
 
 #include "core/App.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace qlm {
@@ -83,30 +84,37 @@ bool PageTests::IsTextInPage(const QString& text, bool asHTML, const QString& br
     return Lowered(asHTML ? document.BodyHTML() : document.BodyText()).contains(text.toLower());
 }
 
+Question PageTests::HrefQuestion(const QString& href, bool partial) {
+    return {ElementSet::Links,
+            {},
+            ElementText::Href,
+            partial ? Question::Match::Contains : Question::Match::Equals,
+            href.toLower()};
+}
+
 bool PageTests::HrefLoaded(const QString& href, bool partial) {
     if (href.isEmpty())
         return false;
     m_app.WebBrowser1().SetSilent(true);
-    const QString wanted = href.toLower();
-    bool found = false;
-    for (const Element& link : m_app.WebBrowser1().Document().Links()) {
-        const QString address = link.Href().toLower();
-        found = found || (partial ? address.contains(wanted) : address == wanted);
-    }
-    return found;
+    return m_app.WebBrowser1().Document().Any(HrefQuestion(href, partial));
+}
+
+std::vector<Question> PageTests::ImageQuestions(const QString& name) {
+    const QString wanted = name.toLower();
+    std::vector<Question> questions{
+        {ElementSet::Images, {}, ElementText::NameProp, Question::Match::Equals, wanted}};
+    if (!wanted.isEmpty())
+        questions.push_back(
+            {ElementSet::ByTag, u"input"_s, ElementText::Src, Question::Match::Contains, wanted});
+    return questions;
 }
 
 bool PageTests::ImageExists(const QString& name) {
     m_app.WebBrowser1().SetSilent(true);
-    const QString wanted = name.toLower();
     const Document document = m_app.WebBrowser1().Document();
-    for (const Element& image : document.Images())
-        if (image.Read(ElementText::NameProp).toLower() == wanted)
-            return true;
-    for (const Element& input : document.GetElementsByTagName(u"input"_s))
-        if (!wanted.isEmpty() && input.Read(ElementText::Src).toLower().contains(wanted))
-            return true;
-    return false;
+    const auto questions = ImageQuestions(name);
+    return std::any_of(questions.begin(), questions.end(),
+                       [&](const Question& question) { return document.Any(question); });
 }
 
 QString PageTests::LocationURL() {

@@ -26,6 +26,9 @@ public:
     bool IsTextInPage(const QString& text, bool asHTML = false, const QString& browser = {});
     bool HrefLoaded(const QString& href, bool partial);
     bool ImageExists(const QString& name);
+    // What these two ask the page.
+    static Question HrefQuestion(const QString& href, bool partial);
+    static std::vector<Question> ImageQuestions(const QString& name);
     bool IsHomePageURL();
     bool IsLoggedOutPage();
     // Only while logging in.

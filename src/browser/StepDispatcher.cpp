@@ -32,6 +32,8 @@ bool StepDispatcher::RunStages() {
     if (state.strLinkType.isEmpty() || state.strLinkValue.isEmpty())
         return false;
     m_app.WebBrowser1().SetSilent(true);
+    if (const Document document = m_app.WebBrowser1().Document())
+        document.Foresee(WhatACheckAsks(state));
     const bool captchaPage = m_app.pageTests->IsCaptchaPage();
     state.blnForceAdvance = false;
     m_app.pageTests->WaitForDocument();

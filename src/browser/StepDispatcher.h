@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/Document.h"
+
 #include <QString>
 #include <optional>
 
 namespace qlm {
 
 class App;
+struct RunState;
 
 // What a stage of the check answers: nothing when it doesn't apply, else the result of the whole check.
 using Verdict = std::optional<bool>;
@@ -43,6 +46,9 @@ void HandleErrorPage(App& app);
 // Session losses, detours and interstitials by the markers of their pages, in order; the first row that
 // applies acts.
 Verdict TakeDetour(App& app, bool captchaPage);
+
+// What a check will ask of the page besides text and markup.
+Foresight WhatACheckAsks(const RunState& state);
 
 // Is strLinkValue there, as strLinkType says? Once a wait: a find sets blnLinkFound.
 bool FindExpectedElement(App& app);

@@ -45,11 +45,44 @@ enum class ElementSet {
     ByName   // argument: the name attribute, exact
 };
 
+// Is there an element in a collection whose property, in lower case, is or holds a text?
+struct Question {
+    enum class Match { Contains, Equals, EqualsTrimmed };
+
+    ElementSet set;
+    QString argument;
+    ElementText which;
+    Match match;
+    QString wanted; // lower case
+
+    bool operator==(const Question&) const = default;
+    bool FitsText(const QString& text) const;
+};
+
+// One property of all elements of a collection, or of their ancestors so many levels up.
+struct Reading {
+    ElementSet set;
+    QString argument;
+    ElementText which;
+    int level = 0;
+};
+
+// What somebody is about to ask of a page in this turn besides the body's text and markup.
+struct Foresight {
+    std::vector<Question> questions;
+    std::vector<Reading> readings;
+    // Parents, ids and markup of single elements.
+    bool tree = false;
+};
+
 // One loaded document as a platform keeps it. node numbers are the platform's own; 0 is no node. Every call
 // throws BrowserError when the document is no longer the present one of its control.
 class DocumentBackend {
 public:
     virtual ~DocumentBackend() = default;
+
+    // Changes no answer; a platform on which each question costs fetches what was foreseen together.
+    virtual void Foresee(const Foresight&) {}
 
     virtual int Body() = 0;      // 0 while there is none
     virtual bool HasLinks() = 0; // the links collection exists, empty or not
@@ -57,6 +90,7 @@ public:
     BodyText(ElementText which) = 0; // InnerText, InnerHTML or OuterHTML of the body, cached a turn
     virtual std::vector<int> Collect(ElementSet set, const QString& argument) = 0;
     virtual int ById(const QString& id) = 0;
+    virtual bool Any(const Question& question);
     virtual int ActiveElement() = 0;
 
     virtual QString Read(int node, ElementText which) = 0;
@@ -143,6 +177,8 @@ public:
     bool IsNull() const { return !m_backend; }
     explicit operator bool() const { return !IsNull(); }
 
+    void Foresee(const Foresight& foresight) const { Need().Foresee(foresight); }
+    bool Any(const Question& question) const { return Need().Any(question); }
     Element Body() const { return IsNull() ? Element() : Element(m_backend, m_backend->Body()); }
     bool HasLinks() const { return m_backend && m_backend->HasLinks(); }
     QString BodyText() const { return Need().BodyText(ElementText::InnerText); }
@@ -179,6 +215,26 @@ private:
 
     std::shared_ptr<DocumentBackend> m_backend;
 };
+
+inline bool Question::FitsText(const QString& text) const {
+    const QString lower = text.toLower();
+    switch (match) {
+    case Match::Contains:
+        return lower.contains(wanted);
+    case Match::Equals:
+        return lower == wanted;
+    case Match::EqualsTrimmed:
+        return lower.trimmed() == wanted;
+    }
+    return false;
+}
+
+inline bool DocumentBackend::Any(const Question& question) {
+    for (const int node : Collect(question.set, question.argument))
+        if (question.FitsText(Read(node, question.which)))
+            return true;
+    return false;
+}
 
 inline Element Element::Ancestor(int n) const {
     Element ancestor = *this;

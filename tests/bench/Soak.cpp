@@ -101,6 +101,7 @@ void Soak::TakeTurn() {
         return;
     }
     app.state.CurrentAction = u"INV"_s;
+    app.state.blnHoldLinkCheck = false;
     app.state.strLinkType = u"TextHTML"_s;
     app.state.strLinkValue = u"</div>"_s;
     app.ClearPage();

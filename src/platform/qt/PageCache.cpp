@@ -12,8 +12,13 @@ std::vector<int> UnpackNodes(const QVariant& list) {
     const QString joined = list.toString();
     if (joined.isEmpty())
         return nodes;
-    for (const QStringView number : QStringView(joined).tokenize(u','))
-        nodes.push_back(number.toInt());
+    for (const QStringView part : QStringView(joined).tokenize(u',')) {
+        const qsizetype dash = part.indexOf(u'-');
+        const int first = part.first(dash < 0 ? part.size() : dash).toInt();
+        const int last = dash < 0 ? first : part.sliced(dash + 1).toInt();
+        for (int node = first; node <= last; ++node)
+            nodes.push_back(node);
+    }
     return nodes;
 }
 
@@ -34,34 +39,35 @@ std::vector<QString> UnpackTexts(const QVariant& packed) {
 PageTree::PageTree(const QVariantMap& told)
     : m_version(told.value(u"version"_s).toInt()),
       m_bodyTag(told.value(u"bodyTag"_s).toString()),
-      m_markup(told.value(u"html"_s).toString()),
-      m_links(UnpackNodes(told.value(u"links"_s))),
-      m_packedHrefs(told.value(u"hrefs"_s)),
-      m_markedNodes(told.value(u"marked"_s)),
-      m_packedIds(told.value(u"ids"_s)) {}
+      m_markup(told.value(u"html"_s).toString()) {}
 
-// Of several elements with one id, the first has it.
-int PageTree::NodeOfId(const QString& id) {
-    if (!m_ids) {
-        m_ids.emplace();
-        const std::vector<int> nodes = UnpackNodes(m_markedNodes);
-        const std::vector<QString> ids = UnpackTexts(m_packedIds);
-        for (size_t i = 0; i < std::min(nodes.size(), ids.size()); ++i)
-            if (!m_ids->contains(ids[i]))
-                m_ids->insert(ids[i], nodes[i]);
-    }
-    return m_ids->value(id, 0);
+void PageTree::TakePlaces(const QVariantMap& told, int body) {
+    m_arePlacesAsked = true;
+    if (body == 0 || told.value(u"version"_s).toInt() != m_version)
+        return;
+    PageOutline outline(OuterMarkup());
+    std::vector<int> nodes = UnpackNodes(told.value(u"nodes"_s));
+    nodes.insert(nodes.begin(), body);
+    if (!outline.IsSound() || outline.Count() != nodes.size())
+        return;
+    m_outline = std::move(outline);
+    m_nodes = std::move(nodes);
+    m_places.reserve(static_cast<qsizetype>(m_nodes.size()));
+    for (size_t place = 0; place < m_nodes.size(); ++place)
+        m_places.insert(m_nodes[place], static_cast<int>(place));
+    const std::vector<int> outside = UnpackNodes(told.value(u"outside"_s));
+    const std::vector<QString> ids = UnpackTexts(told.value(u"outsideIds"_s));
+    for (size_t i = 0; i < std::min(outside.size(), ids.size()); ++i)
+        if (!m_idsOutside.contains(ids[i]))
+            m_idsOutside.insert(ids[i], outside[i]);
 }
 
-const QString* PageTree::Href(int link) {
-    if (!m_hrefs) {
-        m_hrefs.emplace();
-        const std::vector<QString> hrefs = UnpackTexts(m_packedHrefs);
-        for (size_t i = 0; i < std::min(m_links.size(), hrefs.size()); ++i)
-            m_hrefs->insert(m_links[i], hrefs[i]);
-    }
-    const auto found = m_hrefs->constFind(link);
-    return found == m_hrefs->constEnd() ? nullptr : &found.value();
+// Of several elements with one id, the first has it. What stands outside of the body stands before it.
+int PageTree::NodeOfId(const QString& id) {
+    if (const int outside = m_idsOutside.value(id, 0))
+        return outside;
+    const int place = m_outline.WithId(id);
+    return place < 0 ? 0 : NodeAt(place);
 }
 
 void PageCache::EnterTurn(quint64 turn) {
@@ -75,15 +81,41 @@ void PageCache::EnterTurn(quint64 turn) {
 
 void PageCache::TakeLook(const QVariantMap& told) {
     m_look = PageLook{told.value(u"body"_s).toInt(), told.value(u"text"_s).toString()};
-    if (told.contains(u"links"_s))
+    if (told.contains(u"html"_s))
         m_tree = PageTree(told);
-    SetCollection(ElementSet::Links, {}, m_tree.Links());
+    m_isTreeSure = true;
+    const QVariantList answers = told.value(u"answers"_s).toList();
+    for (size_t i = 0; i < foresight.questions.size(); ++i)
+        m_answers.emplace_back(foresight.questions[i], answers.value(static_cast<qsizetype>(i)).toBool());
 }
 
-const QString* PageCache::Text(int node, ElementText which) {
-    if (which == ElementText::Href && m_look)
-        if (const QString* href = m_tree.Href(node))
-            return href;
+std::optional<bool> PageCache::Answer(const Question& question) const {
+    for (const auto& [asked, answer] : m_answers)
+        if (asked == question)
+            return answer;
+    return std::nullopt;
+}
+
+std::optional<QString> PageCache::Attribute(int node, const QString& name) const {
+    const auto found = m_attributes.constFind({node, name});
+    if (found == m_attributes.constEnd())
+        return std::nullopt;
+    return found.value();
+}
+
+void PageCache::TakeReading(const Reading& reading, const QVariant& told) {
+    const QVariantList parts = told.toList();
+    const std::vector<int> nodes = UnpackNodes(parts.value(0));
+    const std::vector<QString> texts = UnpackTexts(parts.value(1));
+    if (reading.level == 0)
+        SetCollection(reading.set, reading.argument, nodes);
+    else
+        AddGroup(nodes);
+    for (size_t i = 0; i < std::min(nodes.size(), texts.size()); ++i)
+        SetText(nodes[i], reading.which, texts[i]);
+}
+
+const QString* PageCache::Text(int node, ElementText which) const {
     const auto found = m_texts.constFind({node, static_cast<int>(which)});
     return found == m_texts.constEnd() ? nullptr : &found.value();
 }

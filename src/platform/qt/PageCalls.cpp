@@ -8,7 +8,6 @@
 #include <QTimer>
 #include <QWebEngineScript>
 
-#include <algorithm>
 #include <stdexcept>
 
 namespace qlm {
@@ -49,7 +48,7 @@ void PageCalls::SetPage(QWebEnginePage* page) {
     Lose();
     m_page = page;
     m_silent = false;
-    m_patienceMs = answerMs;
+    m_late.clear();
 }
 
 void PageCalls::Lose() {
@@ -59,22 +58,24 @@ void PageCalls::Lose() {
 }
 
 void PageCalls::BeginDocument() {
-    m_patienceMs = answerMs;
+    m_late.clear();
     if (!m_silent)
         return;
     ++m_era;
     m_silent = false;
 }
 
-std::optional<PageCalls::Answer> PageCalls::Call(const QString& document, const QString& name,
+std::optional<PageCalls::Answer> PageCalls::Call(Kind kind, const QString& document, const QString& name,
                                                  const QJsonArray& arguments) {
     if (!CanCall())
         return std::nullopt;
     const QString script = CallScript(document, name, arguments);
-    QVariantMap answer = Run(script).toMap();
+    if (kind == Kind::Act)
+        m_late.clear();
+    QVariantMap answer = (m_late.contains(script) ? m_late.take(script) : Run(script, kind)).toMap();
     if (answer.contains(u"missing"_s)) {
-        Run(m_bridgeSource());
-        answer = Run(script).toMap();
+        Run(m_bridgeSource(), Kind::Act);
+        answer = Run(script, kind).toMap();
     }
     if (!answer.contains(u"ok"_s))
         return std::nullopt;
@@ -90,6 +91,7 @@ void PageCalls::InstallBridge() {
 
 void PageCalls::Post(const QString& script) {
     ++m_count;
+    m_late.clear();
     if (m_page)
         m_page->runJavaScript(script);
 }
@@ -100,7 +102,7 @@ void PageCalls::PostCall(const QString& document, const QString& name, const QJs
         m_page->runJavaScript(CallScript(document, name, arguments), ownWorld);
 }
 
-QVariant PageCalls::Run(const QString& script) {
+QVariant PageCalls::Run(const QString& script, Kind kind) {
     if (BrowserPage::IsInsideRequest())
         throw std::logic_error("the page was called while it waits for a navigation's answer");
     if (!CanCall())
@@ -109,10 +111,11 @@ QVariant PageCalls::Run(const QString& script) {
     const QtPump::Hold hold(m_pump);
     const auto wait = std::make_shared<Wait>();
     const std::weak_ptr<PageCalls*> self = m_self;
-    m_page->runJavaScript(script, ownWorld, [wait, self, era = m_era](const QVariant& value) {
+    const QString question = kind == Kind::Question ? script : QString();
+    m_page->runJavaScript(script, ownWorld, [wait, self, era = m_era, question](const QVariant& value) {
         if (wait->isOver) {
             if (const auto calls = self.lock())
-                (*calls)->OnLateAnswer(era);
+                (*calls)->OnLateAnswer(era, question, value);
             return;
         }
         wait->value = value;
@@ -129,7 +132,7 @@ QVariant PageCalls::Run(const QString& script) {
             isLate = true;
             loop.quit();
         });
-        deadline.start(m_patienceMs);
+        deadline.start(answerMs);
         wait->loop = &loop;
         const auto outer = std::exchange(m_wait, wait);
         loop.exec(QEventLoop::ExcludeUserInputEvents);
@@ -146,11 +149,12 @@ QVariant PageCalls::Run(const QString& script) {
     return wait->value;
 }
 
-void PageCalls::OnLateAnswer(quint64 era) {
+void PageCalls::OnLateAnswer(quint64 era, const QString& script, const QVariant& value) {
     if (era != m_era || !m_silent)
         return;
     m_silent = false;
-    m_patienceMs = std::min(2 * m_patienceMs, longestAnswerMs);
+    if (!script.isEmpty())
+        m_late.insert(script, value);
     if (onAnswer)
         onAnswer();
 }

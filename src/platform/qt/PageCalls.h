@@ -3,6 +3,7 @@
 
 #include "platform/qt/QtPump.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QPointer>
 #include <QVariant>
@@ -19,18 +20,21 @@ namespace qlm {
 //
 // A page that is busy with itself doesn't answer. A call gives up after answerMs; from then on every further
 // call fails at once until the page has answered after all or was replaced. A page that did answer, but late,
-// is slow and not stuck: it gets twice the time, so that a look at a huge page ends in the end.
+// is slow and not stuck: what it was asked is kept and answers the same question when that comes again, so
+// that a huge page is read in the end and no call ever takes longer.
 class PageCalls {
 public:
     // Short enough for a stop button to work between two calls.
     static constexpr int answerMs = 700;
-    static constexpr int longestAnswerMs = 8 * answerMs;
 
     struct Answer {
         QString document;    // the document that answered
         bool isDone = false; // false: it is not the one that was meant, or the script failed
         QVariant value;
     };
+
+    // Of a question that changes nothing, an answer that came too late is as good for its next asking.
+    enum class Kind { Question, Act };
 
     PageCalls(QtPump& pump, std::function<QString()> bridgeSource);
 
@@ -42,7 +46,7 @@ public:
     void BeginDocument();
 
     // Calls one document; whatever other one is there does nothing but say so. Nothing when no answer came.
-    std::optional<Answer> Call(const QString& document, const QString& name,
+    std::optional<Answer> Call(Kind kind, const QString& document, const QString& name,
                                const QJsonArray& arguments = {});
     // Puts the bridge into a document that came without; it announces itself as any other does.
     void InstallBridge();
@@ -62,8 +66,8 @@ public:
 private:
     struct Wait;
 
-    QVariant Run(const QString& script);
-    void OnLateAnswer(quint64 era);
+    QVariant Run(const QString& script, Kind kind);
+    void OnLateAnswer(quint64 era, const QString& script, const QVariant& value);
 
     QtPump& m_pump;
     std::function<QString()> m_bridgeSource;
@@ -72,7 +76,7 @@ private:
     // Lets what outlives this object see that it is gone.
     std::shared_ptr<PageCalls*> m_self;
     bool m_silent = false;
-    int m_patienceMs = answerMs;
+    QHash<QString, QVariant> m_late; // by the script that asked
     // Moves on when what is owed has become void.
     quint64 m_era = 1;
     qint64 m_count = 0;

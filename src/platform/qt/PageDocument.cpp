@@ -11,6 +11,7 @@ namespace {
 
 // How much text of neighbouring nodes is fetched along with the one that was asked for.
 constexpr int neighbourCharacters = 256 * 1024;
+constexpr int foreseenCharacters = 4 * 1024 * 1024;
 constexpr int lineageCharacters = 40 * 1024;
 constexpr size_t neighbourLimit = 5000;
 constexpr size_t parentLimit = 200;
@@ -25,6 +26,9 @@ constexpr std::array propertyNames = {
 
 // The bridge's names, in the order of ElementSet.
 constexpr std::array setNames = {"Links", "Images", "Scripts", "ByTag", "ByName"};
+
+// The bridge's names, in the order of Question::Match.
+constexpr std::array matchNames = {"Contains", "Equals", "EqualsTrimmed"};
 
 struct PseudoAttribute {
     const char* name;
@@ -41,6 +45,29 @@ constexpr std::array pseudoAttributes = {
 
 QString NameOf(ElementText which) {
     return QString::fromLatin1(propertyNames.at(static_cast<size_t>(which)));
+}
+
+QString NameOf(ElementSet set) {
+    return QString::fromLatin1(setNames.at(static_cast<size_t>(set)));
+}
+
+// What comes along with a collection that nobody had foreseen.
+ElementText ReadMostOften(ElementSet set) {
+    switch (set) {
+    case ElementSet::Links:
+        return ElementText::Href;
+    case ElementSet::Images:
+        return ElementText::NameProp;
+    case ElementSet::Scripts:
+        return ElementText::Text;
+    default:
+        return ElementText::Value;
+    }
+}
+
+bool IsInOutline(ElementText which) {
+    return which == ElementText::OuterHTML || which == ElementText::InnerHTML ||
+           which == ElementText::TagName || which == ElementText::Id;
 }
 
 bool IsMarkup(ElementText which) {
@@ -73,7 +100,8 @@ void PageDocument::Check() const {
 
 QVariant PageDocument::Call(const QString& name, const QJsonArray& arguments) {
     Check();
-    const std::optional<PageCalls::Answer> answer = m_calls.Call(m_id, name, arguments);
+    const std::optional<PageCalls::Answer> answer =
+        m_calls.Call(PageCalls::Kind::Question, m_id, name, arguments);
     if (!answer || !IsFromHere(*answer) || !answer->isDone)
         throw BrowserError();
     return answer->value;
@@ -91,7 +119,7 @@ void PageDocument::Act(const QString& name, const QJsonArray& arguments) {
     Check();
     if (!m_calls.CanCall())
         throw BrowserError();
-    const std::optional<PageCalls::Answer> answer = m_calls.Call(m_id, name, arguments);
+    const std::optional<PageCalls::Answer> answer = m_calls.Call(PageCalls::Kind::Act, m_id, name, arguments);
     m_pump.Queue().EndTurn();
     if (answer && (!IsFromHere(*answer) || !answer->isDone))
         throw BrowserError();
@@ -100,8 +128,13 @@ void PageDocument::Act(const QString& name, const QJsonArray& arguments) {
 bool PageDocument::Look() {
     if (Cache().Look())
         return true;
+    QJsonArray questions;
+    for (const Question& question : m_cache.foresight.questions)
+        questions.append(QJsonArray{NameOf(question.set), question.argument, NameOf(question.which),
+                                    QLatin1String(matchNames.at(static_cast<size_t>(question.match))),
+                                    question.wanted});
     const std::optional<PageCalls::Answer> answer =
-        m_calls.Call(m_id, u"snapshot"_s, {m_cache.Tree().Version()});
+        m_calls.Call(PageCalls::Kind::Question, m_id, u"look"_s, {m_cache.Tree().Version(), questions});
     if (!answer || !IsFromHere(*answer) || !answer->isDone)
         return false;
     const QVariantMap told = answer->value.toMap();
@@ -132,23 +165,76 @@ QString PageDocument::BodyText(ElementText which) {
     if (which == ElementText::InnerText)
         return look.text;
     const PageTree& tree = m_cache.Tree();
-    return which == ElementText::InnerHTML ? tree.Markup() : tree.BodyTag() + tree.Markup() + u"</body>"_s;
+    return which == ElementText::InnerHTML ? tree.Markup() : tree.OuterMarkup();
+}
+
+void PageDocument::Foresee(const Foresight& foresight) {
+    Cache().foresight = foresight;
+}
+
+void PageDocument::FetchForeseen() {
+    Foresight wanted;
+    wanted.readings.swap(Cache().foresight.readings);
+    wanted.tree = std::exchange(Cache().foresight.tree, false);
+    if (!wanted.readings.empty() || wanted.tree)
+        Fetch(wanted);
+}
+
+void PageDocument::Fetch(const Foresight& wanted) {
+    QJsonArray readings;
+    for (const Reading& reading : wanted.readings)
+        readings.append(
+            QJsonArray{NameOf(reading.set), reading.argument, NameOf(reading.which), reading.level});
+    const bool wantsPlaces = wanted.tree && !Cache().Tree().ArePlacesAsked();
+    const QVariantMap told = Call(u"rest"_s, {readings, foreseenCharacters, wantsPlaces}).toMap();
+    PageCache& cache = Cache();
+    const QVariantList answers = told.value(u"readings"_s).toList();
+    for (size_t i = 0; i < wanted.readings.size(); ++i)
+        cache.TakeReading(wanted.readings[i], answers.value(static_cast<qsizetype>(i)));
+    if (wantsPlaces && cache.Look())
+        cache.Tree().TakePlaces(told.value(u"places"_s).toMap(), cache.Look()->body);
+}
+
+// Asks for less than a look where the tree is known already.
+bool PageDocument::IsTreePresent() {
+    PageCache& cache = Cache();
+    if (!cache.IsTreeSure() && cache.Tree().Version() != 0 &&
+        Call(u"version"_s, {}).toInt() == cache.Tree().Version())
+        cache.SetTreeSure();
+    return cache.IsTreeSure() || Look();
+}
+
+PageTree* PageDocument::Places() {
+    if (!IsTreePresent())
+        return nullptr;
+    FetchForeseen();
+    if (!Cache().Tree().ArePlacesAsked() && Look())
+        Fetch({{}, {}, true});
+    PageTree& tree = Cache().Tree();
+    return tree.HasPlaces() ? &tree : nullptr;
 }
 
 std::vector<int> PageDocument::Collect(ElementSet set, const QString& argument) {
-    if (set == ElementSet::Links)
-        NeedLook();
-    if (const std::vector<int>* known = Cache().Collection(set, argument))
-        return *known;
-    const QString setName = QString::fromLatin1(setNames.at(static_cast<size_t>(set)));
-    const std::vector<int> nodes = UnpackNodes(Call(u"collect"_s, {setName, argument}));
-    Cache().SetCollection(set, argument, nodes);
-    return nodes;
+    if (!Cache().Collection(set, argument))
+        FetchForeseen();
+    if (!Cache().Collection(set, argument))
+        Fetch({{}, {{set, argument, ReadMostOften(set)}}, false});
+    return *Cache().Collection(set, argument);
 }
 
+// Of a single one the page itself knows best.
 int PageDocument::ById(const QString& id) {
-    NeedLook();
-    return Cache().Tree().NodeOfId(id);
+    if (Cache().foresight.tree || Cache().Tree().ArePlacesAsked())
+        if (PageTree* tree = Places())
+            return tree->NodeOfId(id);
+    return Call(u"byId"_s, {id}).toInt();
+}
+
+bool PageDocument::Any(const Question& question) {
+    if (!Cache().foresight.questions.empty())
+        NeedLook();
+    const std::optional<bool> answer = Cache().Answer(question);
+    return answer ? *answer : DocumentBackend::Any(question);
 }
 
 int PageDocument::ActiveElement() {
@@ -159,6 +245,11 @@ QString PageDocument::Read(int node, ElementText which) {
     PageCache& cache = Cache();
     if (cache.Look() && node == cache.Look()->body && IsMarkup(which))
         return BodyText(which);
+    if (!cache.Text(node, which) && IsInOutline(which))
+        if (const std::optional<QString> text = FromOutline(node, which))
+            cache.SetText(node, which, *text);
+    if (!cache.Text(node, which))
+        FetchForeseen();
     if (!cache.Text(node, which)) {
         if (cache.IsGrouped(node))
             ReadTogether(cache.Following(node, neighbourLimit), which);
@@ -169,6 +260,24 @@ QString PageDocument::Read(int node, ElementText which) {
     if (!text)
         throw BrowserError();
     return *text;
+}
+
+std::optional<QString> PageDocument::FromOutline(int node, ElementText which) {
+    const PageTree* tree = Places();
+    const int place = tree ? tree->PlaceOf(node) : -1;
+    if (place < 0)
+        return std::nullopt;
+    const PageOutline& outline = tree->Outline();
+    switch (which) {
+    case ElementText::OuterHTML:
+        return outline.Outer(place);
+    case ElementText::InnerHTML:
+        return outline.Inner(place);
+    case ElementText::TagName:
+        return outline.Tag(place);
+    default:
+        return outline.Attribute(place, u"id"_s).value_or(QString());
+    }
 }
 
 void PageDocument::ReadTogether(const std::vector<int>& nodes, ElementText which) {
@@ -183,14 +292,25 @@ QString PageDocument::Attribute(int node, const QString& name) {
     for (const PseudoAttribute& pseudo : pseudoAttributes)
         if (name.compare(QLatin1String(pseudo.name), Qt::CaseInsensitive) == 0)
             return Read(node, pseudo.which);
-    return Call(u"attribute"_s, {node, name}).toString();
+    if (const PageTree* tree = Places())
+        if (const int place = tree->PlaceOf(node); place >= 0)
+            return tree->Outline().Attribute(place, name).value_or(QString());
+    if (!Cache().Attribute(node, name))
+        Cache().SetAttribute(node, name, Call(u"attribute"_s, {node, name}).toString());
+    return *Cache().Attribute(node, name);
 }
 
 bool PageDocument::HasAttribute(int node, const QString& name) {
+    if (const PageTree* tree = Places())
+        if (const int place = tree->PlaceOf(node); place >= 0)
+            return tree->Outline().Attribute(place, name).has_value();
     return Call(u"hasAttribute"_s, {node, name}).toBool();
 }
 
 int PageDocument::Parent(int node) {
+    if (const PageTree* tree = Places())
+        if (const int place = tree->PlaceOf(node); place > 0)
+            return tree->NodeAt(tree->Outline().Parent(place));
     if (const std::optional<int> known = Cache().Parent(node))
         return *known;
     const std::vector<int> nodes = Cache().Following(node, parentLimit);

@@ -17,19 +17,23 @@ public:
     virtual void OnAddress(const QString& url) = 0;
 };
 
-// A document in the engine. The first look in a turn brings text, markup, link addresses and ids in one call;
-// reads of single nodes bring their neighbours along; both are kept until the turn ends.
+// A document in the engine. The first look in a turn brings the body's text and markup in one call, and the
+// answers to the questions that were foreseen; what else was foreseen comes in a second call, as soon as any
+// of it is asked for. Reads of single nodes bring their neighbours along. All of it is kept until the turn
+// ends, and what follows from the tree alone until the tree changes.
 class PageDocument final : public DocumentBackend {
 public:
     PageDocument(QtPump& pump, PageCalls& calls, DocumentOwner& owner, QString id);
 
     const QString& Id() const { return m_id; }
 
+    void Foresee(const Foresight& foresight) override;
     int Body() override;
     bool HasLinks() override;
     QString BodyText(ElementText which) override;
     std::vector<int> Collect(ElementSet set, const QString& argument) override;
     int ById(const QString& id) override;
+    bool Any(const Question& question) override;
     int ActiveElement() override;
 
     QString Read(int node, ElementText which) override;
@@ -58,6 +62,12 @@ private:
     void Act(const QString& name, const QJsonArray& arguments);
     bool IsFromHere(const PageCalls::Answer& answer);
     void ReadTogether(const std::vector<int>& nodes, ElementText which);
+    void FetchForeseen();
+    void Fetch(const Foresight& wanted);
+    // The tree with its places, fetched when that hasn't been done; nothing when it can't be had.
+    PageTree* Places();
+    bool IsTreePresent();
+    std::optional<QString> FromOutline(int node, ElementText which);
 
     QtPump& m_pump;
     PageCalls& m_calls;

@@ -84,6 +84,11 @@ void LoopbackServer::AnswerUnknown(const LoopbackAnswer& answer) {
     m_unknown = answer;
 }
 
+void LoopbackServer::ForwardUnknownTo(quint16 port) {
+    const QMutexLocker lock(&m_mutex);
+    m_forwardPort = port;
+}
+
 void LoopbackServer::Clear() {
     const QMutexLocker lock(&m_mutex);
     m_answers.clear();
@@ -119,22 +124,37 @@ void LoopbackServer::OnReadable(QTcpSocket* socket) {
         const QMutexLocker lock(&m_mutex);
         m_requests.push_back(request);
     }
-    Reply(socket, request);
+    if (const auto answer = Next(request.url))
+        Reply(socket, *answer);
+    else
+        Forward(socket, data.left(end + 4 + length));
 }
 
-LoopbackAnswer LoopbackServer::Next(const QString& url) {
+// A browser's connection keeps one of its own to the other server, which answers in the same order.
+void LoopbackServer::Forward(QTcpSocket* socket, const QByteArray& request) {
+    auto* other = socket->findChild<QTcpSocket*>();
+    if (!other) {
+        other = new QTcpSocket(socket);
+        QObject::connect(other, &QTcpSocket::readyRead, socket,
+                         [socket, other] { socket->write(other->readAll()); });
+        QObject::connect(other, &QTcpSocket::disconnected, socket, &QTcpSocket::disconnectFromHost);
+        other->connectToHost(QHostAddress::LocalHost, m_forwardPort);
+    }
+    other->write(request);
+}
+
+std::optional<LoopbackAnswer> LoopbackServer::Next(const QString& url) {
     const QMutexLocker lock(&m_mutex);
     auto found = m_answers.find(url);
     if (found == m_answers.end())
         found = m_answers.find(KeyOf(url));
     if (found == m_answers.end() || found->isEmpty())
-        return m_unknown;
+        return m_forwardPort == 0 ? std::optional(m_unknown) : std::nullopt;
     return found->size() > 1 ? found->takeFirst() : found->first();
 }
 
-void LoopbackServer::Reply(QTcpSocket* socket, const LoopbackRequest& request) {
+void LoopbackServer::Reply(QTcpSocket* socket, const LoopbackAnswer& answer) {
     using Fault = LoopbackAnswer::Fault;
-    const LoopbackAnswer answer = Next(request.url);
     if (answer.fault == Fault::Hang)
         return;
     if (answer.fault == Fault::Reset) {

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 #include <QThread>
+#include <optional>
 #include <vector>
 
 class QTcpSocket;
@@ -48,18 +49,22 @@ public:
     void AnswerOnly(const QString& path, const LoopbackAnswer& answer);
     // What everything else gets; a page that says so unless set.
     void AnswerUnknown(const LoopbackAnswer& answer);
+    // Everything that has no answer here is asked of another server on this machine.
+    void ForwardUnknownTo(quint16 port);
     void Clear();
     std::vector<LoopbackRequest> Requests() const;
     int CountRequests(const QString& path) const;
 
 private:
     void OnReadable(QTcpSocket* socket);
-    void Reply(QTcpSocket* socket, const LoopbackRequest& request);
-    LoopbackAnswer Next(const QString& url);
+    void Reply(QTcpSocket* socket, const LoopbackAnswer& answer);
+    std::optional<LoopbackAnswer> Next(const QString& url);
+    void Forward(QTcpSocket* socket, const QByteArray& request);
 
     mutable QMutex m_mutex;
     QHash<QString, QList<LoopbackAnswer>> m_answers;
     LoopbackAnswer m_unknown;
+    quint16 m_forwardPort = 0;
     std::vector<LoopbackRequest> m_requests;
     QThread m_thread;
     quint16 m_port = 0;

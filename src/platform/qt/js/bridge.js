@@ -10,6 +10,35 @@
     if (globalThis.quillmere)
         return;
 
+    // A page's named elements hide the properties of its document and of its forms; what stands on the prototypes
+    // can't be hidden.
+    const getter = (prototype, name) => {
+        const get = Object.getOwnPropertyDescriptor(prototype, name).get;
+        return object => get.call(object);
+    };
+    const method = (prototype, name) => {
+        const run = prototype[name];
+        return (object, ...args) => run.apply(object, args);
+    };
+    const bodyOf = getter(Document.prototype, 'body');
+    const parentOf = getter(Node.prototype, 'parentElement');
+    const tagOf = getter(Element.prototype, 'tagName');
+    const idOf = getter(Element.prototype, 'id');
+    const innerMarkup = getter(Element.prototype, 'innerHTML');
+    const outerMarkup = getter(Element.prototype, 'outerHTML');
+    const visibleText = getter(HTMLElement.prototype, 'innerText');
+    const attribute = method(Element.prototype, 'getAttribute');
+    const linksOf = getter(Document.prototype, 'links');
+    const imagesOf = getter(Document.prototype, 'images');
+    const scriptsOf = getter(Document.prototype, 'scripts');
+    const byTag = method(Document.prototype, 'getElementsByTagName');
+    const byName = method(Document.prototype, 'getElementsByName');
+    const byId = method(Document.prototype, 'getElementById');
+    const activeOf = getter(Document.prototype, 'activeElement');
+    const hasAttribute = method(Element.prototype, 'hasAttribute');
+    const descendants = method(Element.prototype, 'getElementsByTagName');
+    const query = method(Document.prototype, 'querySelectorAll');
+
     const id = Array.from(crypto.getRandomValues(new Uint32Array(3)), n => n.toString(36)).join('-');
     const nodes = [null];
     const numbers = new Map();
@@ -39,20 +68,13 @@
         return known.join(',');
     }
 
-    function collect(items, property) {
-        const values = [];
-        for (let i = 0, count = items.length; i < count; ++i)
-            values.push(property(items[i]));
-        return values;
-    }
-
     const pack = texts => [texts.map(text => text.length).join(','), texts.join('')];
     const text = value => (value === null || value === undefined ? '' : String(value));
 
     // SVG gives its addresses and class names as objects.
     const plain = value => text(value && value.baseVal !== undefined ? value.baseVal : value);
 
-    const holdsValue = element => element.tagName === 'INPUT' || element.tagName === 'TEXTAREA';
+    const holdsValue = element => tagOf(element) === 'INPUT' || tagOf(element) === 'TEXTAREA';
 
     function fileName(address) {
         const path = address.split(/[?#]/)[0];
@@ -60,12 +82,12 @@
     }
 
     const readers = {
-        InnerText: e => text(holdsValue(e) ? e.value : 'innerText' in e ? e.innerText : e.textContent),
-        InnerHTML: e => text(e.innerHTML),
-        OuterHTML: e => text(e.outerHTML),
-        Id: e => text(e.id),
-        Name: e => plain(e.name !== undefined ? e.name : e.getAttribute('name')),
-        Value: e => plain(e.value !== undefined ? e.value : e.getAttribute('value')),
+        InnerText: e => text(holdsValue(e) ? e.value : 'innerText' in e ? visibleText(e) : e.textContent),
+        InnerHTML: innerMarkup,
+        OuterHTML: outerMarkup,
+        Id: idOf,
+        Name: e => plain(e.name !== undefined ? e.name : attribute(e, 'name')),
+        Value: e => plain(e.value !== undefined ? e.value : attribute(e, 'value')),
         Href: e => plain(e.href),
         HostName: e => text(e.hostname),
         NameProp: e => fileName(plain(e.src)),
@@ -73,7 +95,7 @@
         Alt: e => text(e.alt),
         Title: e => text(e.title),
         ClassName: e => plain(e.className),
-        TagName: e => text(e.tagName).toLowerCase(),
+        TagName: e => tagOf(e).toLowerCase(),
         Type: e => text(e.type).toLowerCase(),
         Text: e => text(e.text)
     };
@@ -105,41 +127,110 @@
         return ++version;
     }
 
-    // known: the version of the tree that the asker has already.
-    function snapshot(known) {
-        const body = document.body;
-        const look = {
+    const matches = {
+        Contains: (value, wanted) => value.includes(wanted),
+        Equals: (value, wanted) => value === wanted,
+        EqualsTrimmed: (value, wanted) => value.trim() === wanted
+    };
+
+    function any([set, argument, property, match, wanted]) {
+        const items = collections[set](argument);
+        for (let i = 0, count = items.length; i < count; ++i)
+            if (matches[match](readers[property](items[i]).toLowerCase(), wanted))
+                return true;
+        return false;
+    }
+
+    // Nobody reads a page to its end that is longer than this, and neither does the program: what it searches a
+    // page for would hold up its window.
+    const longest = 6 * 1024 * 1024;
+    const shortened = value => (value.length > longest ? value.slice(0, longest) : value);
+
+    // What every check of a page needs, and the answers to its questions. known: the version of the tree that the
+    // asker has already.
+    function look(known, questions) {
+        const body = bodyOf(document);
+        const seen = {
             url: location.href,
             version: treeVersion(),
             body: number(body),
-            text: body ? text(body.innerText) : ''
+            text: body ? shortened(visibleText(body)) : '',
+            answers: questions.map(any)
         };
-        if (look.version === known)
-            return look;
-        const links = document.links || [];
-        const marked = document.querySelectorAll('[id]');
-        look.bodyTag = body ? openingTag(body) : '';
-        look.html = body ? body.innerHTML : '';
-        look.links = list(links);
-        look.hrefs = pack(collect(links, readers.Href));
-        look.marked = list(marked);
-        look.ids = pack(collect(marked, e => e.id));
-        return look;
+        if (seen.version === known)
+            return seen;
+        seen.bodyTag = body ? openingTag(body) : '';
+        seen.html = body ? shortened(innerMarkup(body)) : '';
+        return seen;
     }
 
-    // Reads one property of many nodes until enough has come together; at least of the first.
-    function read(wanted, property, budget) {
-        const texts = [];
-        let size = 0;
-        for (const known of wanted) {
-            const value = readers[property](node(known));
-            texts.push(value);
-            size += value.length + 16;
-            if (size > budget)
-                break;
+    // Numbers that follow one another are joined: "1-400,7,402-1000".
+    function ranges(items) {
+        const parts = [];
+        let first = 0;
+        let last = -1;
+        const close = () => last >= first && parts.push(first === last ? String(first) : first + '-' + last);
+        for (let i = 0, count = items.length; i < count; ++i) {
+            const known = number(items[i]);
+            if (known !== last + 1 || last < first) {
+                close();
+                first = known;
+            }
+            last = known;
         }
-        return pack(texts);
+        close();
+        return parts.join(',');
     }
+
+    // The numbers of the body's elements in document order, which is the order in which its markup names them.
+    // Elements with an id that stand outside of the body come by themselves.
+    function places() {
+        const body = bodyOf(document);
+        const outside = query(document, '[id]:not(body, body *)');
+        return {
+            version: treeVersion(),
+            nodes: body ? ranges(descendants(body, '*')) : '',
+            outside: list(outside),
+            outsideIds: pack(Array.from(outside, idOf))
+        };
+    }
+
+    function ancestor(element, level) {
+        for (; element && level > 0; --level)
+            element = parentOf(element);
+        return element;
+    }
+
+    // One property of all the elements of a collection, or of their ancestors a level up, each of these once.
+    // Texts are read until enough has come together; at least the first.
+    function reading([set, argument, property, level], budget) {
+        const found = collections[set](argument);
+        let items = found;
+        if (level > 0)
+            items = [...new Set(Array.from(found, element => ancestor(element, level)))].filter(Boolean);
+        const nodes = list(items);
+        return [nodes, property ? texts(items, property, budget) : pack([])];
+    }
+
+    // Everything that was foreseen, in one call.
+    const rest = (readings, budget, wantsPlaces) => ({
+        readings: readings.map(wanted => reading(wanted, budget)),
+        places: wantsPlaces ? places() : null
+    });
+
+    function texts(items, property, budget) {
+        const values = [];
+        let size = 0;
+        for (let i = 0, count = items.length; i < count && size <= budget; ++i) {
+            const value = readers[property](items[i]);
+            values.push(value);
+            size += value.length + 16;
+        }
+        return pack(values);
+    }
+
+    // Reads one property of many nodes.
+    const read = (wanted, property, budget) => texts(wanted.map(node), property, budget);
 
     // The numbers of each node's ancestors, nearest first, levels a node.
     function ancestors(wanted, levels) {
@@ -147,7 +238,7 @@
         for (const known of wanted) {
             let element = node(known);
             for (let i = 0; i < levels; ++i) {
-                element = element && element.parentElement;
+                element = element && parentOf(element);
                 rows.push(number(element));
             }
         }
@@ -155,11 +246,11 @@
     }
 
     const collections = {
-        Links: () => document.links || [],
-        Images: () => document.images || [],
-        Scripts: () => document.scripts || [],
-        ByTag: name => document.getElementsByTagName(name),
-        ByName: name => document.getElementsByName(name)
+        Links: () => linksOf(document),
+        Images: () => imagesOf(document),
+        Scripts: () => scriptsOf(document),
+        ByTag: name => byTag(document, name),
+        ByName: name => byName(document, name)
     };
 
     function setInnerText(element, value) {
@@ -197,7 +288,7 @@
     }
 
     function submit(element) {
-        const form = element.tagName === 'FORM' ? element : element.form;
+        const form = tagOf(element) === 'FORM' ? element : element.form;
         if (!form)
             throw new Error('no form');
         // A form may hold an input that is called "submit" and hides the method.
@@ -205,14 +296,16 @@
     }
 
     const calls = {
-        snapshot,
+        look,
+        rest,
         read,
         ancestors,
-        collect: (set, argument) => list(collections[set](argument)),
-        attribute: (known, name) => text(node(known).getAttribute(name)),
-        hasAttribute: (known, name) => node(known).hasAttribute(name),
-        descendants: (known, tag) => list(node(known).getElementsByTagName(tag)),
-        activeElement: () => number(document.activeElement),
+        version: treeVersion,
+        byId: name => number(byId(document, name)),
+        attribute: (known, name) => text(attribute(node(known), name)),
+        hasAttribute: (known, name) => hasAttribute(node(known), name),
+        descendants: (known, tag) => list(descendants(node(known), tag)),
+        activeElement: () => number(activeOf(document)),
         setInnerText: (known, value) => setInnerText(node(known), value),
         setInnerHTML: (known, value) => { node(known).innerHTML = value; },
         setValue: (known, value) => { node(known).value = value; },
@@ -221,7 +314,7 @@
         submit: known => submit(node(known)),
         focus: known => node(known).focus(),
         scrollIntoView: known => node(known).scrollIntoView(),
-        scrollToEnd: () => window.scrollTo(0, document.body ? document.body.scrollHeight : 0),
+        scrollToEnd: () => window.scrollTo(0, bodyOf(document) ? bodyOf(document).scrollHeight : 0),
         // The page leaves as if it had decided so itself: the next page gets its address as referrer.
         leaveFor: address => location.assign(address)
     };

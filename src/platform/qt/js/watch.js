@@ -10,11 +10,14 @@
     const isTop = window === window.top;
     const own = isTop && globalThis.quillmere ? globalThis.quillmere.id : '';
     const message = (kind, more) => secret + JSON.stringify([kind, own, location.href].concat(more || []));
+    // A page's named elements hide the properties of its document, but not those of the prototype.
+    const bodyOf = Object.getOwnPropertyDescriptor(Document.prototype, 'body').get;
     const tell = kind => console.log(message(kind));
 
     // A page that holds nothing may stand for an error; the answer's status will tell.
     function tellCompletion() {
-        const isEmpty = document.body && !document.body.hasChildNodes();
+        const body = bodyOf.call(document);
+        const isEmpty = body && !body.hasChildNodes();
         tell(!isTop ? 'frameComplete' : isEmpty ? 'completeEmpty' : 'complete');
     }
 
@@ -32,7 +35,7 @@
     // here until the program has them, so that they are never later than the navigation that follows.
     const describe = input => [input.id, input.name, input.value];
     window.addEventListener('formdata', () => {
-        const inputs = Array.from(document.getElementsByTagName('input'), describe);
+        const inputs = Array.from(Document.prototype.getElementsByTagName.call(document, 'input'), describe);
         prompt(message('inputs', inputs));
     }, true);
 })
