@@ -52,7 +52,7 @@ const std::vector<Expectation>& Expectations() {
 QByteArray ListPage(int size) {
     QByteArray page = "<!DOCTYPE html><html><head><title>Friends</title></head><body>"
                       "<form action='/search'><input name='q' value='search'><input type='submit' value='Go'>"
-                      "<button>Advanced</button></form>";
+                      "<button>Advanced</button></form><div id='wrap'><div id='main'><div class='list'>";
     for (int i = 0; page.size() < size; ++i) {
         const QByteArray number = QByteArray::number(100001 + i);
         page +=
@@ -62,7 +62,7 @@ QByteArray ListPage(int size) {
             number + "'>Person " + number +
             "</a><p>Likes long walks, old records and rainy Sunday afternoons.</p></div>\n";
     }
-    return page + "</body></html>";
+    return page + "</div></div></div></body></html>";
 }
 
 struct Taken {

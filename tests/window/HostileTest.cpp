@@ -116,7 +116,7 @@ protected:
 };
 
 // Pressed when nothing that was posted has been delivered for a while, which is the worst moment; or after
-// two seconds, when there was none.
+// five seconds, which hold a check of the page, when there was none.
 void HostilePages::PressStop() {
     if (!program || !IsMet())
         return;
@@ -124,7 +124,7 @@ void HostilePages::PressStop() {
         sinceMet.start();
     MessageQueue& queue = program->app.Pump().Queue();
     const bool isHeldUp = !isDelivered && posted.elapsed() >= 60;
-    if (!isHeldUp && sinceMet.elapsed() < 2000) {
+    if (!isHeldUp && sinceMet.elapsed() < 5000) {
         if (std::exchange(isDelivered, false)) {
             posted.start();
             queue.Post([this] { isDelivered = true; });

@@ -26,9 +26,12 @@ QByteArray Contents(const QString& path) {
 SelfSignedServer::SelfSignedServer() {
     const QString key = m_folder.filePath(u"key.pem"_s);
     const QString certificate = m_folder.filePath(u"certificate.pem"_s);
-    QProcess::execute(u"openssl"_s, {u"req"_s, u"-x509"_s, u"-newkey"_s, u"rsa:2048"_s, u"-nodes"_s,
-                                     u"-batch"_s, u"-quiet"_s, u"-subj"_s, u"/CN=127.0.0.1"_s, u"-keyout"_s,
-                                     key, u"-out"_s, certificate});
+    QProcess openssl;
+    openssl.start(u"openssl"_s,
+                  u"req -x509 -newkey rsa:2048 -nodes -batch -subj /CN=127.0.0.1 -keyout %1 -out %2"_s
+                      .arg(key, certificate)
+                      .split(u' '));
+    openssl.waitForFinished();
     QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
     configuration.setLocalCertificate(QSslCertificate(Contents(certificate)));
     configuration.setPrivateKey(QSslKey(Contents(key), QSsl::Rsa));

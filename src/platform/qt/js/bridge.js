@@ -135,8 +135,10 @@
 
     function any([set, argument, property, match, wanted]) {
         const items = collections[set](argument);
+        const read = readers[property];
+        const fits = matches[match];
         for (let i = 0, count = items.length; i < count; ++i)
-            if (matches[match](readers[property](items[i]).toLowerCase(), wanted))
+            if (fits(read(items[i]).toLowerCase(), wanted))
                 return true;
         return false;
     }
