@@ -2,6 +2,7 @@
 #include "ControlLine.h"
 
 #include "Address.h"
+#include "Designs.h"
 #include "Refusals.h"
 #include "World.h"
 
@@ -153,6 +154,16 @@ void SetFriends(World& world, Arguments& args) {
     world.friends.SetCount(owner, count);
 }
 
+void SetList(World& world, Arguments& args) {
+    const QString name = args.Word();
+    const int entries = args.Count();
+    const int perPage = args.AtEnd() ? 0 : args.Count();
+    args.End();
+    if (!DesignNamed(name))
+        throw BadControl(u"unknown list: "_s + name);
+    world.lists.Set(name, entries, perPage);
+}
+
 void SetFault(World& world, Arguments& args) {
     Fault fault;
     fault.prefix = args.Word();
@@ -176,11 +187,14 @@ void SetFault(World& world, Arguments& args) {
 
 void SetJournal(World& world, Arguments& args) {
     const bool isOfTimes = args.NextIs("times"_L1);
-    if (!isOfTimes)
+    const bool isOfShown = !isOfTimes && args.NextIs("shown"_L1);
+    if (!isOfTimes && !isOfShown)
         args.Expect("visits"_L1);
     const bool keep = args.OnOff();
     args.End();
-    if (!isOfTimes)
+    if (isOfShown)
+        world.journal.KeepShown(keep);
+    else if (!isOfTimes)
         world.journal.KeepVisits(keep);
     else if (keep)
         world.journal.PutBehind([&world] { return world.now().toString(u" yyyy-MM-ddThh:mm:ss"_s); });
@@ -194,6 +208,7 @@ void Reset(World& world, Arguments& args) {
     world.accounts.Restore();
     world.signInDesign = SignInDesign::Ids;
     world.faults.Clear();
+    world.lists.Clear();
     world.journal = Journal();
     world.Sow(world.firstSeed);
 }
@@ -224,6 +239,7 @@ constexpr std::array controlRows{
     ControlRow{"captcha-word"_L1, SetCaptchaWord},
     ControlRow{"captcha-kind"_L1, SetCaptchaKind},
     ControlRow{"friends"_L1, SetFriends},
+    ControlRow{"list"_L1, SetList},
     ControlRow{"fault"_L1, SetFault},
     ControlRow{"journal"_L1, SetJournal},
     ControlRow{"logout-all"_L1, LogOutAll},

@@ -44,7 +44,9 @@ struct Tab {
 
 QString Tabs(const Visit& visit, const QString& current) {
     const QString home = Url(Role::Home, u"/index.cfm?fuseaction=home"_s);
-    QList<Tab> tabs{{u"Home"_s, home}, {u"Browse"_s, Url(Role::SiteRoot, u"/browse/people"_s)}};
+    QList<Tab> tabs{{u"Home"_s, home},
+                    {u"Browse"_s, Url(Role::SiteRoot, u"/browse/people"_s)},
+                    {u"Lists"_s, Url(Role::SiteRoot, u"/sitemap"_s)}};
     if (visit.account) {
         const QString own = u'/' + QString::number(visit.account->id);
         tabs.append({u"Profile"_s, Url(Role::SiteRoot, own)});

@@ -16,9 +16,19 @@ public:
         if (m_visits)
             Write(QStringLiteral("visit ") + address);
     }
+    /// Who stood on the list of a page that was delivered; kept only while that is on.
+    void Shown(const QString& word, const QString& address, const QList<qint64>& ids) {
+        if (!m_shown || ids.isEmpty())
+            return;
+        QString line = word + QChar(u' ') + address;
+        for (const qint64 id : ids)
+            line += QChar(u' ') + QString::number(id);
+        Write(line);
+    }
     void KeepVisits(bool keep) { m_visits = keep; }
     /// What is put behind each line from now on, such as the time; nothing without one.
     void PutBehind(std::function<QString()> times) { m_times = std::move(times); }
+    void KeepShown(bool keep) { m_shown = keep; }
 
     const QStringList& Lines() const { return m_lines; }
     QStringList Take() {
@@ -32,6 +42,7 @@ private:
     qsizetype m_taken = 0;
     bool m_visits = false;
     std::function<QString()> m_times;
+    bool m_shown = false;
 };
 
 } // namespace qlm::practice

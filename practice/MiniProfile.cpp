@@ -92,8 +92,4 @@ QString PagerMarkup(const Pager& pager) {
     return u"<div class=\"pager\"><ul>"_s + links + u"</ul></div>\n"_s;
 }
 
-int PageCount(int entries) {
-    return std::max(1, (entries + perPage - 1) / perPage);
-}
-
 } // namespace qlm::practice

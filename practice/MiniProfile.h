@@ -25,10 +25,4 @@ struct Pager {
 };
 QString PagerMarkup(const Pager& pager);
 
-/// How many blocks a list page shows.
-constexpr int perPage = 40;
-
-/// Pages that a list of that length fills; an empty list has one.
-int PageCount(int entries);
-
 } // namespace qlm::practice

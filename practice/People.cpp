@@ -58,6 +58,7 @@ Person Invent(quint64 seed, qint64 id, bool alwaysPerson) {
     const int quiet = draw.Percent(60) ? draw.Below(14) : draw.Below(400);
     person.daysSinceLogin = person.online ? 0 : quiet;
     person.look = Mix(seed, static_cast<quint64>(id), 2);
+    person.advertiser = !alwaysPerson && Mix(seed, static_cast<quint64>(id), 5) % 40 == 0;
     return person;
 }
 

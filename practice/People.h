@@ -27,7 +27,8 @@ struct Person {
     QString interests;
     bool online = false;
     int daysSinceLogin = 0;
-    quint64 look = 0; ///< what the drawn picture follows from
+    bool advertiser = false; ///< a firm with goods to sell
+    quint64 look = 0;        ///< what the drawn picture follows from
 };
 
 /// Everybody on the site: the invented crowd, the founder, and the owners of the accounts. All of it follows

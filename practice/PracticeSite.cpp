@@ -22,7 +22,9 @@ Visit Arrive(World& world, const Request& request, Role role) {
                 .address = ParseAddress(request.path),
                 .form = {},
                 .session = CookieValue(request.headers.value(u"cookie"_s), SessionCookie()),
-                .captures = {}};
+                .captures = {},
+                .shown = {},
+                .shownByName = {}};
     if (visit.IsPost())
         visit.form = ParseFields(QString::fromUtf8(request.body));
     visit.account = world.accounts.Session(visit.session);
@@ -51,7 +53,10 @@ Response PracticeSite::Answer(const Request& request) {
     if (!match.picture)
         m_world->journal.Visit(visit.FullAddress());
     const auto fault = m_world->faults.Meet(visit.FullAddress());
-    return fault ? AnswerThrough(*fault, visit, match.handler) : match.handler(visit);
+    const Response response = fault ? AnswerThrough(*fault, visit, match.handler) : match.handler(visit);
+    m_world->journal.Shown(u"shown"_s, visit.FullAddress(), visit.shown);
+    m_world->journal.Shown(u"shown-by-name"_s, visit.FullAddress(), visit.shownByName);
+    return response;
 }
 
 QString PracticeSite::Control(const QString& line) {

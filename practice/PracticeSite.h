@@ -25,6 +25,9 @@ struct World;
 ///     asked ASKER TARGET             a request has come into being, behind its request line
 ///     asked-again ASKER TARGET       a request page was visited for somebody already asked by that account
 ///     visit HOST/PATH                every page request, while `journal visits on`
+///     shown HOST/PATH ID...          who stood on the list of a delivered page, in its order, and can
+///                                    be told by number there; while `journal shown on`
+///     shown-by-name HOST/PATH ID...  the same, for whoever is linked by a name alone
 ///
 /// Behind each line stands when, while `journal times on`.
 ///
@@ -40,13 +43,14 @@ struct World;
 ///     captcha-word WORD|off          the word of every CAPTCHA image
 ///     captcha-kind KIND|mixed        image, image-text, words, settings; image at the start
 ///     friends ID COUNT               length of a friends list
+///     list NAME COUNT [PERPAGE]      length of the lists of one design, and of their pages
 ///     fault ADDRESS KIND [MS] [times N] | fault ADDRESS off
 ///                                    ADDRESS is the beginning of an address, or a whole one with "$" behind;
 ///                                    KIND: slow MS, hang, reset, nobody, error, loggedout, limit, captcha,
 ///                                    alert, unload, endless, wrong, lost, blank; and what comes between a
 ///                                    sign-in and the home page: advert, moving, foreign, return, welcome,
 ///                                    cached, birthday, certificate
-///     journal visits|times on|off    logout-all          clear-faults          reset
+///     journal visits|shown|times on|off  logout-all          clear-faults          reset
 ///
 /// Over the wire they stand at the control host: POST /control, GET /journal, POST /journal/take.
 class PracticeSite {

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Routes.h"
 
+#include "Designs.h"
 #include "pages/AssetPages.h"
 #include "pages/CaptchaPages.h"
-#include "pages/CommentPages.h"
 #include "pages/ControlPages.h"
+#include "pages/DesignPages.h"
+#include "pages/HardPages.h"
 #include "pages/HomePages.h"
 #include "pages/ListPages.h"
 #include "pages/NoticePages.h"
@@ -12,6 +14,8 @@
 #include "pages/ProfilePages.h"
 #include "pages/RequestPages.h"
 #include "pages/SignInPages.h"
+#include "pages/SitePages.h"
+#include "pages/WebSearchPages.h"
 
 #include <array>
 
@@ -29,7 +33,8 @@ struct RouteRow {
     Shows shows = Shows::Page;
 };
 
-// The first row that fits wins, so "{name}" stands behind everything that has a name of its own.
+// The first row that fits wins, so "{name}" stands behind everything that has a name of its own. The lists
+// stand in tables of their own, which are looked through before.
 constexpr std::array routeRows{
     RouteRow{Role::SiteRoot, u"", u"", HomePage},
     RouteRow{Role::SiteRoot, u"home", u"", HomePage},
@@ -40,22 +45,27 @@ constexpr std::array routeRows{
     RouteRow{Role::SiteRoot, u"signout", u"", SignOut},
     RouteRow{Role::SiteRoot, u"signup", u"", SignUp},
     RouteRow{Role::SiteRoot, u"error.aspx", u"", UnexpectedError},
-    RouteRow{Role::SiteRoot, u"browse/people", u"", BrowsePage},
     RouteRow{Role::SiteRoot, u"my/friends/addtofriends/{id}", u"", AddToFriends},
     RouteRow{Role::Friends, u"index.cfm", u"invite.addfriend_verify", AddFriendVerify},
-    RouteRow{Role::Messaging, u"index.cfm", u"mail.inbox", InboxPage},
     RouteRow{Role::Friends, u"index.cfm", u"user.viewfriends", OldFriendsAddress},
     RouteRow{Role::Profile, u"index.cfm", u"user.viewprofile", OldProfileAddress},
     RouteRow{Role::SiteRoot, u"{id}", u"", ProfilePage},
     RouteRow{Role::SiteRoot, u"{id}/classic", u"", ClassicProfile},
-    RouteRow{Role::SiteRoot, u"{id}/friends", u"", FriendsPage},
-    RouteRow{Role::SiteRoot, u"{id}/friends/page/{id}", u"", FriendsPage},
-    RouteRow{Role::SiteRoot, u"{id}/comments", u"", CommentsPage},
     RouteRow{Role::SiteRoot, u"style/site.css", u"", StyleSheet, Shows::Picture},
     RouteRow{Role::SiteRoot, u"style/logo.svg", u"", Logo, Shows::Picture},
     RouteRow{Role::SiteRoot, u"pictures/{id}.svg", u"", ProfilePicture, Shows::Picture},
     RouteRow{Role::SiteRoot, u"images/{name}", u"", BadgeImage, Shows::Picture},
     RouteRow{Role::SiteRoot, u"captcha/{name}.svg", u"", CaptchaImage, Shows::Picture},
+    RouteRow{Role::SiteRoot, u"sitemap", u"", Sitemap},
+    RouteRow{Role::SiteRoot, u"music", u"", SitePage},
+    RouteRow{Role::SiteRoot, u"pressroom", u"", SitePage},
+    RouteRow{Role::SiteRoot, u"silentanna", u"", SilentProfile},
+    RouteRow{Role::SiteRoot, u"silentbert", u"", SilentProfile},
+    RouteRow{Role::SiteRoot, u"silentcleo", u"", SilentProfile},
+    RouteRow{Role::SearchService, u"index.cfm", u"sitesearch.viewmorepics", OtherProfileAddress},
+    RouteRow{Role::Video, u"index.cfm", u"vids.channel", OtherProfileAddress},
+    RouteRow{Role::WebSearch, u"", u"", WebSearchPage},
+    RouteRow{Role::WebSearch, u"search", u"", WebSearchPage},
     RouteRow{Role::SiteRoot, u"{name}", u"", VanityProfile},
     RouteRow{Role::Product, u"online.htm", u"", OnlineTest},
     RouteRow{Role::Product, u"version.htm", u"", Version},
@@ -107,6 +117,8 @@ bool IsIcon(const Visit& visit) {
 RouteMatch FindRoute(const Visit& visit) {
     if (IsIcon(visit))
         return {Icon, true, {}};
+    if (const DesignMatch match = FindDesign(visit); match.design)
+        return {match.design->handler ? match.design->handler : DesignPage, false, match.captures};
     const QString action = visit.address.query.value(u"fuseaction"_s);
     for (const RouteRow& row : routeRows) {
         QStringList captures;

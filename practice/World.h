@@ -6,6 +6,7 @@
 #include "FriendLists.h"
 #include "FriendRequests.h"
 #include "Journal.h"
+#include "ListSizes.h"
 #include "People.h"
 #include "SignInDesigns.h"
 
@@ -27,6 +28,7 @@ struct World {
     std::function<QDateTime()> now;
     People people;
     FriendLists friends;
+    ListSizes lists;
     FriendRequests requests;
     Accounts accounts;
     SignInDesign signInDesign = SignInDesign::Ids;

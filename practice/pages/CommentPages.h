@@ -5,8 +5,10 @@
 
 namespace qlm::practice {
 
-/// What somebody's friends wrote, newest first. The page shows some and grows in place: its "more" link
-/// fetches the next part and hides when there is no more.
+/// What friends wrote to somebody. The page grows in place: its script fetches part after part.
 Response CommentsPage(Visit& visit);
+
+/// What has happened to whoever is signed in; grows in the same way.
+Response NotificationsPage(Visit& visit);
 
 } // namespace qlm::practice

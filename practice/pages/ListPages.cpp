@@ -2,6 +2,7 @@
 #include "ListPages.h"
 
 #include "../Chance.h"
+#include "../Designs.h"
 #include "../Frame.h"
 #include "../Html.h"
 #include "../MiniProfile.h"
@@ -15,23 +16,28 @@ namespace {
 
 struct Extent {
     int page;
+    int pages;
     int first; // counted from 0
     int last;  // the entry behind the page
 };
 
-Extent PageExtent(const QString& wanted, int entries) {
-    const int page = std::clamp(wanted.isEmpty() ? 1 : wanted.toInt(), 1, PageCount(entries));
-    return {page, (page - 1) * perPage, std::min(page * perPage, entries)};
+// An empty list has one page.
+Extent PageExtent(const QString& wanted, int entries, int perPage) {
+    const int pages = std::max(1, (entries + perPage - 1) / perPage);
+    const int page = std::clamp(wanted.isEmpty() ? 1 : wanted.toInt(), 1, pages);
+    return {page, pages, (page - 1) * perPage, std::min(page * perPage, entries)};
 }
 
 QString SliceText(const QString& word, const Extent& extent, int entries) {
     return u"%1 %2-%3 of %4"_s.arg(word).arg(entries ? extent.first + 1 : 0).arg(extent.last).arg(entries);
 }
 
-QString Blocks(const QList<const Person*>& people) {
+QString Blocks(Visit& visit, const QList<const Person*>& people) {
     QString blocks;
-    for (const Person* person : people)
+    for (const Person* person : people) {
         blocks += MiniProfile(*person);
+        visit.Show(*person);
+    }
     return blocks.isEmpty() ? u"<p class=\"empty\">Nobody yet.</p>"_s : blocks;
 }
 
@@ -54,24 +60,26 @@ Response FriendsPage(Visit& visit) {
     const Person* owner = world.people.Find(visit.captures.value(0).toLongLong());
     if (!owner)
         return NotFound(visit);
-    const int count = world.friends.Count(owner->id);
-    const Extent extent = PageExtent(visit.captures.value(1), count);
+    const int all = world.friends.Count(owner->id);
+    const int count = std::min(all, world.lists.Entries(u"friends"_s, all));
+    const int perPage = PerPage(world, *DesignNamed(u"friends"_s));
+    const Extent extent = PageExtent(visit.captures.value(1), count, perPage);
     const QString base = Url(Role::SiteRoot, u"/%1/friends"_s.arg(owner->id));
-    const Pager pager{base + u"/page/"_s, extent.page, PageCount(count), u"Next \u203A"_s};
-    const QString main =
-        Fill(uR"(<div class="box list"><h2>{name} : Friends ({count})</h2>
+    const Pager pager{base + u"/page/"_s, extent.page, extent.pages, u"Next \u203A"_s};
+    const QString main = Fill(
+        uR"(<div class="box list"><h2>{name} : Friends ({count})</h2>
 <div class="listHead"><ul><li><a href="{profile}">Back to Profile</a></li><li>
 <a href="{base}">View All Friends</a></li></ul>
 <p>You can search for Display Name and town on the browse pages.</p>
 <p>Display: all friends, newest last</p><p class="slice">{slice}</p></div>
 {!pager}<div class="grid">{!blocks}</div>{!pager}</div>)",
-             {{u"name", owner->name},
-              {u"count", QString::number(count)},
-              {u"profile", Url(Role::SiteRoot, u"/%1"_s.arg(owner->id))},
-              {u"base", base},
-              {u"slice", SliceText(u"Listing"_s, extent, count)},
-              {u"pager", PagerMarkup(pager)},
-              {u"blocks", Blocks(world.friends.Slice(world.people, owner->id, extent.first, perPage))}});
+        {{u"name", owner->name},
+         {u"count", QString::number(count)},
+         {u"profile", Url(Role::SiteRoot, u"/%1"_s.arg(owner->id))},
+         {u"base", base},
+         {u"slice", SliceText(u"Listing"_s, extent, count)},
+         {u"pager", PagerMarkup(pager)},
+         {u"blocks", Blocks(visit, world.friends.Slice(world.people, owner->id, extent.first, perPage))}});
     return Framed(visit, {.title = owner->name + u" : Friends"_s,
                           .main = main,
                           .tab = visit.account && visit.account->id == owner->id ? u"Friends"_s : QString(),
@@ -84,17 +92,18 @@ Response OldFriendsAddress(Visit& visit) {
 }
 
 Response BrowsePage(Visit& visit) {
-    const QList<const Person*> everybody = BrowseOrder(visit.world);
+    const Design& design = *DesignNamed(u"browse"_s);
+    const QList<const Person*> everybody = BrowseOrder(visit.world).mid(0, EntryCount(visit.world, design));
     const int count = static_cast<int>(everybody.size());
-    const Extent extent = PageExtent(visit.address.query.value(u"page"_s), count);
-    const Pager pager{Url(Role::SiteRoot, u"/browse/people?page="_s), extent.page, PageCount(count),
-                      u"Next"_s};
+    const int perPage = PerPage(visit.world, design);
+    const Extent extent = PageExtent(visit.address.query.value(u"page"_s), count, perPage);
+    const Pager pager{Url(Role::SiteRoot, u"/browse/people?page="_s), extent.page, extent.pages, u"Next"_s};
     const QString main = Fill(uR"(<div class="box list"><h2>Browse People</h2>
 <div class="listHead"><p class="slice">{slice}</p></div>
 {!pager}<div class="grid">{!blocks}</div>{!pager}</div>)",
                               {{u"slice", SliceText(u"Showing"_s, extent, count)},
                                {u"pager", PagerMarkup(pager)},
-                               {u"blocks", Blocks(everybody.mid(extent.first, perPage))}});
+                               {u"blocks", Blocks(visit, everybody.mid(extent.first, perPage))}});
     return Framed(visit, {.title = u"Browse People"_s, .main = main, .tab = u"Browse"_s});
 }
 

@@ -35,11 +35,6 @@ Response UnexpectedError(Visit& visit) {
     return Notice(visit, u"Sorry!"_s, u"An unexpected error has occurred. We have made a note of it."_s);
 }
 
-Response InboxPage(Visit& visit) {
-    return visit.account ? Notice(visit, u"Inbox"_s, u"There are 0 messages in this folder."_s)
-                         : RedirectToSignIn();
-}
-
 Response WrongPage(const Visit& visit) {
     return Notice(visit, u"Spotlight of the week"_s,
                   u"Pepper Island, the film about a lighthouse and a very stubborn goat, opens on Friday."_s);

@@ -15,8 +15,6 @@ Response ServerErrorPage(const Visit& visit);
 Response DailyLimitPage(const Visit& visit, bool friendRequest);
 /// Where the site sends somebody whose request has gone out in spite of an error.
 Response UnexpectedError(Visit& visit);
-/// The folder of messages; there are none.
-Response InboxPage(Visit& visit);
 /// A page that nobody has asked for.
 Response WrongPage(const Visit& visit);
 

@@ -17,8 +17,10 @@ QString FaceRow(const World& world, const Person& person) {
     return faces;
 }
 
-// The online mark has to stand shortly before the date, with no link between them.
+// The online mark has to stand shortly before the date, with no link between them. Firms don't tell.
 QString LoginLine(const World& world, const Person& person) {
+    if (person.advertiser)
+        return u"<p class=\"advertiserProfile\">This page is a firm's.</p>"_s;
     const QDate day = world.now().date().addDays(-person.daysSinceLogin);
     return Fill(uR"(<p class="login">{!online}Last Login: {date}<br></p>)",
                 {{u"online", person.online ? u"<span class=\"userOnline\">Online Now!</span> "_s : QString()},
@@ -166,8 +168,23 @@ Response Newer(Visit& visit, const Person& person) {
 
 using Layout = Response (*)(Visit&, const Person&);
 
+// Whoever takes no requests shows strangers no profile either. The number stands there all the same.
+Response Private(Visit& visit, const Person& person, Layout layout) {
+    const QString words = layout == Classic
+                              ? u"This profile is set to private. This user must add you as a friend first."_s
+                              : u"Sorry, the profile of %1 is only viewable by friends."_s.arg(person.name);
+    const QString main = Fill(uR"(<div class="box notice"><h2>{name}</h2><div class="in">
+<img class="portrait" src="{picture}" width="150" height="150" alt=""><p>{words}</p></div></div>)",
+                              {{u"name", person.name}, {u"picture", PictureUrl(person)}, {u"words", words}});
+    return Framed(visit, {.title = person.name, .main = main, .tab = {}, .shownId = person.id});
+}
+
 Response Show(Visit& visit, const Person* person, Layout layout) {
-    return person ? layout(visit, *person) : NotFound(visit);
+    if (!person)
+        return NotFound(visit);
+    const bool isOwn = visit.account && visit.account->id == person->id;
+    const bool isPrivate = visit.world.requests.NatureOf(person->id) == Outcome::Private;
+    return isPrivate && !isOwn ? Private(visit, *person, layout) : layout(visit, *person);
 }
 
 } // namespace

@@ -7,8 +7,8 @@
 
 namespace qlm {
 
-RunningProgram::RunningProgram(const UsedProgram& folders)
-    : m_platform(folders.Options(), m_dialogs),
+RunningProgram::RunningProgram(const UsedProgram& folders, int clockRate)
+    : m_platform(folders.Options(clockRate), m_dialogs),
       m_views(m_platform),
       m_app(std::make_unique<App>(m_platform)),
       app(*m_app),

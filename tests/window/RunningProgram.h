@@ -14,7 +14,8 @@ namespace qlm {
 // something happens. One at a time.
 class RunningProgram {
 public:
-    explicit RunningProgram(const UsedProgram& folders);
+    // clockRate: how many times faster than the wall's clock the program's goes.
+    explicit RunningProgram(const UsedProgram& folders, int clockRate = 1);
     ~RunningProgram();
 
     // Adds the steps up to the press on Send.

@@ -47,8 +47,8 @@ QStringList UsedProgram::Arguments() const {
     return {u"--guided"_s, m_folder.path(), u"--resume"_s};
 }
 
-QtPlatformOptions UsedProgram::Options() const {
-    return {m_folder.filePath(u"profile"_s), File(u"local"_s), File(u"deployment.ini"_s)};
+QtPlatformOptions UsedProgram::Options(int clockRate) const {
+    return {m_folder.filePath(u"profile"_s), File(u"local"_s), File(u"deployment.ini"_s), clockRate};
 }
 
 void UsedProgram::Write(const QString& path, const QByteArray& bytes) const {

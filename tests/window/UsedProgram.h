@@ -20,7 +20,7 @@ public:
     // What the program is started with to go on here.
     QStringList Arguments() const;
     // For a program in this process.
-    QtPlatformOptions Options() const;
+    QtPlatformOptions Options(int clockRate = 1) const;
 
     QString File(const QString& name) const { return m_folder.filePath(u"profile/"_s + name); }
     QString DataFile(const QString& name) const { return File(u"local/Quillmere/"_s + name); }

@@ -32,6 +32,7 @@ QtPlatform::QtPlatform(const QtPlatformOptions& options, qlm::Dialogs& dialogs)
     : m_installationFolder(WithoutTrailingSeparator(options.installationFolder)),
       m_localDataFolder(LocalDataFolder(options.localDataFolder)),
       m_dialogs(dialogs),
+      m_pump(options.clockRate),
       m_settings(m_localDataFolder + u"Quillmere"_s),
       m_http(m_pump),
       m_shell(m_pump) {

@@ -19,6 +19,8 @@ struct QtPlatformOptions {
     QString localDataFolder;
     // Another deployment.ini than the installed one.
     QString deploymentFile;
+    // How many times faster than the wall's clock the logic's goes.
+    int clockRate = 1;
 };
 
 // The platform of the product: the real engine, clock, network and desktop. One at a time, made after the

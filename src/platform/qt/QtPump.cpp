@@ -31,7 +31,8 @@ QtPump::Hold::~Hold() {
         m_pump.SetAlarm();
 }
 
-QtPump::QtPump() : m_queue([this] { return m_clock.elapsed(); }) {
+QtPump::QtPump(int clockRate)
+    : m_clockRate(clockRate), m_queue([this] { return m_clock.elapsed() * m_clockRate; }) {
     m_clock.start();
     m_alarm.setSingleShot(true);
     m_alarm.setTimerType(Qt::PreciseTimer);
@@ -69,7 +70,7 @@ void QtPump::QuitIfIdle() {
 void QtPump::Sleep(int milliseconds) {
     const Hold hold(*this);
     QEventLoop loop;
-    QTimer::singleShot(std::max(milliseconds, 0), Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    QTimer::singleShot(std::max(milliseconds, 0) / m_clockRate, Qt::PreciseTimer, &loop, &QEventLoop::quit);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
     m_queue.EndTurn();
 }
@@ -87,7 +88,8 @@ void QtPump::SetAlarm() {
         return;
     }
     constexpr qint64 longestMs = 60 * 60 * 1000;
-    m_alarm.start(static_cast<int>(std::clamp(*due - m_queue.NowMs(), qint64(0), longestMs)));
+    const qint64 wallMs = (*due - m_queue.NowMs() + m_clockRate - 1) / m_clockRate;
+    m_alarm.start(static_cast<int>(std::clamp(wallMs, qint64(0), longestMs)));
 }
 
 void QtPump::OnAlarm() {

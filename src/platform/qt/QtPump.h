@@ -28,7 +28,9 @@ public:
         QtPump& m_pump;
     };
 
-    QtPump();
+    // A rate above 1 lets the logic's time go by so many times faster than the wall's: its waits and timers
+    // are shortened, what the engine and the network need is not.
+    explicit QtPump(int clockRate = 1);
 
     void PumpMessages() override;
     void Sleep(int milliseconds) override;
@@ -45,6 +47,7 @@ private:
     void SetAlarm();
     void OnAlarm();
 
+    const int m_clockRate;
     QElapsedTimer m_clock;
     MessageQueue m_queue;
     QTimer m_alarm;

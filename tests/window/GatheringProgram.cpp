@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "GatheringProgram.h"
+
+#include "Waiting.h"
+#include "core/StartUp.h"
+
+#include <QApplication>
+#include <stdexcept>
+
+namespace qlm {
+
+namespace {
+
+const QString Founder = u"6221"_s;
+
+QStringList EachOnce(QStringList ids) {
+    ids.removeAll(Founder);
+    ids.removeDuplicates();
+    return ids;
+}
+
+} // namespace
+
+QStringList ShownPeople::Quick() const {
+    return EachOnce(byNumber);
+}
+
+QStringList ShownPeople::Full() const {
+    return EachOnce(byNumber + byName);
+}
+
+GatheringProgram::GatheringProgram(int clockRate) {
+    site.Tell(u"journal shown on"_s);
+    for (const QString& prompt : {u"GroupGatherPrompt"_s, u"MusicSearchGatherPrompt"_s})
+        m_folders.Set(u"General"_s, prompt, u"1"_s);
+    m_program.emplace(m_folders, clockRate);
+    WindowDriver& driver = m_program->driver;
+    bool isIn = false;
+    driver.Add({u"The login screen"_s, 60, [&] { return driver.Form("frmInteken") != nullptr; },
+                [&] { driver.Press("frmInteken", "cmdContinue"); }});
+    driver.Add({u"The login"_s, 60, [this] { return Program().Status() == u"Login successful!"_s; },
+                [&isIn] { isIn = true; }});
+    QTimer::singleShot(0, qApp, [this] {
+        m_program->driver.Start();
+        Program().startUp->Main();
+    });
+    if (!WaitUntil([&] { return isIn; }))
+        throw std::runtime_error("the program did not log in");
+}
+
+GatheringProgram::~GatheringProgram() {
+    Act([this] {
+        m_program->driver.Choose("mnuExit");
+        m_program->driver.End({});
+    });
+    QApplication::exec();
+}
+
+// As the user's own acts: from the program's queue, never in the middle of a call into a page.
+void GatheringProgram::Act(std::function<void()> act) {
+    Program().Pump().Queue().Post(std::move(act));
+}
+
+void GatheringProgram::Open(const QString& url) {
+    bool isAsked = false;
+    Act([&] {
+        Program().commands.Run(u"piccmdClearList_Click"_s);
+        Program().ClearPage();
+        Program().WebBrowser1().Navigate(url);
+        isAsked = true;
+    });
+    const bool stands = WaitUntil([&] {
+        return isAsked && Program().WebBrowser1().LocationURL().startsWith(u"http"_s) &&
+               Program().WebBrowser1().ReadyState() == 4;
+    });
+    if (!stands)
+        throw std::runtime_error("the page did not come: " + url.toStdString());
+}
+
+void GatheringProgram::Start(const char* kind) {
+    bool isGoing = false;
+    Act([this, kind, &isGoing] {
+        m_program->driver.Press("frmMain", "optScanFollowing");
+        m_program->driver.Press("frmMain", kind);
+        isGoing = true;
+        m_program->driver.Press("frmMain", "picScanStart");
+    });
+    WaitUntil([&] { return isGoing; });
+}
+
+bool GatheringProgram::Gather(const char* kind, int limitMs) {
+    // The gather runs within the wait for it, which therefore can't see its own time go by.
+    bool isLate = false;
+    QTimer watch;
+    watch.setSingleShot(true);
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+        isLate = true;
+        Act([this] { Program().commands.Run(u"picScanStop_Click"_s); });
+    });
+    watch.start(limitMs);
+    Start(kind);
+    WaitUntil([this] { return IsIdle(); }, limitMs);
+    return !isLate && IsIdle() && Program().Status() == u"Finished gathering ID's"_s;
+}
+
+qint64 GatheringProgram::Stop() {
+    QElapsedTimer pressed;
+    pressed.start();
+    Act([this] { m_program->driver.Press("frmMain", "picScanStop"); });
+    return WaitUntil([this] { return IsIdle(); }) ? pressed.elapsed() : -1;
+}
+
+QStringList GatheringProgram::List() const {
+    QStringList ids = m_program->app.state.arrFriendIDs;
+    ids.removeAll(QString());
+    return ids;
+}
+
+ShownPeople GatheringProgram::TakeShown() {
+    ShownPeople shown;
+    for (const QString& line : site.TakeJournal()) {
+        const QStringList words = line.split(u' ');
+        if (words[0] == u"shown"_s)
+            shown.byNumber += words.mid(2);
+        else if (words[0] == u"shown-by-name"_s)
+            shown.byName += words.mid(2);
+    }
+    return shown;
+}
+
+} // namespace qlm
