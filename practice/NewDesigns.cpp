@@ -15,7 +15,7 @@ using enum Design::Names;
 using How = Turning::How;
 
 constexpr QStringView nextTitle = u"title=\"next page\"";
-constexpr QStringView deadNext = u"class=\"disabled\" title=\"next page\"";
+constexpr QStringView deadNext = u"class=\"disabled disablePaging\" title=\"next page\"";
 
 constexpr Design rows[] = {
     {.name = u"friends",

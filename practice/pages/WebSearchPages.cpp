@@ -12,13 +12,16 @@ namespace {
 constexpr int mostResults = 1000;
 constexpr int mostOnAPage = 100;
 
+constexpr QStringView style =
+    uR"(body { font: 14px/1.5 Arial, sans-serif; margin: 24px auto; max-width: 720px; color: #333; }
+h1 { font-size: 20px; color: #17436d; } input { font: inherit; padding: 4px; width: 420px; }
+h3 { font-size: 15px; margin: 14px 0 0; } p { margin: 0; } .at { color: #2f7d3b; font-size: 12px; }
+.turn { margin-top: 20px; })";
+
 // No address of the site stands here but those of the results: they are all that is looked for.
 constexpr QStringView frame = uR"(<!DOCTYPE html>
 <html lang="en"><head><meta charset="utf-8"><title>{q} | Web search</title>
-<style>body { font: 14px/1.5 Arial, sans-serif; margin: 24px auto; max-width: 720px; color: #333; }
-h1 { font-size: 20px; color: #17436d; } input { font: inherit; padding: 4px; width: 420px; }
-h3 { font-size: 15px; margin: 14px 0 0; } p { margin: 0; } .at { color: #2f7d3b; font-size: 12px; }
-.turn { margin-top: 20px; }</style></head>
+<style>{!style}</style></head>
 <body><h1>Web search</h1><form action="/search"><input name="q" value="{q}"> <button>Search</button></form>
 <p>{told}</p>
 {!results}{!turn}</body></html>
@@ -83,6 +86,7 @@ Response WebSearchPage(Visit& visit) {
     response.body =
         Fill(frame,
              {{u"q", q},
+              {u"style", style.toString()},
               {u"told", q.isEmpty() ? u"Looks for profiles of the practice site."_s
                                     : u"%1 results"_s.arg(found.size())},
               {u"results", results},

@@ -142,10 +142,9 @@ std::vector<Element> LinkScanner::ChooseLinks() {
     const QString html = m_app.WebBrowser1().Document().BodyHTML().mid(m_app.state.lngPageScanOffset);
     m_app.webTemp().Navigate(u"about:blank"_s);
     m_app.pageTests->WaitForDocument(m_app.webTemp());
-    const Document copy = m_app.webTemp().Document();
-    copy.Body().SetInnerHTML(u"<base href=\""_s + m_app.pageTests->LocationURL().toHtmlEscaped() + u"\">"_s +
-                             html);
-    return copy.Links();
+    m_app.webTemp().Document().Body().SetInnerHTML(
+        u"<base href=\""_s + m_app.pageTests->LocationURL().toHtmlEscaped() + u"\">"_s + html);
+    return m_app.webTemp().Document().Links();
 }
 
 void LinkScanner::ScanLinks(Pass& pass) {

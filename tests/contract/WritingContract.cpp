@@ -96,6 +96,26 @@ TEST_F(WritingContract, AClickWorksOnAnyElement) {
     EXPECT_TRUE(WaitForText(u"clicked"_s));
 }
 
+// Behind the writing it is a page like any other; what was taken from the blank one is gone.
+TEST_F(WritingContract, MarkupCanBePutIntoABlankPageAgainAndAgain) {
+    Show(u"<p id=old>before</p>"_s);
+    for (const QString& word : {u"one"_s, u"two"_s}) {
+        browser.Navigate(u"about:blank"_s);
+        browser.Document().Body().SetInnerHTML(u"<base href=\""_s + At(u"deep/page"_s) +
+                                               u"\"><p><a href=\"x\">"_s + word + u"</a></p>"_s);
+        ASSERT_EQ(browser.Document().Links().size(), 1U);
+        const Element link = browser.Document().Links().front();
+        EXPECT_EQ(link.InnerText(), word);
+        EXPECT_EQ(link.Href(), At(u"deep/x"_s));
+        EXPECT_EQ(link.ParentElement().TagName(), u"p"_s);
+        EXPECT_EQ(browser.LocationURL(), u"about:blank"_s);
+        EXPECT_EQ(browser.ReadyState(), 4);
+        EXPECT_TRUE(browser.Document().GetElementById(u"old"_s).IsNull());
+    }
+    Show(u"<p id=mark>behind</p>"_s);
+    EXPECT_EQ(ById(u"mark"_s).InnerText(), u"behind"_s);
+}
+
 TEST_F(WritingContract, AClickWorksOnAHiddenElement) {
     ServeBody(u"target"_s, u"the target"_s);
     Show(u"<div style='display:none'><a id=hid href='/target'>hidden link</a></div>"_s);

@@ -5,6 +5,8 @@
 #include "core/StartUp.h"
 
 #include <QApplication>
+#include <QThread>
+#include <atomic>
 #include <stdexcept>
 
 namespace qlm {
@@ -77,19 +79,19 @@ void GatheringProgram::Open(const QString& url) {
         throw std::runtime_error("the page did not come: " + url.toStdString());
 }
 
-void GatheringProgram::Start(const char* kind) {
-    bool isGoing = false;
-    Act([this, kind, &isGoing] {
+// The gather runs within the wait for it, which therefore returns when it is over.
+void GatheringProgram::PressStart(const char* kind) {
+    bool isThrough = false;
+    Act([this, kind, &isThrough] {
         m_program->driver.Press("frmMain", "optScanFollowing");
         m_program->driver.Press("frmMain", kind);
-        isGoing = true;
         m_program->driver.Press("frmMain", "picScanStart");
+        isThrough = true;
     });
-    WaitUntil([&] { return isGoing; });
+    WaitUntil([&] { return isThrough; });
 }
 
 bool GatheringProgram::Gather(const char* kind, int limitMs) {
-    // The gather runs within the wait for it, which therefore can't see its own time go by.
     bool isLate = false;
     QTimer watch;
     watch.setSingleShot(true);
@@ -98,16 +100,52 @@ bool GatheringProgram::Gather(const char* kind, int limitMs) {
         Act([this] { Program().commands.Run(u"picScanStop_Click"_s); });
     });
     watch.start(limitMs);
-    Start(kind);
+    PressStart(kind);
     WaitUntil([this] { return IsIdle(); }, limitMs);
     return !isLate && IsIdle() && Program().Status() == u"Finished gathering ID's"_s;
 }
 
-qint64 GatheringProgram::Stop() {
+// The journal is read by a thread of its own: asking for it here would let the program's events in.
+qint64 GatheringProgram::GatherAndStop(const char* kind, int journalLines, int afterMs) {
+    std::atomic_bool isOver = false;
     QElapsedTimer pressed;
-    pressed.start();
-    Act([this] { m_program->driver.Press("frmMain", "picScanStop"); });
-    return WaitUntil([this] { return IsIdle(); }) ? pressed.elapsed() : -1;
+    qint64 answeredMs = -1;
+    site.TakeJournal();
+    const auto press = [&] {
+        if (IsIdle())
+            return;
+        m_program->driver.Press("frmMain", "picScanStop");
+        answeredMs = IsIdle() ? pressed.elapsed() : answeredMs;
+    };
+    const std::unique_ptr<QThread> user(QThread::create([&, port = site.Port()] {
+        PracticeControls controls(port);
+        qsizetype lines = 0;
+        while (!isOver && lines < journalLines)
+            lines += controls.TakeJournal().size();
+        QThread::msleep(static_cast<unsigned long>(afterMs));
+        pressed.start();
+        QMetaObject::invokeMethod(
+            qApp, [&] { Act(press); }, Qt::QueuedConnection);
+    }));
+    user->start();
+    PressStart(kind);
+    WaitUntil([this] { return IsIdle(); });
+    isOver = true;
+    user->wait();
+    // Whatever is still to be delivered points at what is here.
+    bool isDelivered = false;
+    QMetaObject::invokeMethod(
+        qApp, [&] { Act([&] { isDelivered = true; }); }, Qt::QueuedConnection);
+    WaitUntil([&] { return isDelivered; });
+    return answeredMs;
+}
+
+void GatheringProgram::Tick(QLatin1StringView option) {
+    Program().controls.SetTicked(option, true);
+}
+
+void GatheringProgram::Fill(QLatin1StringView field, const QString& text) {
+    Program().controls.SetText(field, text);
 }
 
 QStringList GatheringProgram::List() const {

@@ -32,10 +32,12 @@ public:
     // Presses Start on the open page with "Quick" or "Full" Gather chosen and waits until the gather has come
     // to its own end. False when that took too long; then it has been stopped.
     bool Gather(const char* kind = "optQuickGather", int limitMs = GenerousLimitMs);
-    // Presses Start and returns when the gather goes; it goes on in whatever waits next.
-    void Start(const char* kind = "optQuickGather");
-    // How long it took until nothing was going on; -1 when it never came to that.
-    qint64 Stop();
+    // The same, but Stop is pressed so long behind the moment at which the site's journal has got that many
+    // new lines. The milliseconds until nothing was going on any more; -1 when the gather had ended before.
+    qint64 GatherAndStop(const char* kind, int journalLines, int afterMs);
+    // Sets an option or a field of the filter window while nothing goes on.
+    void Tick(QLatin1StringView option);
+    void Fill(QLatin1StringView field, const QString& text);
 
     // The gathered list.
     QStringList List() const;
@@ -47,6 +49,7 @@ public:
 
 private:
     void Act(std::function<void()> act);
+    void PressStart(const char* kind);
     bool IsIdle() const { return m_program->app.state.CurrentAction.isEmpty(); }
 
 public:

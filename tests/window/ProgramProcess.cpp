@@ -3,11 +3,15 @@
 
 namespace qlm {
 
-ProgramProcess::ProgramProcess(const QStringList& arguments, std::function<void()> beforeStart) {
+ProgramProcess::ProgramProcess(const QStringList& arguments, std::function<void()> beforeStart)
+    : ProgramProcess(QStringLiteral(PROGRAM), arguments, std::move(beforeStart)) {}
+
+ProgramProcess::ProgramProcess(const QString& file, const QStringList& arguments,
+                               std::function<void()> beforeStart) {
     m_process.setProcessChannelMode(QProcess::MergedChannels);
     if (beforeStart)
         m_process.setChildProcessModifier(std::move(beforeStart));
-    m_process.start(QStringLiteral(PROGRAM), arguments);
+    m_process.start(file, arguments);
     if (!m_process.waitForStarted())
         throw std::runtime_error("the program could not be started");
 }

@@ -12,6 +12,8 @@ class ProgramProcess {
 public:
     // beforeStart runs in the new process, before it becomes the program.
     explicit ProgramProcess(const QStringList& arguments, std::function<void()> beforeStart = {});
+    // Another program than the built one.
+    ProgramProcess(const QString& file, const QStringList& arguments, std::function<void()> beforeStart = {});
     ~ProgramProcess();
 
     bool IsRunning() const { return m_process.state() == QProcess::Running; }

@@ -24,7 +24,10 @@ QByteArray Contents(const QString& path) {
 
 } // namespace
 
-UsedProgram::UsedProgram(quint16 proxyPort) {
+UsedProgram::UsedProgram(const QString& folder) : m_path(folder) {}
+
+UsedProgram::UsedProgram(quint16 proxyPort)
+    : m_folder(std::make_unique<QTemporaryDir>()), m_path(m_folder->path()) {
     QDir().mkpath(DataFile({}));
     QString deployment = QString::fromUtf8(Contents(QStringLiteral(DEPLOYMENT)));
     static const QRegularExpression proxy(u"^Proxy=.*$"_s, QRegularExpression::MultilineOption);
@@ -38,17 +41,19 @@ UsedProgram::UsedProgram(quint16 proxyPort) {
 }
 
 UsedProgram::~UsedProgram() {
-    m_folder.setAutoRemove(!testing::Test::HasFailure());
+    if (!m_folder)
+        return;
+    m_folder->setAutoRemove(!testing::Test::HasFailure());
     if (testing::Test::HasFailure())
-        std::fprintf(stderr, "the program's folders: %s\n", qUtf8Printable(m_folder.path()));
+        std::fprintf(stderr, "the program's folders: %s\n", qUtf8Printable(m_path));
 }
 
 QStringList UsedProgram::Arguments() const {
-    return {u"--guided"_s, m_folder.path(), u"--resume"_s};
+    return {u"--guided"_s, m_path, u"--resume"_s};
 }
 
 QtPlatformOptions UsedProgram::Options(int clockRate) const {
-    return {m_folder.filePath(u"profile"_s), File(u"local"_s), File(u"deployment.ini"_s), clockRate};
+    return {m_path + u"/profile"_s, File(u"local"_s), File(u"deployment.ini"_s), clockRate};
 }
 
 void UsedProgram::Write(const QString& path, const QByteArray& bytes) const {

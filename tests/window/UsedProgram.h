@@ -4,6 +4,7 @@
 #include "platform/qt/QtPlatform.h"
 
 #include <QTemporaryDir>
+#include <memory>
 
 namespace qlm {
 
@@ -15,14 +16,17 @@ using namespace Qt::Literals::StringLiterals;
 class UsedProgram {
 public:
     explicit UsedProgram(quint16 proxyPort);
+    // Folders that another process has made and will remove.
+    explicit UsedProgram(const QString& folder);
     ~UsedProgram();
 
+    QString Folder() const { return m_path; }
     // What the program is started with to go on here.
     QStringList Arguments() const;
     // For a program in this process.
     QtPlatformOptions Options(int clockRate = 1) const;
 
-    QString File(const QString& name) const { return m_folder.filePath(u"profile/"_s + name); }
+    QString File(const QString& name) const { return m_path + u"/profile/"_s + name; }
     QString DataFile(const QString& name) const { return File(u"local/Quillmere/"_s + name); }
     QString SettingsFile() const { return DataFile(u"quillmere.ini"_s); }
     void Write(const QString& path, const QByteArray& bytes) const;
@@ -36,7 +40,8 @@ public:
     QStringList Log() const;
 
 private:
-    QTemporaryDir m_folder;
+    std::unique_ptr<QTemporaryDir> m_folder; // none when they are another's
+    QString m_path;
 };
 
 // So many IDs that the practice site knows.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Gatherer.h"
 #include "platform/qt/EngineProfile.h"
 
 #include <QApplication>
@@ -16,6 +17,8 @@ int main(int argc, char** argv) {
     qlm::PrepareEngine();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    if (argc == 3 && QByteArray(argv[1]) == "--gatherer")
+        return qlm::RunGatherer(QString::fromLocal8Bit(argv[2]));
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -83,13 +83,17 @@ std::vector<int> BlankDocument::Descendants(int, const QString&) {
     return {};
 }
 
-// Nothing can be put into a blank page: it is the slate that a step wipes clean.
 void BlankDocument::SetInnerText(int, const QString&) {
     throw BrowserError();
 }
 
-void BlankDocument::SetInnerHTML(int, const QString&) {
-    throw BrowserError();
+void BlankDocument::SetInnerHTML(int node, const QString& html) {
+    Check();
+    if (node != bodyNode)
+        throw BrowserError();
+    // This document is gone behind it, and its function with it.
+    const auto write = m_write;
+    write(html);
 }
 
 void BlankDocument::SetValue(int, const QString&) {

@@ -9,10 +9,13 @@ namespace qlm {
 
 // The document of about:blank as the program sees it: a body with nothing in it. It stands at once, whatever
 // the engine still shows, and asks the engine nothing. isPresent tells whether the control still shows it.
+//
+// Markup that is put into its body makes it a page like any other: write shows that one in its place.
 class BlankDocument final : public DocumentBackend {
 public:
-    explicit BlankDocument(std::function<bool(const DocumentBackend*)> isPresent)
-        : m_isPresent(std::move(isPresent)) {}
+    BlankDocument(std::function<bool(const DocumentBackend*)> isPresent,
+                  std::function<void(const QString&)> write)
+        : m_isPresent(std::move(isPresent)), m_write(std::move(write)) {}
 
     int Body() override;
     bool HasLinks() override;
@@ -41,6 +44,7 @@ private:
     void Check() const;
 
     std::function<bool(const DocumentBackend*)> m_isPresent;
+    std::function<void(const QString&)> m_write;
 };
 
 } // namespace qlm

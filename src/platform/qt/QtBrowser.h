@@ -12,6 +12,8 @@
 #include <optional>
 #include <set>
 
+class QEventLoop;
+
 namespace qlm {
 
 class PopupWindow;
@@ -81,6 +83,8 @@ private:
     void Load(const QUrl& url);
     void BlankEngine();
     void OnEngineBlank();
+    void AwaitEngineBlank();
+    void WriteBlank(const QString& html);
     bool AcceptFrame(const QUrl& url);
     bool AcceptPageWish(const QUrl& url, QWebEnginePage::NavigationType type);
     bool AcceptForm(const QUrl& url);
@@ -143,6 +147,7 @@ private:
     bool m_isEngineBlank = true;
     bool m_awaitsBlank = false;
     std::optional<QUrl> m_afterBlank;
+    QEventLoop* m_blankWait = nullptr;
     QTimer m_blankLimit;
     QTimer m_silenceLimit;
     int m_giveUpAfterMs = givenUpMs;

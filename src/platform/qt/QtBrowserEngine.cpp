@@ -116,7 +116,8 @@ void QtBrowser::Arrive(const QString& document, const QString& url) {
 
 void QtBrowser::ShowBlank() {
     m_document = std::make_shared<BlankDocument>(
-        [this](const DocumentBackend* document) { return IsPresent(document); });
+        [this](const DocumentBackend* document) { return IsPresent(document); },
+        [this](const QString& html) { WriteBlank(html); });
     m_documentId.clear();
     m_location = u"about:blank"_s;
     m_isBlank = true;

@@ -2,6 +2,7 @@
 #include "platform/qt/QtBrowser.h"
 
 #include <QDir>
+#include <QEventLoop>
 #include <QWebEngineHistory>
 
 namespace qlm {
@@ -161,8 +162,38 @@ void QtBrowser::OnEngineBlank() {
     m_awaitsBlank = false;
     m_isEngineBlank = true;
     m_blankLimit.stop();
+    if (m_blankWait)
+        m_blankWait->quit();
     if (m_afterBlank)
         Load(*std::exchange(m_afterBlank, std::nullopt));
+}
+
+// As in a call into a page, no handler runs meanwhile. The limit for the blank page ends the wait.
+void QtBrowser::AwaitEngineBlank() {
+    if (!m_awaitsBlank)
+        return;
+    const QtPump::Hold hold(m_pump);
+    QEventLoop loop;
+    m_blankWait = &loop;
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    m_blankWait = nullptr;
+}
+
+// The engine's own blank page takes the markup and is from then on the page that is shown.
+void QtBrowser::WriteBlank(const QString& html) {
+    m_afterBlank.reset();
+    AwaitEngineBlank();
+    const auto answer = m_calls.Call({}, u"snapshot"_s, {0});
+    if (!m_isBlank || !m_isEngineBlank || !answer)
+        throw BrowserError();
+    DocumentOwner& owner = *this;
+    const auto page = std::make_shared<PageDocument>(m_pump, m_calls, owner, answer->document);
+    m_document = page;
+    m_documentId = answer->document;
+    m_isBlank = false;
+    m_isEngineBlank = false;
+    m_isCompleteTold = true;
+    page->SetInnerHTML(page->Body(), html);
 }
 
 void QtBrowser::SetOnItsWay(const QUrl& url) {

@@ -7,6 +7,14 @@
 namespace qlm::practice {
 namespace {
 
+QStringList ShownIn(const QStringList& journal) {
+    QStringList ids;
+    for (const QString& line : journal)
+        if (line.startsWith(u"shown"_s))
+            ids += line.split(u' ').mid(2);
+    return ids;
+}
+
 // Every list of the site, by its row.
 class EveryDesign : public testing::TestWithParam<const Design*> {
 protected:
@@ -16,12 +24,7 @@ protected:
         client.Control(u"friends 100001 90"_s);
     }
 
-    QStringList TakeShown() {
-        QStringList ids;
-        for (const QString& line : client.site.TakeJournal())
-            ids += line.split(u' ').mid(2);
-        return ids;
-    }
+    QStringList TakeShown() { return ShownIn(client.site.TakeJournal()); }
 
     SiteClient client;
     const Design& design = *GetParam();
@@ -143,9 +146,7 @@ TEST(Growing, NotificationsComePartByPartToWhoeverIsSignedIn) {
     EXPECT_TRUE(Holds(client.Text(url), u"15 of 40 shown"_s));
     for (const QString& from : {u"15"_s, u"30"_s})
         client.Text(url + u"?from="_s + from);
-    QStringList shown;
-    for (const QString& line : client.site.TakeJournal())
-        shown += line.split(u' ').mid(2);
+    const QStringList shown = ShownIn(client.site.TakeJournal());
     EXPECT_EQ(QSet<QString>(shown.begin(), shown.end()).size(), 40);
 }
 
