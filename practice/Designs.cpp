@@ -22,7 +22,7 @@ bool SegmentFits(QStringView pattern, const QString& segment, QStringList& captu
 }
 
 // The page's number may follow as segments of its own, as in "/page/3".
-bool PathFits(const Design& design, const QStringList& segments, QStringList& captures) {
+bool PathFits(const ListDesign& design, const QStringList& segments, QStringList& captures) {
     auto parts = design.path.split(u'/', Qt::SkipEmptyParts);
     if (design.page.startsWith(u'/') && segments.size() > parts.size()) {
         parts += design.page.split(u'/', Qt::SkipEmptyParts);
@@ -37,13 +37,13 @@ bool PathFits(const Design& design, const QStringList& segments, QStringList& ca
 }
 
 // The query's field that holds the page's number; "" when it stands elsewhere.
-QString PageKey(const Design& design) {
+QString PageKey(const ListDesign& design) {
     const QString page = design.page.toString();
     return page.endsWith(u'=') ? page.section(QRegularExpression(u"[?&]"_s), -1).chopped(1).toLower()
                                : QString();
 }
 
-bool QueryFits(const Design& design, const Fields& query) {
+bool QueryFits(const ListDesign& design, const Fields& query) {
     const QString key = PageKey(design);
     if (design.everyPage && !key.isEmpty() && !query.contains(key))
         return false;
@@ -54,13 +54,13 @@ bool QueryFits(const Design& design, const Fields& query) {
     return true;
 }
 
-bool Belongs(const Design& design, const Person& person) {
+bool Belongs(const ListDesign& design, const Person& person) {
     switch (design.who) {
-    case Design::Who::People:
+    case ListDesign::Who::People:
         return person.kind == Person::Kind::Person;
-    case Design::Who::Bands:
+    case ListDesign::Who::Bands:
         return person.kind == Person::Kind::Band;
-    case Design::Who::Everybody:
+    case ListDesign::Who::Everybody:
         break;
     }
     return true;
@@ -68,25 +68,25 @@ bool Belongs(const Design& design, const Person& person) {
 
 } // namespace
 
-const QList<const Design*>& AllDesigns() {
-    static const QList<const Design*> all = [] {
-        QList<const Design*> designs;
+const QList<const ListDesign*>& AllDesigns() {
+    static const QList<const ListDesign*> all = [] {
+        QList<const ListDesign*> designs;
         for (const auto& table : {NewDesigns(), OldDesigns(), HardDesigns()})
-            for (const Design& design : table)
+            for (const ListDesign& design : table)
                 designs.append(&design);
         return designs;
     }();
     return all;
 }
 
-const Design* DesignNamed(const QString& name) {
+const ListDesign* DesignNamed(const QString& name) {
     const auto& all = AllDesigns();
     const auto found =
-        std::find_if(all.begin(), all.end(), [&](const Design* design) { return design->name == name; });
+        std::find_if(all.begin(), all.end(), [&](const ListDesign* design) { return design->name == name; });
     return found == all.end() ? nullptr : *found;
 }
 
-QString PageAddress(const Design& design, qint64 owner, int page) {
+QString PageAddress(const ListDesign& design, qint64 owner, int page) {
     const QString first =
         Url(design.role, u'/' + WithOwner(design.path, owner)) + WithOwner(design.query, owner);
     if (design.page.isEmpty() || (page == 1 && !design.everyPage))
@@ -97,7 +97,7 @@ QString PageAddress(const Design& design, qint64 owner, int page) {
 // Two designs may share an address that only one of them wants a page's number in.
 DesignMatch FindDesign(const Visit& visit) {
     DesignMatch best{nullptr, {}};
-    for (const Design* design : AllDesigns()) {
+    for (const ListDesign* design : AllDesigns()) {
         QStringList captures;
         if (design->role != visit.role || !PathFits(*design, visit.address.segments, captures) ||
             !QueryFits(*design, visit.address.query))
@@ -108,7 +108,7 @@ DesignMatch FindDesign(const Visit& visit) {
     return best;
 }
 
-Standing StandingOf(const Visit& visit, const Design& design) {
+Standing StandingOf(const Visit& visit, const ListDesign& design) {
     const Fields& query = visit.address.query;
     const bool inPath = design.path.contains(u"{id}");
     const bool pageInPath = design.page.startsWith(u'/') && visit.captures.size() > (inPath ? 1 : 0);
@@ -129,15 +129,16 @@ Standing StandingOf(const Visit& visit, const Design& design) {
     return standing;
 }
 
-int EntryCount(const World& world, const Design& design) {
+int EntryCount(const World& world, const ListDesign& design) {
     return world.lists.Entries(design.name.toString(), design.entries);
 }
 
-int PerPage(const World& world, const Design& design) {
+int PerPage(const World& world, const ListDesign& design) {
     return world.lists.PerPage(design.name.toString(), design.perPage);
 }
 
-QList<const Person*> Listed(const World& world, const Design& design, qint64 owner, int first, int count) {
+QList<const Person*> Listed(const World& world, const ListDesign& design, qint64 owner, int first,
+                            int count) {
     quint64 key = Mix(world.seed, static_cast<quint64>(owner), 17);
     for (const QChar c : design.name)
         key = Mix(key, c.unicode());

@@ -29,7 +29,7 @@ struct Turning {
 
 /// One of the site's many ways to show a list of people, with what it takes to make its pages. The markup is
 /// what readers of the site's lists know these pages by.
-struct Design {
+struct ListDesign {
     enum class Who { Everybody, People, Bands };
     /// Whether the page gives away the number of people whose address is a name.
     enum class Names { Hidden, Numbered };
@@ -54,19 +54,19 @@ struct Design {
     Handler handler = nullptr; ///< for designs that a table doesn't describe
 };
 
-std::span<const Design> NewDesigns();  ///< the site as it is now
-std::span<const Design> OldDesigns();  ///< pages that are left over from before
-std::span<const Design> HardDesigns(); ///< made to be hard to read
+std::span<const ListDesign> NewDesigns();  ///< the site as it is now
+std::span<const ListDesign> OldDesigns();  ///< pages that are left over from before
+std::span<const ListDesign> HardDesigns(); ///< made to be hard to read
 /// All of these, in that order.
-const QList<const Design*>& AllDesigns();
+const QList<const ListDesign*>& AllDesigns();
 /// nullptr when there is none of that name.
-const Design* DesignNamed(const QString& name);
+const ListDesign* DesignNamed(const QString& name);
 
 /// The whole address of a page of somebody's list; pages count from 1.
-QString PageAddress(const Design& design, qint64 owner, int page = 1);
+QString PageAddress(const ListDesign& design, qint64 owner, int page = 1);
 
 struct DesignMatch {
-    const Design* design;
+    const ListDesign* design;
     QStringList captures;
 };
 /// The design that a request's address belongs to; nullptr inside when it is none.
@@ -81,12 +81,12 @@ struct Standing {
     int perPage = 0;
     int count = 0; ///< of the whole list
 };
-Standing StandingOf(const Visit& visit, const Design& design);
+Standing StandingOf(const Visit& visit, const ListDesign& design);
 
 /// Who stands on somebody's list of that design: `count` people from place `first` on.
-QList<const Person*> Listed(const World& world, const Design& design, qint64 owner, int first, int count);
+QList<const Person*> Listed(const World& world, const ListDesign& design, qint64 owner, int first, int count);
 /// Length of the list and of its pages, as controls have it.
-int EntryCount(const World& world, const Design& design);
-int PerPage(const World& world, const Design& design);
+int EntryCount(const World& world, const ListDesign& design);
+int PerPage(const World& world, const ListDesign& design);
 
 } // namespace qlm::practice

@@ -7,7 +7,7 @@ namespace qlm::practice {
 
 namespace {
 
-constexpr Design rows[] = {
+constexpr ListDesign rows[] = {
     {.name = u"hard-links",
      .title = u"Twenty thousand links",
      .role = Role::SiteRoot,
@@ -56,7 +56,7 @@ constexpr Design rows[] = {
 
 } // namespace
 
-std::span<const Design> HardDesigns() {
+std::span<const ListDesign> HardDesigns() {
     return rows;
 }
 

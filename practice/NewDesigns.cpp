@@ -10,14 +10,14 @@ namespace qlm::practice {
 
 namespace {
 
-using enum Design::Who;
-using enum Design::Names;
+using enum ListDesign::Who;
+using enum ListDesign::Names;
 using How = Turning::How;
 
 constexpr QStringView nextTitle = u"title=\"next page\"";
 constexpr QStringView deadNext = u"class=\"disabled disablePaging\" title=\"next page\"";
 
-constexpr Design rows[] = {
+constexpr ListDesign rows[] = {
     {.name = u"friends",
      .title = u"Friends",
      .role = Role::SiteRoot,
@@ -142,7 +142,7 @@ constexpr Design rows[] = {
 
 } // namespace
 
-std::span<const Design> NewDesigns() {
+std::span<const ListDesign> NewDesigns() {
     return rows;
 }
 

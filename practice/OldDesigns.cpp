@@ -7,15 +7,15 @@ namespace qlm::practice {
 
 namespace {
 
-using enum Design::Who;
-using enum Design::Names;
+using enum ListDesign::Who;
+using enum ListDesign::Names;
 using How = Turning::How;
 
 constexpr QStringView listing = u"<p class=\"slice\">Listing {from}-{to} of {count}</p>";
 constexpr QStringView displaying = u"<p class=\"slice\">Displaying {from} to {to} of {count}</p>";
 constexpr QStringView nextPost = u"__doPostBack";
 
-constexpr Design rows[] = {
+constexpr ListDesign rows[] = {
     {.name = u"friends-paged",
      .title = u"Friends, a page a query",
      .role = Role::SiteRoot,
@@ -423,7 +423,7 @@ constexpr Design rows[] = {
 
 } // namespace
 
-std::span<const Design> OldDesigns() {
+std::span<const ListDesign> OldDesigns() {
     return rows;
 }
 

@@ -32,7 +32,7 @@ constexpr QStringView scrollScript = uR"-(<script>
 }());
 </script>)-";
 
-QString Places(Visit& visit, const Design& design, int first) {
+QString Places(Visit& visit, const ListDesign& design, int first) {
     QString places;
     int place = first;
     for (const Person* band :
@@ -43,7 +43,7 @@ QString Places(Visit& visit, const Design& design, int first) {
     return places;
 }
 
-QString MoreLink(const Design& design) {
+QString MoreLink(const ListDesign& design) {
     return Fill(uR"(<p class="more" id="{id}"><a href="{url}">More</a></p>)",
                 {{u"id", design.name == u"chart" ? u"showMoreChartItems"_s : u"more"_s},
                  {u"url", PageAddress(design, People::firstId, 2)}});
@@ -52,7 +52,7 @@ QString MoreLink(const Design& design) {
 } // namespace
 
 Response ChartPage(Visit& visit) {
-    const Design& design = *FindDesign(visit).design;
+    const ListDesign& design = *FindDesign(visit).design;
     const int page = visit.captures.value(0).toInt();
     const int all = EntryCount(visit.world, design);
     if (const QString from = visit.address.query.value(u"from"_s); !from.isEmpty()) {

@@ -40,7 +40,7 @@ QString CommentsPart(Visit& visit, const Person& owner, int first) {
     return blocks + u"<span class=\"moduleBodyEnd\"></span>"_s;
 }
 
-QString NoticesPart(Visit& visit, const Design& design, int first, int count) {
+QString NoticesPart(Visit& visit, const ListDesign& design, int first, int count) {
     QString blocks = u"<p class=\"slice\">Notifications of %1</p>"_s.arg(
         visit.world.now().date().addDays(-first).toString(u"d MMMM yyyy"_s));
     for (const Person* person : Listed(visit.world, design, visit.account->id, first, count)) {
@@ -108,7 +108,7 @@ Response CommentsPage(Visit& visit) {
                                   qMin(all, commentsPerPart), all, commentsPerPart, true);
     const QString main = Fill(uR"(<div class="box list"><h2>{name} : Comments</h2>
 <div class="listHead"><p class="slice">What friends wrote</p></div>
-<div id="growing" class="comments">{!part}</div><p class="more">{!more}</p></div>{!script})",
+<div id="growing" class="comments">{!part}</div><div class="turn"><div><p class="more">{!more}</p></div></div></div>{!script})",
                               {{u"name", owner->name},
                                {u"part", CommentsPart(visit, *owner, 0)},
                                {u"more", more},
@@ -122,7 +122,7 @@ Response CommentsPage(Visit& visit) {
 Response NotificationsPage(Visit& visit) {
     if (!visit.account)
         return RedirectToSignIn();
-    const Design& design = *DesignNamed(u"notifications"_s);
+    const ListDesign& design = *DesignNamed(u"notifications"_s);
     const int all = EntryCount(visit.world, design);
     const int part = PerPage(visit.world, design);
     if (const auto from = WantedPart(visit, all))
@@ -130,7 +130,7 @@ Response NotificationsPage(Visit& visit) {
     const QString main = Fill(
         uR"(<div class="box list"><h2>Notifications</h2>
 <div class="grid">{!first}</div><span class="paginationProgress"></span>
-<div class="grid" id="growing"></div><p class="more">{!more}</p></div>{!script})",
+<div class="grid" id="growing"></div><div class="turn"><div><p class="more">{!more}</p></div></div></div>{!script})",
         {{u"first", NoticesPart(visit, design, 0, part)},
          {u"more", MoreLink(u"moreLink"_s, u"%1 of %2 shown, more"_s, qMin(all, part), all, part, false)},
          {u"script", growScript.toString()}});

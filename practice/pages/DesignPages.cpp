@@ -15,32 +15,32 @@ namespace {
 
 using How = Turning::How;
 
-QString IdOf(const Design& design, int place) {
+QString IdOf(const ListDesign& design, int place) {
     return design.id.toString()
         .replace(u"{p}"_s, QString::number(place))
         .replace(u"{pp}"_s, QString::number(place + 1).rightJustified(2, u'0'));
 }
 
 // One entry, with its place's id around it where the design has such.
-QString Entry(const Design& design, const Person& person, int place) {
+QString Entry(const ListDesign& design, const Person& person, int place) {
     if (design.id.isEmpty())
         return design.entry(person);
     return u"<div class=\"place\" id=\""_s + IdOf(design, place) + u"\">"_s + design.entry(person) +
            u"</div>"_s;
 }
 
-QString Entries(Visit& visit, const Design& design, const Standing& standing) {
+QString Entries(Visit& visit, const ListDesign& design, const Standing& standing) {
     QString entries;
     int place = 0;
     for (const Person* person :
          Listed(visit.world, design, standing.owner, standing.first, standing.perPage)) {
         entries += Entry(design, *person, place++);
-        visit.Show(*person, design.names == Design::Names::Numbered);
+        visit.Show(*person, design.names == ListDesign::Names::Numbered);
     }
     return entries;
 }
 
-QString NextLink(const Design& design, const Standing& standing, const QString& address) {
+QString NextLink(const ListDesign& design, const Standing& standing, const QString& address) {
     const Turning& next = design.next;
     if (standing.page == standing.pages) {
         if (next.lastPage.isEmpty())
@@ -58,7 +58,7 @@ QString NextLink(const Design& design, const Standing& standing, const QString& 
                  {u"caption", next.caption.toString()}});
 }
 
-QString PagerLine(const Design& design, const Standing& standing) {
+QString PagerLine(const ListDesign& design, const Standing& standing) {
     const QString address = PageAddress(design, standing.owner, std::min(standing.page + 1, standing.pages));
     QString before;
     if (standing.page > 1 && design.next.how != How::Post)
@@ -110,7 +110,7 @@ QString Script(const Turning& next) {
     return script;
 }
 
-QString Head(const Design& design, const Standing& standing) {
+QString Head(const ListDesign& design, const Standing& standing) {
     return Fill(design.head,
                 {{u"from", QString::number(std::min(standing.first + 1, standing.count))},
                  {u"to", QString::number(std::min(standing.first + standing.perPage, standing.count))},
@@ -118,9 +118,9 @@ QString Head(const Design& design, const Standing& standing) {
                  {u"owner", QString::number(standing.owner)}});
 }
 
-QString SitemapList(std::span<const Design> designs) {
+QString SitemapList(std::span<const ListDesign> designs) {
     QString links;
-    for (const Design& design : designs)
+    for (const ListDesign& design : designs)
         links += Fill(uR"(<li><a href="{url}">{title}</a></li>)",
                       {{u"url", PageAddress(design, People::firstId)}, {u"title", design.title.toString()}});
     return links;
@@ -129,7 +129,7 @@ QString SitemapList(std::span<const Design> designs) {
 } // namespace
 
 Response DesignPage(Visit& visit) {
-    const Design& design = *FindDesign(visit).design;
+    const ListDesign& design = *FindDesign(visit).design;
     const Standing standing = StandingOf(visit, design);
     const Person* owner = visit.world.people.Find(standing.owner);
     if (!owner)

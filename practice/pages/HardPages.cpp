@@ -12,8 +12,9 @@ namespace qlm::practice {
 namespace {
 
 constexpr int otherLinks = 20000;
+constexpr int linksInARow = 20;
 
-QString Everybody(Visit& visit, const Design& design) {
+QString Everybody(Visit& visit, const ListDesign& design) {
     QString entries;
     for (const Person* person :
          Listed(visit.world, design, People::firstId, 0, EntryCount(visit.world, design))) {
@@ -23,7 +24,7 @@ QString Everybody(Visit& visit, const Design& design) {
     return entries;
 }
 
-Response List(const Visit& visit, const Design& design, const QString& entries, const QString& more) {
+Response List(const Visit& visit, const ListDesign& design, const QString& entries, const QString& more) {
     const QString main = Fill(uR"(<div class="box list"><h2>{title}</h2>
 <div class="grid">{!entries}</div>{!more}</div>)",
                               {{u"title", design.title.toString()}, {u"entries", entries}, {u"more", more}});
@@ -33,15 +34,16 @@ Response List(const Visit& visit, const Design& design, const QString& entries, 
 } // namespace
 
 Response ManyLinksPage(Visit& visit) {
-    const Design& design = *FindDesign(visit).design;
+    const ListDesign& design = *FindDesign(visit).design;
     QString links;
     for (int i = 0; i < otherLinks; ++i)
-        links += u"<a href=\"#n%1\">%1</a>\n"_s.arg(i);
-    return List(visit, design, Everybody(visit, design), u"<p class=\"in\">"_s + links + u"</p>"_s);
+        links += u"%1<a href=\"#n%2\">%2</a>\n"_s.arg(i % linksInARow ? QString() : u"</p><p>"_s).arg(i);
+    return List(visit, design, Everybody(visit, design),
+                u"<div class=\"in\"><p>"_s + links + u"</p></div>"_s);
 }
 
 Response SilentProfilesPage(Visit& visit) {
-    const Design& design = *FindDesign(visit).design;
+    const ListDesign& design = *FindDesign(visit).design;
     QString entries;
     for (const QStringView name : {u"silentanna", u"silentbert", u"silentcleo"})
         entries += Fill(uR"(<div class="person"><p><a href="{root}/{name}">{name}</a></p></div>)",
@@ -54,7 +56,7 @@ Response SilentProfile(Visit& visit) {
 }
 
 Response CirclePage(Visit& visit) {
-    const Design& design = *FindDesign(visit).design;
+    const ListDesign& design = *FindDesign(visit).design;
     return List(
         visit, design, Everybody(visit, design),
         u"<p class=\"slice\">Showing 1-20 of 400</p>"

@@ -92,7 +92,7 @@ Response OldFriendsAddress(Visit& visit) {
 }
 
 Response BrowsePage(Visit& visit) {
-    const Design& design = *DesignNamed(u"browse"_s);
+    const ListDesign& design = *DesignNamed(u"browse"_s);
     const QList<const Person*> everybody = BrowseOrder(visit.world).mid(0, EntryCount(visit.world, design));
     const int count = static_cast<int>(everybody.size());
     const int perPage = PerPage(visit.world, design);

@@ -116,6 +116,15 @@ TEST_F(WritingContract, MarkupCanBePutIntoABlankPageAgainAndAgain) {
     EXPECT_EQ(ById(u"mark"_s).InnerText(), u"behind"_s);
 }
 
+TEST_F(WritingContract, MarkupStaysInTheBlankPageOfANewBrowser) {
+    browser.Navigate(u"about:blank"_s);
+    browser.Document().Body().SetInnerHTML(u"<p><a href=\"http://www.example.com/x\">one</a></p>"_s);
+    EXPECT_EQ(browser.Document().Links().size(), 1U);
+    PumpFor(settleMs);
+    EXPECT_EQ(browser.Document().Links().size(), 1U);
+    EXPECT_EQ(browser.Document().BodyText(), u"one"_s);
+}
+
 TEST_F(WritingContract, AClickWorksOnAHiddenElement) {
     ServeBody(u"target"_s, u"the target"_s);
     Show(u"<div style='display:none'><a id=hid href='/target'>hidden link</a></div>"_s);

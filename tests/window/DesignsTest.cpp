@@ -9,7 +9,7 @@
 namespace qlm {
 namespace {
 
-using practice::Design;
+using practice::ListDesign;
 
 const QString Owner = u"100001"_s;
 // Turned by scrolling, the chart has to be whole to be found complete.
@@ -19,7 +19,7 @@ constexpr int Entries = 14;
 constexpr int PerPage = 6;
 constexpr int Friends = 46;
 
-class Designs : public testing::TestWithParam<const Design*> {
+class Designs : public testing::TestWithParam<const ListDesign*> {
 protected:
     static void SetUpTestSuite() { gathering = std::make_unique<GatheringProgram>(); }
     static void TearDownTestSuite() { gathering.reset(); }
@@ -30,12 +30,12 @@ protected:
 std::unique_ptr<GatheringProgram> Designs::gathering;
 
 // Handlers of their own divide their lists themselves.
-bool HasPages(const Design& design) {
+bool HasPages(const ListDesign& design) {
     return design.handler || design.entries > design.perPage;
 }
 
 // How many people the whole list has.
-int Length(const Design& design) {
+int Length(const ListDesign& design) {
     if (design.name == u"friends")
         return Friends;
     if (design.name == u"comments")
@@ -50,12 +50,12 @@ QStringList Sorted(QStringList ids) {
     return ids;
 }
 
-bool HasNoEnd(const Design* design) {
+bool HasNoEnd(const ListDesign* design) {
     return design->name == u"hard-circle" || design->name == u"hard-links" || design->name == u"hard-silent";
 }
 
-std::vector<const Design*> DesignsWithAnEnd() {
-    std::vector<const Design*> designs(practice::AllDesigns().begin(), practice::AllDesigns().end());
+std::vector<const ListDesign*> DesignsWithAnEnd() {
+    std::vector<const ListDesign*> designs(practice::AllDesigns().begin(), practice::AllDesigns().end());
     std::erase_if(designs, HasNoEnd);
     return designs;
 }
@@ -63,7 +63,7 @@ std::vector<const Design*> DesignsWithAnEnd() {
 } // namespace
 
 TEST_P(Designs, IsGatheredToItsEnd) {
-    const Design& design = *GetParam();
+    const ListDesign& design = *GetParam();
     GatheringProgram& program = *gathering;
     program.site.Tell(u"friends %1 %2"_s.arg(Owner).arg(Friends));
     if (HasPages(design) && !design.name.startsWith(u"chart"))
@@ -71,7 +71,7 @@ TEST_P(Designs, IsGatheredToItsEnd) {
     if (design.name == u"friends")
         program.site.Tell(u"list friends %1 16"_s.arg(Friends));
     // Where names hide numbers, only the long way finds everybody.
-    const bool isNumbered = design.names == Design::Names::Numbered;
+    const bool isNumbered = design.names == ListDesign::Names::Numbered;
     program.TakeShown();
     program.Open(practice::PageAddress(design, Owner.toLongLong()));
     ASSERT_TRUE(program.Gather(isNumbered ? "optQuickGather" : "optFullGather"))
@@ -83,7 +83,7 @@ TEST_P(Designs, IsGatheredToItsEnd) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, Designs, testing::ValuesIn(DesignsWithAnEnd()),
-                         [](const testing::TestParamInfo<const Design*>& row) {
+                         [](const testing::TestParamInfo<const ListDesign*>& row) {
                              return row.param->name.toString().remove(u'-').toStdString();
                          });
 

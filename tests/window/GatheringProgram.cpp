@@ -122,7 +122,7 @@ qint64 GatheringProgram::GatherAndStop(const char* kind, int journalLines, int a
         qsizetype lines = 0;
         while (!isOver && lines < journalLines)
             lines += controls.TakeJournal().size();
-        QThread::msleep(static_cast<unsigned long>(afterMs));
+        LetPass(afterMs);
         pressed.start();
         QMetaObject::invokeMethod(
             qApp, [&] { Act(press); }, Qt::QueuedConnection);

@@ -38,7 +38,7 @@ TEST(HardPages, ProfilesThatNeverTellTheirNumberAreSkipped) {
     program.Open(AddressOf(u"hard-silent"_s));
     ASSERT_TRUE(program.Gather("optFullGather", 60 * 1000));
     EXPECT_EQ(program.List(), QStringList());
-    EXPECT_FALSE(program.Program().controls.Visible("ucpanelFullGatherIDNotify"_L1));
+    EXPECT_FALSE(program.Program().controls["ucpanelFullGatherIDNotify"_L1].visible);
 }
 
 TEST(HardPages, ANextPageThatIsTheSameAgainAddsNobodyTwiceAndCanBeStopped) {

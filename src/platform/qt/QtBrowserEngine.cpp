@@ -61,7 +61,8 @@ void QtBrowser::Apply(const PageMessage& message) {
     }
     switch (message.kind) {
     case Kind::Arrived:
-        if (isBlankPage && m_isEngineBlank)
+        // The one that has been written to was shown before it could tell.
+        if (isBlankPage && (m_isEngineBlank || message.document == m_documentId))
             break;
         Arrive(message.document, message.url);
         break;

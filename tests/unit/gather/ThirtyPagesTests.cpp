@@ -1,13 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A friends list of thirty pages of the practice site, gathered in each way that the user can choose; the
 // list has to be what the site's journal says stood on the pages.
-#include "SimulatedProgram.h"
-#include "practice/PracticeSite.h"
-#include "practice/World.h"
-
-#include <QFile>
-#include <QUrl>
-#include <set>
+#include "PracticeProgram.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,8 +13,6 @@ using practice::Person;
 constexpr int Pages = 30;
 constexpr int PerPage = 4;
 constexpr qint64 Owner = 100001;
-constexpr qint64 Founder = 6221;
-constexpr quint64 Seed = 1;
 
 // A date in figures that two countries read as two different days: the filter takes the better one.
 bool LoggedInWithin(const Person& person, QDate today, int days) {
@@ -106,43 +98,11 @@ const std::vector<Choice>& Choices() {
     return choices;
 }
 
-class ThirtyPages : public SimulatedProgram, public testing::WithParamInterface<Choice> {
+class ThirtyPages : public PracticeProgram, public testing::WithParamInterface<Choice> {
 protected:
-    ThirtyPages() : site(Seed, [this] { return world.clock.Now(); }) {
-        QFile deployment(QStringLiteral(DEPLOYMENT));
-        if (!deployment.open(QIODevice::ReadOnly))
-            throw std::runtime_error("no deployment");
-        world.deploymentText = QString::fromUtf8(deployment.readAll());
-        world.web.responder = [this](const SimRequest& request) { return Answer(request); };
-        app.reset();
-        app.emplace(platform.emplace(world, dialogs));
-        app->state.ProgramFolder = world.installationFolder;
-        app->state.DataFolder = world.dataFolder;
-        app->state.ErrorLogPath = app->DataFile(u"Error.log"_s);
-        app->state.MyProfileID = u"900001"_s;
-        app->state.blnNewLayout = true;
-        for (const QString& line : {u"journal shown on"_s, u"friends %1 %2"_s.arg(Owner).arg(Pages * PerPage),
-                                    u"list friends %1 %2"_s.arg(Pages * PerPage).arg(PerPage)})
-            EXPECT_EQ(site.Control(line), QString());
-    }
-
-    std::optional<SimAnswer> Answer(const SimRequest& request) {
-        const QUrl url(request.url);
-        practice::Request asked;
-        asked.method = request.method;
-        asked.host = url.host();
-        asked.path = url.path(QUrl::FullyEncoded);
-        if (url.hasQuery())
-            asked.path += u'?' + url.query(QUrl::FullyEncoded);
-        asked.body = request.body;
-        const practice::Response response = site.Answer(asked);
-        SimAnswer answer;
-        answer.html = QString::fromUtf8(response.body);
-        answer.status = response.status;
-        for (const auto& [name, value] : response.headers)
-            if (name == u"Location"_s)
-                answer.redirectTo = value;
-        return answer;
+    ThirtyPages() {
+        Tell(u"friends %1 %2"_s.arg(Owner).arg(Pages * PerPage));
+        Tell(u"list friends %1 %2"_s.arg(Pages * PerPage).arg(PerPage));
     }
 
     void ChooseFilters(const Choice& choice) {
@@ -155,46 +115,15 @@ protected:
         for (const QLatin1StringView option : choice.options)
             controls.SetTicked(option, true);
     }
-
-    // What stood on the list's pages, each person once, by number alone or all.
-    std::set<qint64> Shown(bool byNameToo) const {
-        std::set<qint64> ids;
-        for (const QString& line : site.Journal()) {
-            const QStringList words = line.split(u' ');
-            if (words[0] == u"shown"_s || (byNameToo && words[0] == u"shown-by-name"_s))
-                for (const QString& id : words.mid(2))
-                    ids.insert(id.toLongLong());
-        }
-        ids.erase(Founder);
-        return ids;
-    }
-
-    std::set<qint64> Gathered() const {
-        std::set<qint64> ids;
-        for (const QString& id : app->state.arrFriendIDs)
-            if (!id.isEmpty()) {
-                EXPECT_TRUE(ids.insert(id.toLongLong()).second) << id.toStdString() << " stands twice";
-            }
-        return ids;
-    }
-
-    practice::PracticeSite site;
 };
 
 } // namespace
 
 TEST_P(ThirtyPages, BringInWhoStoodThereAndFits) {
     const Choice& choice = GetParam();
-    app->WebBrowser1().Navigate(app->Expand(u"http://{SiteRootHost}/"_s) + QString::number(Owner) +
-                                u"/friends"_s);
-    platform->Pump().RunFor(1000);
-    app->controls.SetTicked("optScanFollowing"_L1, true);
-    app->controls.SetTicked(choice.isFull ? "optFullGather"_L1 : "optQuickGather"_L1, true);
     ChooseFilters(choice);
-    app->commands.Run(u"picScanStart_Click"_s);
-    for (int i = 0; i < 300 && !app->state.CurrentAction.isEmpty(); ++i)
-        platform->Pump().RunFor(60 * 1000);
-    EXPECT_EQ(app->Status(), u"Finished gathering ID's"_s);
+    EXPECT_TRUE(Gather(app->Expand(u"http://{SiteRootHost}/"_s) + QString::number(Owner) + u"/friends"_s,
+                       choice.isFull ? "optFullGather"_L1 : "optQuickGather"_L1));
 
     const practice::World twin(Seed, [this] { return world.clock.Now(); });
     std::set<qint64> expected;

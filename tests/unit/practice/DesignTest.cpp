@@ -16,7 +16,7 @@ QStringList ShownIn(const QStringList& journal) {
 }
 
 // Every list of the site, by its row.
-class EveryDesign : public testing::TestWithParam<const Design*> {
+class EveryDesign : public testing::TestWithParam<const ListDesign*> {
 protected:
     EveryDesign() {
         client.SignIn();
@@ -27,7 +27,7 @@ protected:
     QStringList TakeShown() { return ShownIn(client.site.TakeJournal()); }
 
     SiteClient client;
-    const Design& design = *GetParam();
+    const ListDesign& design = *GetParam();
 };
 
 TEST_P(EveryDesign, FillsItsFirstPageAndNotesWhoStandsThere) {
@@ -72,14 +72,14 @@ TEST_P(EveryDesign, IsLinkedFromTheStartByTheMap) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Designs, EveryDesign, testing::ValuesIn(AllDesigns()),
-                         [](const testing::TestParamInfo<const Design*>& row) {
+                         [](const testing::TestParamInfo<const ListDesign*>& row) {
                              return row.param->name.toString().remove(u'-').toStdString();
                          });
 
 TEST(Designs, HaveNamesAndAddressesOfTheirOwn) {
     QSet<QString> names;
     QSet<QString> addresses;
-    for (const Design* design : AllDesigns()) {
+    for (const ListDesign* design : AllDesigns()) {
         names.insert(design->name.toString());
         addresses.insert(PageAddress(*design, People::firstId));
     }
@@ -152,7 +152,7 @@ TEST(Growing, NotificationsComePartByPartToWhoeverIsSignedIn) {
 
 TEST(Growing, AChartShowsTwentyAndOnItsFifthPageAllPartByPart) {
     SiteClient client;
-    const Design& chart = *DesignNamed(u"chart"_s);
+    const ListDesign& chart = *DesignNamed(u"chart"_s);
     EXPECT_TRUE(Holds(client.Text(PageAddress(chart, 1)), u"showMoreChartItems"_s));
     EXPECT_FALSE(client.Text(PageAddress(chart, 1)).contains(u"artist-21"_s));
     EXPECT_FALSE(client.Text(PageAddress(chart, 1, 5)).contains(u"showMoreChartItems"_s));
