@@ -4,6 +4,7 @@
 #include "Designs.h"
 #include "pages/AssetPages.h"
 #include "pages/CaptchaPages.h"
+#include "pages/CategoryPages.h"
 #include "pages/ControlPages.h"
 #include "pages/DesignPages.h"
 #include "pages/HardPages.h"
@@ -48,6 +49,7 @@ constexpr std::array routeRows{
     RouteRow{Role::SiteRoot, u"my/friends/addtofriends/{id}", u"", AddToFriends},
     RouteRow{Role::Friends, u"index.cfm", u"invite.addfriend_verify", AddFriendVerify},
     RouteRow{Role::Friends, u"index.cfm", u"user.viewfriends", OldFriendsAddress},
+    RouteRow{Role::Friends, u"index.cfm", u"user.viewcategories", CategoriesPage},
     RouteRow{Role::Profile, u"index.cfm", u"user.viewprofile", OldProfileAddress},
     RouteRow{Role::SiteRoot, u"{id}", u"", ProfilePage},
     RouteRow{Role::SiteRoot, u"{id}/classic", u"", ClassicProfile},

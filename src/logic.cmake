@@ -14,6 +14,7 @@ add_library(quillmere_logic STATIC
     core/FileSystem.cpp
     core/GlobalSettings.cpp
     core/IniFile.cpp
+    core/LineSearch.cpp
     core/MainForm.cpp
     core/PasswordMask.cpp
     core/ProductServer.cpp
@@ -72,8 +73,16 @@ add_library(quillmere_logic STATIC
     gather/ProfileLinks.cpp
     gather/ProfileText.cpp
 
+    content/ContentLine.cpp
+    content/ContentLists.cpp
+    content/MessageFile.cpp
+
+    campaigns/BulletinDots.cpp
+    campaigns/Campaigns.cpp
     campaigns/CaptchaCalls.cpp
+    campaigns/ContentChoice.cpp
     campaigns/Counters.cpp
+    campaigns/FriendCategories.cpp
     campaigns/FriendRequester.cpp
     campaigns/LogDialog.cpp
     campaigns/Pacing.cpp
@@ -85,6 +94,7 @@ add_library(quillmere_logic STATIC
     campaigns/SendRuns.cpp
     campaigns/SentLog.cpp
     campaigns/StartChecks.cpp
+    campaigns/TargetName.cpp
     campaigns/TimeDelayDialog.cpp
 )
 target_include_directories(quillmere_logic PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/Counters.h"
 
+#include "campaigns/Campaigns.h"
 #include "core/App.h"
 #include "core/MainForm.h"
 #include "core/ProductServer.h"
 #include "core/StopResume.h"
 #include "core/Text.h"
+
+#include <algorithm>
 
 namespace qlm {
 
@@ -51,6 +54,17 @@ void ShowToday(App& app, const DailyCounter& counter) {
         app.controls.SetText(counter.label, u"Total Today: "_s + QString::number(app.state.*counter.count));
 }
 
+const DailyCounter& CounterOf(const Campaign& campaign) {
+    return *std::find_if(std::begin(DailyCounters), std::end(DailyCounters),
+                         [&](const DailyCounter& counter) { return counter.count == campaign.daily; });
+}
+
+// A campaign without targets tells how many there are to be.
+QString SentText(const App& app, const Campaign& campaign, const char* words) {
+    const QString text = QString::fromLatin1(words) + QString::number(app.state.*campaign.session);
+    return campaign.HasTargets() ? text : text + u'/' + app.controls.Text(campaign.amount);
+}
+
 } // namespace
 
 void Counters::Restore() {
@@ -91,39 +105,65 @@ void Counters::Read() {
     }
 }
 
-bool Counters::FriendLimitReached() const {
-    const std::optional<qint32> limit = ToLong(m_app.controls.Text("txtFriendRequestsToSend"_L1));
-    if (!limit)
+bool Counters::LimitReached(const Campaign& campaign) const {
+    const std::optional<qint32> limit = ToLong(m_app.controls.Text(campaign.amount));
+    if (!limit || campaign.period.isEmpty())
         return false;
-    const bool perDay = m_app.controls.Text("cboFRPerDayOrSession"_L1) == u"per day"_s;
-    return (perDay ? m_app.state.lngDailyFR : m_app.state.lngSessionFR) >= *limit;
+    const bool perDay = m_app.controls.Text(campaign.period) == u"per day"_s;
+    return m_app.state.*(perDay ? campaign.daily : campaign.session) >= *limit;
 }
 
-void Counters::StopAtLimit() {
-    m_app.stopResume->StopAll(u"AFC"_s);
-    if (m_app.state.blnChaining)
-        return;
+bool Counters::StopAtLimit(const QString& campaign) {
+    const Campaign* limited = FindCampaign(campaign);
+    if (!limited || !LimitReached(*limited))
+        return false;
+    m_app.stopResume->StopAll(QString::fromLatin1(limited->limitReason));
+    if (m_app.stopResume->HandOverInChain())
+        return true;
     m_app.mainForm->ShowTab(u"Gather ID's"_s);
     if (!m_app.stopResume->DoFinishedExit())
         m_app.ShowMessage(u"Your specified limit has been reached"_s);
+    return true;
+}
+
+void Counters::ShowSentAtStart(const Campaign& campaign) {
+    m_app.controls.SetText(campaign.sentLabel, SentText(m_app, campaign, campaign.sentAtStart));
+}
+
+void Counters::CountOne(const Campaign& campaign) {
+    RunState& state = m_app.state;
+    const DailyCounter& today = CounterOf(campaign);
+    ++(state.*campaign.daily);
+    ShowToday(m_app, today);
+    m_app.platform.Settings().SaveSetting(CountersSection(m_app), QString::fromLatin1(today.key),
+                                          QString::number(state.*campaign.daily));
+    m_app.platform.Settings().Sync();
+    ++(state.*campaign.session);
+    m_app.controls.SetText(campaign.sentLabel, SentText(m_app, campaign, campaign.sentSoFar));
+}
+
+void Counters::Count(const QString& campaign) {
+    if (const Campaign* counted = FindCampaign(campaign))
+        CountOne(*counted);
 }
 
 bool Counters::AddFriendCount() {
-    RunState& state = m_app.state;
-    if (FriendLimitReached()) {
-        StopAtLimit();
+    const QString campaign = u"FR"_s;
+    if (StopAtLimit(campaign))
         return false;
-    }
-    const DailyCounter& friends = DailyCounters[0];
-    ++state.lngDailyFR;
-    ShowToday(m_app, friends);
-    m_app.platform.Settings().SaveSetting(CountersSection(m_app), QString::fromLatin1(friends.key),
-                                          QString::number(state.lngDailyFR));
-    m_app.platform.Settings().Sync();
-    ++state.lngSessionFR;
-    m_app.controls.SetText("lblFrSentCount"_L1,
-                           u"Friends Requested: "_s + QString::number(state.lngSessionFR));
+    Count(campaign);
     return true;
+}
+
+void Counters::AddMessageCount() {
+    const RunState& state = m_app.state;
+    if (state.strAcceptMode.isEmpty() && state.strFRResumeURL.isEmpty() && !state.blnMsgAfterFR)
+        Count(u"MSG"_s);
+}
+
+void Counters::AddCommentCount() {
+    if (m_app.state.strAcceptMode.isEmpty())
+        Count(u"COM"_s);
 }
 
 } // namespace qlm

@@ -3,7 +3,6 @@
 
 #include "campaigns/Pacing.h"
 #include "campaigns/SendRuns.h"
-#include "campaigns/SentLog.h"
 #include "core/App.h"
 #include "core/StopResume.h"
 #include "core/Text.h"
@@ -16,7 +15,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int BusyBrowserSeconds = 3;
-constexpr int SkipsBetweenPumps = 100;
 const QString NoticeKey = u"TempMySpaceErrorFR - chkDontShowAgain"_s;
 
 bool IsBusyBrowser(const QString& error) {
@@ -35,7 +33,7 @@ const FriendRequester::State FriendRequester::States[] = {
     {9, &FriendRequester::AfterSend},
 };
 
-FriendRequester::FriendRequester(App& app) : m_app(app) {
+FriendRequester::FriendRequester(App& app) : m_app(app), m_categories(app) {
     app.commands.Add(u"frmTempMySpaceErrorFR.cmdOK_Click"_s, [this] {
         const bool notAgain = m_app.controls.Ticked("frmTempMySpaceErrorFR.chkDontShowAgain"_L1);
         m_app.platform.Settings().SaveSetting(u"General"_s, NoticeKey, notAgain ? u"1"_s : u"0"_s);
@@ -114,37 +112,16 @@ FriendRequester::Next FriendRequester::TakeNextTarget() {
     m_app.state.blnWaitingForCaptcha = false;
     m_app.pacing->HideCover();
     m_movedToEnd = false;
-    while (m_app.sendRuns->TargetLeft()) {
-        m_app.sendRuns->BeginTarget();
-        if (!m_app.sentLog->LogEntryExists(m_app.state.strCurrentID))
-            return OpenTarget();
-        if (!PassLoggedTarget())
-            return Next::Wait;
+    switch (m_app.sendRuns->TakeTarget(u"IterateAddFriends - 1"_s)) {
+    case SendRuns::Took::Target:
+        return OpenTarget();
+    case SendRuns::Took::Obsolete:
+        return Next::Wait;
+    case SendRuns::Took::End:
+        break;
     }
     m_app.state.intFRStep = 6;
     return Next::Again;
-}
-
-// False when the run has moved on or ended meanwhile.
-bool FriendRequester::PassLoggedTarget() {
-    RunState& state = m_app.state;
-    if (!m_app.Status().startsWith(u"Skipping"_s))
-        m_app.SetStatus(u"Skipping ID's you've sent to before..."_s);
-    ++state.lngSkippedCount;
-    state.intFRLimitHits = 0;
-    m_app.sendRuns->Report().PassOver(state.strCurrentID, u"You sent to this one before"_s);
-    m_app.sendRuns->ShowCounts();
-    m_app.sendRuns->AdvanceAfterUse(u"IterateAddFriends - 1"_s);
-    if (state.lngSkippedCount % SkipsBetweenPumps != 0)
-        return true;
-    // A long walk over known IDs loads no page; Stop has to work in it all the same.
-    const qint32 target = state.lngTargetNumber;
-    m_app.stopResume->PauseLinkCheck();
-    m_app.waiting.Pump();
-    if (!IsCurrent(target))
-        return false;
-    m_app.stopResume->ResumeLinkCheck();
-    return true;
 }
 
 FriendRequester::Next FriendRequester::OpenTarget() {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "campaigns/FriendCategories.h"
+
 #include <QString>
 
 namespace qlm {
@@ -15,6 +17,8 @@ class App;
 class FriendRequester {
 public:
     explicit FriendRequester(App& app);
+
+    FriendCategories& Categories() { return m_categories; }
 
     // The step routine: 5 next target, 6 end, 7 filter decision, 8 submit, 9 after send.
     void IterateAddFriends();
@@ -37,7 +41,6 @@ private:
     void Await(const QString& type, const QString& value);
 
     Next TakeNextTarget(); // 5
-    bool PassLoggedTarget();
     Next OpenTarget();
     void OpenProfile();
     void OpenRequestPage();
@@ -59,6 +62,7 @@ private:
     Next WaitForAnswer(qint32 target);
 
     App& m_app;
+    FriendCategories m_categories;
     bool m_movedToEnd = false; // the current target comes again, so it hasn't failed
 };
 

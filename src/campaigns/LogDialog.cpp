@@ -30,7 +30,7 @@ LogDialog::LogDialog(App& app) : m_app(app) {
 }
 
 void LogDialog::Show(const QString& action) {
-    const Campaign* campaign = FindCampaign(action);
+    const Campaign* campaign = FindTargetCampaign(action);
     if (!campaign)
         return;
     m_path = m_app.sentLog->PathFor(action);
@@ -52,7 +52,7 @@ void LogDialog::cmdClearLog_Click() {
 QString LogDialog::ShownPath() const {
     const QString redirected = FileSystem::Join(m_app.platform.SpecialFolderPath(LocalApplicationData),
                                                 u"VirtualStore\\Program Files\\Quillmere"_s);
-    const QString& folder = m_app.state.ProgramFolder;
+    const QString folder = m_app.platform.InstallationFolder();
     if (!m_app.files.FolderExists(redirected) || !m_path.startsWith(folder))
         return m_path;
     return FileSystem::Join(redirected, m_path.mid(folder.size()));

@@ -2,9 +2,11 @@
 #include "campaigns/SendRuns.h"
 
 #include "campaigns/Campaigns.h"
-#include "campaigns/FriendRequester.h"
+#include "campaigns/Counters.h"
 #include "campaigns/Pacing.h"
+#include "campaigns/SentLog.h"
 #include "campaigns/StartChecks.h"
+#include "core/Activities.h"
 #include "core/App.h"
 #include "core/StopResume.h"
 #include "gather/GatheredList.h"
@@ -13,35 +15,68 @@ namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+// A long walk over known IDs loads no page; Stop has to work in it all the same.
+constexpr int SkipsBetweenPumps = 100;
+
+// The campaign that reports its targets and marks its start in its trail.
+const QString FriendRequests = u"FR"_s;
+
+} // namespace
+
 SendRuns::SendRuns(App& app) : m_app(app), m_logDialog(app), m_report(app), m_reportDialog(app, m_report) {
-    Commands& commands = app.commands;
-    commands.Add(u"piccmdAddFriends_Click"_s, [this] { cmdAddFriends_Click(); });
-    commands.Add(u"piccmdAddFriendsStop_Click"_s, [this] { StopFriendRequests(); });
-    commands.Add(u"piccmdFrClearLog_Click"_s, [this] {
-        m_app.diagnostics.Trap("piccmdFrClearLog_Click", [this] { m_logDialog.Show(u"FR"_s); });
-    });
-    commands.Add(u"chkRemoveAfterSent_MouseDown"_s, [this] { chkRemoveAfterSent_MouseDown(); });
+    for (const Campaign& campaign : Campaigns())
+        if (const Activity* activity = FindActivity(campaign.word); activity->stepRoutine)
+            RegisterCommands(campaign);
+    app.commands.Add(u"chkRemoveAfterSent_MouseDown"_s, [this] { chkRemoveAfterSent_MouseDown(); });
 }
 
-void SendRuns::cmdAddFriends_Click() {
-    m_app.diagnostics.Trap("cmdAddFriends_Click", [this] {
-        m_app.diagnostics.Debug(u"debugfr.txt"_s, u"FR BEGIN1 - "_s + m_app.NowText());
+void SendRuns::RegisterCommands(const Campaign& campaign) {
+    const QString word(campaign.word);
+    auto add = [this](const char* button, auto handler) {
+        if (button[0])
+            m_app.commands.Add(QString::fromLatin1(button) + u"_Click"_s, std::function<void()>(handler));
+    };
+    add(campaign.send, [this, word] { Start(word); });
+    add(campaign.stop, [this, word] { Stop(*FindCampaign(word)); });
+    add(campaign.log, [this, word, log = QByteArray(campaign.log)] {
+        m_app.diagnostics.Trap(log + "_Click", [&] { m_logDialog.Show(word); });
+    });
+}
+
+void SendRuns::Start(const QString& word) {
+    const Campaign& campaign = *FindCampaign(word);
+    const Activity& activity = *FindActivity(word);
+    m_app.diagnostics.Trap(campaign.startProcedure, [&] {
+        auto mark = [&](const QString& text) {
+            m_app.diagnostics.Debug(QString::fromLatin1(activity.debugFile), text + m_app.NowText());
+        };
+        const bool marks = word == FriendRequests;
+        if (marks)
+            mark(u"FR BEGIN1 - "_s);
         m_app.WebBrowser1().SetSilent(true);
         m_app.webHide().SetSilent(true);
         m_app.pacing->HideCover();
-        if (!FriendRequestMayStart(m_app))
+        if (!CampaignMayStart(m_app, word))
             return;
-        m_app.diagnostics.Debug(u"debugfr.txt"_s, u"FR BEGIN2 - "_s + m_app.NowText());
-        ResetFriendRun();
-        m_report.BeginRun();
-        m_app.state.intFRStep = 5;
-        m_app.friendRequester->IterateAddFriends();
+        if (marks)
+            mark(u"FR BEGIN2 - "_s);
+        if (campaign.stopsRunningOne)
+            m_app.stopResume->StopAll(QString::fromLatin1(campaign.stopReason));
+        Reset(campaign);
+        if (word == FriendRequests)
+            m_report.BeginRun();
+        if (activity.step)
+            m_app.state.*activity.step = campaign.firstStep;
+        if (activity.stepRoutine)
+            activity.stepRoutine(m_app);
     });
 }
 
-void SendRuns::ResetFriendRun() {
+void SendRuns::Reset(const Campaign& campaign) {
     RunState& state = m_app.state;
-    state.CurrentAction = u"FR"_s;
+    state.CurrentAction = campaign.word;
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     m_app.timers->Timer1.SetEnabled(false);
     state.strLinkType.clear();
@@ -64,25 +99,27 @@ void SendRuns::ResetFriendRun() {
     state.lngFilteredCount = 0;
     state.lngFailedCount = 0;
     state.lngRemovedCount = 0;
-    state.lngSessionFR = 0;
-    state.intCurrentIDIndex = 0;
-    // The log is the only guard against asking somebody twice.
-    state.blnCheckLog = true;
-    m_app.controls.SetText("lblFrSentCount"_L1, u"Friends requested: 0"_s);
+    state.*campaign.session = 0;
+    // The next account of a chain goes on in the list where the last one left it.
+    if (!state.blnChaining || state.ChainedCampaign != campaign.word)
+        state.intCurrentIDIndex = 0;
+    // Of friend requests the log is the only guard against asking somebody twice.
+    state.blnCheckLog = campaign.checkLogBox.isEmpty() || m_app.controls.Ticked(campaign.checkLogBox);
+    m_app.counters->ShowSentAtStart(campaign);
     ShowCounts();
 }
 
-void SendRuns::StopFriendRequests() {
-    m_app.diagnostics.Trap("piccmdAddFriendsStop_Click", [this] {
+void SendRuns::Stop(const Campaign& campaign) {
+    m_app.diagnostics.Trap(QByteArray(campaign.stop) + "_Click", [&] {
         m_app.WebBrowser1().SetSilent(true);
         m_app.WebBrowser1().Stop();
         m_app.pacing->HideCover();
-        m_app.stopResume->StopAll(u"ADDSTOP"_s);
+        m_app.stopResume->StopAll(QString::fromLatin1(campaign.stopReason));
     });
 }
 
 void SendRuns::chkRemoveAfterSent_MouseDown() {
-    if (FindCampaign(m_app.state.CurrentAction))
+    if (FindTargetCampaign(m_app.state.CurrentAction))
         m_app.ShowMessage(u"This value cannot be changed while sending"_s);
 }
 
@@ -93,23 +130,72 @@ void SendRuns::ShowCounts() {
     m_app.controls.SetText("lblFrFailedCount"_L1, u"Failed: "_s + QString::number(state.lngFailedCount));
 }
 
+bool SendRuns::Accepting() const {
+    return !m_app.state.strAcceptMode.isEmpty();
+}
+
 bool SendRuns::TargetLeft() const {
-    return !m_app.gatheredList->IsEmpty() && m_app.state.intCurrentIDIndex <= m_app.gatheredList->UBound();
+    const qint32 index = m_app.state.intCurrentIDIndex;
+    if (Accepting())
+        return index < m_app.controls.Items("lstAcceptIDs"_L1).size();
+    return !m_app.gatheredList->IsEmpty() && index <= m_app.gatheredList->UBound();
+}
+
+SendRuns::Took SendRuns::TakeTarget(const QString& caller) {
+    while (TargetLeft()) {
+        BeginTarget();
+        if (!IsLogged())
+            return Took::Target;
+        if (!StayedBehindSkip(caller))
+            return Took::Obsolete;
+    }
+    return Took::End;
+}
+
+// A comment to a friend just accepted looks in the log only by the user's wish, and then always.
+bool SendRuns::IsLogged() {
+    const bool forced = Accepting() && m_app.state.CurrentAction == u"COM"_s &&
+                        m_app.controls.Ticked("mnuAddToLogWhenAccepting"_L1);
+    return m_app.sentLog->LogEntryExists(m_app.state.strCurrentID, false, forced);
+}
+
+// Passes over the current target. False when the run has moved on or ended meanwhile.
+bool SendRuns::StayedBehindSkip(const QString& caller) {
+    RunState& state = m_app.state;
+    if (!m_app.Status().startsWith(u"Skipping"_s))
+        m_app.SetStatus(u"Skipping ID's you've sent to before..."_s);
+    ++state.lngSkippedCount;
+    state.intFRLimitHits = 0;
+    if (state.CurrentAction == FriendRequests)
+        m_report.PassOver(state.strCurrentID, u"You sent to this one before"_s);
+    ShowCounts();
+    AdvanceAfterUse(caller);
+    if (state.lngSkippedCount % SkipsBetweenPumps != 0)
+        return true;
+    const qint32 target = state.lngTargetNumber;
+    const QString action = state.CurrentAction;
+    m_app.stopResume->PauseLinkCheck();
+    m_app.waiting.Pump();
+    if (state.CurrentAction != action || state.lngTargetNumber != target)
+        return false;
+    m_app.stopResume->ResumeLinkCheck();
+    return true;
 }
 
 void SendRuns::BeginTarget() {
     RunState& state = m_app.state;
     ++state.lngTargetNumber;
-    state.strCurrentID = state.arrFriendIDs.at(state.intCurrentIDIndex);
+    const QStringList& targets = Accepting() ? m_app.controls.Items("lstAcceptIDs"_L1) : state.arrFriendIDs;
+    state.strCurrentID = targets.at(state.intCurrentIDIndex);
     // What the run has taken off the list counts as walked over.
     const qint64 number = qint64(state.lngRemovedCount) + state.intCurrentIDIndex + 1;
-    const qint64 count = state.lngRemovedCount + state.arrFriendIDs.size();
+    const qint64 count = state.lngRemovedCount + targets.size();
     m_app.controls.SetText("lblProgress"_L1,
                            u"ID "_s + QString::number(number) + u" of "_s + QString::number(count));
 }
 
 void SendRuns::MoveCursor() {
-    if (!m_app.controls.Ticked("chkRemoveAfterSent"_L1))
+    if (!Accepting() && !m_app.controls.Ticked("chkRemoveAfterSent"_L1))
         ++m_app.state.intCurrentIDIndex;
 }
 
@@ -127,6 +213,13 @@ void SendRuns::AdvanceAfterUse(const QString& caller) {
 
 void SendRuns::RemoveUsedTarget(const QString& caller) {
     RunState& state = m_app.state;
+    if (Accepting()) {
+        if (m_app.controls.Items("lstAcceptIDs"_L1).value(0) == state.strCurrentID) {
+            m_app.controls.RemoveItem("lstAcceptIDs"_L1, 0);
+            ++state.lngRemovedCount;
+        }
+        return;
+    }
     const QStringList& targets = state.arrFriendIDs;
     // The user may have taken it off the list himself meanwhile.
     if (!m_app.controls.Ticked("chkRemoveAfterSent"_L1) ||
@@ -140,9 +233,13 @@ void SendRuns::RemoveUsedTarget(const QString& caller) {
 }
 
 void SendRuns::Finish(const QString& reason) {
-    const Campaign* campaign = FindCampaign(m_app.state.CurrentAction);
+    const Campaign* campaign = FindTargetCampaign(m_app.state.CurrentAction);
     if (!campaign)
         return;
+    if (Accepting()) {
+        ReturnToAccepting();
+        return;
+    }
     RunState& state = m_app.state;
     m_app.stopResume->StopAll(reason);
     if (m_app.stopResume->DoFinishedExit())
@@ -157,7 +254,21 @@ void SendRuns::Finish(const QString& reason) {
         addParagraph(state.lngFilteredCount, u" ID's didn't match your filter settings."_s);
     }
     m_app.ShowMessage(text);
-    state.blnChaining = false;
+    if (campaign->endClearsChain)
+        state.blnChaining = false;
+}
+
+void SendRuns::ReturnToAccepting() {
+    RunState& state = m_app.state;
+    const Activity& borrowed = *FindActivity(state.CurrentAction);
+    const Activity& accepting = *FindActivity(u"ACC"_s);
+    state.*borrowed.step = 0;
+    state.*accepting.step = 2;
+    state.CurrentAction = accepting.word;
+    state.strAcceptMode.clear();
+    m_app.controls.SetItems("lstAcceptIDs"_L1, {});
+    if (accepting.stepRoutine)
+        accepting.stepRoutine(m_app);
 }
 
 } // namespace qlm

@@ -10,18 +10,30 @@
 namespace qlm {
 
 class App;
+struct Campaign;
 
-// What the campaigns share: start, the cursor over the targets, the end of a run, the log dialog.
+// What the campaigns share: start, the walk over the targets, the end of a run, the log dialog.
 class SendRuns {
 public:
     explicit SendRuns(App& app);
 
-    void cmdAddFriends_Click();
+    // The start routine of a campaign, by its word: the checks of its tab, the reset, the first step.
+    void Start(const QString& campaign);
+    void cmdAddFriends_Click() { Start(QStringLiteral("FR")); }
     RunReport& Report() { return m_report; }
     ReportDialog& ReportWindow() { return m_reportDialog; }
-    // The end step of the running campaign; reason is the trace word of the stop.
+    // The end step of the running campaign; reason is the trace word of the stop. In accept mode the accept
+    // run goes on instead.
     void Finish(const QString& reason);
 
+    enum class Took {
+        Target,  // strCurrentID is to be contacted
+        End,     // there is none left
+        Obsolete // the run has moved on or ended meanwhile
+    };
+    // The next target that isn't in the log; passes over the others without loading a page. caller is the
+    // trace word of a removal.
+    Took TakeTarget(const QString& caller);
     // A target is left: yes unless the cursor is behind the end or the list is empty.
     bool TargetLeft() const;
     // Takes the target under the cursor into strCurrentID.
@@ -33,15 +45,21 @@ public:
     void MoveCursor();
     // Undoes that for a target that still stands before the cursor.
     void MoveCursorBack();
-    // With chkRemoveAfterSent ticked, takes the used target off the head of the list.
+    // With chkRemoveAfterSent ticked, takes the used target off the head of the list. In accept mode the
+    // head of lstAcceptIDs goes.
     void RemoveUsedTarget(const QString& caller);
     // lblFrSkippedCount and lblFrFailedCount.
     void ShowCounts();
 
 private:
-    void StopFriendRequests();
-    void ResetFriendRun();
+    void RegisterCommands(const Campaign& campaign);
+    void Reset(const Campaign& campaign);
+    void Stop(const Campaign& campaign);
     void chkRemoveAfterSent_MouseDown();
+    void ReturnToAccepting();
+    bool Accepting() const;
+    bool IsLogged();
+    bool StayedBehindSkip(const QString& caller);
 
     App& m_app;
     LogDialog m_logDialog;

@@ -4,6 +4,7 @@
 #include "campaigns/Campaigns.h"
 #include "core/AnsiText.h"
 #include "core/App.h"
+#include "core/LineSearch.h"
 #include "core/SettingsFields.h"
 #include "core/StopResume.h"
 
@@ -11,20 +12,8 @@ namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
-const Campaign* FindCampaign(const QString& word) {
-    static const Campaign campaigns[] = {
-        {"FR"_L1, "friend requests", "FriendsLog.txt", "IAF", "sent friend requests to"},
-        {"MSG"_L1, "messages", "MessagesLog.txt", "ISM", "sent messages to"},
-        {"COM"_L1, "comments", "CommentsLog.txt", "ISC", "sent comments to"},
-    };
-    for (const Campaign& campaign : campaigns)
-        if (word == campaign.word)
-            return &campaign;
-    return nullptr;
-}
-
 QString SentLog::PathFor(const QString& action) {
-    const Campaign* campaign = FindCampaign(action);
+    const Campaign* campaign = FindTargetCampaign(action);
     if (!campaign)
         return {};
     const QString folder =
@@ -34,13 +23,7 @@ QString SentLog::PathFor(const QString& action) {
 
 bool SentLog::IsInFile(const QString& path, const QString& id) {
     m_app.files.EnsureFile(path);
-    const QByteArray wanted = ToAnsi(id.trimmed());
-    bool found = false;
-    m_app.files.ForEachLine(path, [&](QByteArrayView line) {
-        found = line.trimmed() == wanted;
-        return !found;
-    });
-    return found;
+    return FileHoldsLine(path, ToAnsi(id.trimmed()));
 }
 
 bool SentLog::LogEntryExists(const QString& id, bool noPause, bool force) {

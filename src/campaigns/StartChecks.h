@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 namespace qlm {
 
 class App;
 
-// Runs the checks of the friend requester's tab in their order. The first that fails is told to the user,
-// with its tab and field shown, and the answer is false.
-bool FriendRequestMayStart(App& app);
+// Runs the checks of a campaign's tab in their order; campaign is its word. The first that fails is told to
+// the user, with its tab and field shown, and the answer is false.
+bool CampaignMayStart(App& app, const QString& campaign);
 
 } // namespace qlm

@@ -2,10 +2,8 @@
 #include "campaigns/TimeDelayDialog.h"
 
 #include "core/App.h"
+#include "core/Integer16.h"
 #include "core/Text.h"
-
-#include <limits>
-#include <stdexcept>
 
 namespace qlm {
 
@@ -31,12 +29,6 @@ const std::vector<DelayField>& DelayFields() {
         {ToSeconds, u"txtTimeDelaySeconds2"_s},
     };
     return fields;
-}
-
-qint16 InInteger(qint64 value) {
-    if (value < std::numeric_limits<qint16>::min() || value > std::numeric_limits<qint16>::max())
-        throw std::overflow_error("Overflow");
-    return static_cast<qint16>(value);
 }
 
 qint16 ToInteger(const QString& text) {

@@ -15,6 +15,7 @@
 #include "campaigns/Pacing.h"
 #include "campaigns/SendRuns.h"
 #include "campaigns/SentLog.h"
+#include "content/ContentLists.h"
 #include "core/ActionTick.h"
 #include "core/BrowserSounds.h"
 #include "core/GlobalSettings.h"
@@ -81,6 +82,7 @@ App::App(Platform& thePlatform)
       idResolution(std::make_unique<IdResolution>(*this)),
       profileFilters(std::make_unique<ProfileFilters>(*this)),
       blackList(std::make_unique<BlackList>(*this)),
+      contentLists(std::make_unique<ContentLists>(*this)),
       sendRuns(std::make_unique<SendRuns>(*this)),
       sentLog(std::make_unique<SentLog>(*this)),
       counters(std::make_unique<Counters>(*this)),

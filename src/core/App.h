@@ -21,6 +21,7 @@ class BlackList;
 class BrowserHost;
 class BrowserSounds;
 class CaptchaCalls;
+class ContentLists;
 class Counters;
 class FriendRequester;
 class GatherDriver;
@@ -109,6 +110,8 @@ public:
     const std::unique_ptr<IdResolution> idResolution;
     const std::unique_ptr<ProfileFilters> profileFilters;
     const std::unique_ptr<BlackList> blackList;
+    // content
+    const std::unique_ptr<ContentLists> contentLists;
     // campaigns
     const std::unique_ptr<SendRuns> sendRuns;
     const std::unique_ptr<SentLog> sentLog;

@@ -91,6 +91,7 @@ const std::vector<ControlRow>& Controls::Table() {
         {"cboMSGPerDayOrSession", ComboBox, "Message", "", "", u"this session"},
         {"optSendSingle(0)", OptionButton, "Message", "", "sendMSG", u"", true},
         {"optSendFromList(0)", OptionButton, "Message", "", "sendMSG"},
+        {"picMessanger.lstSendList", ListBox},
         {"chkMsgSendFromList", CheckBox, "Message", "chkComSendFromList"},
         {"lblMsgSentCount", Label, "", "", "", u"Messages sent: 0"},
         {"lblMsgTotalToday", Label, "", "", "", u"Total Today: 0"},
@@ -108,6 +109,7 @@ const std::vector<ControlRow>& Controls::Table() {
         {"chkCOMListSkipNonHMTL", CheckBox, "Comment"},
         {"optSendSingle(1)", OptionButton, "Comment", "", "sendCOM", u"", true},
         {"optSendFromList(1)", OptionButton, "Comment", "", "sendCOM"},
+        {"picCommentor.lstSendList", ListBox},
         {"chkComSendFromList", CheckBox, "Comment"},
         {"lblComSentCount", Label, "", "", "", u"Comments sent: 0"},
         {"lblComTotalToday", Label, "", "", "", u"Total Today: 0"},
@@ -122,7 +124,9 @@ const std::vector<ControlRow>& Controls::Table() {
         {"chkBulAllowComments", CheckBox, "Bulletin"},
         {"optSendSingle(2)", OptionButton, "Bulletin", "", "sendBUL", u"", true},
         {"optSendFromList(2)", OptionButton, "Bulletin", "", "sendBUL"},
+        {"picBulletin.lstSendList", ListBox},
         {"chkBulSendFromList", CheckBox, "Bulletin"},
+        {"lblBulSentCount", Label, "", "", "", u"Bulletins sent: 0"},
 
         // Status Updater.
         {"txtStatusBody", ManyLineBox, "Status"},
@@ -132,6 +136,8 @@ const std::vector<ControlRow>& Controls::Table() {
         {"chkStatusAntiFlood", CheckBox, "Status"},
         {"optSendSingle(3)", OptionButton, "Status", "", "sendSTATUS", u"", true},
         {"optSendFromList(3)", OptionButton, "Status", "", "sendSTATUS"},
+        {"picStatusUpdater.lstSendList", ListBox},
+        {"lblStatusSentCount", Label, "", "", "", u"Statuses posted: 0"},
 
         // Accept Friends.
         {"txtAcceptMessage", ManyLineBox, "Accept"},

@@ -112,6 +112,11 @@ struct RunState {
     bool blnSubmittingComment = false; // SubmitComment is on the stack
     bool blnBulletinWaiting = false;
     bool blnStatusWaiting = false;
+    // Last line used of each content list. Never reset: a new run goes on where the last one stopped.
+    qint16 intMessageListIndex = 0;
+    qint16 intCommentListIndex = 0;
+    qint16 intBulletinListIndex = 0;
+    qint16 intStatusListIndex = 0;
     qint32 lngTimeDelayFrom = 0; // seconds
     qint32 lngTimeDelayTo = 0;
 

@@ -2,6 +2,8 @@
 #include "core/SettingsFields.h"
 
 #include "campaigns/Counters.h"
+#include "campaigns/FriendRequester.h"
+#include "content/ContentLists.h"
 #include "core/App.h"
 #include "core/BrowserSounds.h"
 #include "core/MainForm.h"
@@ -89,6 +91,7 @@ void SettingsFields::ChangeGlobalFlags(const QSet<QString>& keys) {
         if (before.value(QString::fromLatin1(kind)) != UsesGlobal(QString::fromLatin1(kind)))
             RestoreKind(QLatin1StringView(kind));
     SettleFields();
+    RestoreLists();
     // A run keeps the list that it walks.
     if (listWasGlobal != UsesGlobal(u"GatheredList"_s) && m_app.state.CurrentAction.isEmpty() &&
         m_app.controls.Ticked("chkSaveScanned"_L1))
@@ -203,9 +206,16 @@ void SettingsFields::RestoreAccountSpecificFields() {
             RestoreKind(QLatin1StringView(kind));
         SettleFields();
         m_restored = true;
+        RestoreLists();
         if (m_app.controls.Ticked("chkSaveScanned"_L1))
             m_app.gatheredList->FillScannedList(m_app.gatheredList->ScopedPath(), true, false);
     });
+}
+
+// What stands in files of the account.
+void SettingsFields::RestoreLists() {
+    m_app.friendRequester->Categories().Load();
+    m_app.contentLists->FillMainLists();
 }
 
 // No choice may be without a choice.

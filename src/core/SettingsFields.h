@@ -52,6 +52,7 @@ private:
     void SetStartingValue(const ControlRow& row);
     void RestoreWindowPlace();
     void EndSessionChains();
+    void RestoreLists();
     void SettleFields();
 
     App& m_app;

@@ -16,6 +16,7 @@ class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QListView;
+class QPlainTextEdit;
 class QTabWidget;
 class QWidget;
 
@@ -56,6 +57,7 @@ private:
     void ConnectCommands(QWidget& widget, const QString& name);
     Show ViewFor(QWidget& widget, QLatin1StringView name);
     Show ViewOfLine(QLineEdit& line, QLatin1StringView name);
+    Show ViewOfLines(QPlainTextEdit& lines, QLatin1StringView name);
     Show ViewOfTick(QAbstractButton& button, QLatin1StringView name);
     Show ViewOfCombo(QComboBox& combo, QLatin1StringView name);
     Show ViewOfList(QListView& list, QLatin1StringView name);

@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QPlainTextEdit>
 #include <QTabWidget>
 
 namespace qlm {
@@ -46,6 +47,8 @@ void ShowLabel(QLabel& label, const QString& text) {
 ControlBinder::Show ControlBinder::ViewFor(QWidget& widget, QLatin1StringView name) {
     if (auto* line = qobject_cast<QLineEdit*>(&widget))
         return ViewOfLine(*line, name);
+    if (auto* lines = qobject_cast<QPlainTextEdit*>(&widget))
+        return ViewOfLines(*lines, name);
     if (auto* combo = qobject_cast<QComboBox*>(&widget))
         return ViewOfCombo(*combo, name);
     if (auto* list = qobject_cast<QListView*>(&widget))
@@ -77,6 +80,19 @@ ControlBinder::Show ControlBinder::ViewOfLine(QLineEdit& line, QLatin1StringView
     return [&line](const Control& control, Change change, int) {
         if (change == Change::Text && line.text() != control.text)
             line.setText(control.text);
+    };
+}
+
+// A line break is a carriage return and a line feed in the table, as it goes into files and onto pages.
+ControlBinder::Show ControlBinder::ViewOfLines(QPlainTextEdit& lines, QLatin1StringView name) {
+    connect(&lines, &QPlainTextEdit::textChanged, this, [this, name, &lines] {
+        if (!m_showing)
+            m_app.controls.SetText(name, lines.toPlainText().replace(u'\n', u"\r\n"_s));
+    });
+    return [&lines](const Control& control, Change change, int) {
+        const QString text = QString(control.text).replace(u"\r\n"_s, u"\n"_s);
+        if (change == Change::Text && lines.toPlainText() != text)
+            lines.setPlainText(text);
     };
 }
 

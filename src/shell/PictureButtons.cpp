@@ -51,6 +51,8 @@ constexpr PictureButton Table[] = {
     {"piccmdAddFriendsStop", "SENDSTOP", u"S&top", u"Stop sending friend requests"},
     {"piccmdFrClearLog", "LOG", u"&Log...", u"The record of everyone you have sent friend requests to"},
     {"piccmdFrReport", "REPORT", u"&Report...", u"What became of each profile of a run"},
+    {"piccmdFRRefreshCategories", "REFRESH", u"Fill the list of categories",
+     u"Fill the list with the categories of your friends"},
     {"piccmdFrTimeDelay", "DELAY", u"Time &Delay...", u"Set the pause between two friend requests",
      "mnuTimeDelay_Click"},
 };

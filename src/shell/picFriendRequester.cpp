@@ -6,6 +6,7 @@
 #include "shell/PictureButtons.h"
 
 #include <QBoxLayout>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -61,6 +62,26 @@ QGroupBox* CountersFrame() {
     return frame;
 }
 
+QGroupBox* CategoryFrame(const App& app) {
+    const QString hint = u"This setting appears on the friend request page"_s;
+    auto* add = Named(new QCheckBox(u"Add to cate&gory"_s), "chkFRAddToCategory"_L1);
+    auto* categories = Named(new QComboBox, "cboFRCategories"_L1, u"Category"_s);
+    categories->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    categories->setMinimumContentsLength(6);
+    add->setToolTip(hint);
+    categories->setToolTip(hint);
+
+    auto* row = new QHBoxLayout;
+    row->addWidget(add);
+    row->addWidget(categories, 1);
+    AddPictureButtons(*row, app.commands, Caption::None, {"piccmdFRRefreshCategories"_L1});
+    auto* frame = new QGroupBox(u"Category"_s);
+    auto* column = new QVBoxLayout(frame);
+    column->addLayout(row);
+    column->addWidget(NewText(u"Kept for request pages that ask for a category."_s, u"quiet"_s));
+    return frame;
+}
+
 QLayout* ToolRow(const App& app) {
     auto* row = new QHBoxLayout;
     AddPictureButtons(*row, app.commands, Caption::Beside,
@@ -80,6 +101,7 @@ picFriendRequester::picFriendRequester(const App& app) {
                 "log is passed over."_s,
                 u"quiet"_s));
     column->addWidget(LimitFrame());
+    column->addWidget(CategoryFrame(app));
     column->addLayout(RunRow(app));
     column->addWidget(CountersFrame());
     column->addLayout(ToolRow(app));

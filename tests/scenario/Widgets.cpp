@@ -215,8 +215,9 @@ QString ShownText(const QWidget* widget) {
         return lines->toPlainText();
     if (const auto* lines = qobject_cast<const QTextEdit*>(widget))
         return lines->toPlainText();
+    // Without a choice a combo box shows its hint.
     if (const auto* box = qobject_cast<const QComboBox*>(widget))
-        return box->currentText();
+        return box->currentIndex() < 0 && !box->isEditable() ? box->placeholderText() : box->currentText();
     if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
         return WithoutMnemonic(button->text());
     WrongKind(widget, "widget with a text");

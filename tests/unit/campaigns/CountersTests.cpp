@@ -107,5 +107,168 @@ TEST_F(CountersTest, PerDayLooksAtTheDay) {
     EXPECT_TRUE(app->counters->AddFriendCount());
 }
 
+// A message or comment is counted first and the limit tested behind it.
+TEST_F(CountersTest, MessagesAndCommentsStopAtExactlyTheirLimit) {
+    struct Case {
+        const char16_t* word;
+        QLatin1StringView limit;
+        QLatin1StringView period;
+        void (Counters::*add)();
+    };
+    for (const Case& each :
+         {Case{u"MSG", "txtMsgStopAt"_L1, "cboMSGPerDayOrSession"_L1, &Counters::AddMessageCount},
+          Case{u"COM", "txtComStopAt"_L1, "cboCOMPerDayOrSession"_L1, &Counters::AddCommentCount}}) {
+        const QString word = QString::fromUtf16(each.word);
+        app->state.CurrentAction = word;
+        dialogs.messages.clear();
+        app->controls.SetText(each.limit, u"2"_s);
+        (*app->counters.*each.add)();
+        EXPECT_FALSE(app->counters->StopAtLimit(word));
+        (*app->counters.*each.add)();
+        EXPECT_TRUE(app->counters->StopAtLimit(word));
+        EXPECT_TRUE(app->state.CurrentAction.isEmpty());
+        EXPECT_EQ(dialogs.Texts(), QStringList{u"Your specified limit has been reached"_s});
+        EXPECT_EQ(app->controls.Selected("TabStrip1"_L1), 0);
+        // Another run, with two of today: only the day is full.
+        app->state.lngSessionMsg = app->state.lngSessionCom = 0;
+        EXPECT_FALSE(app->counters->StopAtLimit(word));
+        app->controls.SetText(each.period, u"per day"_s);
+        EXPECT_TRUE(app->counters->StopAtLimit(word));
+        app->controls.SetText(each.limit, {});
+        EXPECT_FALSE(app->counters->StopAtLimit(word));
+    }
+}
+
+TEST_F(CountersTest, EachCampaignCountsUnderItsKeyAndInItsWords) {
+    struct Case {
+        const char16_t* word;
+        const char16_t* key;
+        qint32 RunState::*daily;
+        qint32 RunState::*session;
+        QLatin1StringView sentLabel;
+        const char16_t* sent;
+        QLatin1StringView todayLabel;
+    };
+    app->controls.SetText("txtPostAmount"_L1, u"3"_s);
+    app->controls.SetText("txtStatusPostAmount"_L1, u"4"_s);
+    for (const Case& each : {
+             Case{u"FR", u"Daily Friends Count", &RunState::lngDailyFR, &RunState::lngSessionFR,
+                  "lblFrSentCount"_L1, u"Friends Requested: 2", "lblFrTotalToday"_L1},
+             Case{u"MSG", u"Daily Messages Count", &RunState::lngDailyMsg, &RunState::lngSessionMsg,
+                  "lblMsgSentCount"_L1, u"Messages sent: 2", "lblMsgTotalToday"_L1},
+             Case{u"COM", u"Daily Comments Count", &RunState::lngDailyCom, &RunState::lngSessionCom,
+                  "lblComSentCount"_L1, u"Comments sent: 2", "lblComTotalToday"_L1},
+             Case{u"BUL",
+                  u"Daily Bulletins Count",
+                  &RunState::lngDailyBul,
+                  &RunState::lngSessionBul,
+                  "lblBulSentCount"_L1,
+                  u"Bulletins sent: 2/3",
+                  {}},
+             Case{u"STATUSUPDATES",
+                  u"Daily Statuses Count",
+                  &RunState::lngDailyStatus,
+                  &RunState::lngSessionStatus,
+                  "lblStatusSentCount"_L1,
+                  u"Statuses posted: 2/4",
+                  {}},
+         }) {
+        app->state.*each.daily = 7;
+        app->state.*each.session = 1;
+        app->counters->Count(QString::fromUtf16(each.word));
+        EXPECT_EQ(Stored(QString::fromUtf16(each.key)), u"8"_s);
+        EXPECT_EQ(app->state.*each.session, 2);
+        EXPECT_EQ(app->controls.Text(each.sentLabel), QString::fromUtf16(each.sent));
+        if (!each.todayLabel.isEmpty()) {
+            EXPECT_EQ(app->controls.Text(each.todayLabel), u"Total Today: 8"_s);
+        }
+    }
+}
+
+TEST_F(CountersTest, AMessageThatBelongsToARequestOrAnAcceptRunCountsNothing) {
+    app->state.blnMsgAfterFR = true;
+    app->counters->AddMessageCount();
+    app->state.blnMsgAfterFR = false;
+    app->state.strAcceptMode = u"MSG"_s;
+    app->counters->AddMessageCount();
+    app->counters->AddCommentCount();
+    app->state.strAcceptMode.clear();
+    app->state.strFRResumeURL = u"http://www.example.com/"_s;
+    app->counters->AddMessageCount();
+    EXPECT_EQ(app->state.lngDailyMsg, 0);
+    EXPECT_EQ(app->state.lngSessionMsg, 0);
+    EXPECT_EQ(app->state.lngDailyCom, 0);
+    app->state.strFRResumeURL.clear();
+    app->counters->AddMessageCount();
+    app->counters->AddCommentCount();
+    EXPECT_EQ(app->state.lngDailyMsg, 1);
+    EXPECT_EQ(app->state.lngDailyCom, 1);
+}
+
+TEST_F(CountersTest, AtTheLimitAChainGoesOnWithoutAWord) {
+    int handedOver = 0;
+    app->commands.Add(u"LoginNextCycleAccount"_s, [&handedOver] { ++handedOver; });
+    app->state.blnChaining = true;
+    app->controls.SetText("txtFriendRequestsToSend"_L1, u"0"_s);
+    EXPECT_FALSE(app->counters->AddFriendCount());
+    EXPECT_EQ(handedOver, 1);
+    EXPECT_TRUE(dialogs.Texts().isEmpty());
+}
+
+TEST_F(CountersTest, ALimitThatIsReachedWhenTheProgramIsToExitEndsItWithoutAWord) {
+    app->state.blnExitWhenFinished = true;
+    app->controls.SetText("txtFriendRequestsToSend"_L1, u"0"_s);
+    EXPECT_FALSE(app->counters->AddFriendCount());
+    EXPECT_TRUE(app->state.blnClosing);
+    EXPECT_TRUE(dialogs.Texts().isEmpty());
+}
+
+TEST_F(CountersTest, EveryCounterIsReadAndClearedUnderItsKey) {
+    struct Case {
+        const char16_t* key;
+        const char16_t* resetKey;
+        qint32 RunState::*count;
+    };
+    const Case rows[] = {
+        {u"Daily Friends Count", u"Daily Friends Count", &RunState::lngDailyFR},
+        {u"Daily Messages Count", u"Daily Messages Count", &RunState::lngDailyMsg},
+        {u"Daily Comments Count", u"Daily Comments Count", &RunState::lngDailyCom},
+        {u"Daily Bulletins Count", u"Daily Bulletins Count", &RunState::lngDailyBul},
+        {u"Daily Statuses Count", u"Daily Status Updates Count", &RunState::lngDailyStatus},
+        {u"Daily Friend Request Accept Count", u"Daily Friend Request Accept Count",
+         &RunState::lngDailyAccepted},
+        {u"Daily Event Invites Count", u"Daily Event Invites Count", &RunState::lngDailyEventInvites},
+        {u"Daily Group Invites Count", u"Daily Group Invites Count", &RunState::lngDailyGroupInvites},
+    };
+    int number = 10;
+    for (const Case& row : rows)
+        StoreCount(QString::fromUtf16(row.key), QString::number(++number));
+    StoreDay(u"2009-06-02"_s);
+    app->counters->Restore();
+    number = 10;
+    for (const Case& row : rows)
+        EXPECT_EQ(app->state.*row.count, ++number);
+    EXPECT_EQ(app->controls.Text("lblMsgTotalToday"_L1), u"Total Today: 12"_s);
+    EXPECT_EQ(app->controls.Text("lblComTotalToday"_L1), u"Total Today: 13"_s);
+    StoreDay(u"2009-06-01"_s);
+    app->counters->Restore();
+    for (const Case& row : rows) {
+        EXPECT_EQ(app->state.*row.count, 0);
+        EXPECT_EQ(Stored(QString::fromUtf16(row.resetKey)), u"0"_s);
+    }
+    EXPECT_EQ(app->controls.Text("lblMsgTotalToday"_L1), u"Total Today: 0"_s);
+    EXPECT_EQ(app->controls.Text("lblComTotalToday"_L1), u"Total Today: 0"_s);
+}
+
+TEST_F(CountersTest, OnTheAlternateServerTheDayComesFromItsOwnPage) {
+    app->state.ServerBaseURL = u"http://product2.example.com"_s;
+    world.http.Set(u"http://product2.example.com/dateandtime.htm"_s, u"6/3/2009 10:00:00 AM"_s);
+    StoreDay(u"2009-06-02"_s);
+    StoreCount(u"Daily Friends Count"_s, u"9"_s);
+    app->counters->Restore();
+    EXPECT_EQ(Day(), u"2009-06-03"_s);
+    EXPECT_EQ(app->state.lngDailyFR, 0);
+}
+
 } // namespace
 } // namespace qlm

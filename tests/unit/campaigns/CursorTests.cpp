@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
 #include "campaigns/SendRuns.h"
+#include "campaigns/SentLog.h"
 #include "gather/GatheredList.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -80,6 +81,192 @@ TEST_F(CursorTest, TheEndOfAChainedRunTellsNoCounts) {
     app->sendRuns->Finish(u"IAF"_s);
     EXPECT_EQ(dialogs.Texts(), QStringList{u"Finished sending friend requests."_s});
     EXPECT_FALSE(app->state.blnChaining);
+}
+
+TEST_F(CursorTest, EachCampaignEndsInItsWordsAndACommentRunLeavesTheChain) {
+    struct Case {
+        const char16_t* word;
+        const char16_t* text;
+        bool chaining;
+    };
+    for (const Case& each : {Case{u"FR", u"Finished sending friend requests.", false},
+                             Case{u"MSG", u"Finished sending messages.", false},
+                             Case{u"COM", u"Finished sending comments.", true}}) {
+        dialogs.messages.clear();
+        app->state.CurrentAction = QString::fromUtf16(each.word);
+        app->state.blnChaining = true;
+        app->sendRuns->Finish(u"IAF"_s);
+        EXPECT_EQ(dialogs.Texts(), QStringList{QString::fromUtf16(each.text)});
+        EXPECT_EQ(app->state.blnChaining, each.chaining);
+    }
+}
+
+TEST_F(CursorTest, TheEndTellsNothingWhenTheProgramExits) {
+    Fill({u"11"_s});
+    app->state.blnExitWhenFinished = true;
+    app->sendRuns->Finish(u"IAF"_s);
+    EXPECT_TRUE(dialogs.Texts().isEmpty());
+    EXPECT_TRUE(app->state.blnClosing);
+}
+
+TEST_F(CursorTest, InAcceptModeTheAcceptedFriendsAreTheTargets) {
+    Fill({u"11"_s});
+    for (const QString& id : {u"21"_s, u"22"_s})
+        app->controls.AddItem("lstAcceptIDs"_L1, id);
+    app->state.CurrentAction = u"MSG"_s;
+    app->state.strAcceptMode = u"MSG"_s;
+    EXPECT_EQ(Walk(), (QStringList{u"21 ID 1 of 2"_s, u"22 ID 2 of 2"_s}));
+    EXPECT_EQ(app->state.arrFriendIDs, QStringList{u"11"_s});
+    EXPECT_TRUE(app->controls.Items("lstAcceptIDs"_L1).isEmpty());
+    EXPECT_FALSE(app->sendRuns->TargetLeft());
+}
+
+TEST_F(CursorTest, InAcceptModeTheEndGoesBackToAcceptingWithoutAWord) {
+    app->controls.AddItem("lstAcceptIDs"_L1, u"21"_s);
+    app->state.CurrentAction = u"COM"_s;
+    app->state.intComStep = 5;
+    app->state.strAcceptMode = u"COM"_s;
+    app->sendRuns->Finish(u"ISC"_s);
+    EXPECT_EQ(app->state.CurrentAction, u"ACC"_s);
+    EXPECT_EQ(app->state.intAccStep, 2);
+    EXPECT_EQ(app->state.intComStep, 0);
+    EXPECT_TRUE(app->state.strAcceptMode.isEmpty());
+    EXPECT_TRUE(app->controls.Items("lstAcceptIDs"_L1).isEmpty());
+    EXPECT_TRUE(dialogs.Texts().isEmpty());
+}
+
+TEST_F(CursorTest, InAcceptModeALoggedFriendIsPassedOverOnlyByWishAndForComments) {
+    app->files.WriteLines(app->sentLog->PathFor(u"COM"_s), {u"21"_s});
+    app->files.WriteLines(app->sentLog->PathFor(u"MSG"_s), {u"21"_s});
+    app->state.strAcceptMode = u"COM"_s;
+    auto taken = [this](const QString& action, bool byWish) {
+        app->state.CurrentAction = action;
+        app->controls.SetTicked("mnuAddToLogWhenAccepting"_L1, byWish);
+        app->controls.SetItems("lstAcceptIDs"_L1, {u"21"_s, u"22"_s});
+        EXPECT_EQ(app->sendRuns->TakeTarget(u"test"_s), SendRuns::Took::Target);
+        return app->state.strCurrentID;
+    };
+    EXPECT_EQ(taken(u"COM"_s, false), u"21"_s);
+    EXPECT_EQ(taken(u"COM"_s, true), u"22"_s);
+    EXPECT_EQ(taken(u"MSG"_s, true), u"21"_s);
+}
+
+TEST_F(CursorTest, ASkipLeavesAStatusLineThatSaysSoAlready) {
+    Fill({u"11"_s, u"12"_s});
+    app->state.blnCheckLog = true;
+    app->files.WriteLines(app->sentLog->PathFor(u"FR"_s), {u"11"_s, u"12"_s});
+    app->SetStatus(u"Skipping for another reason"_s);
+    EXPECT_EQ(app->sendRuns->TakeTarget(u"test"_s), SendRuns::Took::End);
+    EXPECT_EQ(app->Status(), u"Skipping for another reason"_s);
+    EXPECT_EQ(app->state.lngSkippedCount, 2);
+    app->state.intCurrentIDIndex = 0;
+    app->SetStatus(u"Working"_s);
+    app->sendRuns->TakeTarget(u"test"_s);
+    EXPECT_EQ(app->Status(), u"Skipping ID's you've sent to before..."_s);
+}
+
+// How each campaign starts, up to its first step.
+struct StartCase {
+    const char16_t* word;
+    qint16 RunState::*step;
+    qint16 firstStep;
+    QLatin1StringView sentLabel;
+    const char16_t* sent;
+    QLatin1StringView checkLogBox;
+    bool endsRunningOne;
+};
+
+class StartTest : public CursorTest, public testing::WithParamInterface<StartCase> {
+protected:
+    StartTest() {
+        Fill({u"11"_s});
+        app->state.CurrentAction.clear();
+        for (const auto& field : {"txtMsgSubject"_L1, "txtMsgMessage"_L1, "txtComment"_L1})
+            app->controls.SetText(field, u"text"_s);
+    }
+    void Start() { app->sendRuns->Start(QString::fromUtf16(GetParam().word)); }
+};
+
+TEST_P(StartTest, ResetsTheRunAndEntersItsFirstStep) {
+    RunState& state = app->state;
+    state.lngSkippedCount = state.lngFilteredCount = state.lngSessionMsg = state.lngSessionCom = 5;
+    state.intCurrentIDIndex = 7;
+    state.blnLinkFound = state.blnWaitingForCaptcha = state.blnSkipCurrentID = state.blnSkipRequested = true;
+    state.blnHoldLinkCheck = true;
+    state.strLinkType = state.strLinkValue = state.strFRResumeURL = u"old"_s;
+    app->timers->tmrCheckLinkLoaded.Restart();
+    app->webHide().ZOrder(0);
+    Start();
+    EXPECT_EQ(state.CurrentAction, QString::fromUtf16(GetParam().word));
+    EXPECT_EQ(state.*GetParam().step, GetParam().firstStep);
+    EXPECT_EQ(app->controls.Text(GetParam().sentLabel), QString::fromUtf16(GetParam().sent));
+    EXPECT_FALSE(app->timers->tmrCheckLinkLoaded.Enabled());
+    EXPECT_TRUE(state.strLinkType.isEmpty() && state.strLinkValue.isEmpty() &&
+                state.strFRResumeURL.isEmpty());
+    EXPECT_FALSE(state.blnLinkFound || state.blnWaitingForCaptcha || state.blnSkipCurrentID ||
+                 state.blnSkipRequested || state.blnHoldLinkCheck);
+    EXPECT_EQ(state.lngSkippedCount + state.lngFilteredCount, 0);
+    EXPECT_EQ(state.intCurrentIDIndex, 0);
+    EXPECT_EQ(app->webHide().Position(), 1);
+    EXPECT_TRUE(app->WebBrowser1().Silent() && app->webHide().Silent());
+}
+
+TEST_P(StartTest, InAChainThatGoesOnKeepsTheCursor) {
+    app->state.intCurrentIDIndex = 7;
+    app->state.blnChaining = true;
+    app->state.ChainedCampaign = QString::fromUtf16(GetParam().word);
+    Start();
+    EXPECT_EQ(app->state.intCurrentIDIndex, 7);
+    app->state.ChainedCampaign = u"BUL"_s;
+    Start();
+    EXPECT_EQ(app->state.intCurrentIDIndex, 0);
+}
+
+TEST_P(StartTest, LooksInTheLogByItsBox) {
+    Start();
+    EXPECT_FALSE(app->state.blnCheckLog);
+    app->controls.SetTicked(GetParam().checkLogBox, true);
+    Start();
+    EXPECT_TRUE(app->state.blnCheckLog);
+}
+
+TEST_P(StartTest, EndsARunningCampaignFirstOrNot) {
+    app->state.CurrentAction = u"FR"_s;
+    app->state.intFRStep = 8;
+    Start();
+    EXPECT_EQ(app->state.intFRStep, GetParam().endsRunningOne ? 0 : 8);
+}
+
+TEST_P(StartTest, ARefusedStartChangesNothing) {
+    app->controls.SetItems("lstFriendIDs"_L1, {});
+    app->state.lngSkippedCount = 5;
+    Start();
+    EXPECT_TRUE(app->state.CurrentAction.isEmpty());
+    EXPECT_EQ(app->state.lngSkippedCount, 5);
+}
+
+INSTANTIATE_TEST_SUITE_P(Campaigns, StartTest,
+                         testing::Values(StartCase{u"MSG", &RunState::intMsgStep, 4, "lblMsgSentCount"_L1,
+                                                   u"Messages sent: 0", "chkMsgDontSendAgain"_L1, false},
+                                         StartCase{u"COM", &RunState::intComStep, 4, "lblComSentCount"_L1,
+                                                   u"Comments sent: 0", "chkComDontSendAgain"_L1, true}));
+
+// The log is the only guard of friend requests, whatever the messenger's box says.
+TEST_F(CursorTest, AFriendRequestRunAlwaysLooksInTheLog) {
+    Fill({u"11"_s});
+    app->state.CurrentAction.clear();
+    app->sendRuns->Start(u"FR"_s);
+    EXPECT_TRUE(app->state.blnCheckLog);
+    EXPECT_EQ(app->controls.Text("lblFrSentCount"_L1), u"Friends requested: 0"_s);
+}
+
+TEST_F(CursorTest, ACampaignThatCannotRunYetHasNoButtons) {
+    EXPECT_TRUE(app->commands.Has(u"piccmdAddFriends_Click"_s));
+    EXPECT_TRUE(app->commands.Has(u"piccmdAddFriendsStop_Click"_s));
+    EXPECT_TRUE(app->commands.Has(u"piccmdFrClearLog_Click"_s));
+    for (const QString& button : {u"picCmdMsgSend"_s, u"picCmdMsgStop"_s, u"piccmdMsgClearLog"_s,
+                                  u"picCmdComSend"_s, u"picCmdBulSend"_s, u"piccmdSendStatusUpdates"_s})
+        EXPECT_FALSE(app->commands.Has(button + u"_Click"_s));
 }
 
 } // namespace

@@ -42,8 +42,10 @@ protected:
     bool m_failed = false;
 };
 
-TEST_F(FriendRequesterTest, ABusyBrowserIsTriedAgainAfterThreeSecondsWithTheSameTarget) {
-    FailAtStatus(sending, "Automation error");
+class BusyBrowserTest : public FriendRequesterTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(BusyBrowserTest, IsTriedAgainAfterThreeSecondsWithTheSameTarget) {
+    FailAtStatus(sending, GetParam());
     const qint64 startMs = world.clock.NowMs();
     EXPECT_EQ(Run().size(), 2);
     EXPECT_TRUE(m_failed);
@@ -51,6 +53,10 @@ TEST_F(FriendRequesterTest, ABusyBrowserIsTriedAgainAfterThreeSecondsWithTheSame
     EXPECT_EQ(Log(), (QStringList{u"1001"_s, u"1002"_s}));
     EXPECT_TRUE(app->files.ReadLines(app->state.ErrorLogPath).contains(u"Proc: IterateAddFriends"_s));
 }
+
+INSTANTIATE_TEST_SUITE_P(Errors, BusyBrowserTest,
+                         testing::Values("Automation error", "The requested resource is in use.",
+                                         "Automatisierungsfehler"));
 
 TEST_F(FriendRequesterTest, AStopEndsTheWaitForABusyBrowser) {
     FailAtStatus(sending, "The requested resource is in use.");

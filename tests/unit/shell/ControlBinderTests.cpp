@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
@@ -68,6 +69,19 @@ TEST_F(ControlBinderTest, TypingInTheMiddleOfAFieldKeepsTheCursorThere) {
     line->insert(u"X"_s);
     EXPECT_EQ(line->text(), u"abXcd"_s);
     EXPECT_EQ(line->cursorPosition(), 3);
+}
+
+TEST_F(ControlBinderTest, ManyLinesHaveTheTablesLineEnds) {
+    Table().SetText("txtMsgMessage"_L1, u"one\r\ntwo"_s);
+    auto* lines = Add<QPlainTextEdit>("txtMsgMessage"_L1);
+    Bind();
+    EXPECT_EQ(lines->toPlainText(), u"one\ntwo"_s);
+    lines->moveCursor(QTextCursor::End);
+    lines->insertPlainText(u"\nthree"_s);
+    EXPECT_EQ(Table().Text("txtMsgMessage"_L1), u"one\r\ntwo\r\nthree"_s);
+    EXPECT_TRUE(lines->textCursor().atEnd());
+    Table().SetText("txtMsgMessage"_L1, u"from the logic\r\n"_s);
+    EXPECT_EQ(lines->toPlainText(), u"from the logic\n"_s);
 }
 
 TEST_F(ControlBinderTest, TheWidgetsOfAFormCarryItsPrefixInTheTable) {

@@ -5,6 +5,7 @@
 #include "shell/Look.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -153,9 +154,16 @@ TEST_F(MainWindowTest, APlaceOffTheScreenIsBroughtBackOntoIt) {
     EXPECT_TRUE(window->screen()->availableGeometry().contains(window->geometry()));
 }
 
+// A start asks for a category while its box is ticked, and the account's categories can be fetched.
+TEST_F(MainWindowTest, TheCategoryIsShownAndSaysWhatItIsGoodFor) {
+    ASSERT_NE(Named<QComboBox>("cboFRCategories"), nullptr);
+    EXPECT_NE(Named<QToolButton>("piccmdFRRefreshCategories"), nullptr);
+    for (const char* name : {"chkFRAddToCategory", "cboFRCategories"})
+        EXPECT_EQ(Named<QWidget>(name)->toolTip(), u"This setting appears on the friend request page"_s);
+}
+
 TEST_F(MainWindowTest, OptionsWithoutEffectAreNotShown) {
-    for (const char* name :
-         {"optScanGoogle", "chkFRNote", "chkFRAddToCategory", "chkFRFullName", "mnuBackup"})
+    for (const char* name : {"optScanGoogle", "chkFRNote", "chkFRFullName", "mnuBackup"})
         EXPECT_EQ(Named<QObject>(name), nullptr) << name;
 }
 

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "campaigns/Campaigns.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+const std::vector<Campaign>& Campaigns() {
+    static const std::vector<Campaign> campaigns{
+        {.word = "FR"_L1,
+         .send = "piccmdAddFriends",
+         .stop = "piccmdAddFriendsStop",
+         .log = "piccmdFrClearLog",
+         .startProcedure = "cmdAddFriends_Click",
+         .stopReason = "ADDSTOP",
+         .firstStep = 5,
+         .stopsRunningOne = false,
+         .session = &RunState::lngSessionFR,
+         .daily = &RunState::lngDailyFR,
+         .sentLabel = "lblFrSentCount"_L1,
+         .sentAtStart = "Friends requested: ",
+         .sentSoFar = "Friends Requested: ",
+         .amount = "txtFriendRequestsToSend"_L1,
+         .period = "cboFRPerDayOrSession"_L1,
+         .limitReason = "AFC",
+         .what = "friend requests",
+         .logFile = "FriendsLog.txt",
+         .whatLogRecords = "sent friend requests to",
+         .checkLogBox = {},
+         .traceWord = "IAF",
+         .endClearsChain = true},
+        {.word = "MSG"_L1,
+         .send = "picCmdMsgSend",
+         .stop = "picCmdMsgStop",
+         .log = "piccmdMsgClearLog",
+         .startProcedure = "cmdMsgSend_Click",
+         .stopReason = "MSGSTOP",
+         .firstStep = 4,
+         .stopsRunningOne = false,
+         .session = &RunState::lngSessionMsg,
+         .daily = &RunState::lngDailyMsg,
+         .sentLabel = "lblMsgSentCount"_L1,
+         .sentAtStart = "Messages sent: ",
+         .sentSoFar = "Messages sent: ",
+         .amount = "txtMsgStopAt"_L1,
+         .period = "cboMSGPerDayOrSession"_L1,
+         .limitReason = "MSGSTOP",
+         .what = "messages",
+         .logFile = "MessagesLog.txt",
+         .whatLogRecords = "sent messages to",
+         .checkLogBox = "chkMsgDontSendAgain"_L1,
+         .traceWord = "ISM",
+         .endClearsChain = true},
+        {.word = "COM"_L1,
+         .send = "picCmdComSend",
+         .stop = "picCmdComStop",
+         .log = "piccmdComClearLog",
+         .startProcedure = "cmdComSend_Click",
+         .stopReason = "COMSTOP",
+         .firstStep = 4,
+         .stopsRunningOne = true,
+         .session = &RunState::lngSessionCom,
+         .daily = &RunState::lngDailyCom,
+         .sentLabel = "lblComSentCount"_L1,
+         .sentAtStart = "Comments sent: ",
+         .sentSoFar = "Comments sent: ",
+         .amount = "txtComStopAt"_L1,
+         .period = "cboCOMPerDayOrSession"_L1,
+         .limitReason = "COMSTOP",
+         .what = "comments",
+         .logFile = "CommentsLog.txt",
+         .whatLogRecords = "sent comments to",
+         .checkLogBox = "chkComDontSendAgain"_L1,
+         .traceWord = "ISC",
+         .endClearsChain = false},
+        {.word = "BUL"_L1,
+         .send = "picCmdBulSend",
+         .stop = "piccmdBulStop",
+         .log = "",
+         .startProcedure = "cmdBulSend_Click",
+         .stopReason = "BULSTOP",
+         .firstStep = 2,
+         .stopsRunningOne = true,
+         .session = &RunState::lngSessionBul,
+         .daily = &RunState::lngDailyBul,
+         .sentLabel = "lblBulSentCount"_L1,
+         .sentAtStart = "Bulletins sent: ",
+         .sentSoFar = "Bulletins sent: ",
+         .amount = "txtPostAmount"_L1,
+         .period = {},
+         .limitReason = "",
+         .what = "bulletins",
+         .logFile = "",
+         .whatLogRecords = "",
+         .checkLogBox = {},
+         .traceWord = "",
+         .endClearsChain = false},
+        {.word = "STATUSUPDATES"_L1,
+         .send = "piccmdSendStatusUpdates",
+         .stop = "",
+         .log = "",
+         .startProcedure = "cmdstatusesSend_Click",
+         .stopReason = "STATUSSTOP",
+         .firstStep = 0,
+         .stopsRunningOne = false,
+         .session = &RunState::lngSessionStatus,
+         .daily = &RunState::lngDailyStatus,
+         .sentLabel = "lblStatusSentCount"_L1,
+         .sentAtStart = "Statuses posted: ",
+         .sentSoFar = "Statuses posted: ",
+         .amount = "txtStatusPostAmount"_L1,
+         .period = {},
+         .limitReason = "",
+         .what = "status updates",
+         .logFile = "",
+         .whatLogRecords = "",
+         .checkLogBox = {},
+         .traceWord = "",
+         .endClearsChain = false},
+    };
+    return campaigns;
+}
+
+const Campaign* FindCampaign(const QString& word) {
+    for (const Campaign& campaign : Campaigns())
+        if (word == campaign.word)
+            return &campaign;
+    return nullptr;
+}
+
+const Campaign* FindTargetCampaign(const QString& word) {
+    const Campaign* campaign = FindCampaign(word);
+    return campaign && campaign->HasTargets() ? campaign : nullptr;
+}
+
+} // namespace qlm

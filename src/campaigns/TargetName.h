@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace qlm {
+
+class App;
+
+// The target's display name as the page in WebBrowser1 shows it; empty when there is none or it holds more
+// than letters, digits, hyphens and two blanks. html is that page's; kind is "Message", "Comment" or "Friend
+// Request".
+QString GetTargetName(App& app, const QString& html, const QString& kind);
+// The first name, with a capital letter and small ones behind it.
+QString CleanTargetName(const QString& name);
+// Puts the name in the place of every "&NAME&"; without a name the token just goes.
+QString ReplaceTargetName(App& app, const QString& text, const QString& html, const QString& kind);
+
+} // namespace qlm
