@@ -13,6 +13,7 @@ add_library(quillmere_logic STATIC
     core/Diagnostics.cpp
     core/FileSystem.cpp
     core/GlobalSettings.cpp
+    core/IdList.cpp
     core/IniFile.cpp
     core/LineSearch.cpp
     core/MainForm.cpp
@@ -53,6 +54,7 @@ add_library(quillmere_logic STATIC
     accounts/OwnProfileId.cpp
 
     gather/BlackList.cpp
+    gather/BlackListForm.cpp
     gather/FilterOptions.cpp
     gather/FilterPass.cpp
     gather/FirstPageSigns.cpp
@@ -63,6 +65,7 @@ add_library(quillmere_logic STATIC
     gather/IdResolution.cpp
     gather/IdTexts.cpp
     gather/LinkScanner.cpp
+    gather/ListFiles.cpp
     gather/ListingText.cpp
     gather/NextLinkRules.cpp
     gather/PageLoadWait.cpp
@@ -72,6 +75,9 @@ add_library(quillmere_logic STATIC
     gather/ProfileLinkRules.cpp
     gather/ProfileLinks.cpp
     gather/ProfileText.cpp
+    gather/ProfileVisit.cpp
+    gather/SearchForm.cpp
+    gather/WebSearch.cpp
 
     content/ContentLine.cpp
     content/ContentLists.cpp

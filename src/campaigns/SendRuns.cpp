@@ -220,14 +220,14 @@ void SendRuns::RemoveUsedTarget(const QString& caller) {
         }
         return;
     }
-    const QStringList& targets = state.arrFriendIDs;
+    const IdList& targets = state.arrFriendIDs;
     // The user may have taken it off the list himself meanwhile.
     if (!m_app.controls.Ticked("chkRemoveAfterSent"_L1) ||
         targets.value(state.intCurrentIDIndex) != state.strCurrentID)
         return;
     const qsizetype before = targets.size();
     m_app.gatheredList->ProcessArrayAndList(u"REMOVE"_s, state.intCurrentIDIndex, {}, caller);
-    const bool removed = targets.size() < before || targets.constFirst().isEmpty();
+    const bool removed = targets.size() < before || targets.IsBlank(0);
     // An entry without a row in the box can't be removed; the walk must not stay on it.
     ++(removed ? state.lngRemovedCount : state.intCurrentIDIndex);
 }

@@ -33,6 +33,7 @@
 #include "gather/Pager.h"
 #include "gather/ProfileFilters.h"
 #include "gather/ProfileLinks.h"
+#include "gather/WebSearch.h"
 
 namespace qlm {
 
@@ -82,6 +83,7 @@ App::App(Platform& thePlatform)
       idResolution(std::make_unique<IdResolution>(*this)),
       profileFilters(std::make_unique<ProfileFilters>(*this)),
       blackList(std::make_unique<BlackList>(*this)),
+      webSearch(std::make_unique<WebSearch>(*this)),
       contentLists(std::make_unique<ContentLists>(*this)),
       sendRuns(std::make_unique<SendRuns>(*this)),
       sentLog(std::make_unique<SentLog>(*this)),

@@ -46,6 +46,7 @@ class StartUp;
 class StepDispatcher;
 class StopResume;
 class SupportFiles;
+class WebSearch;
 
 // The timers of the main window, with the names, intervals and starting states of the design.
 struct Timers {
@@ -110,6 +111,7 @@ public:
     const std::unique_ptr<IdResolution> idResolution;
     const std::unique_ptr<ProfileFilters> profileFilters;
     const std::unique_ptr<BlackList> blackList;
+    const std::unique_ptr<WebSearch> webSearch;
     // content
     const std::unique_ptr<ContentLists> contentLists;
     // campaigns

@@ -236,6 +236,22 @@ const std::vector<ControlRow>& Controls::Table() {
         {"frmFilters.cmdOK", Button, "", "", "", u"OK"},
         {"frmFilters.cmdCancel", Button, "", "", "", u"Cancel"},
 
+        // Black List.
+        {"frmBlacklist.txtID", TextBox},
+        {"frmBlacklist.cmdAdd", Button, "", "", "", u"Add ID"},
+        {"frmBlacklist.lstFriendIDs", ListBox},
+        {"frmBlacklist.cmdDelete", Button, "", "", "", u"Delete Selected ID"},
+        {"frmBlacklist.cmdAddFromFile", Button, "", "", "", u"Add ID's from file"},
+        {"frmBlacklist.cmdClearList", Button, "", "", "", u"Clear list"},
+        {"frmBlacklist.cmdClose", Button, "", "", "", u"Close"},
+
+        // Google Search. The term is stored when the window goes.
+        {"frmGoogleSearch.txtGoogleTerm", TextBox},
+        {"frmGoogleSearch.cmdOK", Button, "", "", "", u"Search"},
+        {"frmGoogleSearch.lblInProgress", Label, "", "", "",
+         u"Extracting Google Results (1000 max) - please be patient"},
+        {"frmGoogleSearch.lblFullGatheringID", Label, "", "", "", u"Full-Gathering ID's..."},
+
         // Global Settings.
         {"frmGlobalSettings.chkUseGlobalSettings", CheckBox, "", "", "",
          u"Use same Global Settings for all accounts"},
@@ -293,6 +309,7 @@ const std::vector<ControlRow>& Controls::Table() {
         {"frmFullGatherReminder.chkDontShowAgain", CheckBox, "", "", "", u"Don't show again"},
         {"frmFullGatherReminder.cmdOK", Button, "", "", "", u"OK"},
         {"frmFullGatherHelp.cmdClose", Button, "", "", "", u"Close"},
+        {"frmProifleIDHelp.cmdClose", Button, "", "", "", u"Close"},
         {"frmLog.lblHeading", Label},
         {"frmLog.Label1", Label, "", "", "", u"What do you want to do with the log?"},
         {"frmLog.cmdClearLog", Button, "", "", "", u"Clear Log"},

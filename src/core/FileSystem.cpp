@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -152,24 +153,28 @@ void FileSystem::ForEachLine(const QString& path, const std::function<bool(QByte
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         throw FileError("Cannot open \"" + path.toStdString() + "\": " + file.errorString().toStdString());
     constexpr qint64 ChunkBytes = 1 << 18;
-    QByteArray pending;
+    qint64 left = file.size(); // what is added meanwhile is not visited
+    QByteArray data;           // begins at a line
     auto give = [&visit](QByteArrayView line) { return visit(line.endsWith('\r') ? line.chopped(1) : line); };
     while (true) {
-        const QByteArray chunk = file.read(ChunkBytes);
+        const QByteArray chunk = file.read(std::min(ChunkBytes, left));
         if (chunk.isEmpty())
             break;
-        // The usual chunk begins at a line: only a line that was cut in two is copied.
-        const QByteArray data = pending.isEmpty() ? chunk : pending + chunk;
+        left -= chunk.size();
+        const qsizetype searched = data.size();
+        data += chunk;
         qsizetype start = 0;
-        for (qsizetype end = data.indexOf('\n'); end >= 0; end = data.indexOf('\n', start)) {
+        for (qsizetype end = data.indexOf('\n', searched); end >= 0; end = data.indexOf('\n', start)) {
             if (!give(QByteArrayView(data).sliced(start, end - start)))
                 return;
             start = end + 1;
         }
-        pending = data.mid(start);
+        // A line longer than the chunk stays where it is and grows.
+        if (start > 0)
+            data = data.mid(start);
     }
-    if (!pending.isEmpty())
-        give(pending);
+    if (!data.isEmpty())
+        give(data);
 }
 
 void FileSystem::WriteAll(int descriptor, const QByteArray& bytes, const QString& path) {
@@ -189,10 +194,17 @@ void FileSystem::WriteAll(int descriptor, const QByteArray& bytes, const QString
 
 void FileSystem::AppendLine(const QString& path, const QString& line, Readers readers,
                             Durability durability) {
+    Append(path, LinesToBytes({line}), readers, durability);
+}
+
+void FileSystem::AppendLines(const QString& path, const QStringList& lines) {
+    Append(path, LinesToBytes(lines), Readers::Everyone, Durability::Synced);
+}
+
+void FileSystem::Append(const QString& path, QByteArray bytes, Readers readers, Durability durability) {
     CreateFolder(QFileInfo(path).absolutePath());
     Refuse(path);
     const Descriptor file(path, O_RDWR | O_CREAT | O_APPEND | O_CLOEXEC, ModeFor(readers));
-    QByteArray bytes = LinesToBytes({line});
     if (EndsInsideLine(file.Number()))
         bytes.prepend("\r\n");
     WriteAll(file.Number(), bytes, path);
@@ -207,16 +219,37 @@ void FileSystem::WriteLines(const QString& path, const QStringList& lines, Reade
 void FileSystem::WriteBytes(const QString& path, const QByteArray& bytes, Readers readers) {
     Refuse(path);
     const QString temporary = path + u".new"_s;
-    try {
-        // What an earlier end has left there may stand open to others.
-        unlink(QFile::encodeName(temporary));
+    // What an earlier end has left there may stand open to others.
+    unlink(QFile::encodeName(temporary));
+    auto undo = qScopeGuard([&temporary] { unlink(QFile::encodeName(temporary)); });
+    {
         const Descriptor file(temporary, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, ModeFor(readers));
         WriteAll(file.Number(), bytes, temporary);
         file.Sync(temporary);
-    } catch (const FileError&) {
-        unlink(QFile::encodeName(temporary));
-        throw;
     }
+    Replace(temporary, path);
+    undo.dismiss();
+}
+
+void FileSystem::WriteParts(const QString& path, const std::function<bool(QByteArray&)>& nextPart) {
+    Refuse(path);
+    const QString temporary = path + u".new"_s;
+    auto undo = qScopeGuard([&temporary] { unlink(QFile::encodeName(temporary)); });
+    {
+        const Descriptor file(temporary, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC,
+                              ModeFor(Readers::Everyone));
+        for (bool more = true; more;) {
+            QByteArray part;
+            more = nextPart(part);
+            WriteAll(file.Number(), part, temporary);
+            file.Sync(temporary);
+        }
+    }
+    Replace(temporary, path);
+    undo.dismiss();
+}
+
+void FileSystem::Replace(const QString& temporary, const QString& path) {
     if (rename(QFile::encodeName(temporary), QFile::encodeName(path)) != 0)
         Fail("Cannot replace", path);
     SyncFolderOf(path);

@@ -45,12 +45,19 @@ public:
 
     QStringList ReadLines(const QString& path) const;
     // Line by line from the start, without the line end, as bytes on disk; stops when visit answers false.
+    // The lines of the moment of the call: visit may append to the file.
     void ForEachLine(const QString& path, const std::function<bool(QByteArrayView line)>& visit) const;
     QByteArray ReadBytes(const QString& path) const;
 
     void AppendLine(const QString& path, const QString& line, Readers readers = Readers::Everyone,
                     Durability durability = Durability::Synced);
+    // The same for many lines, in one write.
+    void AppendLines(const QString& path, const QStringList& lines);
     void WriteLines(const QString& path, const QStringList& lines, Readers readers = Readers::Everyone);
+    // As WriteBytes for what is too much for one go: nextPart adds the next bytes to the empty array and
+    // answers false when those were the last. Each part has reached the disk before the next is asked for, so
+    // that no single wait is long.
+    void WriteParts(const QString& path, const std::function<bool(QByteArray& part)>& nextPart);
     void WriteBytes(const QString& path, const QByteArray& bytes, Readers readers = Readers::Everyone);
     // Overwrites the target, whole or not at all.
     void CopyFile(const QString& from, const QString& to, Readers readers = Readers::Everyone);
@@ -62,6 +69,8 @@ public:
     static QString Join(const QString& folder, const QString& name);
 
 private:
+    void Append(const QString& path, QByteArray bytes, Readers readers, Durability durability);
+    void Replace(const QString& temporary, const QString& path);
     void Refuse(const QString& path) const;
     void WriteAll(int descriptor, const QByteArray& bytes, const QString& path);
 

@@ -81,7 +81,7 @@ void MainForm::Form_Load() {
         m_app.WebBrowser1().SetSilent(true);
         m_app.WebBrowser1().Navigate(u"about:blank"_s);
         m_app.webNews().Navigate(state.ServerBaseURL + u"/news.htm"_s);
-        state.arrFriendIDs = {QString()};
+        state.arrFriendIDs = IdList{QString()};
         m_app.diagnostics.Debug(u"debuginitial.txt"_s, u"frmLoad 2"_s);
         m_app.settingsFields->RestoreGeneralPrevious();
         m_app.pacing->ReadBounds();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/IdList.h"
+
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
@@ -121,10 +123,10 @@ struct RunState {
     qint32 lngTimeDelayTo = 0;
 
     // The work list. Empty is one entry "".
-    QStringList arrFriendIDs{QString()};
+    IdList arrFriendIDs{QString()};
     qint32 intCurrentIDIndex = 0;
     bool blnFillingList = false;
-    QStringList arrBlacklistIDs{QString()};
+    IdList arrBlacklistIDs{QString()};
 
     // Gathering.
     QString strNextPageLink;
@@ -134,9 +136,10 @@ struct RunState {
     bool blnRetryGatherPage = false;
     qint32 lngPageScanOffset = 0;
     qint16 intGatherRetryTicks = 0;
-    QStringList arrSeenLinks;
+    IdList arrSeenLinks;
     QStringList lstAlreadyFullGatheredPageIDs;
     bool blnRememberLink = false;
+    bool blnStopGoogle = false; // the user has pressed Stop in the search window
 
     // Filters, as read back from the filter window.
     bool blnFilterTypeOff = true;

@@ -5,6 +5,7 @@
 #include "core/StopResume.h"
 #include "gather/GatherDriver.h"
 #include "gather/GatheredList.h"
+#include "gather/ListFiles.h"
 
 namespace qlm {
 
@@ -12,6 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 BlackList::BlackList(App& app) : m_app(app) {
     app.commands.Add(u"picRemoveFriends_Click"_s, [this] { picRemoveFriends_Click(); });
+    RegisterForm();
 }
 
 QString BlackList::Path() const {
@@ -23,16 +25,12 @@ void BlackList::FillArrayFromFile(const QString& arrayName, const QString& path)
         return;
     m_app.diagnostics.Trap("FillArrayFromFile", [&] {
         m_app.files.EnsureFile(path);
-        QStringList ids;
-        for (const QString& line : m_app.files.ReadLines(path)) {
-            m_app.waiting.Pump();
-            if (const QString id = line.trimmed(); !id.isEmpty())
-                ids.append(id);
-        }
+        IdList ids;
+        ForEachId(m_app, path, [&ids](const QString& id) { ids.append(id); });
         if (ids.isEmpty())
             ids.append(QString());
         if (arrayName == u"arrBlacklistIDs"_s)
-            m_app.state.arrBlacklistIDs = ids;
+            m_app.state.arrBlacklistIDs = std::move(ids);
     });
 }
 

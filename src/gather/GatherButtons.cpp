@@ -45,13 +45,17 @@ void GatherDriver::RegisterButtons() {
                  [this] { GotoProfilePage("piccmdFrGotoFriends_Click", u"/friends"_s); });
     commands.Add(u"piccmdFrGotoComments_Click"_s,
                  [this] { GotoProfilePage("piccmdFrGotoComments_Click", u"/comments"_s); });
-    commands.Add(u"lblFullGatherHelp_Click"_s,
-                 [this] { m_app.platform.Dialogs().ShowModal(u"frmFullGatherHelp"_s); });
-    commands.Add(u"frmFullGatherHelp.cmdClose_Click"_s,
-                 [this] { m_app.platform.Dialogs().CloseForm(u"frmFullGatherHelp"_s); });
+    RegisterHelp(u"lblFullGatherHelp"_s, u"frmFullGatherHelp"_s);
+    RegisterHelp(u"lblProfileIDHelp"_s, u"frmProifleIDHelp"_s);
     for (const Prompt& prompt : Prompts())
         commands.Add(prompt.form + u".cmdOK_Click"_s,
                      [this, form = QString(prompt.form)] { ClosePrompt(form); });
+}
+
+void GatherDriver::RegisterHelp(const QString& label, const QString& form) {
+    m_app.commands.Add(label + u"_Click"_s, [this, form] { m_app.platform.Dialogs().ShowModal(form); });
+    m_app.commands.Add(form + u".cmdClose_Click"_s,
+                       [this, form] { m_app.platform.Dialogs().CloseForm(form); });
 }
 
 bool GatherDriver::RefuseDuringLogin() {

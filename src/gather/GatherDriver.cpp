@@ -7,6 +7,7 @@
 #include "core/Text.h"
 #include "gather/GatheredList.h"
 #include "gather/LinkScanner.h"
+#include "gather/WebSearch.h"
 
 namespace qlm {
 
@@ -54,7 +55,11 @@ void GatherDriver::picScanStart_Click() {
         state.strNextPageLink.clear();
         state.lstAlreadyFullGatheredPageIDs.clear();
         state.blnWaitingForCaptcha = false;
-        state.arrSeenLinks.clear();
+        if (m_app.controls.Ticked("optScanGoogle"_L1)) {
+            m_app.webSearch->Run();
+            return;
+        }
+        state.arrSeenLinks = {};
         m_app.timers->tmrCheckLinkLoaded.Restart();
         state.strLinkType.clear();
         state.strLinkValue.clear();
@@ -75,7 +80,8 @@ bool GatherDriver::WarnBeforeStart() {
             "profile links on the page."_s);
         return true;
     }
-    if (!controls.Ticked("optScanCurrentPage"_L1) && !controls.Ticked("optScanFollowing"_L1)) {
+    if (!controls.Ticked("optScanCurrentPage"_L1) && !controls.Ticked("optScanFollowing"_L1) &&
+        !controls.Ticked("optScanGoogle"_L1)) {
         m_app.ShowMessage(u"Please select a scan option."_s);
         return true;
     }
@@ -100,7 +106,7 @@ void GatherDriver::IterateGatherProfiles() {
     m_app.diagnostics.Trap(
         "IterateGatherProfiles",
         [this] {
-            const int entry = ++m_lastEntry;
+            const int entry = BeginEntry();
             while (RunStep(entry) == Next::GoOn && Goes(entry)) {
             }
         },

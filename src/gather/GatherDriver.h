@@ -27,6 +27,10 @@ public:
 
     // Tells the user, while a login runs that has to be waited for.
     bool RefuseDuringLogin();
+    // For a gather that doesn't go over the pages in the browser: takes over from whatever still waits.
+    int BeginEntry() { return ++m_lastEntry; }
+    // False when the run is over or a later entry has taken over.
+    bool Goes(int entry) const;
     // Shows one of the prompts with a "Don't show again" box, unless it has been ticked. True when it was
     // shown.
     bool ShowPrompt(const QString& form);
@@ -58,11 +62,10 @@ private:
     void WaitForOtherPage(int entry);
     bool LastPageStands();
 
-    // False when the run is over or a later entry has taken over.
-    bool Goes(int entry) const;
     void Trace(const QString& text);
 
     void RegisterButtons();
+    void RegisterHelp(const QString& label, const QString& form);
     void GotoBrowse();
     void GotoProfilePage(const char* procedure, const QString& page);
     void ClosePrompt(const QString& form);

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "gather/GatheredList.h"
 
+#include "core/AnsiText.h"
 #include "core/App.h"
 #include "core/SettingsFields.h"
+#include "gather/ListFiles.h"
 
 #include <QFileInfo>
 #include <QScopeGuard>
@@ -14,10 +16,11 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 // The box shows the entries 0 to 30000; the array has no limit.
 constexpr qint32 LastShownIndex = 30000;
+constexpr qsizetype EntriesInAPart = 50000;
 } // namespace
 
 bool GatheredList::IsEmpty() const {
-    return UBound() == 0 && m_app.state.arrFriendIDs.first().isEmpty();
+    return UBound() == 0 && m_app.state.arrFriendIDs.IsBlank(0);
 }
 
 qint32 GatheredList::UBound() const {
@@ -39,8 +42,8 @@ void GatheredList::ProcessArrayAndList(const QString& action, qint32 index, cons
 }
 
 void GatheredList::Add(const QString& id) {
-    QStringList& ids = m_app.state.arrFriendIDs;
-    if (ids.first().isEmpty())
+    IdList& ids = m_app.state.arrFriendIDs;
+    if (ids.IsBlank(0))
         ids = {id};
     else
         ids.append(id);
@@ -51,7 +54,7 @@ void GatheredList::Add(const QString& id) {
 // An entry beyond the view can't be removed; a row that goes makes room for the first entry that stood
 // hidden.
 void GatheredList::Remove(qint32 index) {
-    QStringList& ids = m_app.state.arrFriendIDs;
+    IdList& ids = m_app.state.arrFriendIDs;
     const QStringList& rows = m_app.controls.Items("lstFriendIDs"_L1);
     if (index < 0 || index >= rows.size())
         return;
@@ -85,12 +88,9 @@ void GatheredList::ArrayToListBox(const QString& caller) {
     m_app.diagnostics.Trap(
         "ArrayToListBox",
         [this] {
-            m_app.controls.SetItems("lstFriendIDs"_L1, {});
-            // The list may change while the message loop turns.
-            for (qint32 i = 0; i <= UBound() && i <= LastShownIndex; ++i) {
-                m_app.controls.AddItem("lstFriendIDs"_L1, m_app.state.arrFriendIDs.at(i));
-                m_app.waiting.Pump();
-            }
+            m_app.controls.SetItems("lstFriendIDs"_L1,
+                                    m_app.state.arrFriendIDs.ToStringList(LastShownIndex + 1));
+            m_app.waiting.Pump();
         },
         data);
 }
@@ -109,8 +109,12 @@ void GatheredList::FillScannedList(const QString& path, bool clearFirst, bool ch
         if (clearFirst)
             Clear();
         m_app.state.blnFillingList = true;
-        const auto filled = qScopeGuard([this] { m_app.state.blnFillingList = false; });
-        ReadLinesInto(path.isEmpty() ? ScopedPath() : path, checkDuplicates);
+        m_readFrom = path.isEmpty() ? ScopedPath() : path;
+        const auto filled = qScopeGuard([this] {
+            m_app.state.blnFillingList = false;
+            m_readFrom.clear();
+        });
+        ReadLinesInto(m_readFrom, checkDuplicates);
         if (UBound() > 0)
             ArrayToListBox(u"FillScannedList"_s);
         SetScannedLabel();
@@ -118,24 +122,41 @@ void GatheredList::FillScannedList(const QString& path, bool clearFirst, bool ch
 }
 
 // Begins at the upper bound, not behind it: the first ID that is read takes the place of the last one there.
+// The list may change while the message loop turns.
 void GatheredList::ReadLinesInto(const QString& path, bool checkDuplicates) {
     m_app.files.EnsureFile(path);
-    qint32 position = UBound();
-    for (const QString& line : m_app.files.ReadLines(path)) {
-        const QString id = line.trimmed();
-        if (id.isEmpty() || (checkDuplicates && IsInList(id, false)))
-            continue;
-        m_app.state.arrFriendIDs.resize(position + 1);
-        m_app.state.arrFriendIDs[position++] = id;
-        m_app.waiting.Pump();
-        m_app.waiting.Pump();
-    }
+    IdList& ids = m_app.state.arrFriendIDs;
+    qsizetype position = UBound();
+    ForEachId(m_app, path, [&](const QString& id) {
+        if (checkDuplicates && IsInList(id, false))
+            return;
+        if (position == ids.size()) {
+            ids.append(id);
+        } else {
+            ids.resize(position + 1);
+            ids.Set(position, id);
+        }
+        ++position;
+    });
 }
 
 void GatheredList::SaveScannedList(const QString& path) {
+    if (path != m_readFrom)
+        WriteList(path, false);
+}
+
+void GatheredList::WriteList(const QString& path, bool turns) {
     m_app.diagnostics.Trap("SaveScannedList - form1", [&] {
         m_app.files.CreateFolder(QFileInfo(path).path());
-        m_app.files.WriteLines(path, m_app.state.arrFriendIDs);
+        const IdList ids = m_app.state.arrFriendIDs;
+        qsizetype next = 0;
+        m_app.files.WriteParts(path, [&](QByteArray& part) {
+            if (turns && next > 0)
+                m_app.waiting.Pump();
+            for (const qsizetype end = std::min(next + EntriesInAPart, ids.size()); next < end; ++next)
+                part += ToAnsi(ids.at(next)) + "\r\n";
+            return next < ids.size();
+        });
     });
 }
 

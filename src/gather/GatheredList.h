@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/IdList.h"
+
 #include <QString>
-#include <QStringList>
 
 namespace qlm {
 
@@ -24,11 +25,13 @@ public:
     // already.
     bool IsInList(const QString& id, bool fullGatherList);
 
-    // An empty path means the account's own file, read only while "Save on exit" is ticked.
+    // An empty path means the account's own file, read only while "Save on exit" is ticked. The message loop
+    // turns every few hundred lines.
     void FillScannedList(const QString& path, bool clearFirst, bool checkDuplicates);
+    // Does nothing for the file that is just being read into the list: it holds more than the list does.
     void SaveScannedList(const QString& path);
     void SetScannedLabel();
-    // Fills lstFriendIDs anew from the array, up to the cap, with the message loop turning.
+    // Fills lstFriendIDs anew from the array, up to the cap.
     void ArrayToListBox(const QString& caller);
     // Path of "Gathered.txt" in the scope of the account.
     QString ScopedPath();
@@ -46,13 +49,16 @@ private:
     void Add(const QString& id);
     void Remove(qint32 index);
     void ReadLinesInto(const QString& path, bool checkDuplicates);
+    // The list as it is now; with turns, the message loop turns between two parts of it.
+    void WriteList(const QString& path, bool turns);
     bool RefuseWhileFilling();
 
     App& m_app;
+    QString m_readFrom; // while the list is being filled
 };
 
 // Exact test, as for the black list and the links of a page.
-inline bool IsInArray(const QString& value, const QStringList& array) {
+inline bool IsInArray(const QString& value, const IdList& array) {
     return array.contains(value);
 }
 

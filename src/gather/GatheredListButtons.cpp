@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/App.h"
 #include "gather/GatheredList.h"
-
-#include <QScopeGuard>
+#include "gather/ListFiles.h"
 
 namespace qlm {
 
@@ -11,15 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int DeleteKey = 46;
-const QString TextFilesFilter = u"Text files (txt)|*.txt;|All files (*.*)|*.*"_s;
-// The shapes of the mouse pointer while a long piece of work is done, and at rest.
-const QString WaitPointer = u"11"_s;
-const QString DefaultPointer = u"0"_s;
-
-auto ShowWaitPointer(App& app) {
-    app.controls.SetText("MousePointer"_L1, WaitPointer);
-    return qScopeGuard([&app] { app.controls.SetText("MousePointer"_L1, DefaultPointer); });
-}
+constexpr qint32 SwapsBetweenTurns = 100000;
 
 } // namespace
 
@@ -49,7 +40,7 @@ void GatheredList::Clear() {
             if (RefuseWhileFilling())
                 return;
             m_app.controls.SetItems("lstFriendIDs"_L1, {});
-            m_app.state.arrFriendIDs = {QString()};
+            m_app.state.arrFriendIDs = IdList{QString()};
             SetScannedLabel();
         },
         [this] { return QString::number(m_app.controls.Items("lstFriendIDs"_L1).size()); });
@@ -70,9 +61,12 @@ void GatheredList::Shuffle() {
             return;
         state.CurrentAction = u"RANDOMIZING"_s;
         const auto pointer = ShowWaitPointer(m_app);
-        for (qint32 i = UBound(); i > 0; --i) {
+        // The list may change while the message loop turns; what is left of it is shuffled then.
+        for (qint32 i = UBound(); i > 0; i = std::min(i - 1, UBound())) {
             const auto j = static_cast<qint32>(m_app.platform.Random().Next() * (i + 1));
             state.arrFriendIDs.swapItemsAt(i, j);
+            if (i % SwapsBetweenTurns == 0)
+                m_app.waiting.Pump();
         }
         ArrayToListBox(u"Randomize"_s);
         if (state.CurrentAction == u"RANDOMIZING"_s)
@@ -84,14 +78,10 @@ void GatheredList::Import() {
     m_app.diagnostics.Trap("picImport_Click", [this] {
         if (RefuseWhileFilling())
             return;
-        const QString path = m_app.platform.Dialogs().ChooseFileToOpen({}, TextFilesFilter);
+        const QString path = m_app.platform.Dialogs().ChooseFileToOpen({}, TextFilesFilter());
         if (path.isEmpty())
             return;
-        const Dialogs::Answer answer =
-            m_app.platform.Dialogs().ShowMessage(u"Do you want Quillmere to check the list for duplicate "
-                                                 u"ID's? This is recommended, but may take a while "
-                                                 "if you are importing a large list."_s,
-                                                 {}, Dialogs::Buttons::YesNoCancel);
+        const Dialogs::Answer answer = AskForDuplicates(m_app);
         const auto pointer = ShowWaitPointer(m_app);
         if (answer == Dialogs::Answer::Yes || answer == Dialogs::Answer::No)
             FillScannedList(path, false, answer == Dialogs::Answer::Yes);
@@ -100,9 +90,9 @@ void GatheredList::Import() {
 
 void GatheredList::SaveToFile() {
     m_app.diagnostics.Trap("picSaveToFile_Click", [this] {
-        const QString path = m_app.platform.Dialogs().ChooseFileToSave({}, {}, TextFilesFilter);
+        const QString path = m_app.platform.Dialogs().ChooseFileToSave({}, {}, TextFilesFilter());
         if (!path.isEmpty())
-            SaveScannedList(path);
+            WriteList(path, true);
     });
 }
 

@@ -65,7 +65,7 @@ QString IdResolution::GetFriendIDFromLink(JudgedLink& link) {
 QString IdResolution::ResolveFromPage(JudgedLink& link) {
     LinkFacts& facts = link.facts;
     QString id = ExtractFriendID(facts.Href());
-    if (id.isEmpty())
+    if (id.isEmpty() && link.InnerHas(2, u"friendid"))
         id = ValueAfterKey(facts.InnerHTML(2), u"friendid"_s);
     // There the value has the form ":12345,...".
     if (!IsNumeric(id) && (link.At(u"/my/notifications") || link.At(u"/browse/")))

@@ -28,8 +28,10 @@ public:
     // The same from the page's scripts alone; an empty key means "DisplayFriendId".
     QString GetDisplayFriendID(const QString& browser, const QString& key);
 
-private:
+    // Only what the link and its surroundings tell: never pumps. "" or any text when they tell no number.
     QString ResolveFromPage(JudgedLink& link);
+
+private:
     QString FetchWithNotice(JudgedLink& link);
     BrowserControl& BrowserOf(const QString& name) const;
     bool MayFetch() const;

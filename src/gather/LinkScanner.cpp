@@ -14,6 +14,7 @@
 #include "gather/ProfileLinks.h"
 
 #include <QScopeGuard>
+#include <QSet>
 
 namespace qlm {
 
@@ -22,6 +23,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 constexpr int SecondsForFirstPage = 5;
 constexpr qsizetype RememberedPages = 1000;
+constexpr size_t LinksJudgedAtOnce = 50;
 } // namespace
 
 bool IsCommentsOrNotificationsAddress(const QString& address) {
@@ -76,7 +78,7 @@ void LinkScanner::RunPass(Pass& pass) {
     m_app.timers->tmrAutoResume.Restart();
     state.strNextPageLink.clear();
     state.strGatherStartURL = m_app.pageTests->LocationURL();
-    state.arrSeenLinks.clear();
+    state.arrSeenLinks = {};
     Trace(u"GPP1.2"_s);
     PrepareFullGather();
     ShowScanStatus();
@@ -135,48 +137,101 @@ void LinkScanner::PrepareFullGather() {
 
 // Of a page that grows in place only the new part is looked at, in a copy. The copy stands at about:blank, so
 // it has to be told where its relative addresses lead.
-std::vector<Element> LinkScanner::ChooseLinks() {
+Document LinkScanner::ChooseDocument() {
     Trace(u"GPP1.4"_s);
     if (!IsCommentsOrNotificationsPage())
-        return m_app.WebBrowser1().Document().Links();
+        return m_app.WebBrowser1().Document();
     const QString html = m_app.WebBrowser1().Document().BodyHTML().mid(m_app.state.lngPageScanOffset);
     m_app.webTemp().Navigate(u"about:blank"_s);
     m_app.pageTests->WaitForDocument(m_app.webTemp());
     m_app.webTemp().Document().Body().SetInnerHTML(
         u"<base href=\""_s + m_app.pageTests->LocationURL().toHtmlEscaped() + u"\">"_s + html);
-    return m_app.webTemp().Document().Links();
+    return m_app.webTemp().Document();
 }
 
+struct LinkScanner::LinkInTurn {
+    QString href;
+    bool isProfile = false;
+    std::optional<JudgedLink> judged; // of a profile link, with all that its turn asks for
+    bool remember = true;
+    bool seen = false;
+};
+
+// The links are walked over with a turn of the message loop for each, and each turn lets go of what is known
+// of the page. So some of them are judged at once, before their turns come.
 void LinkScanner::ScanLinks(Pass& pass) {
-    RunState& state = m_app.state;
-    for (const Element& element : ChooseLinks()) {
-        state.blnRememberLink = true;
-        const QString href = element.Href();
-        const bool seen = IsInArray(href, state.arrSeenLinks);
-        m_app.waiting.Turn();
-        if (!Goes(pass) || state.blnHoldLinkCheck)
-            return;
-        if (seen) {
-            ++pass.lngRepeats;
-            continue;
+    const Document document = ChooseDocument();
+    const std::vector<Element> links = document.Links();
+    const auto page = std::make_shared<PageFacts>();
+    for (size_t begin = 0; begin < links.size(); begin += LinksJudgedAtOnce) {
+        const size_t end = std::min(begin + LinksJudgedAtOnce, links.size());
+        const auto first = links.begin() + static_cast<qsizetype>(begin);
+        const auto last = links.begin() + static_cast<qsizetype>(end);
+        std::vector<LinkInTurn> inTurn = JudgeLinks(document, {first, last}, page);
+        for (LinkInTurn& link : inTurn) {
+            m_app.waiting.Turn();
+            if (!Goes(pass) || m_app.state.blnHoldLinkCheck)
+                return;
+            if (!document.IsPresent())
+                throw BrowserError();
+            if (!WalkOver(pass, link))
+                return;
         }
-        JudgedLink link(m_app, element);
-        if (m_app.profileLinks->IsProfileLink(link, false))
-            LookAtLink(pass, link);
-        if (!Goes(pass) || state.blnHoldLinkCheck)
-            return;
-        state.blnRememberLink = link.remember;
-        if (link.remember)
-            state.arrSeenLinks.append(href);
     }
+}
+
+std::vector<LinkScanner::LinkInTurn> LinkScanner::JudgeLinks(const Document& document,
+                                                             const std::vector<Element>& links,
+                                                             const std::shared_ptr<PageFacts>& page) const {
+    m_app.Pump().Queue().EndTurn();
+    document.Expect(links);
+    page->ForgetSmall();
+    std::vector<LinkInTurn> inTurn;
+    QSet<QString> seenHere;
+    for (const Element& element : links) {
+        LinkInTurn& link = inTurn.emplace_back();
+        link.href = element.Href();
+        link.seen = seenHere.contains(link.href) || IsInArray(link.href, m_app.state.arrSeenLinks);
+        if (link.seen)
+            continue;
+        JudgedLink judged(m_app, element, page);
+        link.isProfile = m_app.profileLinks->IsProfileLink(judged, false);
+        link.remember = judged.remember;
+        if (link.remember)
+            seenHere.insert(link.href);
+        if (!link.isProfile)
+            continue;
+        // What the link's turn will ask for is read now and kept.
+        judged.facts.Id();
+        judged.facts.Text();
+        judged.facts.Text(2);
+        m_app.idResolution->ResolveFromPage(judged);
+        link.judged.emplace(std::move(judged));
+    }
+    return inTurn;
+}
+
+bool LinkScanner::WalkOver(Pass& pass, LinkInTurn& link) {
+    m_app.state.blnRememberLink = true;
+    if (link.seen) {
+        ++pass.lngRepeats;
+        return true;
+    }
+    if (link.isProfile)
+        LookAtLink(pass, *link.judged);
+    if (!Goes(pass) || m_app.state.blnHoldLinkCheck)
+        return false;
+    m_app.state.blnRememberLink = link.remember;
+    if (link.remember)
+        m_app.state.arrSeenLinks.append(link.href);
+    return true;
 }
 
 void LinkScanner::LookAtLink(Pass& pass, JudgedLink& link) {
     const RunState& state = m_app.state;
     const QString href = link.facts.Href();
     Trace(u"GPP3 - "_s + href);
-    if (state.optFilterOnlineNow && state.optFilterWhenGathering &&
-        !m_app.profileFilters->IsUserOnline(false, link.facts.Link()))
+    if (state.optFilterOnlineNow && state.optFilterWhenGathering && !m_app.profileFilters->IsUserOnline(link))
         return;
     const bool whosOnline = Has(link.facts.Id(), u"whosonline"_s);
     if (state.CurrentAction == u"ACC"_s && !whosOnline) {

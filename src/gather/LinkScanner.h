@@ -4,11 +4,13 @@
 #include "platform/Document.h"
 
 #include <QString>
+#include <memory>
 #include <vector>
 
 namespace qlm {
 
 class App;
+class PageFacts;
 struct JudgedLink;
 
 // One pass over the links of the page in the browser: for gathering, for striking friends out of the list,
@@ -36,8 +38,14 @@ private:
     bool Goes(const Pass& pass) const;
     void WaitForFirstPage(const Pass& pass);
     void PrepareFullGather();
-    std::vector<Element> ChooseLinks();
+    Document ChooseDocument();
     void ScanLinks(Pass& pass);
+    // A link and what has been found out about it before its turn comes.
+    struct LinkInTurn;
+    std::vector<LinkInTurn> JudgeLinks(const Document& document, const std::vector<Element>& links,
+                                       const std::shared_ptr<PageFacts>& page) const;
+    // False when the pass is to end.
+    bool WalkOver(Pass& pass, LinkInTurn& link);
     void LookAtLink(Pass& pass, JudgedLink& link);
     void CollectRequest(JudgedLink& link);
     void Consider(Pass& pass, const QString& id);
@@ -45,8 +53,6 @@ private:
     void FindNextPage();
     void RemindOfFullGather(const Pass& pass);
     void FilterNewProfiles(Pass& pass);
-    bool FailsFilter(const Pass& pass);
-    bool WaitForProfile(const Pass& pass);
     void HandleError(const Pass& pass, const QString& error);
     void ShowScanStatus();
     void Trace(const QString& text);

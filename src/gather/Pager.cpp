@@ -28,27 +28,36 @@ QString Pager::GetNextPageHref() {
     return {};
 }
 
-QString Pager::LinkTitledNextPage(bool wantText) {
-    for (const Element& link : m_app.WebBrowser1().Document().Links()) {
+// Each link has its turn of the message loop, but all are read before the first: a turn lets go of what is
+// known of the page.
+QString Pager::WalkLinks(ElementText which, const LinkAnswer& answer) {
+    std::vector<std::pair<Element, QString>> links;
+    for (const Element& link : m_app.WebBrowser1().Document().Links())
+        links.emplace_back(link, link.Read(which).trimmed().toLower());
+    for (const auto& [link, text] : links) {
         m_app.waiting.Turn();
         if (m_app.state.CurrentAction != u"SCANNING"_s)
             return {};
-        if (link.Read(ElementText::Title).trimmed().toLower() == u"next page"_s &&
-            !Has(link.OuterHTML(), u"disabled"_s))
-            return wantText ? link.InnerText().trimmed() : link.Href();
+        if (const std::optional<QString> found = answer(link, text))
+            return *found;
     }
     return {};
 }
 
-QString Pager::LinkWithText(const QString& text) {
-    for (const Element& link : m_app.WebBrowser1().Document().Links()) {
-        m_app.waiting.Turn();
-        if (m_app.state.CurrentAction != u"SCANNING"_s)
-            return {};
-        if (link.InnerText().trimmed().toLower() == text)
-            return link.Href();
-    }
-    return {};
+QString Pager::LinkTitledNextPage(bool wantText) {
+    return WalkLinks(ElementText::Title,
+                     [wantText](const Element& link, const QString& title) -> std::optional<QString> {
+                         if (title != u"next page"_s || Has(link.OuterHTML(), u"disabled"_s))
+                             return std::nullopt;
+                         return wantText ? link.InnerText().trimmed() : link.Href();
+                     });
+}
+
+QString Pager::LinkWithText(const QString& wanted) {
+    return WalkLinks(ElementText::InnerText,
+                     [&wanted](const Element& link, const QString& text) -> std::optional<QString> {
+                         return text == wanted ? std::optional(link.Href()) : std::nullopt;
+                     });
 }
 
 QString Pager::ShowMoreOfChart() {

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/Document.h"
+
 #include <QString>
+#include <functional>
+#include <optional>
 
 namespace qlm {
 
@@ -24,6 +28,9 @@ public:
     bool ClickNextPageLink(const QString& caption, const QString& newHref);
 
 private:
+    // What the link and its text (trimmed, lower case) answer; nothing goes on to the next link.
+    using LinkAnswer = std::function<std::optional<QString>(const Element& link, const QString& text)>;
+    QString WalkLinks(ElementText which, const LinkAnswer& answer);
     QString LinkTitledNextPage(bool wantText);
     QString LinkWithText(const QString& text);
     QString ShowMoreOfChart();

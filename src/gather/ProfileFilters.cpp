@@ -5,6 +5,7 @@
 #include "browser/PageTests.h"
 #include "core/App.h"
 #include "core/Text.h"
+#include "gather/ProfileLinkRules.h"
 #include "gather/ProfileText.h"
 
 namespace qlm {
@@ -85,7 +86,7 @@ bool ProfileFilters::Decide() {
     Trace(u"ifp12"_s);
     matches = matches && MatchesAge(profile);
     Trace(u"ifp20"_s);
-    matches = matches && MatchesLocation(profile) && (!state.optFilterOnlineNow || IsUserOnline(true, {})) &&
+    matches = matches && MatchesLocation(profile) && (!state.optFilterOnlineNow || IsUserOnline()) &&
               MatchesLastLogin();
     Trace(u"ifp24 - "_s + FromBoolean(matches));
     return matches;
@@ -195,13 +196,15 @@ bool ProfileFilters::MatchesLocation(const Profile& profile) {
     return matches;
 }
 
-bool ProfileFilters::IsUserOnline(bool onProfilePage, const Element& link) {
+bool ProfileFilters::IsUserOnline() {
     bool online = false;
-    m_app.diagnostics.Trap("IsUserOnline", [&] {
-        online = onProfilePage ? SaysOnline(m_app.WebBrowser1().Document().BodyHTML())
-                               : Has(link.Ancestor(2).InnerText(), u"online now!"_s);
-    });
+    m_app.diagnostics.Trap("IsUserOnline",
+                           [&] { online = SaysOnline(m_app.WebBrowser1().Document().BodyHTML()); });
     return online;
+}
+
+bool ProfileFilters::IsUserOnline(JudgedLink& link) {
+    return link.TextHas(2, u"online now!");
 }
 
 bool ProfileFilters::MatchesLastLogin() {

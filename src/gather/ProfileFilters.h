@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Document.h"
-
+#include <QString>
 #include <functional>
 
 namespace qlm {
 
 class App;
+struct JudgedLink;
 
 // Is the profile in WebBrowser1 the kind of person the user wants? And the window in which he says so.
 class ProfileFilters {
@@ -17,8 +17,9 @@ public:
     // True when the profile passes. Waits for what it needs of the page; false as soon as the link check is
     // held.
     bool IsFilteredProfile();
-    // On a profile page the browser's; on a list page, what stands beside the link.
-    bool IsUserOnline(bool onProfilePage, const Element& link);
+    // Of the profile in WebBrowser1; of a list page, by what stands beside the link.
+    bool IsUserOnline();
+    bool IsUserOnline(JudgedLink& link);
     // Every filter option is at its neutral value.
     bool AllOff() const;
     // A send run looks at the profile before it sends.

@@ -21,9 +21,9 @@ QString Wide(const char16_t* text) {
 
 } // namespace
 
-JudgedLink::JudgedLink(App& theApp, const Element& element)
+JudgedLink::JudgedLink(App& theApp, const Element& element, std::shared_ptr<PageFacts> page)
     : app(theApp),
-      facts(element),
+      facts(element, std::move(page)),
       address(theApp.pageTests->LocationURL()),
       newLayout(theApp.state.blnNewLayout) {}
 
@@ -36,19 +36,19 @@ bool JudgedLink::HrefHas(const char16_t* part) {
 }
 
 bool JudgedLink::TextHas(int ancestor, const char16_t* part) {
-    return Has(facts.Text(ancestor), Wide(part));
+    return facts.Holds(ancestor, ElementText::InnerText, part, Wide(part));
 }
 
 bool JudgedLink::InnerHas(int ancestor, const char16_t* part) {
-    return Has(facts.InnerHTML(ancestor), app.Expand(Wide(part)));
+    return facts.Holds(ancestor, ElementText::InnerHTML, part, app.Expand(Wide(part)));
 }
 
 bool JudgedLink::OuterHas(int ancestor, const char16_t* part) {
-    return Has(facts.OuterHTML(ancestor), Wide(part));
+    return facts.Holds(ancestor, ElementText::OuterHTML, part, Wide(part));
 }
 
 bool JudgedLink::OuterHasExact(int ancestor, const char16_t* part) {
-    return facts.OuterHTML(ancestor).contains(Wide(part));
+    return OuterHas(ancestor, part) && facts.OuterHTML(ancestor).contains(Wide(part));
 }
 
 bool JudgedLink::TextBegins(int ancestor, const char16_t* part) {
@@ -89,8 +89,9 @@ bool IsFriendsEntry(JudgedLink& l) {
     if (l.OuterHas(1, u"Send Message") || l.OuterHas(2, u"miniProfile"))
         return !l.OuterHas(0, u"MySpace.CMS.track") && !l.OuterHas(0, u"/photos") && !l.TextIs(u"IM") &&
                l.facts.OuterHTML(1).size() <= FriendBlockLength;
-    const qsizetype position = l.facts.OuterHTML(3).indexOf(u"topFriendsList"_s, 0, Qt::CaseInsensitive) + 1;
-    if (position > 0 && position < TopFriendsPosition && l.OuterHas(4, u"topFriendsList"))
+    const QString list = u"topFriendsList"_s;
+    const QString beginning = l.facts.OuterHTML(3).left(TopFriendsPosition - 2 + list.size());
+    if (Has(beginning, list) && l.OuterHas(4, u"topFriendsList"))
         l.remember = false;
     return false;
 }

@@ -11,7 +11,8 @@ class App;
 
 // A link under judgement: its facts and those of the page it stands on.
 struct JudgedLink {
-    JudgedLink(App& theApp, const Element& element);
+    JudgedLink(App& theApp, const Element& element,
+               std::shared_ptr<PageFacts> page = std::make_shared<PageFacts>());
 
     App& app;
     LinkFacts facts;

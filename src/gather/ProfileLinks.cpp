@@ -43,8 +43,9 @@ bool ProfileLinks::IsExcluded(JudgedLink& link) {
 
 qint16 ProfileLinks::CountProfileLinks(const QString& mode) {
     QSet<QString> addresses;
+    const auto page = std::make_shared<PageFacts>();
     for (const Element& element : m_app.WebBrowser1().Document().Links()) {
-        JudgedLink link(m_app, element);
+        JudgedLink link(m_app, element, page);
         const QString href = link.facts.Href();
         if (addresses.contains(href))
             continue;

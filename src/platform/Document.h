@@ -83,6 +83,10 @@ public:
 
     // Changes no answer; a platform on which each question costs fetches what was foreseen together.
     virtual void Foresee(const Foresight&) {}
+    // The one call that never throws: false once the control shows another document.
+    virtual bool IsPresent() const = 0;
+    // A hint: these nodes are about to be read together, each of them in the same way, within this turn.
+    virtual void Expect(const std::vector<int>&) {}
 
     virtual int Body() = 0;      // 0 while there is none
     virtual bool HasLinks() = 0; // the links collection exists, empty or not
@@ -119,6 +123,8 @@ public:
         : m_document(std::move(document)), m_node(node) {}
 
     bool IsNull() const { return !m_document || m_node == 0; }
+    // The same number means the same node of the same document; 0 is none.
+    int Node() const { return IsNull() ? 0 : m_node; }
     explicit operator bool() const { return !IsNull(); }
 
     QString Read(ElementText which) const { return IsNull() ? QString() : m_document->Read(m_node, which); }
@@ -180,6 +186,15 @@ public:
     void Foresee(const Foresight& foresight) const { Need().Foresee(foresight); }
     bool Any(const Question& question) const { return Need().Any(question); }
     Element Body() const { return IsNull() ? Element() : Element(m_backend, m_backend->Body()); }
+    bool IsPresent() const { return m_backend && m_backend->IsPresent(); }
+    // A hint: these elements are about to be read together, each of them in the same way, within this turn.
+    void Expect(const std::vector<Element>& elements) const {
+        std::vector<int> nodes;
+        nodes.reserve(elements.size());
+        for (const Element& element : elements)
+            nodes.push_back(element.Node());
+        Need().Expect(nodes);
+    }
     bool HasLinks() const { return m_backend && m_backend->HasLinks(); }
     QString BodyText() const { return Need().BodyText(ElementText::InnerText); }
     QString BodyHTML() const { return Need().BodyText(ElementText::InnerHTML); }

@@ -3,12 +3,15 @@
 
 #include "shell/NoticeForm.h"
 #include "shell/frmAccountDetails.h"
+#include "shell/frmBlacklist.h"
 #include "shell/frmError.h"
 #include "shell/frmFilters.h"
 #include "shell/frmGlobalSettings.h"
+#include "shell/frmGoogleSearch.h"
 #include "shell/frmInteken.h"
 #include "shell/frmLog.h"
 #include "shell/frmLoginProblem.h"
+#include "shell/frmProifleIDHelp.h"
 #include "shell/frmRunReport.h"
 #include "shell/frmSwitchAccount.h"
 #include "shell/frmTimeDelay.h"
@@ -40,6 +43,9 @@ constexpr Registered Forms[] = {
     {"frmFilters"_L1, Make<frmFilters>},
     {"frmGlobalSettings"_L1, Make<frmGlobalSettings>},
     {"frmLog"_L1, Make<frmLog>},
+    {"frmBlacklist"_L1, Make<frmBlacklist>},
+    {"frmGoogleSearch"_L1, Make<frmGoogleSearch>},
+    {"frmProifleIDHelp"_L1, Make<frmProifleIDHelp>},
     {"frmRunReport"_L1, Make<frmRunReport>},
 };
 

@@ -100,6 +100,7 @@ picFriendRequester::picFriendRequester(const App& app) {
         NewText(u"Sends a friend request to each profile in the gathered list. Whoever stands in the "
                 "log is passed over."_s,
                 u"quiet"_s));
+    column->addWidget(NewLink("lblProfileIDHelp"_L1, u"- What is a profile ID? -"_s));
     column->addWidget(LimitFrame());
     column->addWidget(CategoryFrame(app));
     column->addLayout(RunRow(app));

@@ -31,6 +31,8 @@ constexpr Option ScanOptions[] = {
      u"Only gather ID's on the current page"},
     {"optScanFollowing"_L1, u"Gather ID’s from &All Pages",
      u"Gather from current page and automatically continue to the following pages, if there are any."},
+    {"optScanGoogle"_L1, u"Gather ID’s from Goo&gle Search",
+     u"Perform a Google search and gather ID's of profiles with the specified words on their profile page"},
     {"optImportClickedProfiles"_L1, u"Gather Clicked P&rofiles",
      u"When this is selected, you can add individual ID's to the list by clicking on the links in the "
      u"browser window"},

@@ -126,7 +126,8 @@ void List(Stage& stage, Arguments& arguments) {
     QStringList expected = arguments.TakeAll();
     if (expected == QStringList{u"empty"_s})
         expected = {QString()};
-    ExpectText(u"the gathered list"_s, expected.join(u' '), stage.TheApp().state.arrFriendIDs.join(u' '));
+    ExpectText(u"the gathered list"_s, expected.join(u' '),
+               stage.TheApp().state.arrFriendIDs.ToStringList().join(u' '));
 }
 
 void Elapsed(Stage& stage, Arguments& arguments) {

@@ -79,7 +79,7 @@ void LoggedIn(Stage& stage, Arguments& arguments) {
 void List(Stage& stage, Arguments& arguments) {
     App& app = stage.TheApp();
     const QStringList ids = arguments.TakeAll();
-    app.state.arrFriendIDs = ids.isEmpty() ? QStringList{QString()} : ids;
+    app.state.arrFriendIDs = ids.isEmpty() ? IdList{QString()} : IdList(ids);
     app.gatheredList->ArrayToListBox(u"scenario"_s);
     app.gatheredList->SetScannedLabel();
 }

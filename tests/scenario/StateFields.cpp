@@ -12,8 +12,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-using Field = std::variant<QString RunState::*, QStringList RunState::*, bool RunState::*, qint16 RunState::*,
-                           qint32 RunState::*>;
+using Field = std::variant<QString RunState::*, QStringList RunState::*, IdList RunState::*, bool RunState::*,
+                           qint16 RunState::*, qint32 RunState::*>;
 
 const QHash<QString, Field>& Fields() {
     // clang-format off
@@ -115,6 +115,7 @@ const QHash<QString, Field>& Fields() {
         {u"arrSeenLinks"_s, &RunState::arrSeenLinks},
         {u"lstAlreadyFullGatheredPageIDs"_s, &RunState::lstAlreadyFullGatheredPageIDs},
         {u"blnRememberLink"_s, &RunState::blnRememberLink},
+        {u"blnStopGoogle"_s, &RunState::blnStopGoogle},
         {u"blnFilterTypeOff"_s, &RunState::blnFilterTypeOff},
         {u"blnFilterBands"_s, &RunState::blnFilterBands},
         {u"blnFilterComedy"_s, &RunState::blnFilterComedy},
@@ -161,6 +162,7 @@ struct Reader {
     const RunState& state;
     QString operator()(QString RunState::*field) const { return state.*field; }
     QString operator()(QStringList RunState::*field) const { return (state.*field).join(u'\n'); }
+    QString operator()(IdList RunState::*field) const { return (state.*field).ToStringList().join(u'\n'); }
     QString operator()(bool RunState::*field) const { return state.*field ? u"True"_s : u"False"_s; }
     QString operator()(qint16 RunState::*field) const { return QString::number(state.*field); }
     QString operator()(qint32 RunState::*field) const { return QString::number(state.*field); }
@@ -171,6 +173,7 @@ struct Writer {
     const QString& text;
     void operator()(QString RunState::*field) const { state.*field = text; }
     void operator()(QStringList RunState::*field) const { state.*field = text.split(u'\n'); }
+    void operator()(IdList RunState::*field) const { state.*field = IdList(text.split(u'\n')); }
     void operator()(bool RunState::*field) const {
         if (text.compare(u"True", Qt::CaseInsensitive) != 0 &&
             text.compare(u"False", Qt::CaseInsensitive) != 0)

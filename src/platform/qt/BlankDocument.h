@@ -17,6 +17,7 @@ public:
                   std::function<void(const QString&)> write)
         : m_isPresent(std::move(isPresent)), m_write(std::move(write)) {}
 
+    bool IsPresent() const override { return m_isPresent(this); }
     int Body() override;
     bool HasLinks() override;
     QString BodyText(ElementText which) override;

@@ -142,10 +142,13 @@ void PageCache::SetCollection(ElementSet set, const QString& argument, const std
 }
 
 void PageCache::AddGroup(const std::vector<int>& nodes) {
-    for (size_t i = 0; i < nodes.size(); ++i)
-        if (!m_places.contains(nodes[i]))
-            m_places.insert(nodes[i], {m_groups.size(), i});
-    m_groups.push_back(nodes);
+    std::vector<int> fresh;
+    for (const int node : nodes)
+        if (!m_places.contains(node)) {
+            m_places.insert(node, {m_groups.size(), fresh.size()});
+            fresh.push_back(node);
+        }
+    m_groups.push_back(std::move(fresh));
 }
 
 std::vector<int> PageCache::Following(int node, size_t limit) const {

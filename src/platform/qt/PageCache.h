@@ -83,6 +83,7 @@ public:
 
     const std::vector<int>* Collection(ElementSet set, const QString& argument) const;
     void SetCollection(ElementSet set, const QString& argument, const std::vector<int>& nodes);
+    // A node that stands in a group already stays in that one.
     void AddGroup(const std::vector<int>& nodes);
     // The node and those that follow it in the group it was found in, at most limit.
     std::vector<int> Following(int node, size_t limit) const;

@@ -316,12 +316,24 @@ int PageDocument::Parent(int node) {
     const std::vector<int> nodes = Cache().Following(node, parentLimit);
     const std::vector<int> rows = UnpackNodes(Call(u"ancestors"_s, {ToJson(nodes), lineageLevels}));
     PageCache& cache = Cache();
+    std::array<std::vector<int>, lineageLevels> levels;
     for (size_t i = 0; i < rows.size(); ++i) {
         const int child = i % lineageLevels == 0 ? nodes.at(i / lineageLevels) : rows[i - 1];
-        if (child != 0)
-            cache.SetParent(child, rows[i]);
+        if (child == 0 || cache.Parent(child))
+            continue;
+        cache.SetParent(child, rows[i]);
+        if (rows[i] != 0)
+            levels.at(i % lineageLevels).push_back(rows[i]);
     }
+    // Who asks for the second ancestor of one link asks for that of the next one too.
+    if (nodes.size() > 1)
+        for (const std::vector<int>& level : levels)
+            cache.AddGroup(level);
     return cache.Parent(node).value_or(0);
+}
+
+void PageDocument::Expect(const std::vector<int>& nodes) {
+    Cache().AddGroup(nodes);
 }
 
 std::vector<int> PageDocument::Descendants(int node, const QString& tag) {

@@ -28,6 +28,8 @@ public:
     const QString& Id() const { return m_id; }
 
     void Foresee(const Foresight& foresight) override;
+    bool IsPresent() const override { return m_owner.IsPresent(this); }
+    void Expect(const std::vector<int>& nodes) override;
     int Body() override;
     bool HasLinks() override;
     QString BodyText(ElementText which) override;

@@ -27,7 +27,7 @@ public:
 
     // The browser shows another document: from now on every use throws.
     void Retire() { m_host = nullptr; }
-    bool IsPresent() const { return m_host != nullptr; }
+    bool IsPresent() const override { return m_host != nullptr; }
     SimTree& Tree() { return m_tree; }
     const QString& URL() const { return m_url; }
     // What relative addresses are relative to.

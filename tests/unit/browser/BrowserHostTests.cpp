@@ -86,12 +86,12 @@ TEST_F(BrowserHostTest, AClickOnAProfileGathersItAndStays) {
     Show(u"<a href='"_s + Profile + u"'>Ann</a><a href='/index.cfm?x=1'>Other</a>"_s);
     GatherByClick();
     EXPECT_TRUE(Cancels(Profile.toUpper()));
-    EXPECT_EQ(State().arrFriendIDs, QStringList{u"77"_s});
+    EXPECT_EQ(State().arrFriendIDs.ToStringList(), QStringList{u"77"_s});
     EXPECT_FALSE(Browser().RefusesNavigations());
     EXPECT_TRUE(Said(u"CLICK-GATHER7 - ADD TO LIST"_s));
     // The same again: not twice, and still no navigation.
     EXPECT_TRUE(Cancels(Profile));
-    EXPECT_EQ(State().arrFriendIDs, QStringList{u"77"_s});
+    EXPECT_EQ(State().arrFriendIDs.ToStringList(), QStringList{u"77"_s});
     EXPECT_FALSE(Cancels(u"http://{SiteRootHost}/index.cfm?x=1"_s));
     EXPECT_FALSE(Browser().RefusesNavigations());
 }

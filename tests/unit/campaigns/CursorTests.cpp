@@ -55,7 +55,7 @@ TEST_F(CursorTest, AnEntryTheUserHasTakenAwayHimselfIsNotTakenTwice) {
     app->sendRuns->BeginTarget();
     app->gatheredList->ProcessArrayAndList(u"REMOVE"_s, 0, {}, u"lstFriendIDs_KeyDown"_s);
     app->sendRuns->RemoveUsedTarget(u"test"_s);
-    EXPECT_EQ(app->state.arrFriendIDs, QStringList{u"12"_s});
+    EXPECT_EQ(app->state.arrFriendIDs.ToStringList(), QStringList{u"12"_s});
 }
 
 TEST_F(CursorTest, TheEmptyListHasNoTarget) {

@@ -106,7 +106,7 @@ TEST_F(FriendRequesterTest, StopWorksInALongWalkOverKnownIds) {
     app->files.WriteLines(app->ProgramFile(u"FriendsLog.txt"_s), {u"7"_s});
     QStringList known;
     known.fill(u"7"_s, 250);
-    app->state.arrFriendIDs = known;
+    app->state.arrFriendIDs = IdList(known);
     platform->Pump().onPump = [this] { app->commands.Run(u"piccmdAddFriendsStop_Click"_s); };
     EXPECT_TRUE(Run().isEmpty());
     EXPECT_EQ(app->state.lngSkippedCount, 100);

@@ -74,16 +74,16 @@ TEST_F(GlobalSettingsTest, TheGatheredListFollowsItsFlagUnlessARunWalksIt) {
     app->gatheredList->ProcessArrayAndList(u"ADD"_s, 0, u"1001"_s, u"test"_s);
     app->state.CurrentAction = u"FR"_s;
     Untick("frmGlobalSettings.chkUseGlobalGatheredIDsList"_L1);
-    EXPECT_EQ(app->state.arrFriendIDs, QStringList{u"1001"_s});
+    EXPECT_EQ(app->state.arrFriendIDs.ToStringList(), QStringList{u"1001"_s});
     app->state.CurrentAction.clear();
     Open([this] {
         Tick("frmGlobalSettings.chkUseGlobalGatheredIDsList"_L1, true);
         Close();
     });
-    EXPECT_EQ(app->state.arrFriendIDs, QStringList{u"1001"_s});
+    EXPECT_EQ(app->state.arrFriendIDs.ToStringList(), QStringList{u"1001"_s});
     app->gatheredList->ProcessArrayAndList(u"ADD"_s, 0, u"1002"_s, u"test"_s);
     Untick("frmGlobalSettings.chkUseGlobalGatheredIDsList"_L1);
-    EXPECT_EQ(app->state.arrFriendIDs, QStringList{u"1001"_s});
+    EXPECT_EQ(app->state.arrFriendIDs.ToStringList(), QStringList{u"1001"_s});
 }
 
 TEST_F(GlobalSettingsTest, ResetAllDeletesTheTwoSectionsAndEndsWithoutWritingThemBack) {

@@ -60,7 +60,7 @@ TEST_F(StopResumeTest, AStopNeverTouchesTheListAndTheCounters) {
     State().lngDailyFR = 5;
     State().lngSessionFR = 4;
     app->stopResume->StopAll(u"MAINSTOP"_s);
-    EXPECT_EQ(State().arrFriendIDs, QStringList{u"1001"_s});
+    EXPECT_EQ(State().arrFriendIDs.ToStringList(), QStringList{u"1001"_s});
     EXPECT_EQ(State().lngDailyFR, 5);
     EXPECT_EQ(State().lngSessionFR, 4);
 }

@@ -52,6 +52,50 @@ TEST_F(FilterOptionsTest, OkStoresAndTheFieldsFollow) {
     EXPECT_TRUE(app->profileFilters->ActiveWhenSending());
 }
 
+TEST_F(FilterOptionsTest, EachOptionHasItsFieldAndItsKey) {
+    struct Option {
+        const char* control;
+        bool RunState::*field;
+        const char* key;
+    };
+    const Option options[] = {
+        {"optFilterOff", &RunState::blnFilterTypeOff, "optFilterOff"},
+        {"optFilterBands", &RunState::blnFilterBands, "optFilterBands"},
+        {"optFilterComedy", &RunState::blnFilterComedy, "optFilterComedy"},
+        {"optFilterFilm", &RunState::blnFilterFilm, "optFilterFilm"},
+        {"optFilterPeople", &RunState::blnFilterPeople, "optFilterPeople"},
+        {"optFilterGenderOff", &RunState::blnFilterGenderOff, "optFilterGenderOff"},
+        {"optFilterMale", &RunState::blnFilterMale, "optFilterMale"},
+        {"optFilterFemale", &RunState::blnFilterFemale, "optFilterFemale"},
+        {"optFilterLocationOff", &RunState::blnFilterLocationOff, "optFilterLocationOff"},
+        {"optFilterLocation", &RunState::blnFilterLocation, "optFilterLocation"},
+        {"optFilterWhenGathering", &RunState::optFilterWhenGathering, "optFilterWhenGathering"},
+        {"optFilterWhenSending", &RunState::optFilterWhenSending, "optFilterWhenSending"},
+        {"optFilterAgeOff", &RunState::blnFilterAgeOff, "optFilterAgeOff"},
+        {"optFilterAgeOn", &RunState::blnFilterAgeOn, "blnFilterAgeOn"},
+        {"optFilterLastLoginOff", &RunState::blnFilterLastLoginOff, "optFilterLastLoginOff"},
+        {"optFilterOnlineNow", &RunState::optFilterOnlineNow, "optFilterOnlineNow"},
+        {"optFilterLastLoginOn", &RunState::blnFilterLastLoginOn, "optFilterLastLoginOn"},
+    };
+    for (const Option& option : options) {
+        const QByteArray name = QByteArray("frmFilters.") + option.control;
+        Open([&] {
+            Choose("frmFilters.optFilterMale"_L1); // something is on, so that "when gathering" may stay
+            Choose(QLatin1StringView(name));
+            Ok();
+        });
+        EXPECT_TRUE(app->state.*option.field) << option.control;
+        EXPECT_EQ(Stored(QString::fromLatin1(option.key)), u"True"_s) << option.key;
+        // Another choice of the same kind, if there is one, takes it back.
+        int chosen = 0;
+        for (const Option& other : options)
+            chosen += app->controls[QLatin1StringView(other.control)].group ==
+                          app->controls[QLatin1StringView(option.control)].group &&
+                      app->state.*other.field;
+        EXPECT_EQ(chosen, 1) << option.control;
+    }
+}
+
 TEST_F(FilterOptionsTest, CancelChangesNothing) {
     Open([this] {
         Choose("frmFilters.optFilterBands"_L1);

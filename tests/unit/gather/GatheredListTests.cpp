@@ -2,6 +2,8 @@
 #include "SimulatedProgram.h"
 #include "gather/GatheredList.h"
 
+#include <QFileInfo>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace qlm {
@@ -12,7 +14,7 @@ constexpr int ShownRows = 30001;
 class GatheredListTest : public SimulatedProgram {
 protected:
     GatheredList& List() { return *app->gatheredList; }
-    const QStringList& Ids() const { return app->state.arrFriendIDs; }
+    QStringList Ids() const { return app->state.arrFriendIDs.ToStringList(); }
     const QStringList& Rows() const { return app->controls.Items("lstFriendIDs"_L1); }
     QString Label() const { return app->controls.Text("lblProfilesGathered"_L1); }
 
@@ -84,7 +86,7 @@ TEST_F(GatheredListTest, AnotherWordOnlyRefreshesTheLabel) {
 }
 
 TEST_F(GatheredListTest, TheBoxStopsAtItsCapAndARemovalPullsTheNextEntryIn) {
-    app->state.arrFriendIDs = Numbers(ShownRows);
+    app->state.arrFriendIDs = IdList(Numbers(ShownRows));
     app->controls.SetItems("lstFriendIDs"_L1, Numbers(ShownRows));
     Add({u"777"_s});
     EXPECT_EQ(Rows().size(), ShownRows);
@@ -96,7 +98,7 @@ TEST_F(GatheredListTest, TheBoxStopsAtItsCapAndARemovalPullsTheNextEntryIn) {
 }
 
 TEST_F(GatheredListTest, FillingTheBoxStopsAtTheCapToo) {
-    app->state.arrFriendIDs = Numbers(ShownRows + 5);
+    app->state.arrFriendIDs = IdList(Numbers(ShownRows + 5));
     List().ArrayToListBox(u"test"_s);
     EXPECT_EQ(Rows().size(), ShownRows);
 }
@@ -217,6 +219,138 @@ TEST_F(GatheredListTest, ShuffleRefusesDuringARun) {
     EXPECT_EQ(dialogs.messages[0].text,
               u"You cannot randomize the list of ID's while sending. Please stop the current "
               "operation and try again."_s);
+}
+
+TEST_F(GatheredListTest, AFilesLineEndsSpacesAndLettersDoNotMatter) {
+    const QString path = app->ProgramFile(u"odd.txt"_s);
+    app->files.WriteBytes(path, "\n  11 \r\n12\n\r\n \t \n0013\r\nann b\n\r14\n15");
+    List().FillScannedList(path, false, false);
+    EXPECT_EQ(Ids(), (QStringList{u"11"_s, u"12"_s, u"0013"_s, u"ann b"_s, u"14"_s, u"15"_s}));
+    EXPECT_EQ(Rows(), Ids());
+    List().SaveScannedList(path);
+    EXPECT_EQ(app->files.ReadBytes(path), "11\r\n12\r\n0013\r\nann b\r\n14\r\n15\r\n");
+}
+
+TEST_F(GatheredListTest, ALineWithoutEndIsNoID) {
+    const QString path = app->ProgramFile(u"binary.txt"_s);
+    app->files.WriteBytes(path, "11\n" + QByteArray(3'000'000, '7') + "\n12\n" + QByteArray(70'000, 'x'));
+    List().FillScannedList(path, false, false);
+    EXPECT_EQ(Ids(), (QStringList{u"11"_s, u"12"_s}));
+}
+
+TEST_F(GatheredListTest, DuplicatesAreLeftOutInAnySpellingOfTheLine) {
+    const QString path = app->ProgramFile(u"twice.txt"_s);
+    app->files.WriteBytes(path, "11\n 11\r\n011\nann\nann \nAnn\n11");
+    List().FillScannedList(path, false, true);
+    EXPECT_EQ(Ids(), (QStringList{u"11"_s, u"011"_s, u"ann"_s, u"Ann"_s}));
+}
+
+TEST_F(GatheredListTest, TwoHundredMegabytesComeInWithTheMessageLoopTurning) {
+    constexpr int Lines = 18'200'000;
+    const QString path = app->ProgramFile(u"huge.txt"_s);
+    qint64 number = 1'000'000'000;
+    int written = 0;
+    app->files.WriteParts(path, [&](QByteArray& part) {
+        for (int i = 0; i < 100'000; ++i, ++written)
+            part += QByteArray::number(number += 7) + '\n';
+        return written < Lines;
+    });
+    ASSERT_GT(QFileInfo(path).size(), 200'000'000);
+    int turns = 0;
+    platform->Pump().onPump = [&turns] { ++turns; };
+    List().FillScannedList(path, false, false);
+    EXPECT_EQ(app->state.arrFriendIDs.size(), Lines);
+    EXPECT_EQ(app->state.arrFriendIDs.last(), QString::number(number));
+    EXPECT_EQ(Rows().size(), ShownRows);
+    EXPECT_GT(turns, Lines / 300);
+}
+
+TEST_F(GatheredListTest, TheFileThatIsBeingReadIsNotWrittenOver) {
+    QStringList lines = Numbers(1000);
+    const QString path = List().ScopedPath();
+    app->files.WriteLines(path, lines);
+    int saves = 0;
+    platform->Pump().onPump = [&] {
+        if (app->state.blnFillingList && ++saves)
+            List().SaveScannedList(path);
+    };
+    List().FillScannedList(path, true, false);
+    EXPECT_GT(saves, 0);
+    EXPECT_EQ(app->files.ReadLines(path), lines);
+    EXPECT_EQ(Ids(), lines);
+    // Any other file, and this one later, may be.
+    Remove(0);
+    List().SaveScannedList(path);
+    EXPECT_EQ(app->files.ReadLines(path), lines.mid(1));
+}
+
+TEST_F(GatheredListTest, AnImportThatTheProgramsEndInterruptsLeavesTheListUnlocked) {
+    app->files.WriteLines(app->ProgramFile(u"long.txt"_s), Numbers(1000));
+    platform->Pump().onPump = [this] { app->state.blnClosing = true; };
+    EXPECT_THROW(List().FillScannedList(app->ProgramFile(u"long.txt"_s), false, false), ProgramEnding);
+    EXPECT_FALSE(app->state.blnFillingList);
+    app->state.blnClosing = false;
+    platform->Pump().onPump = {};
+    // What had come by then is there, in order.
+    EXPECT_EQ(Ids(), Numbers(static_cast<int>(Ids().size())));
+}
+
+TEST_F(GatheredListTest, StopDuringAnImportLetsItGoOn) {
+    app->state.CurrentAction = u"SCANNING"_s;
+    platform->Pump().onPump = [this] { app->commands.Run(u"picScanStop_Click"_s); };
+    Import(Numbers(1000), Dialogs::Answer::No);
+    EXPECT_EQ(Ids(), Numbers(1000));
+    EXPECT_FALSE(app->state.blnFillingList);
+}
+
+TEST_F(GatheredListTest, WhatIsAddedDuringAnImportGivesWayToIt) {
+    bool added = false;
+    platform->Pump().onPump = [&] {
+        if (!std::exchange(added, true))
+            Add({u"777"_s});
+    };
+    Import(Numbers(600), Dialogs::Answer::No);
+    EXPECT_TRUE(added);
+    EXPECT_EQ(Ids(), Numbers(600));
+}
+
+TEST_F(GatheredListTest, ShuffleKeepsEveryEntryOfALongList) {
+    app->state.arrFriendIDs = IdList(Numbers(250000));
+    List().ArrayToListBox(u"test"_s);
+    app->commands.Run(u"picRandomize_Click"_s);
+    QStringList ids = Ids();
+    EXPECT_NE(ids, Numbers(250000));
+    std::sort(ids.begin(), ids.end());
+    EXPECT_EQ(ids, Numbers(250000));
+}
+
+TEST_F(GatheredListTest, AListThatIsClearedDuringAShuffleStaysEmpty) {
+    app->state.arrFriendIDs = IdList(Numbers(250000));
+    List().ArrayToListBox(u"test"_s);
+    platform->Pump().onPump = [this] { List().Clear(); };
+    app->commands.Run(u"picRandomize_Click"_s);
+    EXPECT_TRUE(List().IsEmpty());
+    EXPECT_TRUE(Rows().isEmpty());
+}
+
+TEST_F(GatheredListTest, AListThatChangesWhileItIsSavedIsSavedAsItWas) {
+    app->state.arrFriendIDs = IdList(Numbers(120000));
+    dialogs.files.push_back(app->ProgramFile(u"out.txt"_s));
+    platform->Pump().onPump = [this] { List().Clear(); };
+    app->commands.Run(u"picSaveToFile_Click"_s);
+    EXPECT_EQ(app->files.ReadLines(app->ProgramFile(u"out.txt"_s)), Numbers(120000));
+    EXPECT_TRUE(List().IsEmpty());
+}
+
+TEST_F(GatheredListTest, AFailedSaveLeavesTheOldFile) {
+    const QString path = app->ProgramFile(u"out.txt"_s);
+    app->files.WriteLines(path, {u"5"_s});
+    Add({u"1"_s});
+    world.gate.readOnlyFolders << world.installationFolder;
+    List().SaveScannedList(path);
+    world.gate.readOnlyFolders.clear();
+    EXPECT_EQ(app->files.ReadLines(path), QStringList{u"5"_s});
+    EXPECT_TRUE(app->files.ReadBytes(app->state.ErrorLogPath).contains("SaveScannedList - form1"));
 }
 
 TEST_F(GatheredListTest, ShuffleOfOneRowLeavesIt) {

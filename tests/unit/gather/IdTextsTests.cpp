@@ -89,6 +89,93 @@ TEST_F(IdResolutionTest, TheMarkupBesideTheLinkInTheBrowseForm) {
     EXPECT_EQ(Resolve(), u"12345"_s);
 }
 
+// The routes from a link to a number, in the order in which they are tried.
+class IdRoute : public IdResolutionTest {
+protected:
+    IdRoute() {
+        world.deploymentText += u"SiteDomain=example.com\nMessagingHost=mail.example.com\n"
+                                "VideoHost=vids.example.com\n"_s;
+        app.reset();
+        platform.emplace(world, dialogs);
+        app.emplace(*platform);
+        app->state.DataFolder = world.dataFolder;
+        app->state.blnNewLayout = true;
+    }
+    QString Id(const QString& path, const QString& body) {
+        Show(path.startsWith(u"http"_s) ? path : u"http://www.example.com"_s + path, body);
+        return Resolve();
+    }
+    static QString To(const QString& href) { return u"<a href='"_s + href + u"'>Ann</a>"_s; }
+    const QString Vanity = To(u"http://www.example.com/ann"_s);
+};
+
+TEST_F(IdRoute, TheAddressItself) {
+    EXPECT_EQ(Id(u"/x"_s, To(u"http://y/?FriendID=12&channelID=3"_s)), u"12"_s);
+    EXPECT_EQ(Id(u"/x"_s, To(u"http://vids.example.com/?friendID=12&ChannelID=3"_s)), u"3"_s);
+    EXPECT_EQ(Id(u"/x"_s, To(u"http://y/my/mail/new?t=44"_s)), u"44"_s);
+}
+
+TEST_F(IdRoute, TheMarkupAroundTheLink) {
+    EXPECT_EQ(Id(u"/x"_s, u"<div><i class='friendid77 b'></i><p>"_s + Vanity), u"77"_s);
+    // What the address says counts for more.
+    EXPECT_EQ(Id(u"/x"_s, u"<div><i class='friendid77 b'></i><p>"_s + To(u"http://y/?friendID=12"_s)),
+              u"12"_s);
+}
+
+TEST_F(IdRoute, ItsFormOnBrowseAndNotificationsPages) {
+    const QString body = u"<div><i data='friendid:55,n:1'></i><p>"_s + Vanity;
+    EXPECT_EQ(Id(u"/my/notifications"_s, body), u"55"_s);
+    EXPECT_EQ(Id(u"/browse/people"_s, body), u"55"_s);
+    EXPECT_EQ(Id(u"/x"_s, body), QString());
+    EXPECT_EQ(Id(u"/browse/people"_s, u"<div><i data='friendid:55'></i><p>"_s + Vanity), QString());
+}
+
+TEST_F(IdRoute, TheNumericAddress) {
+    EXPECT_EQ(Id(u"/x"_s, To(u"http://www.example.com/66/"_s)), QString());
+    EXPECT_EQ(Id(u"/x"_s, To(u"http://www.example.com/66"_s)), u"66"_s);
+    EXPECT_EQ(Id(u"/x"_s, To(u"http://www.example.com/a/66"_s)), QString());
+    EXPECT_EQ(Id(u"/x"_s, To(u"http://other.example.com/66"_s)), QString());
+    EXPECT_EQ(Id(u"/x"_s, u"<a href='http://www.example.com/66'>Back to Ann</a>"_s), QString());
+}
+
+TEST_F(IdRoute, ThePendingRequestsLinkToWriteTo) {
+    const QString pending = u"http://mail.example.com/index.cfm?fuseaction=mail.pendingfriendrequests"_s;
+    const QString message = u"http://mail.example.com/index.cfm?fuseaction=mail.message"_s;
+    auto body = [&](const QString& words, const QString& address) {
+        return u"<div>"_s + words + u"<p>"_s + Vanity + u"<i title='"_s + address +
+               u"&friendid88&x'></i></p></div>"_s;
+    };
+    EXPECT_EQ(Id(pending, body(u"Currently awaiting approval from"_s, message)), u"88"_s);
+    EXPECT_EQ(Id(u"/x"_s, body(u"Currently awaiting approval from"_s, message)), QString());
+    EXPECT_EQ(Id(pending, body(u"Approved by"_s, message)), QString());
+    EXPECT_EQ(Id(pending, body(u"Currently awaiting approval from"_s, u"http://y/"_s)), QString());
+}
+
+TEST_F(IdRoute, TheChartsButton) {
+    auto body = [&](const QString& mark) {
+        return u"<div><i class='"_s + mark + u"' title='friendid99 '></i><div><p>"_s + Vanity;
+    };
+    EXPECT_EQ(Id(u"/music/charts/songs"_s, body(u"chartArtistAddToFriend"_s)), u"99"_s);
+    EXPECT_EQ(Id(u"/x"_s, body(u"chartArtistAddToFriend"_s)), QString());
+    EXPECT_EQ(Id(u"/music/charts/songs"_s, body(u"other"_s)), QString());
+}
+
+TEST_F(IdRoute, TheProfileItself) {
+    world.web.SetPage(u"http://www.example.com/ann"_s,
+                      u"<html><body><script>a={\"DisplayFriendId\":99001,x}</script></body></html>"_s);
+    EXPECT_EQ(Id(u"/x"_s, Vanity), QString());
+    app->controls.SetTicked("optFullGather"_L1, true);
+    EXPECT_EQ(Id(u"/x"_s, To(u"http://www.example.com/ann/b"_s)), QString());
+    EXPECT_EQ(Id(u"/x"_s, Vanity), u"99001"_s);
+    app->controls.SetTicked("optQuickGather"_L1, true);
+    app->controls.SetTicked("optImportClickedProfiles"_L1, true);
+    EXPECT_EQ(Id(u"/x"_s, Vanity), u"99001"_s);
+    app->controls.SetTicked("optScanFollowing"_L1, true);
+    app->state.CurrentAction = u"ACC"_s;
+    EXPECT_EQ(Id(u"/x"_s, Vanity), u"99001"_s);
+    EXPECT_EQ(app->controls.Text("ucpanelFullGatherIDNotify"_L1), u"Accepting Friend Requests"_s);
+}
+
 TEST_F(IdResolutionTest, QuickGatherLeavesAVanityLinkAloneWithoutANotice) {
     Show(u"http://www.example.com/list"_s, u"<p><a href='http://www.example.com/ann'>Ann</a></p>"_s);
     int shown = 0;

@@ -26,7 +26,7 @@ protected:
             body += u"<p><a href='http://www.example.com/"_s + name + u"'>"_s + name + u"</a></p>"_s;
         Show(u"http://www.example.com/any"_s, body);
     }
-    const QStringList& Ids() const { return app->state.arrFriendIDs; }
+    QStringList Ids() const { return app->state.arrFriendIDs.ToStringList(); }
 };
 
 TEST_F(LinkScannerTest, TheMemoryOfFetchedPagesIsClearedBehindAThousand) {
@@ -84,6 +84,52 @@ TEST_F(LinkScannerTest, TheFirstPageIsGivenFiveSecondsToShowItsPager) {
     const qint64 againMs = platform->Pump().NowMs();
     app->linkScanner->GatherPageProfiles();
     EXPECT_LT(platform->Pump().NowMs() - againMs, 1000);
+}
+
+// Twenty thousand links, half of them under one roof and half in blocks of their own.
+TEST_F(LinkScannerTest, TwentyThousandLinksTakeTheirTenMillisecondsEachAndNoMore) {
+    QString body = u"<div>"_s;
+    for (int i = 0; i < 20000; ++i) {
+        const QString link =
+            u"<a href='http://www.example.com/"_s + QString::number(1000 + i) + u"'>x</a> "_s;
+        body += i % 2 ? link : u"<div><p>"_s + link + u"</p></div>"_s;
+    }
+    Show(u"http://www.example.com/any"_s, body);
+    app->state.strNextPageLink = u"not the first page"_s;
+    app->controls.SetTicked("optScanCurrentPage"_L1, true);
+    const qint64 startMs = platform->Pump().NowMs();
+    app->linkScanner->GatherPageProfiles();
+    EXPECT_EQ(Ids().size(), 20000);
+    EXPECT_NEAR(static_cast<double>(platform->Pump().NowMs() - startMs), 200000.0, 1000.0);
+}
+
+TEST_F(LinkScannerTest, LinksWithoutAnAddressFramesAndOddNamesAreNoObstacle) {
+    Show(
+        u"http://www.example.com/any"_s,
+        u"<p><a name=top>no address</a></p><p><a href=''>empty</a></p><p><a href='#'>#</a></p>"
+        "<p><a href='javascript:void(0)'>script</a></p><p><a href='mailto:a@example.com'>mail</a></p>"
+        "<p><a href='http://'>broken</a></p><p><a href='http://www.example.com/٣٤'>\u05d0\u05d1\u05d2</a></p>"
+        "<iframe src='http://www.example.com/frame'></iframe>"
+        "<p><a href='http://www.example.com/11'>\u202e\u05e9\u05dc\u05d5\u05dd \U0001f600\u200f</a></p>"
+        "<p><area href='http://www.example.com/12'></p>"_s);
+    world.web.SetPage(u"http://www.example.com/frame"_s,
+                      u"<html><body><p><a href='http://www.example.com/13'>Framed</a></p></body></html>"_s);
+    app->linkScanner->GatherPageProfiles();
+    EXPECT_EQ(Ids(), (QStringList{u"11"_s, u"12"_s}));
+    EXPECT_FALSE(app->state.blnRetryGatherPage);
+}
+
+TEST_F(LinkScannerTest, APageThatIsReplacedMeanwhileEndsThePassAndAsksForAnother) {
+    ShowProfiles({u"11"_s, u"12"_s, u"13"_s});
+    world.web.SetPage(u"http://www.example.com/other"_s, u"<html><body>other</body></html>"_s);
+    app->state.strNextPageLink = u"not the first page"_s;
+    platform->Pump().onPump = [this] {
+        if (Ids() == QStringList{u"11"_s} && app->WebBrowser1().LocationURL().endsWith(u"any"_s))
+            app->WebBrowser1().Navigate(u"about:blank"_s);
+    };
+    app->linkScanner->GatherPageProfiles();
+    EXPECT_EQ(Ids(), QStringList{u"11"_s});
+    EXPECT_TRUE(app->state.blnRetryGatherPage);
 }
 
 TEST_F(LinkScannerTest, WhileAcceptingTheRequestsAreCollected) {

@@ -14,6 +14,11 @@ QString Expand(const QString& text) {
         .replace(u"{GroupsHost}"_s, u"groups.example.com"_s)
         .replace(u"{SearchServiceHost}"_s, u"search.example.com"_s)
         .replace(u"{ForumHost}"_s, u"forum.example.com"_s)
+        .replace(u"{VideoHost}"_s, u"vids.example.com"_s)
+        .replace(u"{BulletinsHost}"_s, u"bulletins.example.com"_s)
+        .replace(u"{TopArtistsHost}"_s, u"top.example.com"_s)
+        .replace(u"{BrowseUsersHost}"_s, u"browse.example.com"_s)
+        .replace(u"{MusicHost}"_s, u"music.example.com"_s)
         .replace(u"{EventsHost}"_s, u"events.example.com"_s);
 }
 
@@ -56,6 +61,70 @@ TEST(ListingText, AMusicSearchIsReadBehindItsLink) {
 
 TEST(ListingText, TheSingularGroupHostCountsToo) {
     EXPECT_EQ(OfText(u"http://group.example.com/a"_s, u"listing 1-9 of 20"_s), u"listing 1-9 "_s);
+}
+
+QString OfMarkup(const QString& address, const QString& text, const QString& html) {
+    return ListingText(Page(address, text, html));
+}
+
+TEST(ListingText, ACommentListIsReadFromTheMarkup) {
+    EXPECT_EQ(OfMarkup(u"http://x/7/comments?page=2"_s, u"Add Comment"_s, u"<p>Listing 1-50 of 70"_s),
+              u"Listing 1-50 "_s);
+    EXPECT_EQ(OfMarkup(u"http://x/7/comments"_s, u"Add Comment"_s, u"<p>Listing 1-50 of 70"_s), QString());
+}
+
+TEST(ListingText, AnEventsCommentsAreReadBehindTheirFirstFriend) {
+    EXPECT_EQ(OfMarkup(u"http://x/e"_s, u"Return to event page Comments"_s,
+                       u"font-weight: bold;0</span> friendID=1 <i style='font-weight: bold;'>3</span>"_s),
+              u"font-weight: bold;'>3"_s);
+}
+
+TEST(ListingText, EachOfTheOldListPagesNamesItsSliceInTheMarkup) {
+    const QString html = u"<p>Listing 1-10 of 35"_s;
+    for (const QString& address :
+         {u"http://forum.example.com/index.cfm?fuseaction=messageboard.viewThread"_s,
+          u"http://bulletins.example.com/index.cfm?fuseaction=bulletin"_s, u"http://top.example.com/"_s,
+          u"http://x/index.cfm?fuseaction=user.viewComments"_s, u"http://browse.example.com/"_s,
+          u"http://music.example.com/"_s})
+        EXPECT_EQ(OfMarkup(address, {}, html), u"Listing 1-10 "_s) << address.toStdString();
+    EXPECT_EQ(OfMarkup(u"http://vids.example.com/v"_s, u"Add Comment"_s, html), u"Listing 1-10 "_s);
+    EXPECT_EQ(OfMarkup(u"http://vids.example.com/v"_s, {}, html), QString());
+}
+
+TEST(ListingText, ASearchNamesItsSliceInTheText) {
+    EXPECT_EQ(OfText(u"http://search.example.com/x"_s, u"Displaying 1-10 of 35"_s), u"Displaying 1-10 "_s);
+    EXPECT_EQ(OfText(u"http://x/search"_s, u"Displaying 1-10 of 35"_s), QString());
+}
+
+TEST(ListingText, AGroupsMembersAndAnInvitationsFriendsDoToo) {
+    for (const QString& address :
+         {u"http://x/index.cfm?fuseaction=groups.updateMembers"_s,
+          u"http://x/index.cfm?fuseaction=groups.viewMembers"_s, u"http://groups.example.com/a"_s,
+          u"http://x.example.com/index.cfm?fuseaction=groups.groupInvite&groupID=3"_s,
+          u"http://events.example.com/Event/3"_s})
+        EXPECT_EQ(OfText(address, u"listing 1-9 of 20, showing 2 of 3"_s), u"listing 1-9 "_s)
+            << address.toStdString();
+}
+
+// A page of two kinds is read as the upper one of the table.
+TEST(ListingText, TheOrderOfTheKindsCounts) {
+    const QString event = u"friendID=1 font-weight: bold; 3</span>"_s;
+    EXPECT_EQ(OfMarkup(u"http://x/7/comments?page=2"_s, u"Add Comment, Return to event page, Comments"_s,
+                       event + u"listing 1 of 2"_s),
+              u"listing 1 "_s);
+    EXPECT_EQ(OfMarkup(u"http://x/e"_s, u"Mail Center, Return to event page, Comments"_s,
+                       event + u"Listing 1 of 2</div>"_s),
+              u"font-weight: bold; 3"_s);
+    EXPECT_EQ(OfMarkup(u"http://forum.example.com/a"_s, u"Mail Center"_s, u"Listing 1 of 2 </div>"_s),
+              u"Listing 1 of 2"_s);
+    EXPECT_EQ(OfMarkup(u"http://search.example.com/fuseaction=user.viewComments&type=Music&"_s,
+                       u"View All (2 www.example.com/ 3 of 4"_s, u"listing 1 of 2"_s),
+              u"listing 1 "_s);
+    EXPECT_EQ(OfText(u"http://search.example.com/x&type=Music&"_s,
+                     u"displaying 1 of 2 View All (2 www.example.com/ 3 of 4"_s),
+              u"www.example.com/ 3 "_s);
+    EXPECT_EQ(OfText(u"http://search.example.com/7/friends?p=2"_s, u"listing 1 of 2 displaying 3 of 4"_s),
+              u"displaying 3 "_s);
 }
 
 TEST(ListingText, AnyPageMaySayShowing) {

@@ -41,6 +41,13 @@ const QString Browse = u"javascript:__doPostBack('ctl00$cpMain$Browse$PagingTop'
 const QString Videos = u"http://vids.example.com/list"_s;
 const QString Charts = u"http://www.example.com/music/charts/songs"_s;
 
+const QString Comments =
+    u"javascript:__doPostBack('ctl00$cpMain$UserViewCommentsControl_Skin$pagerTop','2')"_s;
+const QString CommentsOfOld = u"x$ctl00$cpMain$UserViewCommentsControl$pagerTop','2'"_s;
+const QString CommentPage =
+    u"http://comment.example.com/index.cfm?fuseaction=user.viewComments&friendID=1&page=2"_s;
+const QString Inbox = u"http://m/index.cfm?fuseaction=mail.inbox"_s;
+
 INSTANTIATE_TEST_SUITE_P(
     Table, NextLinkRule,
     testing::Values(
@@ -88,6 +95,35 @@ INSTANTIATE_TEST_SUITE_P(
         Case{u"More"_s, u"http://www.example.com/music/charts/songs/2"_s,
              u"http://www.example.com/music/charts/songs/5"_s, Charts},
         Case{u"More songs"_s, u"http://www.example.com/music/charts/songs/2"_s, u""_s, Charts},
+        Case{u"Next >"_s, Comments, Comments}, Case{u"Next ›"_s, CommentsOfOld, CommentsOfOld},
+        Case{u"Next >"_s, CommentPage, CommentPage},
+        Case{u"Next"_s, u"x$UserViewCommentsControl$pagerTop','2'"_s, u""_s},
+        Case{u"Next ›"_s, u"x$ucUpdateMembers$pagerTop','2'"_s, u"x$ucUpdateMembers$pagerTop','2'"_s},
+        Case{u"Next >"_s, u"x$messagingMain$MessageList_Skin$pagingTop','2'"_s,
+             u"x$messagingMain$MessageList_Skin$pagingTop','2'"_s},
+        Case{u"Next"_s, u"x$ctl00$ctl00$Main$messagingMain"_s, u"x$ctl00$ctl00$Main$messagingMain"_s},
+        Case{u"Next"_s, u"x$cpMain$cpMain$messagingMain"_s, u"x$cpMain$cpMain$messagingMain"_s},
+        Case{u"Next ›"_s, u"javascript: __msgPostRedirect('Page:2')"_s,
+             u"javascript: __msgPostRedirect('Page:2')"_s},
+        // What the row above says holds where two would do.
+        Case{u"Next"_s, u"javascript:void(0)"_s, u"click:Next"_s, Inbox, {}, true},
+        Case{u"Next >"_s, Browse, u"CLICKID=nextPage"_s, Inbox, {}, true},
+        Case{u"Next >"_s, Browse + u".example.com/browse/"_s, Browse + u".example.com/browse/"_s},
+        Case{u"Next 4"_s, u"x.example.com/browse/ctl00$cpMain$pager"_s, u"click:Next 4"_s},
+        Case{u"Next >"_s, u"x$CPMain$Browse$PagingTop','2'"_s, u""_s},
+        Case{u"Next >"_s, u"x$cpMain$Browse.skin$PagingTop','2'"_s, u"x$cpMain$Browse.skin$PagingTop','2'"_s},
+        Case{u"Next ›"_s, u"x$cpMain$Browse_skin$PagingTop','2'"_s, u"x$cpMain$Browse_skin$PagingTop','2'"_s},
+        Case{u"the next"_s, u"x$ctl00$cpMain$pager"_s, u"x$ctl00$cpMain$pager"_s},
+        Case{u"the next"_s, u"x$ctl00$cpMain$FriendsView$pagerTop"_s,
+             u"x$ctl00$cpMain$FriendsView$pagerTop"_s},
+        Case{u"the next"_s, u"x$ctl00$cpMain$FriendsView_skin$pagerTop"_s,
+             u"x$ctl00$cpMain$FriendsView_skin$pagerTop"_s},
+        Case{u"Next 40"_s, u"http://x/friends/categories/3?p=2"_s, u"http://x/friends/categories/3?p=2"_s},
+        Case{u"Next 40"_s, u"http://x/friends?a&p=2"_s, u"http://x/friends?a&p=2"_s},
+        Case{u"Next 40"_s, u"http://x/Friends?a&p=2"_s, u""_s},
+        Case{u"Next >"_s, u"x$ctl00$Main$pager"_s, u"x$ctl00$Main$pager"_s},
+        Case{u"Next ›"_s, u"x$ctl00$cpMain$BirthdayList$PagerTop"_s,
+             u"x$ctl00$cpMain$BirthdayList$PagerTop"_s},
         Case{u"Next"_s, u"http://www.example.com/7/friends/all"_s, u""_s},
         Case{u"Previous"_s, u"http://www.example.com/7/friends/page/1"_s, u""_s}));
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
 #include "gather/ProfileFilters.h"
+#include "gather/ProfileLinkRules.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -53,6 +54,80 @@ TEST_F(ProfileFiltersTest, KindsOfProfile) {
     EXPECT_FALSE(Passes(Band));
     Choose("optFilterComedy"_L1);
     EXPECT_TRUE(Passes(u"<div class=friendSpace><img src='/i/comedy%2fmscomedy.gif'></div>"_s));
+}
+
+const QString NewLayout = u"<div class=userBadgeSideBar></div><p>View: All</p>"_s;
+
+TEST_F(ProfileFiltersTest, MusicPagesOfBothLayouts) {
+    Choose("optFilterBands"_L1);
+    EXPECT_TRUE(Passes(NewLayout + u"<p>Featured Playlists</p><p>Music News</p>"_s));
+    EXPECT_FALSE(Passes(NewLayout + u"<p>Featured Playlists</p>"_s));
+    EXPECT_FALSE(Passes(NewLayout + u"<p>Music News</p>"_s));
+    // The one layout's marks say nothing in the other.
+    EXPECT_FALSE(Passes(NewLayout + Band));
+    const QString classic = u"<div class=friendSpace></div>"_s;
+    const QString shows = u"<a href='http://www.example.com/music/shows'>Shows</a>"_s;
+    EXPECT_TRUE(Passes(classic + shows + u"<i class=musicJV_logo></i>"_s));
+    EXPECT_FALSE(Passes(classic + shows));
+    EXPECT_FALSE(Passes(classic + u"<i class=musicJV_logo></i>"_s));
+    EXPECT_FALSE(Passes(classic + u"<p>Featured Playlists</p><p>Music News</p>"_s));
+}
+
+TEST_F(ProfileFiltersTest, GenderAndAgeInTheNewLayout) {
+    Choose("optFilterFemale"_L1);
+    Choose("optFilterAgeOn"_L1);
+    Type("cboFilterAge1"_L1, u"20"_s);
+    Type("cboFilterAge2"_L1, u"30"_s);
+    auto person = [](const QString& gender, const QString& age) {
+        // In the markup the quotes of an attribute are escaped.
+        return NewLayout + u"<i data='{\"gender\":\""_s + gender + u"\",\"age\":\"Age: "_s + age +
+               u"\"}'></i>"_s;
+    };
+    const qint64 startMs = platform->Pump().NowMs();
+    EXPECT_TRUE(Passes(person(u"Female"_s, u"25"_s)));
+    EXPECT_LT(platform->Pump().NowMs() - startMs, 5000);
+    EXPECT_FALSE(Passes(person(u"Male"_s, u"25"_s)));
+    EXPECT_FALSE(Passes(person(u"Female"_s, u"31"_s)));
+}
+
+TEST_F(ProfileFiltersTest, AGenderThatDoesNotComeIsWaitedForFifteenSecondsAndAnAgeForTen) {
+    Choose("optFilterMale"_L1);
+    qint64 startMs = platform->Pump().NowMs();
+    EXPECT_FALSE(Passes(NewLayout));
+    EXPECT_NEAR(static_cast<double>(platform->Pump().NowMs() - startMs), 16000.0, 500.0);
+    Choose("optFilterGenderOff"_L1);
+    Choose("optFilterAgeOn"_L1);
+    startMs = platform->Pump().NowMs();
+    EXPECT_FALSE(Passes(NewLayout));
+    EXPECT_NEAR(static_cast<double>(platform->Pump().NowMs() - startMs), 11000.0, 500.0);
+}
+
+TEST_F(ProfileFiltersTest, AnAgeFilterThatIsOffAsksNothing) {
+    Choose("optFilterPeople"_L1);
+    EXPECT_TRUE(Passes(Person(u"Male"_s, u"unknown"_s, u"Leeds"_s)));
+}
+
+TEST_F(ProfileFiltersTest, ABetaPageIsNotedAndNothingElse) {
+    app->state.blnLoggingEnabled = true;
+    Choose("optFilterPeople"_L1);
+    EXPECT_TRUE(Passes(u"<div class=friendSpace></div><i class=sitesBetaLabel></i>"_s));
+    const QString noted = app->DataFile(u"debugBETAPEOPLE.txt"_s);
+    EXPECT_TRUE(app->files.ReadBytes(noted).contains("http://www.example.com/5/classic"));
+    app->files.DeleteFile(noted);
+    EXPECT_FALSE(Passes(Band + u"<i class=sitesBetaLabel></i>"_s));
+    EXPECT_FALSE(app->files.FileExists(noted));
+}
+
+TEST_F(ProfileFiltersTest, EitherReadingOfTheLastLoginIsEnough) {
+    world.clock.SetNow(QDateTime(QDate(2011, 4, 5), QTime(12, 0)));
+    Choose("optFilterLastLoginOn"_L1);
+    Type("txtFilterLastLoginDays"_L1, u"3"_s);
+    auto page = [](const QString& date) {
+        return u"<div class=friendSpace></div>Last Login: "_s + date + u"<br>"_s;
+    };
+    EXPECT_TRUE(Passes(page(u"03/04/2011"_s)));
+    EXPECT_TRUE(Passes(page(u"04/03/2011"_s)));
+    EXPECT_FALSE(Passes(page(u"03/03/2011"_s)));
 }
 
 TEST_F(ProfileFiltersTest, BandsAreNotAskedForGenderAndAge) {
@@ -130,8 +205,10 @@ TEST_F(ProfileFiltersTest, OnAListTheWordsBesideTheLinkSayWhoIsOnline) {
     app->WebBrowser1().Navigate(u"http://www.example.com/l"_s);
     platform->Pump().RunFor(1000);
     const auto links = app->WebBrowser1().Document().Links();
-    EXPECT_TRUE(app->profileFilters->IsUserOnline(false, links[0]));
-    EXPECT_FALSE(app->profileFilters->IsUserOnline(false, links[1]));
+    JudgedLink there(*app, links[0]);
+    JudgedLink gone(*app, links[1]);
+    EXPECT_TRUE(app->profileFilters->IsUserOnline(there));
+    EXPECT_FALSE(app->profileFilters->IsUserOnline(gone));
 }
 
 } // namespace

@@ -162,8 +162,14 @@ TEST_F(MainWindowTest, TheCategoryIsShownAndSaysWhatItIsGoodFor) {
         EXPECT_EQ(Named<QWidget>(name)->toolTip(), u"This setting appears on the friend request page"_s);
 }
 
+TEST_F(MainWindowTest, EveryWayOfGatheringIsShown) {
+    for (const char* name : {"optScanCurrentPage", "optScanFollowing", "optScanGoogle",
+                             "optImportClickedProfiles", "piccmdBlackList", "picRemoveFriends"})
+        EXPECT_NE(Named<QObject>(name), nullptr) << name;
+}
+
 TEST_F(MainWindowTest, OptionsWithoutEffectAreNotShown) {
-    for (const char* name : {"optScanGoogle", "chkFRNote", "chkFRFullName", "mnuBackup"})
+    for (const char* name : {"chkFRNote", "chkFRFullName", "mnuBackup"})
         EXPECT_EQ(Named<QObject>(name), nullptr) << name;
 }
 

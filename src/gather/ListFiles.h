@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Services.h"
+
+#include <QScopeGuard>
+#include <functional>
+
+namespace qlm {
+
+class App;
+
+// What the work list and the black list share: reading a list from a file the user chooses.
+
+// For the file dialogs.
+QString TextFilesFilter();
+// The question whether duplicates are to be looked for: Yes, No or Cancel.
+Dialogs::Answer AskForDuplicates(App& app);
+// Gives each ID of the file, trimmed; blank lines are left out, and lines that are longer than any ID. The
+// message loop turns every few hundred lines.
+void ForEachId(App& app, const QString& path, const std::function<void(const QString& id)>& visit);
+
+void SetPointer(App& app, bool wait);
+// The pointer of a long piece of work, until the end of the block.
+[[nodiscard]] inline auto ShowWaitPointer(App& app) {
+    SetPointer(app, true);
+    return qScopeGuard([&app] { SetPointer(app, false); });
+}
+
+} // namespace qlm

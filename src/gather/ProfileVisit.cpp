@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "gather/ProfileVisit.h"
+
+#include "browser/PageClassifier.h"
+#include "browser/PageTests.h"
+#include "core/App.h"
+#include "core/StopResume.h"
+#include "gather/ProfileFilters.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+bool ProfileVisit::Fails(const QString& id) const {
+    app.stopResume->PauseLinkCheck();
+    app.ClearPage();
+    if (!goes())
+        return false;
+    app.SetStatus(u"Navigating to ID "_s + id +
+                  u"'s profile page to see if it matches your filter settings..."_s);
+    app.WebBrowser1().Navigate(app.Expand(u"http://{SiteRootHost}/"_s) + id + u"/classic"_s);
+    bool remove = !Arrives();
+    if (!goes())
+        return false;
+    Diagnostics::IgnoreErrors([&] { remove = app.pageClassifier->ClassifyErrorPage() || remove; });
+    app.stopResume->ResumeLinkCheck();
+    return remove || !app.profileFilters->IsFilteredProfile();
+}
+
+// False when an error page or an advertiser's profile has come instead. One that is just being replaced isn't
+// there yet.
+bool ProfileVisit::Arrives() const {
+    PageTests& tests = *app.pageTests;
+    bool refused = false;
+    auto stillWaiting = [&] {
+        if (tests.IsTextInPage(u"friendSpace"_s, true) || tests.IsTextInPage(u"last login"_s) ||
+            tests.IsTextInPage(u"view my:"_s))
+            return false;
+        refused = app.pageClassifier->ClassifyErrorPage() || tests.IsAdvertiserProfile();
+        return !refused;
+    };
+    app.waiting.WaitWhile(
+        [&] {
+            bool waiting = true;
+            Diagnostics::IgnoreErrors([&] { waiting = stillWaiting(); });
+            return goes() && waiting;
+        },
+        seconds);
+    return !refused;
+}
+
+} // namespace qlm
