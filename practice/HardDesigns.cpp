@@ -12,6 +12,7 @@ constexpr ListDesign rows[] = {
      .title = u"Twenty thousand links",
      .role = Role::SiteRoot,
      .path = u"hard/links",
+     .perPage = 20000,
      .entries = 30,
      .handler = ManyLinksPage},
     {.name = u"hard-bare",

@@ -12,9 +12,10 @@ namespace qlm::practice {
 class ListSizes {
 public:
     static constexpr int longest = 5000;
+    static constexpr int widest = 100000;
 
     void Set(const QString& name, int entries, int perPage) {
-        m_sizes.insert(name, {std::min(entries, longest), std::clamp(perPage, 0, longest)});
+        m_sizes.insert(name, {std::min(entries, longest), std::clamp(perPage, 0, widest)});
     }
     int Entries(const QString& name, int otherwise) const {
         return m_sizes.value(name, {otherwise, 0}).first;

@@ -11,7 +11,6 @@ namespace qlm::practice {
 
 namespace {
 
-constexpr int otherLinks = 20000;
 constexpr int linksInARow = 20;
 
 QString Everybody(Visit& visit, const ListDesign& design) {
@@ -36,6 +35,7 @@ Response List(const Visit& visit, const ListDesign& design, const QString& entri
 Response ManyLinksPage(Visit& visit) {
     const ListDesign& design = *FindDesign(visit).design;
     QString links;
+    const int otherLinks = PerPage(visit.world, design);
     for (int i = 0; i < otherLinks; ++i)
         links += u"%1<a href=\"#n%2\">%2</a>\n"_s.arg(i % linksInARow ? QString() : u"</p><p>"_s).arg(i);
     return List(visit, design, Everybody(visit, design),

@@ -7,7 +7,7 @@ namespace qlm::practice {
 
 // Pages that make it hard for whoever reads lists.
 
-/// A list of a few people among twenty thousand other links.
+/// A list of a few people among twenty thousand other links: as many as its pages are told to be long.
 Response ManyLinksPage(Visit& visit);
 
 /// People linked by names whose profiles tell no number: SilentProfile shows them.
