@@ -185,11 +185,14 @@ bool SendRuns::StayedBehindSkip(const QString& caller) {
 void SendRuns::BeginTarget() {
     RunState& state = m_app.state;
     ++state.lngTargetNumber;
-    const QStringList& targets = Accepting() ? m_app.controls.Items("lstAcceptIDs"_L1) : state.arrFriendIDs;
-    state.strCurrentID = targets.at(state.intCurrentIDIndex);
+    const bool accepting = Accepting();
+    const QStringList& accepted = m_app.controls.Items("lstAcceptIDs"_L1);
+    const qsizetype total = accepting ? accepted.size() : state.arrFriendIDs.size();
+    state.strCurrentID = accepting ? accepted.at(state.intCurrentIDIndex)
+                                   : state.arrFriendIDs.at(state.intCurrentIDIndex);
     // What the run has taken off the list counts as walked over.
     const qint64 number = qint64(state.lngRemovedCount) + state.intCurrentIDIndex + 1;
-    const qint64 count = state.lngRemovedCount + targets.size();
+    const qint64 count = state.lngRemovedCount + total;
     m_app.controls.SetText("lblProgress"_L1,
                            u"ID "_s + QString::number(number) + u" of "_s + QString::number(count));
 }

@@ -69,10 +69,12 @@ void ScanCost::Load(const QString& url) {
 
 void ScanCost::Pass(const Design& design, int links) {
     const QString url = m_app.Expand(u"http://{SiteRootHost}/"_s) + QString::fromUtf16(design.path);
-    QByteArray body = "<html><body><div id=list>";
+    LoopbackAnswer page;
+    page.body = "<html><body><div id=list>";
     for (int i = 0; i < links; ++i)
-        body += QByteArray(design.entry).replace("%1", QByteArray::number(100'000 + i));
-    m_server.AnswerUnknown({body + "</div></body></html>"});
+        page.body += QByteArray(design.entry).replace("%1", QByteArray::number(100'000 + i));
+    page.body += "</div></body></html>";
+    m_server.AnswerUnknown(page);
     Load(url);
     m_app.state.arrFriendIDs = IdList{QString()};
     m_app.controls.SetItems("lstFriendIDs"_L1, {});

@@ -149,7 +149,7 @@ void GatheringProgram::Fill(QLatin1StringView field, const QString& text) {
 }
 
 QStringList GatheringProgram::List() const {
-    QStringList ids = m_program->app.state.arrFriendIDs;
+    QStringList ids = m_program->app.state.arrFriendIDs.ToStringList();
     ids.removeAll(QString());
     return ids;
 }

@@ -12,6 +12,7 @@
 #include <QDirIterator>
 #include <QListView>
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 namespace qlm {
 namespace {
@@ -265,7 +266,8 @@ TEST_F(Login, ThePasswordStandsInNoFileAndOnNoCommandLine) {
                          [&] {
                              EXPECT_TRUE(Holds(program->app.WebBrowser1().LocationURL().toUtf8(), password));
                              address = program->app.controls.Text("txtAddress"_L1);
-                             program->app.diagnostics.ReportError(u"Somewhere"_s, u"with "_s + password);
+                             program->app.diagnostics.ReportError(
+                                 u"Somewhere"_s, std::runtime_error((u"with "_s + password).toStdString()));
                              commandLines = CommandLinesOfThisAndItsChildren();
                              program->driver.Press("frmMain", "picRefresh");
                          }});

@@ -183,7 +183,7 @@ void QtBrowser::AwaitEngineBlank() {
 void QtBrowser::WriteBlank(const QString& html) {
     m_afterBlank.reset();
     AwaitEngineBlank();
-    const auto answer = m_calls.Call({}, u"snapshot"_s, {0});
+    const auto answer = m_calls.Call(PageCalls::Kind::Act, QString(), u"version"_s, {});
     if (!m_isBlank || !m_isEngineBlank || !answer)
         throw BrowserError();
     DocumentOwner& owner = *this;

@@ -83,7 +83,7 @@ protected:
 
     std::set<qint64> Gathered() const {
         std::set<qint64> ids;
-        for (const QString& id : app->state.arrFriendIDs)
+        for (const QString& id : app->state.arrFriendIDs.ToStringList())
             if (!id.isEmpty()) {
                 EXPECT_TRUE(ids.insert(id.toLongLong()).second) << id.toStdString() << " stands twice";
             }

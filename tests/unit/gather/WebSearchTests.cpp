@@ -27,7 +27,7 @@ protected:
         return u"http://search.example.net/search?q=site%3Aexample.com+"_s + term +
                u"&num=100&hl=en&start="_s + QString::number(start);
     }
-    void Answer(const QString& address, const QString& text) { world.http.table[address] = text; }
+    void Answer(const QString& address, const QString& text) { world.http.Set(address, text); }
     void Search(const QString& term) {
         dialogs.onModal[u"frmGoogleSearch"_s] = [this, term] {
             app->controls.SetText("frmGoogleSearch.txtGoogleTerm"_L1, term);
