@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Whether a long run stays as light and as quick as it began: bench_soak requests|pages [TURNS]
+// Whether a long run stays as light and as quick as it began: bench_soak [TURNS]
 //
-// "requests": one friend request after the other, as the user's own run sends them. "pages": friends lists
-// and profiles, each loaded behind a blank page and waited for by the page check. Both in the real window, on
-// the real engine, against the practice site; the step's delay of 400 ms is shortened, nothing else.
+// One friend request after the other, as the user's own run sends them: each turn loads a blank page and a
+// request page, in the real window, on the real engine, against the practice site. The step's delay of 400 ms
+// is shortened, nothing else.
 #include "Figures.h"
 #include "ProcessFigures.h"
 #include "RunningProgram.h"
@@ -29,14 +29,12 @@ const QString SiteProgram = u"quillmere-practice-site"_s;
 
 class Soak {
 public:
-    explicit Soak(int turnCount)
-        : turns(turnCount), poll(program.app.Pump().Queue(), 1, false, [this] { TakeTurn(); }) {
+    explicit Soak(int turnCount) : turns(turnCount) {
         site.Tell(u"journal visits off"_s);
         program.app.timers->Timer1.SetInterval(StepDelayMs);
     }
 
     void PlanRequests();
-    void PlanPages();
     bool Run() { return program.Run(); }
     void Report() const;
 
@@ -47,7 +45,6 @@ private:
     };
 
     void OnTurn();
-    void TakeTurn();
     double MeanMemory(int firstTurn, int count) const;
     double MedianTurn(int firstTurn, int count) const;
     double ProcessorPerTurn(int firstTurn, int count) const;
@@ -56,7 +53,6 @@ private:
     SiteProcess site;
     UsedProgram folders{site.Port()};
     RunningProgram program{folders};
-    Timer poll;
     int turn = 0;
     long long turnStartNs = 0;
     QString lastProgress;
@@ -74,42 +70,6 @@ void Soak::PlanRequests() {
     });
     program.PlanSending();
     program.PlanReport(3600);
-}
-
-void Soak::PlanPages() {
-    folders.SaveList(SomeTargets(1));
-    program.driver.Add({u"The login screen"_s, 60,
-                        [this] { return program.driver.Form("frmInteken") != nullptr; },
-                        [this] { program.driver.Press("frmInteken", "cmdContinue"); }});
-    program.driver.Add({u"The login"_s, 60, [this] { return program.app.Status() == u"Login successful!"_s; },
-                        [this] {
-                            program.app.state.blnLinkFound = true;
-                            poll.SetEnabled(true);
-                        }});
-    program.driver.Add(
-        {u"All pages"_s, 3600, [this] { return turn > turns; }, [this] { program.driver.End({}); }});
-}
-
-// Invitations wait for their pages themselves, so that nothing but the check itself happens in this activity.
-void Soak::TakeTurn() {
-    App& app = program.app;
-    if (!app.state.blnLinkFound || app.timers->Timer1.Enabled())
-        return;
-    OnTurn();
-    if (turn > turns) {
-        poll.SetEnabled(false);
-        return;
-    }
-    app.state.CurrentAction = u"INV"_s;
-    app.state.blnHoldLinkCheck = false;
-    app.state.strLinkType = u"TextHTML"_s;
-    app.state.strLinkValue = u"</div>"_s;
-    app.ClearPage();
-    const QString owner = QString::number(100001 + turn % 400);
-    const QString path = turn % 3 == 0 ? owner : turn % 3 == 1 ? owner + u"/friends"_s : u"browse"_s;
-    app.WebBrowser1().Navigate(app.Expand(u"{SiteRootHost}/"_s) + path);
-    app.state.blnLinkFound = false;
-    app.timers->tmrCheckLinkLoaded.Restart();
 }
 
 void Soak::OnTurn() {
@@ -178,17 +138,13 @@ int main(int argc, char** argv) {
     qlm::PrepareEngine();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    const QString what = application.arguments().value(1);
-    const int turns = argc > 2 ? std::atoi(argv[2]) : 2000;
-    if ((what != u"requests" && what != u"pages") || turns < qlm::MeanOver) {
-        std::fprintf(stderr, "usage: bench_soak requests|pages [TURNS, at least %d]\n", qlm::MeanOver);
+    const int turns = argc > 1 ? std::atoi(argv[1]) : 2000;
+    if (turns < 2 * qlm::MeanOver) {
+        std::fprintf(stderr, "usage: bench_soak [TURNS, at least %d]\n", 2 * qlm::MeanOver);
         return 2;
     }
     qlm::Soak soak(turns);
-    if (what == u"requests")
-        soak.PlanRequests();
-    else
-        soak.PlanPages();
+    soak.PlanRequests();
     if (!soak.Run()) {
         std::printf("The run came to no end.\n");
         return 1;
