@@ -149,11 +149,12 @@ void GatheredList::WriteList(const QString& path, bool turns) {
     m_app.diagnostics.Trap("SaveScannedList - form1", [&] {
         m_app.files.CreateFolder(QFileInfo(path).path());
         const IdList ids = m_app.state.arrFriendIDs;
+        const qsizetype entries = turns ? EntriesInAPart : ids.size();
         qsizetype next = 0;
         m_app.files.WriteParts(path, [&](QByteArray& part) {
             if (turns && next > 0)
                 m_app.waiting.Pump();
-            for (const qsizetype end = std::min(next + EntriesInAPart, ids.size()); next < end; ++next)
+            for (const qsizetype end = std::min(next + entries, ids.size()); next < end; ++next)
                 part += ToAnsi(ids.at(next)) + "\r\n";
             return next < ids.size();
         });

@@ -69,11 +69,11 @@ void ScanCost::Load(const QString& url) {
 
 void ScanCost::Pass(const Design& design, int links) {
     const QString url = m_app.Expand(u"http://{SiteRootHost}/"_s) + QString::fromUtf16(design.path);
-    LoopbackAnswer page;
-    page.body = "<html><body><div id=list>";
+    QByteArray body = "<html><body><div id=list>";
     for (int i = 0; i < links; ++i)
-        page.body += QByteArray(design.entry).replace("%1", QByteArray::number(100'000 + i));
-    page.body += "</div></body></html>";
+        body += QByteArray(design.entry).replace("%1", QByteArray::number(100'000 + i));
+    LoopbackAnswer page;
+    page.body = body + "</div></body></html>";
     m_server.AnswerUnknown(page);
     Load(url);
     m_app.state.arrFriendIDs = IdList{QString()};
