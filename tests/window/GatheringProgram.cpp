@@ -105,38 +105,48 @@ bool GatheringProgram::Gather(const char* kind, int limitMs) {
     return !isLate && IsIdle() && Program().Status() == u"Finished gathering ID's"_s;
 }
 
-// The journal is read by a thread of its own: asking for it here would let the program's events in.
-qint64 GatheringProgram::GatherAndStop(const char* kind, int journalLines, int afterMs) {
-    std::atomic_bool isOver = false;
+qint64 GatheringProgram::GatherAndStop(const char* kind, const std::function<bool()>& isTimely) {
     QElapsedTimer pressed;
     qint64 answeredMs = -1;
-    site.TakeJournal();
+    bool isThrough = false;
     const auto press = [&] {
-        if (IsIdle())
-            return;
-        m_program->driver.Press("frmMain", "picScanStop");
-        answeredMs = IsIdle() ? pressed.elapsed() : answeredMs;
+        if (!IsIdle()) {
+            m_program->driver.Press("frmMain", "picScanStop");
+            answeredMs = IsIdle() ? pressed.elapsed() : answeredMs;
+        }
+        isThrough = true;
     };
-    const std::unique_ptr<QThread> user(QThread::create([&, port = site.Port()] {
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+        if (!isTimely())
+            return;
+        watch.stop();
+        pressed.start();
+        Act(press);
+    });
+    watch.start(5);
+    PressStart(kind);
+    // What is still to be delivered points at what is here.
+    WaitUntil([&] { return IsIdle() && (isThrough || watch.isActive()); });
+    return answeredMs;
+}
+
+// The journal is read by a thread of its own: asking for it here would let the program's events in.
+qint64 GatheringProgram::GatherAndStop(const char* kind, int journalLines, int afterMs) {
+    std::atomic_bool isOver = false, isTimely = false;
+    site.TakeJournal();
+    const std::unique_ptr<QThread> reader(QThread::create([&, port = site.Port()] {
         PracticeControls controls(port);
         qsizetype lines = 0;
         while (!isOver && lines < journalLines)
             lines += controls.TakeJournal().size();
         LetPass(afterMs);
-        pressed.start();
-        QMetaObject::invokeMethod(
-            qApp, [&] { Act(press); }, Qt::QueuedConnection);
+        isTimely = true;
     }));
-    user->start();
-    PressStart(kind);
-    WaitUntil([this] { return IsIdle(); });
+    reader->start();
+    const qint64 answeredMs = GatherAndStop(kind, [&] { return isTimely.load(); });
     isOver = true;
-    user->wait();
-    // Whatever is still to be delivered points at what is here.
-    bool isDelivered = false;
-    QMetaObject::invokeMethod(
-        qApp, [&] { Act([&] { isDelivered = true; }); }, Qt::QueuedConnection);
-    WaitUntil([&] { return isDelivered; });
+    reader->wait();
     return answeredMs;
 }
 

@@ -4,6 +4,8 @@
 #include "RunningProgram.h"
 #include "SiteProcess.h"
 
+#include <functional>
+
 namespace qlm {
 
 // Who stood on the lists of the pages that the site has delivered, in their order.
@@ -32,8 +34,10 @@ public:
     // Presses Start on the open page with "Quick" or "Full" Gather chosen and waits until the gather has come
     // to its own end. False when that took too long; then it has been stopped.
     bool Gather(const char* kind = "optQuickGather", int limitMs = GenerousLimitMs);
-    // The same, but Stop is pressed so long behind the moment at which the site's journal has got that many
-    // new lines. The milliseconds until nothing was going on any more; -1 when the gather had ended before.
+    // The same, but Stop is pressed as soon as it is timely, which is asked every few milliseconds. The
+    // milliseconds until nothing was going on any more; -1 when the gather had ended before.
+    qint64 GatherAndStop(const char* kind, const std::function<bool()>& isTimely);
+    // Timely is here: so long behind the moment at which the site's journal has got that many new lines.
     qint64 GatherAndStop(const char* kind, int journalLines, int afterMs);
     // Sets an option or a field of the filter window while nothing goes on.
     void Tick(QLatin1StringView option);
