@@ -6,6 +6,8 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <algorithm>
@@ -99,6 +101,53 @@ void WindowDriver::Type(const char* form, const char* name, const QString& text)
     Q_EMIT field->editingFinished();
 }
 
+void WindowDriver::ChooseItem(const char* form, const char* name, const QString& item) {
+    auto* box = qobject_cast<QComboBox*>(Find(form, name));
+    if (!box || box->findText(item) < 0) {
+        End(u"There is no such choice: "_s + item);
+        return;
+    }
+    box->setCurrentText(item);
+}
+
+// What takes the keys of the page that the main window shows: of the views that lie over each other the
+// topmost, which is the last child.
+QWidget* WindowDriver::Page() const {
+    QWidget* window = Form("frmMain");
+    QWidget* page = nullptr;
+    for (QWidget* widget : window ? window->findChildren<QWidget*>() : QList<QWidget*>())
+        if (widget->inherits("QWebEngineView") && widget->isVisible())
+            page = widget;
+    return page && page->focusProxy() ? page->focusProxy() : page;
+}
+
+void WindowDriver::FocusPage() {
+    QWidget* page = Page();
+    if (!page) {
+        End(u"There is no page to type into."_s);
+        return;
+    }
+    QApplication::setActiveWindow(page->window());
+    page->setFocus(Qt::MouseFocusReason);
+}
+
+void WindowDriver::TypeIntoPage(const QString& text) {
+    QWidget* page = Page();
+    if (!page) {
+        End(u"There is no page to type into."_s);
+        return;
+    }
+    for (const QChar sign : text) {
+        const bool isEnter = sign == u'\n';
+        const int key = isEnter ? int(Qt::Key_Return) : int(sign.toUpper().unicode());
+        const QString typed = isEnter ? u"\r"_s : QString(sign);
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, typed);
+        QApplication::sendEvent(page, &press);
+        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, typed);
+        QApplication::sendEvent(page, &release);
+    }
+}
+
 void WindowDriver::Choose(const char* menuItem) {
     QWidget* window = Form("frmMain");
     auto* item = window ? window->findChild<QAction*>(QString::fromLatin1(menuItem)) : nullptr;
@@ -115,6 +164,8 @@ void WindowDriver::End(const QString& problem) {
     m_problem = problem;
     m_exitCode = problem.isEmpty() ? 0 : 1;
     OnEnd(problem);
+    // A step that is waiting leaves its wait, so that the loop below can end.
+    m_app.state.blnClosing = true;
     m_app.platform.Shell().Quit();
 }
 

@@ -54,6 +54,11 @@ public:
     void Press(const char* form, const char* name);
     void Choose(const char* menuItem);
     void Type(const char* form, const char* name, const QString& text);
+    void ChooseItem(const char* form, const char* name, const QString& item);
+    // So that the page gets the keys; which of its fields does, the page decides.
+    void FocusPage();
+    // Key by key into the page that the main window shows; "\n" is Enter.
+    void TypeIntoPage(const QString& text);
     // One line of the run's story, with the seconds since its beginning.
     void Say(const QString& text) const;
 
@@ -66,6 +71,7 @@ protected:
 private:
     void Look();
     bool AnswerBox();
+    QWidget* Page() const;
 
     std::vector<Step> m_steps;
     size_t m_next = 0;
