@@ -76,7 +76,8 @@ public:
     PassCost();
     ~PassCost() { dialogs.Detach(); }
 
-    void Measure(int times);
+    // only: the name of one expectation; all when it is empty.
+    void Measure(int times, const QString& only);
     bool Report() const;
 
 private:
@@ -166,14 +167,15 @@ void PassCost::MeasureOnce(int size, const Expectation& expectation, Taken& into
     into.laterMs.push_back(Pass(expectation, into.laterCalls));
 }
 
-void PassCost::Measure(int times) {
+void PassCost::Measure(int times, const QString& only) {
     // The first of all starts the engine's processes.
     Taken warmUp;
     MeasureOnce(PageSizes.front(), Expectations().front(), warmUp);
     for (int i = 0; i < times; ++i)
         for (const int size : PageSizes)
             for (const Expectation& expectation : Expectations())
-                MeasureOnce(size, expectation, taken[{size, expectation.name}]);
+                if (only.isEmpty() || only == QString::fromLatin1(expectation.name))
+                    MeasureOnce(size, expectation, taken[{size, expectation.name}]);
 }
 
 bool PassCost::Report() const {
@@ -204,7 +206,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     qlm::PassCost cost;
-    cost.Measure(argc > 1 ? std::atoi(argv[1]) : 9);
+    cost.Measure(argc > 1 ? std::atoi(argv[1]) : 9, QString::fromLocal8Bit(argc > 2 ? argv[2] : ""));
     std::printf(cost.Report() ? "goals met\n" : "goals MISSED\n");
     return 0;
 }

@@ -113,6 +113,33 @@ TEST_F(EngineReading, ALookWithItsQuestionIsOneCall) {
     EXPECT_EQ(callsOfALook(), 1);
 }
 
+// What has been answered stands as long as the page does, and no longer: a link may be added, or be sent elsewhere, and
+// the address to which all of them are relative may change.
+TEST_F(EngineReading, AQuestionIsAnsweredAnewWhenThePageHasChanged) {
+    Serve(u"/list"_s, ListPage(3));
+    ASSERT_TRUE(Open(u"/list"_s));
+    auto* view = qobject_cast<QWebEngineView*>(browser->View());
+    const auto isThere = [&](const QString& href) {
+        pump.Queue().EndTurn();
+        const Question address{ElementSet::Links, {}, ElementText::Href, Question::Match::Equals, href};
+        const Document document = browser->Document();
+        document.Foresee({{address}, {}, false});
+        return document.Any(address);
+    };
+    const auto run = [&](const QString& script) { view->page()->runJavaScript(script); };
+    EXPECT_FALSE(isThere(u"http://www.example.com/new"_s));
+    run(u"document.body.insertAdjacentHTML('beforeend', '<a id=n href=http://www.example.com/new>n</a>')"_s);
+    EXPECT_TRUE(isThere(u"http://www.example.com/new"_s));
+    run(u"document.getElementById('n').href = 'http://www.example.com/other'"_s);
+    EXPECT_FALSE(isThere(u"http://www.example.com/new"_s));
+    EXPECT_TRUE(isThere(u"http://www.example.com/other"_s));
+    run(u"document.getElementById('n').setAttribute('href', 'more')"_s);
+    EXPECT_TRUE(isThere(server.Address(u"/more"_s)));
+    run(u"history.pushState(null, '', '/deep/page')"_s);
+    EXPECT_FALSE(isThere(server.Address(u"/more"_s)));
+    EXPECT_TRUE(isThere(server.Address(u"/deep/more"_s)));
+}
+
 TEST_F(EngineReading, TwentyThousandLinksAreRead) {
     QByteArray page = "<body>";
     for (int i = 0; i < 20'000; ++i)

@@ -105,8 +105,10 @@
         return shell.slice(0, shell.lastIndexOf('</'));
     }
 
-    // Markup and lists come from the tree alone, so that they stand as long as nothing in the tree changes.
-    // The text does not: styles decide what of it can be seen.
+    // Markup, lists and the properties ofTree come from the tree and the page's address alone, so that they stand
+    // as long as neither changes. The text does not: styles decide what of it can be seen.
+    const ofTree = new Set(['Href', 'NameProp', 'Src', 'Name', 'Id']);
+    const answered = new Map();
     let version = 0;
     let isTreeWatched = false;
     let lastAddress = '';
@@ -124,6 +126,7 @@
         lastAddress = location.href;
         isTreeWatched = true;
         treeWatcher.observe(document, everyChange);
+        answered.clear();
         return ++version;
     }
 
@@ -143,6 +146,16 @@
         return false;
     }
 
+    // For the version of the tree that stands.
+    function answer(question) {
+        if (!ofTree.has(question[2]))
+            return any(question);
+        const key = JSON.stringify(question);
+        if (!answered.has(key))
+            answered.set(key, any(question));
+        return answered.get(key);
+    }
+
     // Nobody reads a page to its end that is longer than this, and neither does the program: what it searches a
     // page for would hold up its window.
     const longest = 6 * 1024 * 1024;
@@ -157,7 +170,7 @@
             version: treeVersion(),
             body: number(body),
             text: body ? shortened(visibleText(body)) : '',
-            answers: questions.map(any)
+            answers: questions.map(answer)
         };
         if (seen.version === known)
             return seen;
@@ -210,7 +223,7 @@
         let items = found;
         if (level > 0)
             items = [...new Set(Array.from(found, element => ancestor(element, level)))].filter(Boolean);
-        const nodes = list(items);
+        const nodes = ranges(items);
         return [nodes, property ? texts(items, property, budget) : pack([])];
     }
 
