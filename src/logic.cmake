@@ -95,6 +95,7 @@ add_library(quillmere_logic STATIC
     campaigns/RefusalTexts.cpp
     campaigns/ReportDialog.cpp
     campaigns/ReportRows.cpp
+    campaigns/RequestFields.cpp
     campaigns/RequestSubmission.cpp
     campaigns/RunReport.cpp
     campaigns/SendRuns.cpp

@@ -137,7 +137,7 @@ public:
     QString Href() const { return Read(ElementText::Href); }
     QString TagName() const { return Read(ElementText::TagName); }
     // The pseudo attributes "innertext", "innerhtml", "outerhtml" and "class" read the property, in any
-    // letter case.
+    // letter case; "checked" is "checked" while the box is ticked, otherwise empty.
     QString GetAttribute(const QString& name) const {
         return IsNull() ? QString() : m_document->Attribute(m_node, name);
     }

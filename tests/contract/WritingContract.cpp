@@ -143,6 +143,17 @@ TEST_F(WritingContract, AClickTogglesABoxAndChoosesAButton) {
     EXPECT_EQ(browser.LocationURL(), At(u"sent?box=on&pick=b"_s));
 }
 
+TEST_F(WritingContract, ATickIsReadAsItIsNowAndNotAsThePageBegan) {
+    Show(u"<input type=checkbox id=off><input type=checkbox id=on checked><p id=none>x</p>"_s);
+    EXPECT_EQ(ById(u"off"_s).GetAttribute(u"checked"_s), QString());
+    EXPECT_EQ(ById(u"on"_s).GetAttribute(u"Checked"_s), u"checked"_s);
+    EXPECT_EQ(ById(u"none"_s).GetAttribute(u"checked"_s), QString());
+    ById(u"off"_s).Click();
+    ById(u"on"_s).Click();
+    EXPECT_EQ(ById(u"off"_s).GetAttribute(u"checked"_s), u"checked"_s);
+    EXPECT_EQ(ById(u"on"_s).GetAttribute(u"checked"_s), QString());
+}
+
 TEST_F(WritingContract, WhatAClickShowsLaterIsSeenLater) {
     Show(u"<button type=button id=go onclick=\"setTimeout(function(){"
          "document.getElementById('late').style.display='block'}, 150)\" data-on-click='after 150ms show "

@@ -292,6 +292,8 @@ QString PageDocument::Attribute(int node, const QString& name) {
     for (const PseudoAttribute& pseudo : pseudoAttributes)
         if (name.compare(QLatin1String(pseudo.name), Qt::CaseInsensitive) == 0)
             return Read(node, pseudo.which);
+    if (name.compare("checked"_L1, Qt::CaseInsensitive) == 0)
+        return Call(u"checked"_s, {node}).toBool() ? u"checked"_s : QString();
     if (const PageTree* tree = Places())
         if (const int place = tree->PlaceOf(node); place >= 0)
             return tree->Outline().Attribute(place, name).value_or(QString());

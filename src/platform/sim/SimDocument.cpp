@@ -201,6 +201,8 @@ QString SimDocument::Attribute(int node, const QString& name) {
     for (const PseudoAttribute& pseudo : pseudoAttributes)
         if (name.compare(pseudo.name, Qt::CaseInsensitive) == 0)
             return Read(node, pseudo.property);
+    if (name.compare("checked"_L1, Qt::CaseInsensitive) == 0)
+        return IsChecked(m_tree, node) ? u"checked"_s : QString();
     return m_tree.Attribute(node, name);
 }
 

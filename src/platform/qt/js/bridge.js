@@ -318,6 +318,7 @@
         version: treeVersion,
         byId: name => number(byId(document, name)),
         attribute: (known, name) => text(attribute(node(known), name)),
+        checked: known => node(known).checked === true,
         hasAttribute: (known, name) => hasAttribute(node(known), name),
         descendants: (known, tag) => list(descendants(node(known), tag)),
         activeElement: () => number(activeOf(document)),
