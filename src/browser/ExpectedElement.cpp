@@ -175,6 +175,14 @@ const std::vector<TextRider>& TextRiders() {
     return rows;
 }
 
+// A request page that is opened once more behind a refused answer may send without its button, or ask with
+// another one.
+bool AsksOrSendsWithoutButton(App& app) {
+    return app.state.CurrentAction == u"FR"_s && app.state.intFRStep == 8 &&
+           Awaits(app.state, u"addFrdBtn"_s) &&
+           (app.pageTests->IsRequestSentPage() || app.pageTests->IsCaptchaPage());
+}
+
 } // namespace
 
 // On a list page that is whatever the recognition of profile links asks of each link.
@@ -200,7 +208,8 @@ bool FindExpectedElement(App& app) {
     const auto isType = [&state](const LinkTypeRow& row) { return state.strLinkType == row.type; };
     const auto type = std::find_if(LinkTypes().begin(), LinkTypes().end(), isType);
     bool found = IsAnyTrue(app, AboutExpectation(state)) ||
-                 (type != LinkTypes().end() && type->isThere(app, state.strLinkValue)) || IsFolderEmpty(app);
+                 (type != LinkTypes().end() && type->isThere(app, state.strLinkValue)) ||
+                 IsFolderEmpty(app) || AsksOrSendsWithoutButton(app);
     if (state.strLinkType == u"Text"_s)
         for (const TextRider rider : TextRiders())
             found = rider(app, found) || found;
