@@ -26,6 +26,8 @@ QGroupBox* LimitFrame() {
     limit->setMaximumWidth(limit->fontMetrics().averageCharWidth() * 14);
     auto* period = Named(new QComboBox, "cboFRPerDayOrSession"_L1, u"Limit counts for"_s);
     period->addItems({u"this session"_s, u"per day"_s});
+    period->setToolTip(u"If you select \"per day\" then QLM takes all your sending activity into account and "
+                       "ensures you don't send too much in a 24-hour period"_s);
     auto* caption = new QLabel(u"S&end at most"_s);
     caption->setBuddy(limit);
 

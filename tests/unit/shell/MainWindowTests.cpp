@@ -162,6 +162,13 @@ TEST_F(MainWindowTest, TheCategoryIsShownAndSaysWhatItIsGoodFor) {
         EXPECT_EQ(Named<QWidget>(name)->toolTip(), u"This setting appears on the friend request page"_s);
 }
 
+TEST_F(MainWindowTest, TheLimitSaysWhatADayCounts) {
+    EXPECT_EQ(
+        Named<QComboBox>("cboFRPerDayOrSession")->toolTip(),
+        u"If you select \"per day\" then QLM takes all your sending activity into account and ensures you "
+        "don't send too much in a 24-hour period"_s);
+}
+
 TEST_F(MainWindowTest, EveryWayOfGatheringIsShown) {
     for (const char* name : {"optScanCurrentPage", "optScanFollowing", "optScanGoogle",
                              "optImportClickedProfiles", "piccmdBlackList", "picRemoveFriends"})
