@@ -9,6 +9,7 @@
 #include "core/Text.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace qlm {
 
@@ -25,19 +26,22 @@ struct DailyCounter {
 
 // A new day writes the status counter's 0 under a key of its own, so the stored one stands until it is next
 // saved.
-constexpr DailyCounter DailyCounters[] = {
-    {"Daily Friends Count", "Daily Friends Count", &RunState::lngDailyFR, "lblFrTotalToday"_L1},
-    {"Daily Messages Count", "Daily Messages Count", &RunState::lngDailyMsg, "lblMsgTotalToday"_L1},
-    {"Daily Comments Count", "Daily Comments Count", &RunState::lngDailyCom, "lblComTotalToday"_L1},
-    {"Daily Bulletins Count", "Daily Bulletins Count", &RunState::lngDailyBul, {}},
-    {"Daily Event Invites Count", "Daily Event Invites Count", &RunState::lngDailyEventInvites, {}},
-    {"Daily Group Invites Count", "Daily Group Invites Count", &RunState::lngDailyGroupInvites, {}},
-    {"Daily Friend Request Accept Count",
-     "Daily Friend Request Accept Count",
-     &RunState::lngDailyAccepted,
-     {}},
-    {"Daily Statuses Count", "Daily Status Updates Count", &RunState::lngDailyStatus, {}},
-};
+const std::vector<DailyCounter>& DailyCounters() {
+    static const std::vector<DailyCounter> rows{
+        {"Daily Friends Count", "Daily Friends Count", &RunState::lngDailyFR, "lblFrTotalToday"_L1},
+        {"Daily Messages Count", "Daily Messages Count", &RunState::lngDailyMsg, "lblMsgTotalToday"_L1},
+        {"Daily Comments Count", "Daily Comments Count", &RunState::lngDailyCom, "lblComTotalToday"_L1},
+        {"Daily Bulletins Count", "Daily Bulletins Count", &RunState::lngDailyBul, {}},
+        {"Daily Event Invites Count", "Daily Event Invites Count", &RunState::lngDailyEventInvites, {}},
+        {"Daily Group Invites Count", "Daily Group Invites Count", &RunState::lngDailyGroupInvites, {}},
+        {"Daily Friend Request Accept Count",
+         "Daily Friend Request Accept Count",
+         &RunState::lngDailyAccepted,
+         {}},
+        {"Daily Statuses Count", "Daily Status Updates Count", &RunState::lngDailyStatus, {}},
+    };
+    return rows;
+}
 
 const QString DayKey = u"Daily Limit - Date"_s;
 
@@ -55,7 +59,7 @@ void ShowToday(App& app, const DailyCounter& counter) {
 }
 
 const DailyCounter& CounterOf(const Campaign& campaign) {
-    return *std::find_if(std::begin(DailyCounters), std::end(DailyCounters),
+    return *std::find_if(DailyCounters().begin(), DailyCounters().end(),
                          [&](const DailyCounter& counter) { return counter.count == campaign.daily; });
 }
 
@@ -87,7 +91,7 @@ void Counters::Restore() {
 }
 
 void Counters::Clear() {
-    for (const DailyCounter& counter : DailyCounters) {
+    for (const DailyCounter& counter : DailyCounters()) {
         m_app.state.*counter.count = 0;
         m_app.platform.Settings().SaveSetting(CountersSection(m_app), QString::fromLatin1(counter.resetKey),
                                               u"0"_s);
@@ -97,7 +101,7 @@ void Counters::Clear() {
 
 void Counters::Read() {
     const SettingsStore& settings = m_app.platform.Settings();
-    for (const DailyCounter& counter : DailyCounters) {
+    for (const DailyCounter& counter : DailyCounters()) {
         const QString value =
             settings.GetSetting(CountersSection(m_app), QString::fromLatin1(counter.key), u"0"_s);
         m_app.state.*counter.count = ToLong(value).value_or(0);

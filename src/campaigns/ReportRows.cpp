@@ -2,6 +2,7 @@
 #include "campaigns/ReportRows.h"
 
 #include <QHash>
+#include <vector>
 
 namespace qlm {
 
@@ -20,20 +21,23 @@ struct ResultName {
     QLatin1StringView text;
 };
 
-constexpr ResultName ResultNames[] = {
-    {ReportResult::Sent, "sent"_L1, "Sent"_L1},
-    {ReportResult::SentNotLogged, "unlogged"_L1, "Sent, not logged"_L1},
-    {ReportResult::Skipped, "skipped"_L1, "Skipped"_L1},
-    {ReportResult::PutOff, "putoff"_L1, "Put off"_L1},
-    {ReportResult::Failed, "failed"_L1, "Failed"_L1},
-    {ReportResult::Unfinished, "unfinished"_L1, "Unfinished"_L1},
-};
+const std::vector<ResultName>& ResultNames() {
+    static const std::vector<ResultName> rows{
+        {ReportResult::Sent, "sent"_L1, "Sent"_L1},
+        {ReportResult::SentNotLogged, "unlogged"_L1, "Sent, not logged"_L1},
+        {ReportResult::Skipped, "skipped"_L1, "Skipped"_L1},
+        {ReportResult::PutOff, "putoff"_L1, "Put off"_L1},
+        {ReportResult::Failed, "failed"_L1, "Failed"_L1},
+        {ReportResult::Unfinished, "unfinished"_L1, "Unfinished"_L1},
+    };
+    return rows;
+}
 
 const ResultName& NameOf(ReportResult result) {
-    for (const ResultName& name : ResultNames)
+    for (const ResultName& name : ResultNames())
         if (name.result == result)
             return name;
-    return ResultNames[0];
+    return ResultNames().front();
 }
 
 // Nothing in a field may look like the end of it.
@@ -79,7 +83,7 @@ private:
         m_runs.last().how = how;
     }
     void TakeResult(const QStringList& fields) {
-        for (const ResultName& name : ResultNames)
+        for (const ResultName& name : ResultNames())
             if (fields[0] == name.word)
                 Put({fields[1].toInt(), fields[2], fields[3], name.result, fields[4].toInt(), fields[5]});
     }

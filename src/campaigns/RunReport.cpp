@@ -4,6 +4,8 @@
 #include "campaigns/SentLog.h"
 #include "core/App.h"
 
+#include <vector>
+
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,18 +23,21 @@ struct EndRow {
     const char* why;
 };
 
-constexpr EndRow EndRows[] = {
-    {"IAF"_L1, "All targets were gone through", ReportResult::Unfinished, ""},
-    {"AFC"_L1, "Your limit was reached", ReportResult::SentNotLogged,
-     "The request that met your limit: it is sent, but neither counted nor logged"},
-    {"LF2"_L1, "The site's daily limit was reached", ReportResult::Failed, ""},
-    {"ADDSTOP"_L1, "You pressed Stop", ReportResult::Unfinished, "You pressed Stop"},
-    {"MAINSTOP"_L1, "You pressed Stop", ReportResult::Unfinished, "You pressed Stop"},
-    {"FU"_L1, "The program was closed", ReportResult::Unfinished, "The program was closed"},
-};
+const std::vector<EndRow>& EndRows() {
+    static const std::vector<EndRow> rows{
+        {"IAF"_L1, "All targets were gone through", ReportResult::Unfinished, ""},
+        {"AFC"_L1, "Your limit was reached", ReportResult::SentNotLogged,
+         "The request that met your limit: it is sent, but neither counted nor logged"},
+        {"LF2"_L1, "The site's daily limit was reached", ReportResult::Failed, ""},
+        {"ADDSTOP"_L1, "You pressed Stop", ReportResult::Unfinished, "You pressed Stop"},
+        {"MAINSTOP"_L1, "You pressed Stop", ReportResult::Unfinished, "You pressed Stop"},
+        {"FU"_L1, "The program was closed", ReportResult::Unfinished, "The program was closed"},
+    };
+    return rows;
+}
 
 EndRow RowFor(const QString& reason) {
-    for (const EndRow& row : EndRows)
+    for (const EndRow& row : EndRows())
         if (reason == row.reason)
             return row;
     return {{}, "The run was ended", ReportResult::Unfinished, "The run was ended"};

@@ -6,6 +6,8 @@
 #include "core/MainForm.h"
 #include "core/Text.h"
 
+#include <vector>
+
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
@@ -91,100 +93,125 @@ constexpr StartCheck ShuffleCheck{ListIsShuffled,
                                   u"QLM is still busy randomizing your gathered ID's list, please wait until "
                                   u"the list is loaded and try again"};
 
-constexpr StartCheck FriendRequestChecks[] = {
-    LoginCheck,
-    ShuffleCheck,
-    {ListIsEmpty,
-     u"Your Gathered ID's List is Empty!\nFirst you need to go to a page in the browser and, using the "
-     u"'Gather IDs' tab, extract the profiles you would like to send friend requests to.\nQuillmere will now "
-     u"switch to the Gather ID's tab.",
-     "", u"Gather ID's"},
-    {[](const App& app) { return IsNoNumber(app, "txtFriendRequestsToSend"_L1); },
-     u"Please specify a numeric value for the number of friend requests to send.\nYou can leave the entry "
-     u"blank to send an unlimited number of requests.",
-     "txtFriendRequestsToSend"},
-    {[](const App& app) { return SendsMessageBehind(app) && IsBlank(app, "txtMsgSubject"_L1); },
-     u"You have selected to send a message after each friend request. Please enter subject for the message.",
-     "txtMsgSubject", u"Auto Messenger"},
-    {[](const App& app) { return SendsMessageBehind(app) && IsBlank(app, "txtMsgMessage"_L1); },
-     u"You have selected to send a message after each friend request. Please enter a message.",
-     "txtMsgMessage", u"Auto Messenger"},
-    {LacksCategory,
-     u"You have selected to add the requested friends to a category, but no category has been selected.",
-     "cboFRCategories"},
-    {[](const App& app) { return SendsMessageBehind(app) && Messages::ListLacksEntries(app); },
-     u"You have selected to send a message with the friend request. On the messenger tab you selected 'send "
-     u"from list', but you havent added any messages to the list yet."},
-    {[](const App& app) { return SendsMessageBehind(app) && Messages::ListLacksSelected(app); },
-     u"You have selected to send a message with the friend request. On the messenger tab you selected 'send "
-     u"from list', but you havent selected any of the messages in your list."},
-    // Requests without the message that was asked for would be gone for good.
-    {[](const App& app) { return SendsMessageBehind(app) && !app.commands.Has(u"picCmdMsgSend_Click"_s); },
-     u"You have selected to send a message after each friend request, but this version of Quillmere has no "
-     u"Auto Messenger yet. No friend requests have been sent."},
-};
+const std::vector<StartCheck>& FriendRequestChecks() {
+    static const std::vector<StartCheck> rows{
+        LoginCheck,
+        ShuffleCheck,
+        {ListIsEmpty,
+         u"Your Gathered ID's List is Empty!\nFirst you need to go to a page in the browser and, using the "
+         u"'Gather IDs' tab, extract the profiles you would like to send friend requests to.\nQuillmere will "
+         u"now "
+         u"switch to the Gather ID's tab.",
+         "", u"Gather ID's"},
+        {[](const App& app) { return IsNoNumber(app, "txtFriendRequestsToSend"_L1); },
+         u"Please specify a numeric value for the number of friend requests to send.\nYou can leave the "
+         u"entry "
+         u"blank to send an unlimited number of requests.",
+         "txtFriendRequestsToSend"},
+        {[](const App& app) { return SendsMessageBehind(app) && IsBlank(app, "txtMsgSubject"_L1); },
+         u"You have selected to send a message after each friend request. Please enter subject for the "
+         u"message.",
+         "txtMsgSubject", u"Auto Messenger"},
+        {[](const App& app) { return SendsMessageBehind(app) && IsBlank(app, "txtMsgMessage"_L1); },
+         u"You have selected to send a message after each friend request. Please enter a message.",
+         "txtMsgMessage", u"Auto Messenger"},
+        {LacksCategory,
+         u"You have selected to add the requested friends to a category, but no category has been selected.",
+         "cboFRCategories"},
+        {[](const App& app) { return SendsMessageBehind(app) && Messages::ListLacksEntries(app); },
+         u"You have selected to send a message with the friend request. On the messenger tab you selected "
+         u"'send "
+         u"from list', but you havent added any messages to the list yet."},
+        {[](const App& app) { return SendsMessageBehind(app) && Messages::ListLacksSelected(app); },
+         u"You have selected to send a message with the friend request. On the messenger tab you selected "
+         u"'send "
+         u"from list', but you havent selected any of the messages in your list."},
+        // Requests without the message that was asked for would be gone for good.
+        {[](const App& app) {
+             return SendsMessageBehind(app) && !app.commands.Has(u"picCmdMsgSend_Click"_s);
+         },
+         u"You have selected to send a message after each friend request, but this version of Quillmere has "
+         u"no "
+         u"Auto Messenger yet. No friend requests have been sent."},
+    };
+    return rows;
+}
 
-constexpr StartCheck MessageChecks[] = {
-    LoginCheck,
-    ShuffleCheck,
-    {[](const App& app) { return LacksText<Messages>(app, "txtMsgSubject"_L1); },
-     u"Please enter subject for the message.", "txtMsgSubject"},
-    {[](const App& app) { return LacksText<Messages>(app, "txtMsgMessage"_L1); }, u"Please enter a message.",
-     "txtMsgMessage"},
-    {[](const App& app) { return IsNoNumber(app, "txtMsgStopAt"_L1); },
-     u"Please enter a valid 'stop at' number, or leave it blank for unlimited messages", "txtMsgStopAt"},
-    {ListIsEmpty,
-     u"Your Gathered ID's List is Empty!\nFirst you need to go to a page in the browser and, using the "
-     u"'Gather IDs' tab, extract the profiles you would like to send messages to.\nQuillmere will now switch "
-     u"to the Gather ID's tab.",
-     "", u"Gather ID's"},
-    {Messages::ListLacksEntries,
-     u"You have selected 'send from list', but you havent added any messages to the list yet."},
-    {Messages::ListLacksSelected, u"Please select at least one message in the list to send."},
-};
+const std::vector<StartCheck>& MessageChecks() {
+    static const std::vector<StartCheck> rows{
+        LoginCheck,
+        ShuffleCheck,
+        {[](const App& app) { return LacksText<Messages>(app, "txtMsgSubject"_L1); },
+         u"Please enter subject for the message.", "txtMsgSubject"},
+        {[](const App& app) { return LacksText<Messages>(app, "txtMsgMessage"_L1); },
+         u"Please enter a message.", "txtMsgMessage"},
+        {[](const App& app) { return IsNoNumber(app, "txtMsgStopAt"_L1); },
+         u"Please enter a valid 'stop at' number, or leave it blank for unlimited messages", "txtMsgStopAt"},
+        {ListIsEmpty,
+         u"Your Gathered ID's List is Empty!\nFirst you need to go to a page in the browser and, using the "
+         u"'Gather IDs' tab, extract the profiles you would like to send messages to.\nQuillmere will now "
+         u"switch "
+         u"to the Gather ID's tab.",
+         "", u"Gather ID's"},
+        {Messages::ListLacksEntries,
+         u"You have selected 'send from list', but you havent added any messages to the list yet."},
+        {Messages::ListLacksSelected, u"Please select at least one message in the list to send."},
+    };
+    return rows;
+}
 
-constexpr StartCheck CommentChecks[] = {
-    LoginCheck,
-    ShuffleCheck,
-    {ListIsEmpty,
-     u"Your Gathered ID's List is Empty!\nFirst you need to go to a page in the browser and, using the "
-     u"'Gather IDs' tab, extract the profiles you would like to send comments to.\nQuillmere will now switch "
-     u"to the Gather ID's tab.",
-     "", u"Gather ID's"},
-    {[](const App& app) { return LacksText<Comments>(app, "txtComment"_L1); }, u"Please enter a comment.",
-     "txtComment"},
-    {[](const App& app) { return !Comments::FromList(app) && LacksAlternative(app); },
-     u"Please enter an alternate non-HTML comment, or disable the setting.", "txtCommentNonHTML"},
-    {[](const App& app) { return IsNoNumber(app, "txtComStopAt"_L1); },
-     u"Please enter a valid number of comments to send.", "txtComStopAt"},
-    {Comments::ListLacksEntries,
-     u"You have selected 'send from list', but you havent added any comments to the list yet."},
-    {Comments::ListLacksSelected, u"Please select at least one comment in the list to send."},
-};
+const std::vector<StartCheck>& CommentChecks() {
+    static const std::vector<StartCheck> rows{
+        LoginCheck,
+        ShuffleCheck,
+        {ListIsEmpty,
+         u"Your Gathered ID's List is Empty!\nFirst you need to go to a page in the browser and, using the "
+         u"'Gather IDs' tab, extract the profiles you would like to send comments to.\nQuillmere will now "
+         u"switch "
+         u"to the Gather ID's tab.",
+         "", u"Gather ID's"},
+        {[](const App& app) { return LacksText<Comments>(app, "txtComment"_L1); }, u"Please enter a comment.",
+         "txtComment"},
+        {[](const App& app) { return !Comments::FromList(app) && LacksAlternative(app); },
+         u"Please enter an alternate non-HTML comment, or disable the setting.", "txtCommentNonHTML"},
+        {[](const App& app) { return IsNoNumber(app, "txtComStopAt"_L1); },
+         u"Please enter a valid number of comments to send.", "txtComStopAt"},
+        {Comments::ListLacksEntries,
+         u"You have selected 'send from list', but you havent added any comments to the list yet."},
+        {Comments::ListLacksSelected, u"Please select at least one comment in the list to send."},
+    };
+    return rows;
+}
 
-constexpr StartCheck BulletinChecks[] = {
-    LoginCheck,
-    {[](const App& app) { return IsBelowOne(app, "txtPostAmount"_L1); },
-     u"Please specify how many times to post the bulletin.", "txtPostAmount"},
-    {[](const App& app) { return LacksText<Bulletins>(app, "txtBulSubject"_L1); }, u"Please enter a subject.",
-     "txtBulSubject"},
-    {[](const App& app) { return LacksText<Bulletins>(app, "txtBulMessage"_L1); }, u"Please enter a message.",
-     "txtBulMessage"},
-    {Bulletins::ListLacksEntries,
-     u"You have selected 'send from list', but you havent added any bulletins to the list yet."},
-    {Bulletins::ListLacksSelected, u"Please select at least one bulletin in the list to post."},
-};
+const std::vector<StartCheck>& BulletinChecks() {
+    static const std::vector<StartCheck> rows{
+        LoginCheck,
+        {[](const App& app) { return IsBelowOne(app, "txtPostAmount"_L1); },
+         u"Please specify how many times to post the bulletin.", "txtPostAmount"},
+        {[](const App& app) { return LacksText<Bulletins>(app, "txtBulSubject"_L1); },
+         u"Please enter a subject.", "txtBulSubject"},
+        {[](const App& app) { return LacksText<Bulletins>(app, "txtBulMessage"_L1); },
+         u"Please enter a message.", "txtBulMessage"},
+        {Bulletins::ListLacksEntries,
+         u"You have selected 'send from list', but you havent added any bulletins to the list yet."},
+        {Bulletins::ListLacksSelected, u"Please select at least one bulletin in the list to post."},
+    };
+    return rows;
+}
 
-constexpr StartCheck StatusChecks[] = {
-    LoginCheck,
-    {[](const App& app) { return IsBelowOne(app, "txtStatusPostAmount"_L1); },
-     u"Please specify how many status updates to post in total.", "txtStatusPostAmount"},
-    {[](const App& app) { return LacksText<Statuses>(app, "txtStatusBody"_L1); },
-     u"Please enter a status update.", "txtStatusBody"},
-    {Statuses::ListLacksEntries,
-     u"You have selected 'send from list', but you havent added any statuses to the list yet."},
-    {Statuses::ListLacksSelected, u"Please select at least one status in the list to post."},
-};
+const std::vector<StartCheck>& StatusChecks() {
+    static const std::vector<StartCheck> rows{
+        LoginCheck,
+        {[](const App& app) { return IsBelowOne(app, "txtStatusPostAmount"_L1); },
+         u"Please specify how many status updates to post in total.", "txtStatusPostAmount"},
+        {[](const App& app) { return LacksText<Statuses>(app, "txtStatusBody"_L1); },
+         u"Please enter a status update.", "txtStatusBody"},
+        {Statuses::ListLacksEntries,
+         u"You have selected 'send from list', but you havent added any statuses to the list yet."},
+        {Statuses::ListLacksSelected, u"Please select at least one status in the list to post."},
+    };
+    return rows;
+}
 
 void Refuse(App& app, const StartCheck& check) {
     app.ShowMessage(QString::fromUtf16(check.message));
@@ -195,7 +222,7 @@ void Refuse(App& app, const StartCheck& check) {
         app.controls.SetFocus(QLatin1StringView(check.focus));
 }
 
-template <size_t count> bool Passes(App& app, const StartCheck (&checks)[count]) {
+bool Passes(App& app, const std::vector<StartCheck>& checks) {
     for (const StartCheck& check : checks)
         if (check.fails(app)) {
             Refuse(app, check);
@@ -208,12 +235,12 @@ template <size_t count> bool Passes(App& app, const StartCheck (&checks)[count])
 
 bool CampaignMayStart(App& app, const QString& campaign) {
     if (campaign == u"FR"_s)
-        return Passes(app, FriendRequestChecks);
+        return Passes(app, FriendRequestChecks());
     if (campaign == u"MSG"_s)
-        return Passes(app, MessageChecks);
+        return Passes(app, MessageChecks());
     if (campaign == u"COM"_s)
-        return Passes(app, CommentChecks);
-    return campaign == u"BUL"_s ? Passes(app, BulletinChecks) : Passes(app, StatusChecks);
+        return Passes(app, CommentChecks());
+    return campaign == u"BUL"_s ? Passes(app, BulletinChecks()) : Passes(app, StatusChecks());
 }
 
 } // namespace qlm

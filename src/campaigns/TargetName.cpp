@@ -5,6 +5,7 @@
 #include "core/Text.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace qlm {
 
@@ -73,11 +74,14 @@ struct NamePlace {
     QString (*newLayout)(App&, const QString& html);
 };
 
-constexpr NamePlace NamePlaces[] = {
-    {"Message"_L1, NameInMessageOld, NameInMessageNew},
-    {"Comment"_L1, NameInCommentOld, NameInCommentNew},
-    {"Friend Request"_L1, NameInRequestOld, NameInRequestNew},
-};
+const std::vector<NamePlace>& NamePlaces() {
+    static const std::vector<NamePlace> rows{
+        {"Message"_L1, NameInMessageOld, NameInMessageNew},
+        {"Comment"_L1, NameInCommentOld, NameInCommentNew},
+        {"Friend Request"_L1, NameInRequestOld, NameInRequestNew},
+    };
+    return rows;
+}
 
 bool BelongsToName(QChar c) {
     return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || (c >= u'0' && c <= u'9') || c == u'-' ||
@@ -96,7 +100,7 @@ QString CleanTargetName(const QString& name) {
 QString GetTargetName(App& app, const QString& html, const QString& kind) {
     QString name;
     app.diagnostics.Trap("GetTargetName", [&] {
-        for (const NamePlace& place : NamePlaces)
+        for (const NamePlace& place : NamePlaces())
             if (kind == place.kind)
                 // Blanks around it belong to the page and not to the name.
                 name = CleanTargetName(

@@ -6,6 +6,8 @@
 #include "core/SettingsFields.h"
 #include "core/Text.h"
 
+#include <vector>
+
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
@@ -52,14 +54,17 @@ struct Refusal {
     const char16_t* message;
 };
 
-constexpr Refusal Refusals[] = {
-    {ContentKind::Message, &ContentFields::subject, u"Please enter the message subject"},
-    {ContentKind::Message, &ContentFields::text, u"Please enter the message body"},
-    {ContentKind::Bulletin, &ContentFields::subject, u"Please enter the bulletin subject"},
-    {ContentKind::Bulletin, &ContentFields::text, u"Please enter the bulletin body"},
-    {ContentKind::Comment, &ContentFields::text, u"Please enter the comment to save"},
-    {ContentKind::Status, &ContentFields::text, u"Please enter the status update"},
-};
+const std::vector<Refusal>& Refusals() {
+    static const std::vector<Refusal> rows{
+        {ContentKind::Message, &ContentFields::subject, u"Please enter the message subject"},
+        {ContentKind::Message, &ContentFields::text, u"Please enter the message body"},
+        {ContentKind::Bulletin, &ContentFields::subject, u"Please enter the bulletin subject"},
+        {ContentKind::Bulletin, &ContentFields::text, u"Please enter the bulletin body"},
+        {ContentKind::Comment, &ContentFields::text, u"Please enter the comment to save"},
+        {ContentKind::Status, &ContentFields::text, u"Please enter the status update"},
+    };
+    return rows;
+}
 
 // A line that begins with the word counts as having no subject and is no entry.
 bool IsEntry(const QString& line, const QString& word) {
@@ -162,7 +167,7 @@ void ContentLists::FillMainLists() {
 }
 
 bool ContentLists::SaveEntry(ContentKind kind, const ContentFields& fields, const ContentFields* edited) {
-    for (const Refusal& refusal : Refusals)
+    for (const Refusal& refusal : Refusals())
         if (refusal.kind == kind && (fields.*refusal.field).trimmed().isEmpty()) {
             m_app.ShowMessage(QString::fromUtf16(refusal.message));
             return false;

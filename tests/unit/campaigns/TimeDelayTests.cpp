@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "SimulatedProgram.h"
 #include "campaigns/TimeDelayDialog.h"
 
-#include <gtest/gtest.h>
 #include <stdexcept>
 
 using namespace Qt::Literals::StringLiterals;
@@ -33,6 +33,59 @@ TEST(TimeDelaySeconds, SixHundredMinutesOverflow) {
 TEST(TimeDelaySeconds, WordsAreNoNumbers) {
     EXPECT_THROW(SecondsInInteger(u"one"_s, u"0"_s), std::invalid_argument);
     EXPECT_THROW(SecondsInInteger(u"0"_s, {}), std::invalid_argument);
+}
+
+class TimeDelayDialogTest : public SimulatedProgram {
+protected:
+    QStringList Fields() {
+        QStringList texts;
+        for (const auto field : {"frmTimeDelay.txtMinutes"_L1, "frmTimeDelay.txtSeconds"_L1,
+                                 "frmTimeDelay.txtMinutes2"_L1, "frmTimeDelay.txtSeconds2"_L1})
+            texts += app->controls.Text(field);
+        return texts;
+    }
+    void Store(const QString& key, const QString& value) {
+        world.settings.SaveSetting(u"Field Entries"_s, key, value);
+    }
+};
+
+TEST_F(TimeDelayDialogTest, EachFieldHasItsOwnKey) {
+    Store(u"txtTimeDelayMinutes"_s, u"1"_s);
+    Store(u"txtTimeDelaySeconds"_s, u"2"_s);
+    Store(u"txtTimeDelayMinutes2"_s, u"3"_s);
+    Store(u"txtTimeDelaySeconds2"_s, u"4"_s);
+    app->commands.Run(u"mnuTimeDelay_Click"_s);
+    EXPECT_EQ(Fields(), (QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s}));
+    app->controls.SetText("frmTimeDelay.txtSeconds2"_L1, u"5"_s);
+    app->commands.Run(u"frmTimeDelay.cmdOK_Click"_s);
+    QStringList stored;
+    for (const QString& key : {u"txtTimeDelayMinutes"_s, u"txtTimeDelaySeconds"_s, u"txtTimeDelayMinutes2"_s,
+                               u"txtTimeDelaySeconds2"_s})
+        stored += world.settings.GetSetting(u"Field Entries"_s, key, {});
+    EXPECT_EQ(stored, (QStringList{u"1"_s, u"2"_s, u"3"_s, u"5"_s}));
+    EXPECT_EQ(world.settings.GetSetting(u"General"_s, u"TimeDelayFrom"_s, {}), u"62"_s);
+    EXPECT_EQ(world.settings.GetSetting(u"General"_s, u"TimeDelayTo"_s, {}), u"185"_s);
+}
+
+TEST_F(TimeDelayDialogTest, TheSecondBoundTakesTheFirstOverOnlyWhileBothItsFieldsAreNothing) {
+    app->commands.Run(u"mnuTimeDelay_Click"_s);
+    EXPECT_EQ(Fields(), QStringList(4, u"0"_s));
+    Store(u"txtTimeDelayMinutes"_s, u"1"_s);
+    Store(u"txtTimeDelaySeconds"_s, u"2"_s);
+    app->commands.Run(u"mnuTimeDelay_Click"_s);
+    EXPECT_EQ(Fields(), (QStringList{u"1"_s, u"2"_s, u"1"_s, u"2"_s}));
+    Store(u"txtTimeDelaySeconds2"_s, u"4"_s);
+    app->commands.Run(u"mnuTimeDelay_Click"_s);
+    EXPECT_EQ(Fields(), (QStringList{u"1"_s, u"2"_s, u"0"_s, u"4"_s}));
+}
+
+TEST_F(TimeDelayDialogTest, OnlyTheFirstBoundsFieldsAreSetRightWhenTheyAreLeft) {
+    for (const auto field : {"txtMinutes"_L1, "txtSeconds"_L1, "txtMinutes2"_L1, "txtSeconds2"_L1}) {
+        const QByteArray name = QByteArray("frmTimeDelay.") + field.data();
+        app->controls.SetText(QLatin1StringView(name), u"x"_s);
+        app->commands.Run(QString::fromLatin1(name) + u"_LostFocus"_s);
+    }
+    EXPECT_EQ(Fields(), (QStringList{u"0"_s, u"0"_s, u"x"_s, u"x"_s}));
 }
 
 } // namespace
