@@ -38,6 +38,8 @@ void WindowDialogs::Detach() {
     for (const OpenForm& form : m_forms)
         delete form.widget.data();
     m_forms.clear();
+    // Those that were closed a moment ago wait for a loop that may not come.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     delete m_main.data();
     m_app = nullptr;
 }
