@@ -37,6 +37,7 @@ protected:
 TEST_F(BrowserHostTest, AnOrdinaryNavigationGoesOn) {
     Show(u"x"_s);
     EXPECT_FALSE(Cancels(u"http://{SiteRootHost}/ann"_s));
+    EXPECT_TRUE(trail.isEmpty()) << trail.join(u'|').toStdString();
 }
 
 TEST_F(BrowserHostTest, AnEmptyScriptLinkOfTheMailIsRefused) {
@@ -88,6 +89,7 @@ TEST_F(BrowserHostTest, AClickOnAProfileGathersItAndStays) {
     EXPECT_TRUE(Cancels(Profile.toUpper()));
     EXPECT_EQ(State().arrFriendIDs.ToStringList(), QStringList{u"77"_s});
     EXPECT_FALSE(Browser().RefusesNavigations());
+    EXPECT_TRUE(Said(u"CLICK-GATHER1 - "_s + Profile.toUpper()));
     EXPECT_TRUE(Said(u"CLICK-GATHER7 - ADD TO LIST"_s));
     // The same again: not twice, and still no navigation.
     EXPECT_TRUE(Cancels(Profile));
@@ -202,6 +204,25 @@ TEST_F(BrowserHostTest, OnlyALoginLooksAtWhatIsTyped) {
     EXPECT_EQ(Stored(u"txtPassword"_s), u"none"_s);
 }
 
+// A link may send the form by script: then the page itself tells what stands in it.
+TEST_F(BrowserHostTest, ALoginThatALinkSendsIsReadOffThePage) {
+    State().CurrentAction = u"LOGIN"_s;
+    const QString form = u"<input id=a_Email_Textbox value=' Zoe@Example.com '>"
+                         "<input id=a_Password_Textbox value=' word '>"_s;
+    Show(form);
+    EXPECT_FALSE(Cancels(u"http://login.site.example.com/go"_s));
+    EXPECT_FALSE(SaidBeginningWith(u"Navigate 2.3"_s));
+    Show(form + u"Forgot your password?"_s);
+    NavigationRequest frame;
+    frame.url = u"http://login.site.example.com/frame"_s;
+    frame.topLevel = false;
+    EXPECT_FALSE(Browser().events.beforeNavigate2(frame));
+    EXPECT_FALSE(SaidBeginningWith(u"Navigate 2.3"_s));
+    EXPECT_FALSE(Cancels(u"http://login.site.example.com/go"_s));
+    EXPECT_EQ(State().AccountEmail, u"zoe@example.com"_s);
+    EXPECT_EQ(State().AccountPassword, u"word"_s);
+}
+
 TEST_F(BrowserHostTest, ACompletePageIsCheckedAtOnce) {
     Show(u"wanted"_s);
     State().CurrentAction = u"BUL"_s;
@@ -244,6 +265,8 @@ TEST_F(BrowserHostTest, TheWatchdogIsSetByWhatThePageWas) {
     State().CurrentAction = u"BUL"_s;
     Await(u"Text"_s, u"wanted"_s);
     watchdog.SetEnabled(false);
+    Complete(false, Address());
+    EXPECT_EQ(watchdog.Interval(), 30000);
     app->timers->tmrCheckLinkLoaded.Restart();
     Complete(true, Address());
     EXPECT_EQ(watchdog.Interval(), 2000);
@@ -253,6 +276,28 @@ TEST_F(BrowserHostTest, TheWatchdogIsSetByWhatThePageWas) {
     State().CurrentAction = u"INV"_s;
     Complete(true, Address());
     EXPECT_EQ(watchdog.Interval(), 2000);
+    // A page that is the step's leaves it at the long one.
+    watchdog.SetEnabled(false);
+    State().CurrentAction = u"BUL"_s;
+    State().blnWaitingForCaptcha = true;
+    Await(u"Text"_s, u"x"_s);
+    Complete(true, Address());
+    EXPECT_TRUE(app->timers->Timer1.Enabled());
+    EXPECT_EQ(watchdog.Interval(), 30000);
+}
+
+TEST_F(BrowserHostTest, EveryCompletePageStartsTheWatchdogAnew) {
+    Show(u"x"_s);
+    Timer& watchdog = app->timers->tmrAutoResume;
+    watchdog.SetInterval(30000);
+    watchdog.Restart();
+    platform->Pump().RunFor(20000);
+    Complete(true, Address());
+    trail.clear();
+    platform->Pump().RunFor(20000);
+    EXPECT_TRUE(trail.isEmpty()) << trail.join(u'|').toStdString();
+    platform->Pump().RunFor(11000);
+    EXPECT_FALSE(trail.isEmpty());
 }
 
 TEST_F(BrowserHostTest, TheStatusLineHidesTheProgramsOwnPages) {

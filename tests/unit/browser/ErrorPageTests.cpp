@@ -18,6 +18,9 @@ protected:
         Show(page);
         State().CurrentAction = action;
         Await(u"Text"_s, u"wanted"_s);
+        return CheckHeld();
+    }
+    bool CheckHeld() {
         State().blnHoldLinkCheck = true;
         Browser().TakeVisited();
         return Check();
@@ -39,6 +42,7 @@ TEST_F(ErrorPageTest, ARefusedRequestIsGivenUp) {
     EXPECT_TRUE(SaidBeginningWith(u"cmdRes - "_s));
     EXPECT_EQ(State().lngFailedCount, 1);
     EXPECT_TRUE(WentOn());
+    EXPECT_TRUE(covers.startsWith(u'-')) << covers.toStdString();
     EXPECT_FALSE(covers.contains(u'+'));
 }
 
@@ -59,6 +63,7 @@ TEST_F(ErrorPageTest, TheThirdLimitPageIsBelieved) {
         EXPECT_TRUE(WentOn());
         EXPECT_EQ(State().lngFailedCount, 1);
         EXPECT_EQ(State().intFRLimitHits, page);
+        EXPECT_TRUE(covers.startsWith(u'-')) << covers.toStdString();
         EXPECT_TRUE(dialogs.messages.empty());
     }
     Show(Limit);
@@ -140,7 +145,11 @@ TEST_F(ErrorPageTest, AFailedMessageGoesToItsEnd) {
 TEST_F(ErrorPageTest, AFailedMessageGoesBackToTheRequestThatWaits) {
     State().strFRResumeURL = u"http://www.site.example.com/request"_s;
     State().intMsgStep = 9;
-    EXPECT_FALSE(Check(u"MSG"_s, Refusal));
+    Show(Refusal);
+    State().CurrentAction = u"MSG"_s;
+    Await(u"Button"_s, u"send"_s);
+    State().blnLinkFound = true;
+    EXPECT_FALSE(CheckHeld());
     EXPECT_EQ(State().CurrentAction, u"FR"_s);
     EXPECT_EQ(State().strLinkType + u' ' + State().strLinkValue, u"Text Request Sent!"_s);
     EXPECT_FALSE(State().blnLinkFound);
@@ -187,6 +196,25 @@ TEST_F(ErrorPageTest, ALoginThatSignsOutLoadsTheSiteAgain) {
     EXPECT_FALSE(Check(u"LOGIN"_s, Refusal));
     EXPECT_TRUE(Said(u"Maint2: 10"_s));
     EXPECT_EQ(Browser().TakeVisited(), QStringList{u"http://www.site.example.com/"_s});
+}
+
+// The old page is gone at once, however long the new one takes.
+TEST_F(ErrorPageTest, ALoginThatSignsOutClearsThePageFirst) {
+    world.web.SetFault(u"http://www.site.example.com/"_s, SimFault::Hang, 1);
+    State().intLoginStep = 1;
+    EXPECT_FALSE(Check(u"LOGIN"_s, Refusal));
+    EXPECT_EQ(Address(), u"about:blank"_s);
+    EXPECT_TRUE(Browser().Busy());
+}
+
+TEST_F(ErrorPageTest, ALoginThatIsStoppedMeanwhileLoadsNothing) {
+    Show(Refusal);
+    State().CurrentAction = u"LOGIN"_s;
+    State().intLoginStep = 1;
+    Await(u"Text"_s, u"wanted"_s);
+    app->Pump().Queue().Post([this] { app->stopResume->StopAll(u"LPSTOP"_s); });
+    EXPECT_FALSE(CheckHeld());
+    EXPECT_TRUE(Browser().TakeVisited().isEmpty());
 }
 
 TEST_F(ErrorPageTest, ALoginElsewhereOnlyNotesIt) {
