@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <functional>
+#include <vector>
 
 namespace qlm {
 
@@ -53,7 +54,12 @@ private:
     bool WarnBeforeStart();
     QString OptionsTrace() const;
 
-    // The waits of WaitPageLoad, by kind of page.
+    // The waits of WaitPageLoad: a kind of page, known by what its address contains, and its way of waiting.
+    struct PageWait {
+        const char16_t* address;
+        void (*wait)(GatherDriver& driver, int entry, const QString& oldURL);
+    };
+    static const std::vector<PageWait>& PageWaits();
     void WaitOnPage(const std::function<bool()>& stillWaiting);
     void WaitPageLoad(int entry, const QString& oldURL);
     void WaitForAddress(int entry, const QString& oldURL, const QString& markup, bool checkErrors);

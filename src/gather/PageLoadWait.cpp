@@ -23,18 +23,24 @@ void GatherDriver::WaitOnPage(const std::function<bool()>& stillWaiting) {
         0);
 }
 
+const std::vector<GatherDriver::PageWait>& GatherDriver::PageWaits() {
+    static const std::vector<PageWait> waits{
+        {u"/friends", [](GatherDriver& d, int entry,
+                         const QString& oldURL) { d.WaitForAddress(entry, oldURL, u"/page/"_s, true); }},
+        {u"/browse/", [](GatherDriver& d, int entry, const QString&) { d.WaitForBrowsePage(entry); }},
+        {u"/search/", [](GatherDriver& d, int entry,
+                         const QString& oldURL) { d.WaitForAddress(entry, oldURL, u"&page="_s, false); }},
+        {u"/music/charts",
+         [](GatherDriver& d, int entry, const QString& oldURL) { d.WaitForChart(entry, oldURL); }},
+        {u"", [](GatherDriver& d, int entry, const QString&) { d.WaitForOtherPage(entry); }},
+    };
+    return waits;
+}
+
 void GatherDriver::WaitPageLoad(int entry, const QString& oldURL) {
-    auto at = [this](const QString& part) { return m_app.pageTests->AddressContains(part); };
-    if (at(u"/friends"_s))
-        WaitForAddress(entry, oldURL, u"/page/"_s, true);
-    else if (at(u"/browse/"_s))
-        WaitForBrowsePage(entry);
-    else if (at(u"/search/"_s))
-        WaitForAddress(entry, oldURL, u"&page="_s, false);
-    else if (at(u"/music/charts"_s))
-        WaitForChart(entry, oldURL);
-    else
-        WaitForOtherPage(entry);
+    for (const PageWait& row : PageWaits())
+        if (m_app.pageTests->AddressContains(QString::fromUtf16(row.address)))
+            return row.wait(*this, entry, oldURL);
 }
 
 // In markup the "&" of an address is written "&amp;".

@@ -10,22 +10,29 @@ namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
+// Which link of the new layout leads on, by the page's address; the first row that fits is asked alone.
+const std::vector<Pager::PageRow>& Pager::PageRows() {
+    static const std::vector<PageRow> rows{
+        {u"/friends", [](Pager& pager) { return pager.LinkTitledNextPage(false); }},
+        {u"{SiteDomain}/browse", [](Pager& pager) { return pager.CaptionToClick(); }},
+        {u"{SiteDomain}/search/", [](Pager& pager) { return pager.LinkTitledNextPage(false); }},
+        {u"{SiteDomain}/music/charts", [](Pager& pager) { return pager.ShowMoreOfChart(); }},
+        {u"{SiteDomain}/forums/t/", [](Pager& pager) { return pager.LinkWithText(u"next »"_s); }},
+    };
+    return rows;
+}
+
 QString Pager::GetNextPageHref() {
-    auto at = [this](const QString& part) { return m_app.pageTests->AddressContains(part); };
-    if (at(u"/friends"_s))
-        return LinkTitledNextPage(false);
-    if (at(u"{SiteDomain}/browse"_s)) {
-        const QString caption = LinkTitledNextPage(true);
-        m_app.state.blnClickNextLink = !caption.isEmpty();
-        return caption;
-    }
-    if (at(u"{SiteDomain}/search/"_s))
-        return LinkTitledNextPage(false);
-    if (at(u"{SiteDomain}/music/charts"_s))
-        return ShowMoreOfChart();
-    if (at(u"{SiteDomain}/forums/t/"_s))
-        return LinkWithText(u"next »"_s);
+    for (const PageRow& row : PageRows())
+        if (m_app.pageTests->AddressContains(QString::fromUtf16(row.address)))
+            return row.find(*this);
     return {};
+}
+
+QString Pager::CaptionToClick() {
+    const QString caption = LinkTitledNextPage(true);
+    m_app.state.blnClickNextLink = !caption.isEmpty();
+    return caption;
 }
 
 // Each link has its turn of the message loop, but all are read before the first: a turn lets go of what is

@@ -6,6 +6,7 @@
 #include <QString>
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace qlm {
 
@@ -28,10 +29,18 @@ public:
     bool ClickNextPageLink(const QString& caption, const QString& newHref);
 
 private:
+    // A kind of page, known by what its address contains.
+    struct PageRow {
+        const char16_t* address;
+        QString (*find)(Pager&);
+    };
+    static const std::vector<PageRow>& PageRows();
+
     // What the link and its text (trimmed, lower case) answer; nothing goes on to the next link.
     using LinkAnswer = std::function<std::optional<QString>(const Element& link, const QString& text)>;
     QString WalkLinks(ElementText which, const LinkAnswer& answer);
     QString LinkTitledNextPage(bool wantText);
+    QString CaptionToClick();
     QString LinkWithText(const QString& text);
     QString ShowMoreOfChart();
 

@@ -7,8 +7,6 @@
 #include "gather/IdResolution.h"
 #include "gather/LinkScanner.h"
 
-#include <QStringList>
-
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
@@ -68,14 +66,37 @@ bool IsVanityAddress(App& app, const QString& href) {
     return href == app.Expand(u"http://{SiteRootHost}/"_s) + VanityName(href);
 }
 
+namespace {
+
+// What a name never holds, and the pages of the site that look like somebody's name.
+const std::vector<QString>& PartsOfNoName() {
+    static const std::vector<QString> parts{
+        u"trailerpark"_s,   u"getconnected"_s, u"myspaceid"_s, u"#"_s,
+        u"myspacemobile"_s, u"sitemap"_s,      u"?"_s,         u"/"_s,
+    };
+    return parts;
+}
+
+const std::vector<QString>& PagesThatAreNoName() {
+    static const std::vector<QString> pages{
+        u"missing"_s,
+        u"music"_s,
+        u"todayonmyspace"_s,
+        u"pressroom"_s,
+    };
+    return pages;
+}
+
+} // namespace
+
 bool IsVanityProfile(App& app, const QString& href) {
-    static const QStringList neverIn{u"trailerpark"_s,   u"getconnected"_s, u"myspaceid"_s, u"#"_s,
-                                     u"myspacemobile"_s, u"sitemap"_s,      u"?"_s,         u"/"_s};
-    static const QStringList pages{u"missing"_s, u"music"_s, u"todayonmyspace"_s, u"pressroom"_s};
     const QString name = VanityName(href);
-    if (name.isEmpty() || !IsVanityAddress(app, href) || pages.contains(name.toLower()))
+    if (name.isEmpty() || !IsVanityAddress(app, href))
         return false;
-    return std::none_of(neverIn.begin(), neverIn.end(), [&](const QString& part) { return Has(name, part); });
+    const auto& pages = PagesThatAreNoName();
+    const auto& parts = PartsOfNoName();
+    return std::find(pages.begin(), pages.end(), name.toLower()) == pages.end() &&
+           std::none_of(parts.begin(), parts.end(), [&](const QString& part) { return Has(name, part); });
 }
 
 namespace {

@@ -22,7 +22,16 @@ Form::Form(const FormContext& context, const QString& name, const QString& title
 
 void Form::Bind() {
     m_binder.BindAll(*this);
+    MakeRoomForText();
     Bound();
+}
+
+// How high a text of several lines is, is known when it has its font.
+void Form::MakeRoomForText() {
+    for (QWidget* widget : findChildren<QWidget*>())
+        widget->ensurePolished();
+    if (hasHeightForWidth())
+        setMinimumSize(width(), std::max(minimumHeight(), heightForWidth(width())));
 }
 
 void Form::reject() {

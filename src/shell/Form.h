@@ -39,6 +39,8 @@ protected:
     WindowDialogs& m_dialogs;
 
 private:
+    void MakeRoomForText();
+
     ControlBinder m_binder;
 };
 

@@ -44,11 +44,14 @@ QHBoxLayout* Row(std::initializer_list<QWidget*> widgets) {
     return row;
 }
 
+// Several frames have a choice of the same words, so each tells a screen reader what it is about.
 QGroupBox* Frame(const QString& title, std::initializer_list<QLayout*> rows) {
     auto* frame = new QGroupBox(title);
     auto* column = new QVBoxLayout(frame);
     for (QLayout* row : rows)
         column->addLayout(row);
+    for (auto* option : frame->findChildren<QRadioButton*>())
+        option->setAccessibleName(title + u": "_s + option->text().remove(u':'));
     return frame;
 }
 

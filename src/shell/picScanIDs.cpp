@@ -138,6 +138,8 @@ picScanIDs::picScanIDs(const App& app, ControlBinder& binder) {
     column->addLayout(GoToRow(app));
     for (const Option& option : ScanOptions)
         column->addWidget(NewOption<QRadioButton>(option));
+    findChild<QRadioButton*>(u"optImportClickedProfiles"_s)
+        ->setWhatsThis(u"Use this to click on any profile in the browser and add that profile to the list"_s);
     column->addLayout(GatherRow(app));
     column->addLayout(RunRow(app));
     column->addWidget(NewLabel("lblProfilesGathered"_L1, u"subheading"_s));

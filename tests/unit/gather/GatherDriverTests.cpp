@@ -4,6 +4,8 @@
 #include "gather/LinkScanner.h"
 #include "gather/Pager.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace qlm {
@@ -86,8 +88,59 @@ TEST_F(GatherDriverTest, TheFirstSearchForTheNextPage) {
               u"DONTLOOKAGAIN"_s);
     EXPECT_EQ(found(u"/music/charts/songs"_s, next), QString());
     EXPECT_EQ(found(u"/any"_s, next), QString());
+    // An address of two kinds is one of the upper.
+    EXPECT_EQ(found(u"/browse/friends"_s, next), u"http://x.example.com/2"_s);
+    EXPECT_EQ(found(u"/browse?x=.example.com/search/"_s, next), u"Go on"_s);
+    EXPECT_EQ(found(u"/search/?x=.example.com/music/charts"_s, next), u"http://x.example.com/2"_s);
+    EXPECT_EQ(
+        found(u"/music/charts?x=.example.com/forums/t/"_s, u"<a href='http://x.example.com/3'>Next »</a>"_s),
+        QString());
     app->state.CurrentAction.clear();
     EXPECT_EQ(found(u"/7/friends"_s, next), QString());
+}
+
+// What each kind of page is waited for, by its address; a wait that doesn't end is stopped after a minute.
+TEST_F(GatherDriverTest, TheWaitForTheNextPage) {
+    app->state.blnLoggingEnabled = true;
+    int turn = 0;
+    auto waits = [&](const QString& path, const QString& body) {
+        const QString next = u"http://www.example.com"_s + path;
+        Show(next + u"?start="_s + QString::number(++turn), u"<p>Start</p>"_s);
+        world.web.SetPage(next, u"<html><body>"_s + body + u"</body></html>"_s);
+        QStringList words;
+        app->diagnostics.onLine = [&](const QString& line) {
+            static const QRegularExpression word(u"(?:WAITPAGELOAD|NEXTPAGEWAIT)(\\d\\.\\d|3| - END)"_s);
+            if (const auto match = word.match(line); match.hasMatch())
+                words.append(match.captured(1));
+        };
+        const qint64 limitMs = platform->Pump().NowMs() + 60 * 1000;
+        platform->Pump().onPump = [&] {
+            if (platform->Pump().NowMs() > limitMs)
+                app->state.CurrentAction.clear();
+        };
+        app->state.CurrentAction = u"SCANNING"_s;
+        app->state.intGatherStep = 4;
+        app->state.strNextPageLink = next;
+        app->gatherDriver->IterateGatherProfiles();
+        platform->Pump().onPump = {};
+        app->diagnostics.onLine = {};
+        return words.join(u',');
+    };
+    const QString ofFriends = u"<i title='/page/3'>3</i>"_s;
+    const QString ofSearch = u"<i title='?a&amp;page=3'>3</i>"_s;
+    for (const QString& path : {u"/7/friends/2"_s, u"/friends/browse/2"_s}) {
+        EXPECT_EQ(waits(path, ofFriends), u"1.1,1.2, - END"_s);
+        EXPECT_EQ(waits(path, ofSearch), u"1.1,1.2"_s);
+    }
+    for (const QString& path : {u"/browse/people"_s, u"/browse/search/"_s})
+        EXPECT_EQ(waits(path, {}), u"2.1, - END"_s);
+    for (const QString& path : {u"/search/people"_s, u"/search/music/charts"_s}) {
+        EXPECT_EQ(waits(path, ofSearch), u"1.1,1.2, - END"_s);
+        EXPECT_EQ(waits(path, ofFriends), u"1.1,1.2"_s);
+    }
+    EXPECT_EQ(waits(u"/music/charts/5"_s, u"<i class=artist-12></i>"_s), QString());
+    EXPECT_EQ(waits(u"/music/charts/5"_s, u"<i class=artist-200></i>"_s), u" - END"_s);
+    EXPECT_EQ(waits(u"/any"_s, {}), u"3.1,3, - END"_s);
 }
 
 // The chart's own word keeps the table of all pages from being asked.

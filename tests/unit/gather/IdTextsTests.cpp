@@ -225,13 +225,17 @@ TEST_F(IdResolutionTest, TheReportLinkHelpsWhenNoScriptNamesTheID) {
 }
 
 TEST_F(IdResolutionTest, WhatIsAVanityAddress) {
-    for (const QString& good : {u"http://www.example.com/ann"_s, u"http://www.example.com/123"_s})
+    for (const QString& good : {u"http://www.example.com/ann"_s, u"http://www.example.com/123"_s,
+                                u"http://www.example.com/music2"_s, u"http://www.example.com/missingann"_s})
         EXPECT_TRUE(IsVanityProfile(*app, good)) << good.toStdString();
     for (const QString& bad :
          {u"http://www.example.com/"_s, u"http://www.example.com/music"_s,
           u"http://www.example.com/Missing"_s, u"http://www.example.com/a/b"_s,
           u"http://www.example.com/a?b"_s, u"http://www.example.com/a#b"_s, u"http://other.example.com/ann"_s,
-          u"http://www.example.com/sitemap2"_s, u"https://www.example.com/ann"_s})
+          u"http://www.example.com/sitemap2"_s, u"http://www.example.com/TrailerPark5"_s,
+          u"http://www.example.com/xgetconnected"_s, u"http://www.example.com/MySpaceID"_s,
+          u"http://www.example.com/myspacemobile1"_s, u"http://www.example.com/TodayOnMySpace"_s,
+          u"http://www.example.com/pressroom"_s, u"https://www.example.com/ann"_s})
         EXPECT_FALSE(IsVanityProfile(*app, bad)) << bad.toStdString();
 }
 

@@ -16,35 +16,7 @@
 namespace qlm {
 namespace {
 
-class AccountFormsTest : public WindowTest {
-protected:
-    QDialog* Shown(const char* form) {
-        dialogs.ShowForm(QString::fromLatin1(form));
-        return static_cast<QDialog*>(dialogs.FormWidget(QString::fromLatin1(form)));
-    }
-    static QStringList Texts(const QWidget& form) {
-        QStringList texts;
-        for (const auto* label : form.findChildren<QLabel*>())
-            texts.append(label->text());
-        return texts;
-    }
-    // Names of what Tab comes to, from the first widget on, once around.
-    static QStringList TabOrder(QWidget& form) {
-        QStringList names;
-        QWidget* first = form.nextInFocusChain();
-        for (QWidget* widget = first; widget; widget = widget->nextInFocusChain()) {
-            if ((widget->focusPolicy() & Qt::TabFocus) && widget->isVisibleTo(&form) && widget->isEnabled() &&
-                !widget->objectName().startsWith(u"qt_"_s))
-                names.append(widget->objectName());
-            if (widget->nextInFocusChain() == first)
-                break;
-        }
-        return names;
-    }
-    static QString Caption(const QWidget& form, const char* name) {
-        return form.findChild<QAbstractButton*>(QString::fromLatin1(name))->text().remove(u'&');
-    }
-};
+class AccountFormsTest : public WindowTest {};
 
 } // namespace
 

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QLabel>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -59,6 +60,33 @@ protected:
         return window ? window->findChild<Widget*>(QString::fromLatin1(name)) : nullptr;
     }
 
+    QDialog* Shown(const char* form) {
+        dialogs.ShowForm(QString::fromLatin1(form));
+        return static_cast<QDialog*>(dialogs.FormWidget(QString::fromLatin1(form)));
+    }
+    static QStringList Texts(const QWidget& form) {
+        QStringList texts;
+        for (const auto* label : form.findChildren<QLabel*>())
+            texts.append(label->text());
+        return texts;
+    }
+    // Names of what Tab comes to, from the first widget on, once around.
+    static QStringList TabOrder(QWidget& form) {
+        QStringList names;
+        QWidget* first = form.nextInFocusChain();
+        for (QWidget* widget = first; widget; widget = widget->nextInFocusChain()) {
+            if ((widget->focusPolicy() & Qt::TabFocus) && widget->isVisibleTo(&form) && widget->isEnabled() &&
+                form.isAncestorOf(widget) && !widget->objectName().startsWith(u"qt_"_s))
+                names.append(widget->objectName());
+            if (widget->nextInFocusChain() == first)
+                break;
+        }
+        return names;
+    }
+    static QString Caption(const QWidget& form, const char* name) {
+        return form.findChild<QAbstractButton*>(QString::fromLatin1(name))->text().remove(u'&');
+    }
+
     void Count(const char* command) {
         app->commands.Add(QString::fromLatin1(command), [this](int argument) {
             ++runs;
@@ -82,8 +110,9 @@ private:
     }
 };
 
+} // namespace qlm
+
+// So that a failed comparison shows the text.
 inline void PrintTo(const QString& text, std::ostream* stream) {
     *stream << '"' << text.toStdString() << '"';
 }
-
-} // namespace qlm
