@@ -33,6 +33,9 @@ TEST_F(FirstPageSignsTest, EachSignAloneIsEnough) {
           u"<a href='javascript:gotonextpage()'>2</a>"_s, u"<i class='pageBtn nextBtn'></i>"_s,
           u"<i id=nextPage></i>"_s})
         EXPECT_TRUE(Shows(body)) << body.toStdString();
+    for (const QString& body :
+         {u"<i title='Next ›'>2</i>"_s, u"<i title='Next »'>2</i>"_s, u"<i onclick='gotonextpage()'>2</i>"_s})
+        EXPECT_FALSE(Shows(body)) << body.toStdString();
     EXPECT_FALSE(Shows(u"<p>Next, more</p><a href='http://x/?a&pg=2&p=2'>2</a>"_s));
 }
 
@@ -43,6 +46,7 @@ TEST_F(FirstPageSignsTest, SomeCountOnTheirOwnPagesOnly) {
     EXPECT_TRUE(Shows(u"<a href='http://x/?a&pg=2'>2</a>"_s, search));
     EXPECT_TRUE(Shows(u"<a href='http://x/?a&p=2'>2</a>"_s, friends));
     EXPECT_TRUE(Shows(u"<p>More</p>"_s, chart));
+    EXPECT_FALSE(Shows(u"<p title=More>2</p>"_s, chart));
     EXPECT_FALSE(Shows(u"<a href='http://x/?a&p=2'>2</a><p>More &pg=2</p>"_s, search));
     EXPECT_FALSE(Shows(u"<a href='http://x/?a&pg=2'>2</a><p>More &p=2</p>"_s, friends));
 }

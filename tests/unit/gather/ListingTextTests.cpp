@@ -34,6 +34,7 @@ TEST(ListingText, AFriendsListNamesItsSlice) {
     EXPECT_EQ(OfText(u"http://www.example.com/7/friends"_s, u"x Listing 1-40 of 212"_s), u"Listing 1-40 "_s);
     EXPECT_EQ(OfText(u"http://www.example.com/7/friends?p=2"_s, u"x listing 41-80 of 212"_s),
               u"listing 41-80 "_s);
+    EXPECT_EQ(OfText(u"http://www.example.com/7/friends/2"_s, u"x listing 41-80 of 212"_s), QString());
 }
 
 TEST(ListingText, AMailListIsReadFromTheMarkupAndTrimmed) {
@@ -59,6 +60,13 @@ TEST(ListingText, AMusicSearchIsReadBehindItsLink) {
         u"www.example.com/ 1-10 "_s);
 }
 
+TEST(ListingText, AMusicSearchIsTheSearchHostsForMusic) {
+    const QString text = u"www.example.com/ 0 View All (3 www.example.com/ 1-10 of y, displaying 2 of 3"_s;
+    EXPECT_EQ(OfText(u"http://search.example.com/x?a&type=Music&b"_s, text), u"www.example.com/ 1-10 "_s);
+    EXPECT_EQ(OfText(u"http://search.example.com/x?a"_s, text), u"displaying 2 "_s);
+    EXPECT_EQ(OfText(u"http://x/x?a&type=Music&b"_s, text), QString());
+}
+
 TEST(ListingText, TheSingularGroupHostCountsToo) {
     EXPECT_EQ(OfText(u"http://group.example.com/a"_s, u"listing 1-9 of 20"_s), u"listing 1-9 "_s);
 }
@@ -71,24 +79,28 @@ TEST(ListingText, ACommentListIsReadFromTheMarkup) {
     EXPECT_EQ(OfMarkup(u"http://x/7/comments?page=2"_s, u"Add Comment"_s, u"<p>Listing 1-50 of 70"_s),
               u"Listing 1-50 "_s);
     EXPECT_EQ(OfMarkup(u"http://x/7/comments"_s, u"Add Comment"_s, u"<p>Listing 1-50 of 70"_s), QString());
+    EXPECT_EQ(OfMarkup(u"http://x/7/comments?page=2"_s, {}, u"<p>Listing 1-50 of 70"_s), QString());
 }
 
 TEST(ListingText, AnEventsCommentsAreReadBehindTheirFirstFriend) {
     EXPECT_EQ(OfMarkup(u"http://x/e"_s, u"Return to event page Comments"_s,
-                       u"font-weight: bold;0</span> friendID=1 <i style='font-weight: bold;'>3</span>"_s),
-              u"font-weight: bold;'>3"_s);
+                       u"font-weight: bold;0</span> friendID=1 <i style='font-weight: bold;'>3 </span>"_s),
+              u"font-weight: bold;'>3 "_s);
+    for (const QString& text : {u"Return to event page"_s, u"Comments"_s})
+        EXPECT_EQ(OfMarkup(u"http://x/e"_s, text, u"friendID=1 font-weight: bold;3</span>"_s), QString());
 }
 
 TEST(ListingText, EachOfTheOldListPagesNamesItsSliceInTheMarkup) {
     const QString html = u"<p>Listing 1-10 of 35"_s;
     for (const QString& address :
          {u"http://forum.example.com/index.cfm?fuseaction=messageboard.viewThread"_s,
-          u"http://bulletins.example.com/index.cfm?fuseaction=bulletin"_s, u"http://top.example.com/"_s,
+          u"http://bulletins.example.com/index.cfm?fuseaction=bulletin.read"_s, u"http://top.example.com/"_s,
           u"http://x/index.cfm?fuseaction=user.viewComments"_s, u"http://browse.example.com/"_s,
           u"http://music.example.com/"_s})
         EXPECT_EQ(OfMarkup(address, {}, html), u"Listing 1-10 "_s) << address.toStdString();
     EXPECT_EQ(OfMarkup(u"http://vids.example.com/v"_s, u"Add Comment"_s, html), u"Listing 1-10 "_s);
     EXPECT_EQ(OfMarkup(u"http://vids.example.com/v"_s, {}, html), QString());
+    EXPECT_EQ(OfMarkup(u"http://x/index.cfm?fuseaction=messageboard.viewThread"_s, {}, html), QString());
 }
 
 TEST(ListingText, ASearchNamesItsSliceInTheText) {
@@ -98,8 +110,8 @@ TEST(ListingText, ASearchNamesItsSliceInTheText) {
 
 TEST(ListingText, AGroupsMembersAndAnInvitationsFriendsDoToo) {
     for (const QString& address :
-         {u"http://x/index.cfm?fuseaction=groups.updateMembers"_s,
-          u"http://x/index.cfm?fuseaction=groups.viewMembers"_s, u"http://groups.example.com/a"_s,
+         {u"http://x/index.cfm?fuseaction=groups.updateMembers&groupID=3"_s,
+          u"http://x/index.cfm?fuseaction=groups.viewMembers&groupID=3"_s, u"http://groups.example.com/a"_s,
           u"http://x.example.com/index.cfm?fuseaction=groups.groupInvite&groupID=3"_s,
           u"http://events.example.com/Event/3"_s})
         EXPECT_EQ(OfText(address, u"listing 1-9 of 20, showing 2 of 3"_s), u"listing 1-9 "_s)

@@ -92,8 +92,16 @@ INSTANTIATE_TEST_SUITE_P(
              u"http://vids.example.com/list?a&page=2"_s, Videos},
         Case{u"Next »"_s, u"http://vids.example.com/list#"_s, u"click:Next »"_s, Videos},
         Case{u"Next »"_s, u"http://vids.example.com/list"_s, u""_s, Videos},
+        Case{u"Next » 2"_s, u"http://vids.example.com/list#"_s, u""_s, Videos},
+        Case{u"The next »"_s, u"http://vids.example.com/list#"_s, u""_s, Videos},
+        Case{u"Next »"_s, u"http://vids.example.com/list#"_s, u""_s, Charts},
         Case{u"More"_s, u"http://www.example.com/music/charts/songs/2"_s,
              u"http://www.example.com/music/charts/songs/5"_s, Charts},
+        Case{u"More!"_s, u"http://www.example.com/music/charts/songs/2"_s,
+             u"http://www.example.com/music/charts/songs/5"_s, Charts},
+        Case{u"Go on"_s, u"http://www.example.com/music/charts/songs/2"_s, u""_s, Charts},
+        Case{u"+more"_s, u"http://www.example.com/music/charts/songs/2"_s, u""_s, Charts},
+        Case{u"More"_s, u"http://www.example.com/music/charts/songs/2"_s, u""_s},
         Case{u"More songs"_s, u"http://www.example.com/music/charts/songs/2"_s, u""_s, Charts},
         Case{u"Next >"_s, Comments, Comments}, Case{u"Next ›"_s, CommentsOfOld, CommentsOfOld},
         Case{u"Next >"_s, CommentPage, CommentPage},
@@ -126,6 +134,128 @@ INSTANTIATE_TEST_SUITE_P(
              u"x$ctl00$cpMain$BirthdayList$PagerTop"_s},
         Case{u"Next"_s, u"http://www.example.com/7/friends/all"_s, u""_s},
         Case{u"Previous"_s, u"http://www.example.com/7/friends/page/1"_s, u""_s}));
+
+enum class Text { Is, Contains, BeginsWith };
+
+// A row of the table, in which links around it are tried: groups of marks of which one must hold whole. "="
+// in front of a mark: in this letter case alone; "^": at the beginning.
+struct RowAround {
+    Text test;
+    QStringList texts;
+    QList<QStringList> groups;
+    QString nearAddress = {}; // what a link with another address stores
+    bool click = false;
+};
+
+QString Stored(const QString& text, const QString& href) {
+    const NextLinkCandidate candidate{href, text, text.toLower(), [] { return QString(); }};
+    const NextLinkPage page{u"http://www.example.com/x"_s, Expand, [] { return false; }};
+    const std::optional<NextLink> found = MatchNextLink(candidate, page);
+    return !found ? QString() : found->click ? u"click:"_s + found->link : found->link;
+}
+
+class NextLinkRowAround : public testing::TestWithParam<RowAround> {
+protected:
+    static QString Plain(const QString& mark) {
+        return mark.startsWith(u'=') || mark.startsWith(u'^') ? mark.mid(1) : mark;
+    }
+    // An address that holds the marks, each somewhere in it unless it has to begin it.
+    static QString Address(const QStringList& marks) {
+        QString address = marks.value(0).startsWith(u'^') ? QString() : u"x-"_s;
+        for (const QString& mark : marks)
+            address += Plain(mark) + u"2"_s;
+        return address;
+    }
+    static QString Kept(const QString& text, const QString& href) {
+        return GetParam().click ? u"click:"_s + text : href;
+    }
+};
+
+TEST_P(NextLinkRowAround, WantsItsTextAsItSays) {
+    const RowAround& row = GetParam();
+    for (const QStringList& group : row.groups) {
+        const QString href = Address(group);
+        for (const QString& text : row.texts) {
+            for (const QString& hit : {text, text.toUpper()})
+                EXPECT_EQ(Stored(hit, href), Kept(hit, href))
+                    << hit.toStdString() << " | " << href.toStdString();
+            const QString longer = text + u" x"_s;
+            EXPECT_EQ(Stored(longer, href), row.test == Text::Is ? QString() : Kept(longer, href));
+            const QString inside = u"the "_s + text;
+            EXPECT_EQ(Stored(inside, href), row.test == Text::Contains ? Kept(inside, href) : QString());
+        }
+        EXPECT_EQ(Stored(u"Go on"_s, href), QString()) << href.toStdString();
+    }
+}
+
+TEST_P(NextLinkRowAround, WantsItsAddressAsItSays) {
+    const RowAround& row = GetParam();
+    for (const QStringList& group : row.groups)
+        for (qsizetype i = 0; i < group.size(); ++i) {
+            QStringList marks = group;
+            marks[i] =
+                group[i].startsWith(u'^') ? u'^' + group[i].mid(1).toUpper() : Plain(group[i]).toUpper();
+            const QString shouted = Address(marks);
+            EXPECT_EQ(Stored(row.texts[0], shouted),
+                      group[i].startsWith(u'=') ? row.nearAddress : Kept(row.texts[0], shouted))
+                << shouted.toStdString();
+            marks = group;
+            marks.removeAt(i);
+            EXPECT_EQ(Stored(row.texts[0], Address(marks)), QString()) << Address(marks).toStdString();
+            if (group[i].startsWith(u'^')) {
+                EXPECT_EQ(Stored(row.texts[0], u"x"_s + Address(group)), row.nearAddress);
+            }
+        }
+}
+
+const QString Results = u"http://search.example.com/index.cfm?fuseaction=sitesearch.results"_s;
+const QString ViewComments = u"http://comment.example.com/index.cfm?fuseaction=user.viewComments&friendID="_s;
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, NextLinkRowAround,
+    testing::Values(
+        RowAround{Text::Is, {u"next"_s}, {{u"^javascript: gotopage"_s}}, u"click:next"_s},
+        RowAround{Text::Is, {u"next"_s}, {{u"^javascript:nextpage"_s}}, u"click:next"_s},
+        RowAround{Text::Is, {u"next ›"_s}, {{u"SchoolMembersDisplay$pagerTop','"_s}}},
+        RowAround{Text::Contains, {u"next"_s}, {{Results, u"&pg="_s}}},
+        RowAround{Text::Contains, {u"next"_s}, {{u"example.com/search/"_s, u"&page="_s}}},
+        RowAround{Text::Contains, {u"next"_s}, {{u"=http://forum.example.com/"_s, u"&PageIndex="_s}}},
+        RowAround{Text::Is,
+                  {u"next >"_s, u"next ›"_s},
+                  {{u"javascript:__doPostBack('ctl00$cpMain$UserViewCommentsControl_Skin$pagerTop','"_s},
+                   {u"ctl00$cpMain$UserViewCommentsControl$pagerTop','"_s},
+                   {ViewComments, u"&page="_s},
+                   {u"/comments?page="_s}}},
+        RowAround{Text::Is, {u"next ›"_s}, {{u"&page="_s}}},
+        RowAround{Text::Is, {u"next ›"_s}, {{u"ucUpdateMembers$pagerTop','"_s}}},
+        RowAround{Text::Is,
+                  {u"next >"_s, u"next ›"_s, u"next"_s},
+                  {{u"messagingMain$MessageList_Skin$pagingTop','"_s},
+                   {u"ctl00$ctl00$Main$messagingMain"_s},
+                   {u"cpMain$cpMain$messagingMain"_s},
+                   {u"javascript: __msgPostRedirect('Page:"_s},
+                   {u"gotonextpage()"_s},
+                   {u"requestlist.GoToPage("_s}}},
+        RowAround{Text::Is, {u"next"_s}, {{u"javascript:"_s}}, {}, true},
+        RowAround{Text::Is,
+                  {u"next >"_s, u"next ›"_s},
+                  {{u"=$cpMain$Browse.skin$PagingTop','"_s},
+                   {u"=$cpMain$Browse$PagingTop','"_s},
+                   {u"=$cpMain$Browse_skin$PagingTop','"_s}}},
+        RowAround{Text::BeginsWith, {u"next"_s}, {{u"=example.com/browse/"_s}}, {}, true},
+        RowAround{Text::Contains,
+                  {u"next"_s},
+                  {{u"ctl00$cpMain$pager"_s},
+                   {u"ctl00$cpMain$FriendsView$pagerTop"_s},
+                   {u"ctl00$cpMain$FriendsView_skin$pagerTop"_s},
+                   {u"fuseaction=user.viewfriends&"_s, u"&p="_s},
+                   {u"/friends/categories/"_s, u"?p="_s},
+                   {u"=/friends?"_s, u"?p="_s},
+                   {u"=/friends?"_s, u"&p="_s}}},
+        RowAround{Text::Contains, {u"next"_s}, {{u"/FRIENDS/"_s, u"/PAGE/"_s}}},
+        RowAround{Text::Is, {u"next >"_s, u"next ›"_s}, {{u"ctl00$Main$pager"_s}}},
+        RowAround{Text::Is, {u"next >"_s, u"next ›"_s}, {{u"ctl00$cpMain$BirthdayList$PagerTop"_s}}},
+        RowAround{Text::Is, {u"next"_s}, {{u"notificationslist.GoToPage("_s}}}));
 
 TEST(ChartPageFive, ReplacesTheLastNumberEverywhere) {
     EXPECT_EQ(ChartPageFive(u"http://x/charts/2"_s), u"http://x/charts/5"_s);

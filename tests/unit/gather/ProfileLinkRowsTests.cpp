@@ -145,6 +145,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{u"third chart without a duration"_s, u"/music/charts/3"_s, u"<div><p>"_s + Ann, false, false},
         Row{u"third chart"_s, u"/music/charts/3"_s, u"<div><p>Duration: 3:00 "_s + Ann, true, false},
         Row{u"chart furniture"_s, Chart, u"<div><p>"_s + Ann, false, false, false},
+        Row{u"chart furniture behind another"_s, Chart, u"<div><p>"_s + Link(u"im"_s), false, false, false},
         Row{u"chart artist"_s, Chart, u"<div class=artistImg><p>"_s + Ann, true, false},
         Row{u"added by friends"_s, Chart, u"<div>Added by your friends<div><div><div><div><div><p>"_s + Ann,
             true, false},
