@@ -355,6 +355,14 @@ TEST_F(CommentFormTest, AUserOfTheMainWindowNeedsNoHelp) {
     EXPECT_FALSE(app->timers->tmrHelper.Enabled());
 }
 
+TEST_F(CommentFormTest, AUserWhoHasComeBackKeepsTheMainWindow) {
+    OpenForm(u"frmTimeDelay"_s);
+    OpenForm(u"frmMain"_s);
+    EXPECT_TRUE(app->timers->tmrHelper.Enabled());
+    platform->Pump().RunFor(2100);
+    EXPECT_TRUE(Forward().isEmpty());
+}
+
 TEST_F(CommentFormTest, TheHelpEndsWithTheFormOrTheRun) {
     OpenForm(u"frmTimeDelay"_s);
     Show(u"x"_s);
