@@ -1,45 +1,63 @@
 // SPDX-License-Identifier: MIT
 // Long lists on the real engine: thirty pages, the filters, and Stop at any point.
+#include "FilterChoices.h"
 #include "GatheringProgram.h"
 #include "PrintText.h"
 #include "Waiting.h"
-#include "practice/World.h"
 
 #include <gtest/gtest.h>
 
 namespace qlm {
 namespace {
 
-using practice::Person;
-
-const QString Owner = u"100001"_s;
-const QString FriendsPage = u"http://www.myspace.example.com/100001/friends"_s;
+constexpr qint64 Owner = 100001;
 
 // A list of so many pages is divided so finely that its length is that of a short one.
 class Gathering : public testing::Test {
 protected:
-    void HaveFriends(int pages, int perPage) {
-        program.site.Tell(u"friends %1 %2"_s.arg(Owner).arg(pages * perPage));
+    void HaveFriends(int pages, int perPage, qint64 owner = Owner) {
+        program.site.Tell(u"friends %1 %2"_s.arg(owner).arg(pages * perPage));
         program.site.Tell(u"list friends %1 %2"_s.arg(pages * perPage).arg(perPage));
         program.TakeShown();
-        program.Open(FriendsPage);
+        program.Open(u"http://www.myspace.example.com/%1/friends"_s.arg(owner));
     }
-    void FilterFor(QLatin1StringView option) {
-        program.Fill("cboFilterAge1"_L1, u"25"_s);
-        program.Fill("cboFilterAge2"_L1, u"40"_s);
+    void FilterFor(const FilterChoice& filter) {
+        FillFilterFields([this](QLatin1StringView field, const QString& text) { program.Fill(field, text); });
+        for (const QLatin1StringView off : {"optFilterOff"_L1, "optFilterGenderOff"_L1, "optFilterAgeOff"_L1,
+                                            "optFilterLocationOff"_L1, "optFilterLastLoginOff"_L1})
+            program.Tick(off);
         program.Tick("optFilterWhenGathering"_L1);
-        program.Tick(option);
+        for (const QLatin1StringView option : filter.options)
+            program.Tick(option);
     }
-    template <typename Fits> QStringList Those(const QStringList& ids, Fits fits) const {
+    QStringList Those(const QStringList& ids, const FilterChoice& filter) {
+        const QDate today = program.Program().Pump().Now().date();
         QStringList those;
         for (const QString& id : ids)
-            if (const Person& person = *people.Find(id.toLongLong()); fits(person))
+            if (PassesFilter(filter, twin, id.toLongLong(), today))
                 those.append(id);
         return those;
     }
+    // Somebody who has among so many friends for each filter one who fits and one who doesn't.
+    qint64 OwnerOfAMixedList(int count) {
+        for (const practice::Person& owner : twin.people.Crowd()) {
+            QStringList ids;
+            twin.friends.SetCount(owner.id, count);
+            for (const practice::Person* person : twin.friends.Slice(twin.people, owner.id, 1, count - 1))
+                if (person->vanity.isEmpty())
+                    ids.append(QString::number(person->id));
+            const auto divides = [&](const FilterChoice& filter) {
+                const qsizetype fitting = Those(ids, filter).size();
+                return fitting > 0 && fitting < ids.size();
+            };
+            if (std::all_of(FilterChoices().begin(), FilterChoices().end(), divides))
+                return owner.id;
+        }
+        throw std::runtime_error("nobody has such friends");
+    }
 
     GatheringProgram program;
-    const practice::People people{1};
+    practice::World twin{1, [] { return QDateTime::currentDateTime(); }};
 };
 
 QStringList Sorted(QStringList ids) {
@@ -66,41 +84,33 @@ TEST_F(Gathering, ThirtyPagesAreTheListQuickAndFull) {
     EXPECT_EQ(Sorted(program.List()), Sorted(shown.Full()));
 }
 
-// Each filter by itself is tried over thirty pages on the simulated engine; here is one of each kind: by the
-// profile's marks, by its script and by the list itself.
-TEST_F(Gathering, FiltersLeaveThoseWhoFit) {
-    HaveFriends(3, 8);
-    FilterFor("optFilterBands"_L1);
-    ASSERT_TRUE(program.Gather()) << program.Program().Status().toStdString();
-    const auto isBand = [](const Person& p) { return p.kind == Person::Kind::Band && !p.advertiser; };
-    EXPECT_EQ(program.List(), Those(program.TakeShown().Quick(), isBand));
-
-    program.Tick("optFilterOff"_L1);
-    FilterFor("optFilterAgeOn"_L1);
-    HaveFriends(3, 8);
-    ASSERT_TRUE(program.Gather()) << program.Program().Status().toStdString();
-    const auto isOfAge = [](const Person& p) { return p.age >= 25 && p.age <= 40 && !p.advertiser; };
-    EXPECT_EQ(program.List(), Those(program.TakeShown().Quick(), isOfAge));
-
-    program.Tick("optFilterAgeOff"_L1);
-    FilterFor("optFilterOnlineNow"_L1);
-    HaveFriends(3, 30);
-    ASSERT_TRUE(program.Gather()) << program.Program().Status().toStdString();
-    const QStringList online = Those(program.TakeShown().Quick(), [](const Person& p) { return p.online; });
-    EXPECT_FALSE(online.isEmpty());
-    EXPECT_EQ(program.List(), online);
+// Over thirty pages each is tried on the simulated engine; here they meet real profiles.
+TEST_F(Gathering, EachFilterLeavesThoseWhoFit) {
+    constexpr int perPage = 5;
+    const qint64 owner = OwnerOfAMixedList(2 * perPage);
+    for (const FilterChoice& filter : FilterChoices()) {
+        SCOPED_TRACE(filter.name);
+        FilterFor(filter);
+        HaveFriends(2, perPage, owner);
+        ASSERT_TRUE(program.Gather()) << program.Program().Status().toStdString();
+        const QStringList shown = program.TakeShown().Quick();
+        const QStringList those = Those(shown, filter);
+        EXPECT_GT(those.size(), 0);
+        EXPECT_LT(those.size(), shown.size());
+        EXPECT_EQ(program.List(), those);
+    }
 }
 
 // The first pages of a Full Gather with a filter: scans, fetches in the background, visits of profiles, the
 // way back to the list and the turning of pages all lie within the sampled stretch.
 TEST_F(Gathering, StopAnswersWithinASecondFromAnyPoint) {
     constexpr int points = 14;
-    FilterFor("optFilterMale"_L1);
+    FilterFor(FilterChoices().front());
     int stopped = 0;
     for (int point = 0; point < points; ++point) {
         SCOPED_TRACE(point);
-        HaveFriends(6, 9);
-        const qint64 answeredMs = program.GatherAndStop("optFullGather", 1 + 3 * point, 37 * point % 200);
+        HaveFriends(6, 5);
+        const qint64 answeredMs = program.GatherAndStop("optFullGather", 1 + point, 37 * point % 200);
         stopped += answeredMs >= 0 ? 1 : 0;
         EXPECT_LT(answeredMs, 1000);
         const QStringList list = program.List();
