@@ -96,7 +96,7 @@ TEST_F(EngineHostile, ACertificateThatNobodyVouchesForGivesTheErrorPage) {
     browser->Navigate(secure.Address());
     EXPECT_TRUE(WaitForText(u"The page cannot be displayed"_s));
     EXPECT_EQ(browser->LocationURL(), secure.Address());
-    EXPECT_FALSE(browser->Busy());
+    EXPECT_TRUE(WaitUntil([this] { return !browser->Busy(); }));
     ExpectNextPageLoads();
 }
 
