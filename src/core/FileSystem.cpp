@@ -217,6 +217,17 @@ void FileSystem::WriteLines(const QString& path, const QStringList& lines, Reade
 }
 
 void FileSystem::WriteBytes(const QString& path, const QByteArray& bytes, Readers readers) {
+    WriteParts(
+        path,
+        [&bytes](QByteArray& part) {
+            part = bytes;
+            return false;
+        },
+        readers);
+}
+
+void FileSystem::WriteParts(const QString& path, const std::function<bool(QByteArray&)>& nextPart,
+                            Readers readers) {
     Refuse(path);
     const QString temporary = path + u".new"_s;
     // What an earlier end has left there may stand open to others.
@@ -224,20 +235,6 @@ void FileSystem::WriteBytes(const QString& path, const QByteArray& bytes, Reader
     auto undo = qScopeGuard([&temporary] { unlink(QFile::encodeName(temporary)); });
     {
         const Descriptor file(temporary, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, ModeFor(readers));
-        WriteAll(file.Number(), bytes, temporary);
-        file.Sync(temporary);
-    }
-    Replace(temporary, path);
-    undo.dismiss();
-}
-
-void FileSystem::WriteParts(const QString& path, const std::function<bool(QByteArray&)>& nextPart) {
-    Refuse(path);
-    const QString temporary = path + u".new"_s;
-    auto undo = qScopeGuard([&temporary] { unlink(QFile::encodeName(temporary)); });
-    {
-        const Descriptor file(temporary, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC,
-                              ModeFor(Readers::Everyone));
         for (bool more = true; more;) {
             QByteArray part;
             more = nextPart(part);

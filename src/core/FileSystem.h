@@ -57,7 +57,8 @@ public:
     // As WriteBytes for what is too much for one go: nextPart adds the next bytes to the empty array and
     // answers false when those were the last. Each part has reached the disk before the next is asked for, so
     // that no single wait is long.
-    void WriteParts(const QString& path, const std::function<bool(QByteArray& part)>& nextPart);
+    void WriteParts(const QString& path, const std::function<bool(QByteArray& part)>& nextPart,
+                    Readers readers = Readers::Everyone);
     void WriteBytes(const QString& path, const QByteArray& bytes, Readers readers = Readers::Everyone);
     // Overwrites the target, whole or not at all.
     void CopyFile(const QString& from, const QString& to, Readers readers = Readers::Everyone);
