@@ -32,6 +32,13 @@ constexpr KeyCode KeyCodes[] = {
     {Qt::Key_Insert, 45},
 };
 
+// A line comes with its text selected, ready to be replaced, also when it never lost the focus.
+void TakeFocus(QWidget& widget) {
+    widget.setFocus(Qt::OtherFocusReason);
+    if (auto* line = qobject_cast<QLineEdit*>(&widget))
+        line->selectAll();
+}
+
 void ShowCommon(QWidget& widget, const Control& control, Controls::Change change) {
     using enum Controls::Change;
     if (change == Enabled)
@@ -41,7 +48,7 @@ void ShowCommon(QWidget& widget, const Control& control, Controls::Change change
     else if (change == ToolTip)
         widget.setToolTip(control.toolTip);
     else if (change == Focus)
-        widget.setFocus(Qt::OtherFocusReason);
+        TakeFocus(widget);
 }
 
 } // namespace

@@ -10,14 +10,29 @@ namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
-QPushButton* NewButton(QLatin1StringView name, const QString& caption) {
-    auto* button = Named(new QPushButton(caption), name, QString(caption).remove(u'&'));
+namespace {
+
+// Letters stand at fractions of a pixel: a width that is rounded down cuts the last one.
+class Link : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+    QSize sizeHint() const override { return QPushButton::sizeHint() + QSize(2, 0); }
+};
+
+QPushButton* Prepared(QPushButton* button, QLatin1StringView name) {
+    Named(button, name, button->text().remove(u'&'));
     button->setAutoDefault(false);
     return button;
 }
 
+} // namespace
+
+QPushButton* NewButton(QLatin1StringView name, const QString& caption) {
+    return Prepared(new QPushButton(caption), name);
+}
+
 QPushButton* NewLink(QLatin1StringView name, const QString& caption) {
-    QPushButton* link = NewButton(name, caption);
+    QPushButton* link = Prepared(new Link(caption), name);
     link->setFlat(true);
     link->setCursor(Qt::PointingHandCursor);
     link->setProperty("look", u"link"_s);

@@ -14,10 +14,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// The style sheet gives such a line its "*" for each character.
+// A line asks for its sign when its own sheet is set, not when the application's finds it by its name.
 QLineEdit* NewPassword(QLatin1StringView name, const QString& accessibleName) {
     QLineEdit* line = NewLine(name, accessibleName);
     line->setEchoMode(QLineEdit::Password);
+    line->setStyleSheet(u"lineedit-password-character: 42"_s); // "*"
     return line;
 }
 

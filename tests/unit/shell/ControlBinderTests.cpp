@@ -106,14 +106,19 @@ TEST_F(ControlBinderTest, EnabledVisibleAndToolTipFollowTheTable) {
     EXPECT_EQ(line->toolTip(), u"a tip"_s);
 }
 
-TEST_F(ControlBinderTest, TheLogicMovesTheInputFocus) {
+TEST_F(ControlBinderTest, TheLogicMovesTheInputFocusAndWhatStandsThereIsSelected) {
     Add<QLineEdit>("txtFriendRequestsToSend"_L1);
     auto* line = Add<QLineEdit>("txtAddress"_L1);
     Bind();
     window.show();
     QApplication::setActiveWindow(&window);
+    line->setText(u"wrong"_s);
     Table().SetFocus("txtAddress"_L1);
     EXPECT_TRUE(line->hasFocus());
+    EXPECT_EQ(line->selectedText(), u"wrong"_s);
+    line->deselect();
+    Table().SetFocus("txtAddress"_L1);
+    EXPECT_EQ(line->selectedText(), u"wrong"_s);
 }
 
 TEST_F(ControlBinderTest, AButtonRunsItsCommandAndKeepsItsAccessKey) {
