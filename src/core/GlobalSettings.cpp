@@ -5,6 +5,7 @@
 #include "core/MainForm.h"
 #include "core/Registry.h"
 #include "core/SettingsFields.h"
+#include "core/StopResume.h"
 
 #include <QSet>
 
@@ -57,12 +58,9 @@ void GlobalSettings::cmdResetAll_Click() {
         return;
     for (const QString& section : {u"General"_s, u"Field Entries"_s})
         m_app.platform.Settings().DeleteSetting(section);
-    m_app.platform.Settings().Sync();
-    // The exit would write everything back.
-    m_app.state.blnNoSaveOnExit = true;
-    m_app.ShowMessage(
-        u"Quillmere needs to be restarted for the settings to take effect.\n\nQuillmere will now close."_s);
-    m_app.mainForm->Unload();
+    CloseBehindReset(
+        u"Quillmere needs to be restarted for the settings to take effect.\n\nQuillmere will now close."_s,
+        {});
 }
 
 void GlobalSettings::mnuResetSettings_Click() {
@@ -70,10 +68,16 @@ void GlobalSettings::mnuResetSettings_Click() {
     if (!m_app.AskYesNo(u"Are you sure you want to reset all your Quillmere settings?"_s, title))
         return;
     modRegistry(m_app.platform.Settings()).DeleteKey(modRegistry::Root::CurrentUser, modRegistry::AppBranch);
+    CloseBehindReset(u"Please restart the program for the changes to take effect.\n\nQLM will now close."_s,
+                     title);
+}
+
+// The exit would write everything back, and a run that goes on behind the message its counts.
+void GlobalSettings::CloseBehindReset(const QString& message, const QString& title) {
     m_app.platform.Settings().Sync();
     m_app.state.blnNoSaveOnExit = true;
-    m_app.ShowMessage(u"Please restart the program for the changes to take effect.\n\nQLM will now close."_s,
-                      title);
+    m_app.stopResume->StopAll(u"FU"_s);
+    m_app.ShowMessage(message, title);
     m_app.mainForm->Unload();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 namespace qlm {
 
 class App;
@@ -16,6 +18,7 @@ private:
     void cmdClose_Click();
     void cmdResetAll_Click();
     void mnuResetSettings_Click();
+    void CloseBehindReset(const QString& message, const QString& title);
 
     App& m_app;
 };

@@ -202,10 +202,12 @@ void MainForm::picRefresh_Click() {
     });
 }
 
-// Once set it stays: answering No later doesn't take it back.
+// The last answer counts, so that whoever has said Yes can take it back.
 void MainForm::mnuExitWhenFinished_Click() {
-    if (m_app.AskYesNo(u"Are you sure you want Quillmere to exit when the current operation is finished?"_s))
-        m_app.state.blnExitWhenFinished = true;
+    RunState& state = m_app.state;
+    state.blnExitWhenFinished =
+        m_app.AskYesNo(u"Are you sure you want Quillmere to exit when the current operation is finished?"_s);
+    m_app.controls.SetTicked("mnuExitWhenFinished"_L1, state.blnExitWhenFinished);
 }
 
 void MainForm::TabStrip1_Click(const QString& caption) {

@@ -10,6 +10,19 @@ namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+// A button that became the default one before it stood in the form is not known to it as such.
+void SettleDefaultButton(const QWidget& form) {
+    for (auto* button : form.findChildren<QPushButton*>())
+        if (button->isDefault()) {
+            button->setDefault(false);
+            button->setDefault(true);
+        }
+}
+
+} // namespace
+
 Form::Form(const FormContext& context, const QString& name, const QString& title)
     : QDialog(context.parent),
       m_app(context.app),
@@ -22,6 +35,7 @@ Form::Form(const FormContext& context, const QString& name, const QString& title
 
 void Form::Bind() {
     m_binder.BindAll(*this);
+    SettleDefaultButton(*this);
     MakeRoomForText();
     Bound();
 }

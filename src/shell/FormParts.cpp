@@ -19,20 +19,14 @@ public:
     QSize sizeHint() const override { return QPushButton::sizeHint() + QSize(2, 0); }
 };
 
-QPushButton* Prepared(QPushButton* button, QLatin1StringView name) {
-    Named(button, name, button->text().remove(u'&'));
-    button->setAutoDefault(false);
-    return button;
-}
-
 } // namespace
 
 QPushButton* NewButton(QLatin1StringView name, const QString& caption) {
-    return Prepared(new QPushButton(caption), name);
+    return Named(new QPushButton(caption), name);
 }
 
 QPushButton* NewLink(QLatin1StringView name, const QString& caption) {
-    QPushButton* link = Prepared(new Link(caption), name);
+    QPushButton* link = Named<QPushButton>(new Link(caption), name);
     link->setFlat(true);
     link->setCursor(Qt::PointingHandCursor);
     link->setProperty("look", u"link"_s);
@@ -72,10 +66,7 @@ QDialogButtonBox* NewButtonRow(std::initializer_list<QPushButton*> buttons) {
     for (QPushButton* button : buttons) {
         const bool leaves = button->objectName() == "cmdCancel"_L1 || button->objectName() == "cmdClose"_L1;
         row->addButton(button, leaves ? QDialogButtonBox::RejectRole : QDialogButtonBox::AcceptRole);
-        if (button == *buttons.begin()) {
-            button->setAutoDefault(true);
-            button->setDefault(true);
-        }
+        button->setDefault(button == *buttons.begin());
     }
     return row;
 }

@@ -16,7 +16,6 @@ using namespace Qt::Literals::StringLiterals;
 frmBlacklist::frmBlacklist(const FormContext& context) : Form(context, u"frmBlacklist"_s, u"Black List"_s) {
     QLineEdit* id = NewLine("txtID"_L1, u"ID to add"_s);
     QPushButton* add = NewButton("cmdAdd"_L1, u"&Add ID"_s);
-    add->setAutoDefault(true);
     add->setDefault(true);
     auto* caption = new QLabel(u"&ID:"_s);
     caption->setBuddy(id);

@@ -21,7 +21,6 @@ frmGoogleSearch::frmGoogleSearch(const FormContext& context)
     auto* caption = new QLabel(u"Please enter a Google search &term to scan MySpace profiles:"_s);
     caption->setBuddy(term);
     QPushButton* search = NewButton("cmdOK"_L1, u"&Search"_s);
-    search->setAutoDefault(true);
     search->setDefault(true);
     auto* entry = new QHBoxLayout;
     entry->addWidget(term, 1);

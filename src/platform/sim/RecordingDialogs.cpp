@@ -5,6 +5,8 @@ namespace qlm {
 
 Dialogs::Answer RecordingDialogs::ShowMessage(const QString& text, const QString& title, Buttons buttons) {
     messages.push_back({text, title, buttons});
+    if (onMessage)
+        onMessage();
     if (buttons == Buttons::Ok)
         return Answer::Ok;
     if (answers.empty()) {

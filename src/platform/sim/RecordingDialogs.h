@@ -41,6 +41,7 @@ public:
     QStringList fileDialogs;
     QStringList shownForms;   // in order, modal or not
     QStringList windowTitles; // open windows that CloseWindowTitled() can close
+    std::function<void()> onMessage; // what happens while a box is up
     // What happens in a modal form until it closes.
     std::map<QString, std::function<void()>> onModal;
 

@@ -57,6 +57,38 @@ TEST_F(AccountScreensTest, AContinueThatFailsIsReported) {
     EXPECT_TRUE(app->platform.Dialogs().IsFormOpen(u"frmInteken"_s));
 }
 
+TEST_F(AccountScreensTest, ALoginScreenThatCannotBeFilledComesUp) {
+    app->controls.AddListener([](const Control& control, Controls::Change, int) {
+        if (control.name == "frmInteken.lblHeading"_L1)
+            throw std::runtime_error("no window");
+    });
+    app->accountScreens->ShowLoginScreen();
+    EXPECT_EQ(Reported(), QStringList{u"Form_Load - frmInteken"_s});
+    EXPECT_TRUE(app->platform.Dialogs().IsFormOpen(u"frmInteken"_s));
+}
+
+// The list shows the file's accounts already; the store keeps its own.
+TEST_F(AccountScreensTest, AnImportThatFailsIsReported) {
+    const QString path = folder.filePath(u"list.txt"_s);
+    app->files.WriteBytes(path, "b@example.com;word\r\n");
+    const QByteArray before = app->files.ReadBytes(app->accountFile->Path());
+    world.gate.readOnlyFolders = {world.installationFolder};
+    dialogs.answers = {Dialogs::Answer::Yes};
+    dialogs.files = {path};
+    app->commands.Run(u"frmSwitchAccount.cmdImport_Click"_s);
+    EXPECT_EQ(Reported(), QStringList{u"cmdImport_Click"_s});
+    EXPECT_EQ(app->controls.Items("frmSwitchAccount.lstAccounts"_L1), QStringList{u"b@example.com"_s});
+    EXPECT_EQ(app->files.ReadBytes(app->accountFile->Path()), before);
+}
+
+TEST_F(AccountScreensTest, AnExportThatFailsIsReported) {
+    const QString path = folder.filePath(u"list.txt"_s);
+    QDir().mkpath(path);
+    dialogs.files = {path};
+    app->commands.Run(u"frmSwitchAccount.cmdExport_Click"_s);
+    EXPECT_EQ(Reported(), QStringList{u"SaveList"_s});
+}
+
 TEST_F(AccountScreensTest, WithoutASelectionContinueAsksForOne) {
     app->accountScreens->ShowLoginScreen();
     app->controls.SetTicked("frmInteken.chkTOS"_L1, true);

@@ -123,5 +123,35 @@ TEST_F(LoginFormTest, EveryStepShowsTheBrowserAndForgetsTheLastPage) {
     EXPECT_TRUE(State().blnNewLayout);
 }
 
+// The machine keeps its state and the page is looked at again.
+TEST_F(LoginFormTest, AStepThatFailsIsReportedUnderItsNameAndRepeated) {
+    struct Row {
+        qint16 step;
+        QString body;
+        QString failsAt;
+        QString reported;
+    };
+    for (const Row& row :
+         {Row{2, u"<a href=\"/\">Home</a>"_s, u"Waiting for the MySpace homepage to load..."_s,
+              u"Proc: IterateLoginAccount"_s},
+          Row{3, u"forgot password?"_s, u"Waiting for the page to load completely..."_s,
+              u"Proc: DoLogin"_s}}) {
+        QFile::remove(State().ErrorLogPath);
+        Show(row.body);
+        State().CurrentAction = u"LOGIN"_s;
+        State().intLoginStep = row.step;
+        app->timers->tmrCheckLinkLoaded.SetEnabled(false);
+        const int listener = app->controls.AddListener([&row](const Control& control, Controls::Change, int) {
+            if (control.text == row.failsAt)
+                throw std::runtime_error("no window");
+        });
+        app->loginFlow->IterateLoginAccount();
+        app->controls.RemoveListener(listener);
+        EXPECT_EQ(app->files.ReadLines(State().ErrorLogPath).filter(u"Proc: "_s), QStringList{row.reported});
+        EXPECT_EQ(State().intLoginStep, row.step);
+        EXPECT_TRUE(app->timers->tmrCheckLinkLoaded.Enabled());
+    }
+}
+
 } // namespace
 } // namespace qlm

@@ -126,5 +126,21 @@ TEST_F(GlobalSettingsTest, ResetSettingsDeletesEverythingAndEndsWithoutWritingIt
     EXPECT_TRUE(world.settings.All().empty());
 }
 
+// A request that goes out behind the last message would count into the store that has just been emptied.
+TEST_F(GlobalSettingsTest, AResetStopsTheRunBeforeItsLastMessage) {
+    for (const auto* command : {"mnuResetSettings_Click", "frmGlobalSettings.cmdResetAll_Click"}) {
+        Restart();
+        app->state.CurrentAction = u"FR"_s;
+        app->state.blnHoldLinkCheck = false;
+        QStringList runningAt;
+        dialogs.onMessage = [this, &runningAt] { runningAt.append(app->state.CurrentAction); };
+        dialogs.answers = {Dialogs::Answer::Yes};
+        app->commands.Run(QString::fromLatin1(command));
+        dialogs.onMessage = nullptr;
+        EXPECT_EQ(runningAt, (QStringList{u"FR"_s, QString()})) << command;
+        EXPECT_TRUE(app->state.blnHoldLinkCheck);
+    }
+}
+
 } // namespace
 } // namespace qlm

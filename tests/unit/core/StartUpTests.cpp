@@ -173,7 +173,13 @@ TEST_F(MainWindowTest, UnloadingSavesClosesTheFormsAndEnds) {
     dialogs.ShowForm(u"frmMain"_s);
     dialogs.ShowForm(u"frmLog"_s);
     app->controls.SetText("txtFRNote"_L1, u"kept"_s);
+    QStringList told;
+    app->controls.AddListener([&told](const Control& control, Controls::Change, int) {
+        if (control.name == "myfraCurrentAction"_L1)
+            told.append(control.text);
+    });
     app->mainForm->Form_Unload();
+    EXPECT_EQ(told.value(0), u"Exiting Quillmere, saving all your settings..."_s);
     EXPECT_EQ(world.settings.GetSetting(u"Field Entries"_s, u"txtFRNote"_s, {}), u"kept"_s);
     EXPECT_TRUE(world.settings.HasSetting(u"General"_s, u"mnuCaptchaSound"_s));
     EXPECT_EQ(dialogs.OpenForms(), QStringList{u"frmMain"_s});

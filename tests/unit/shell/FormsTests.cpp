@@ -5,6 +5,7 @@
 #include "shell/PictureButtons.h"
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -104,6 +105,57 @@ TEST_F(FormsTest, AModalFormIsOpenWhileItIsWaitedForAndGoneAfterwards) {
 
 TEST_F(FormsTest, AnUnknownFormIsAFault) {
     EXPECT_THROW(dialogs.ShowForm(u"frmNowhere"_s), std::logic_error);
+}
+
+// The keyboard's Return presses what it stands on; anywhere else the form's default button.
+TEST_F(FormsTest, ReturnPressesTheButtonThatHasTheFocus) {
+    int pressed = 0;
+    for (const QString& form : FormNames()) {
+        dialogs.ShowForm(form);
+        QWidget* window = dialogs.FormWidget(form);
+        QApplication::setActiveWindow(window);
+        const QList<QPushButton*> buttons = window->findChildren<QPushButton*>();
+        EXPECT_EQ(std::count_if(buttons.begin(), buttons.end(), [](auto* b) { return b->isDefault(); }), 1)
+            << form.toStdString();
+        for (auto* button : buttons) {
+            const QString command = form + u'.' + button->objectName() + u"_Click"_s;
+            Count(command.toLatin1().constData());
+            if (!button->isVisible() || !button->isEnabled())
+                continue;
+            runs = 0;
+            button->setFocus();
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QApplication::sendEvent(button, &press);
+            EXPECT_EQ(runs, 1) << command.toStdString();
+            ++pressed;
+        }
+        dialogs.CloseForm(form);
+    }
+    EXPECT_GT(pressed, 30);
+}
+
+TEST_F(FormsTest, ReturnOnAnInputPressesTheFirstButtonOfTheFoot) {
+    for (const auto& [form, input, button] : {std::tuple{"frmAccountDetails", "txtEmail", "cmdOK"},
+                                              {"frmSwitchAccount", "lstAccounts", "cmdOK"},
+                                              {"frmInteken", "lstAccounts", "cmdContinue"},
+                                              {"frmInteken", "chkTOS", "cmdContinue"},
+                                              {"frmGlobalSettings", "chkUseGlobalLogs", "cmdClose"},
+                                              {"frmTimeDelay", "txtSeconds", "cmdOK"},
+                                              {"frmFilters", "txtFilterLocation", "cmdOK"},
+                                              {"frmGoogleSearch", "txtGoogleTerm", "cmdOK"},
+                                              {"frmBlacklist", "txtID", "cmdAdd"}}) {
+        Count((QByteArray(form) + '.' + button + "_Click").constData());
+        dialogs.ShowForm(QString::fromLatin1(form));
+        auto* widget = Find<QWidget>(form, input);
+        QApplication::setActiveWindow(widget->window());
+        runs = 0;
+        widget->setEnabled(true);
+        widget->setFocus();
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(widget, &press);
+        EXPECT_EQ(runs, 1) << form << ' ' << input;
+        dialogs.CloseForm(QString::fromLatin1(form));
+    }
 }
 
 TEST_F(FormsTest, EscapeWorksAsTheCancelButton) {
