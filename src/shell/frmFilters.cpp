@@ -16,18 +16,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int YoungestAge = 13;
-constexpr int OldestAge = 100;
-
 QRadioButton* NewOption(QLatin1StringView name, const QString& caption) {
     return Named(new QRadioButton(caption), name);
-}
-
-QComboBox* NewAges(QLatin1StringView name, const QString& accessibleName) {
-    auto* ages = Named(new QComboBox, name, accessibleName);
-    for (int age = YoungestAge; age <= OldestAge; ++age)
-        ages->addItem(QString::number(age));
-    return ages;
 }
 
 QLabel* NewHint(const QString& text) {
@@ -77,9 +67,9 @@ QGroupBox* AgeFrame() {
     return Frame(u"Age"_s, {Row({NewOption("optFilterAgeOff"_L1, u"Filter Off"_s)}),
                             Row({
                                 NewOption("optFilterAgeOn"_L1, u"Age:"_s),
-                                NewAges("cboFilterAge1"_L1, u"Youngest age"_s),
+                                Named(new QComboBox, "cboFilterAge1"_L1, u"Youngest age"_s),
                                 new QLabel(u"to"_s),
-                                NewAges("cboFilterAge2"_L1, u"Oldest age"_s),
+                                Named(new QComboBox, "cboFilterAge2"_L1, u"Oldest age"_s),
                             })});
 }
 

@@ -5,7 +5,7 @@
 #include "shell/FormRegistry.h"
 #include "shell/Look.h"
 
-#include <QGroupBox>
+#include <QComboBox>
 #include <QRadioButton>
 
 namespace qlm {
@@ -105,6 +105,12 @@ TEST_F(GatherFormsTest, TheFilterWindowSaysWhatItFiltersBy) {
                            u"Filter when gathering"_s, u"Filter when sending"_s, u"OK"_s, u"Cancel"_s}));
     for (const QString& text : {u"to"_s, u"Seperate multiple locations by comma"_s, u"days"_s})
         EXPECT_TRUE(Texts(*form).contains(text)) << text.toStdString();
+    for (const char* name : {"cboFilterAge1", "cboFilterAge2"}) {
+        const auto* ages = form->findChild<QComboBox*>(QString::fromLatin1(name));
+        EXPECT_EQ(ages->itemText(0), u"13"_s);
+        EXPECT_EQ(ages->itemText(ages->count() - 1), u"100"_s);
+        EXPECT_GT(ages->width(), ages->fontMetrics().horizontalAdvance(u"100"_s));
+    }
     QStringList spoken;
     for (const auto* option : form->findChildren<QRadioButton*>())
         spoken.append(option->accessibleName());
