@@ -14,7 +14,7 @@ namespace {
 class GatherDriverTest : public SimulatedProgram {
 protected:
     GatherDriverTest() {
-        world.deploymentText += u"SiteDomain=example.com\n"_s;
+        world.deploymentText += u"SiteDomain=example.com\nEventsHost=events.example.com\n"_s;
         app.reset();
         platform.emplace(world, dialogs);
         app.emplace(*platform);
@@ -141,6 +141,39 @@ TEST_F(GatherDriverTest, TheWaitForTheNextPage) {
     EXPECT_EQ(waits(u"/music/charts/5"_s, u"<i class=artist-12></i>"_s), QString());
     EXPECT_EQ(waits(u"/music/charts/5"_s, u"<i class=artist-200></i>"_s), u" - END"_s);
     EXPECT_EQ(waits(u"/any"_s, {}), u"3.1,3, - END"_s);
+}
+
+TEST_F(GatherDriverTest, AnotherPagesNextLinkIsClickedOrGoneTo) {
+    app->state.CurrentAction = u"SCANNING"_s;
+    Show(u"http://www.example.com/any"_s, u"<a href='javascript:void(0)'>Next</a>"_s);
+    EXPECT_EQ(app->pager->FindNextLink(), u"Next"_s);
+    EXPECT_TRUE(app->state.blnClickNextLink);
+    Show(u"http://www.example.com/any"_s, u"<a href='http://x.example.com/y?a&page=2'>Next ›</a>"_s);
+    EXPECT_EQ(app->pager->FindNextLink(), u"http://x.example.com/y?a&page=2"_s);
+    EXPECT_FALSE(app->state.blnClickNextLink);
+}
+
+TEST_F(GatherDriverTest, TheFirstLinkWithTheCaptionIsClicked) {
+    const QString form = u"http://events.example.com/event/addedit"_s;
+    const QString links =
+        u"<a href='http://x.example.com/1'>Next page</a> <a href='http://x.example.com/2'>NEXT</a> "
+        "<a class='a myspace-paginate' href='http://x.example.com/3'>Next</a> "
+        "<a class=myspacepaginationDiv href='http://x.example.com/4'>Next</a>"_s;
+    auto clicked = [&](const QString& action, const QString& newHref, const QString& body) {
+        app->state.CurrentAction = action;
+        Show(form, body);
+        const bool found = app->pager->ClickNextPageLink(u"next"_s, newHref);
+        platform->Pump().RunFor(1000);
+        EXPECT_EQ(found, app->WebBrowser1().LocationURL() != form);
+        return app->WebBrowser1().LocationURL();
+    };
+    EXPECT_EQ(clicked(u"SCANNING"_s, {}, links), u"http://x.example.com/2"_s);
+    EXPECT_EQ(clicked(u"SCANNING"_s, u"http://x.example.com/9"_s, links), u"http://x.example.com/9"_s);
+    // The form of an event has more of that caption; only its pager counts, and as it stands.
+    EXPECT_EQ(clicked(u"INV"_s, u"http://x.example.com/9"_s, links), u"http://x.example.com/3"_s);
+    EXPECT_EQ(clicked(u"INV"_s, {}, links.section(u"<a "_s, 4).prepend(u"<a "_s)),
+              u"http://x.example.com/4"_s);
+    EXPECT_EQ(clicked(u"INV"_s, {}, links.section(u"<a "_s, 0, 2)), form);
 }
 
 // The chart's own word keeps the table of all pages from being asked.

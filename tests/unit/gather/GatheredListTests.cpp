@@ -182,6 +182,13 @@ TEST_F(GatheredListTest, AFileThatIsMissingIsCreatedWithItsFolder) {
     EXPECT_TRUE(app->files.FileExists(path));
 }
 
+TEST_F(GatheredListTest, SavingCreatesAMissingFolder) {
+    const QString path = app->ProgramFile(u"new/list.txt"_s);
+    Add({u"11"_s});
+    List().SaveScannedList(path);
+    EXPECT_EQ(app->files.ReadBytes(path), "11\r\n");
+}
+
 TEST_F(GatheredListTest, WhileFillingClearShuffleAndImportRefuse) {
     Add({u"1"_s, u"2"_s});
     app->state.blnFillingList = true;

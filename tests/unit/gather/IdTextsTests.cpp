@@ -224,6 +224,16 @@ TEST_F(IdResolutionTest, TheReportLinkHelpsWhenNoScriptNamesTheID) {
     EXPECT_EQ(app->idResolution->GetDisplayFriendID(u"WebBrowser1"_s, {}), u"654"_s);
 }
 
+TEST_F(IdResolutionTest, AnIDOfTwoDigitsIsNoneAndAnotherKeyIsAsked) {
+    app->state.blnNewLayout = true;
+    Show(u"http://www.example.com/ann"_s,
+         u"<script>a={\"DisplayFriendId\":12,\"OwnerId\":345,\"b\":1}</script>"
+         "<p><a href='http://www.example.com/my/mail/new?t=678'>Write</a></p>"_s);
+    EXPECT_EQ(app->idResolution->GetFriendIDFromDocument(u"WebBrowser1"_s, {}), u"678"_s);
+    EXPECT_EQ(app->idResolution->GetDisplayFriendID(u"WebBrowser1"_s, {}), u"12"_s);
+    EXPECT_EQ(app->idResolution->GetDisplayFriendID(u"WebBrowser1"_s, u"OwnerId"_s), u"345"_s);
+}
+
 TEST_F(IdResolutionTest, WhatIsAVanityAddress) {
     for (const QString& good : {u"http://www.example.com/ann"_s, u"http://www.example.com/123"_s,
                                 u"http://www.example.com/music2"_s, u"http://www.example.com/missingann"_s})

@@ -37,8 +37,55 @@ TEST_F(LinkScannerTest, TheMemoryOfFetchedPagesIsClearedBehindAThousand) {
     app->linkScanner->GatherPageProfiles();
     EXPECT_EQ(app->state.lstAlreadyFullGatheredPageIDs.size(), 1000);
     app->state.lstAlreadyFullGatheredPageIDs.append(u"one more"_s);
+    bool held = false;
+    platform->Pump().onPump = [&] { held = held || app->WebBrowser1().RefusesNavigations(); };
     app->linkScanner->GatherPageProfiles();
     EXPECT_TRUE(app->state.lstAlreadyFullGatheredPageIDs.isEmpty());
+    EXPECT_FALSE(held);
+}
+
+TEST_F(LinkScannerTest, WhoWasFetchedBeforeIsLeftOutOfAFullGatherAlone) {
+    ShowProfiles({u"11"_s, u"12"_s});
+    app->state.lstAlreadyFullGatheredPageIDs.append(u"http://www.example.com/11"_s);
+    app->controls.SetTicked("optFullGather"_L1, true);
+    app->linkScanner->GatherPageProfiles();
+    EXPECT_EQ(Ids(), QStringList{u"12"_s});
+    app->controls.SetTicked("optQuickGather"_L1, true);
+    app->linkScanner->GatherPageProfiles();
+    EXPECT_EQ(Ids(), (QStringList{u"12"_s, u"11"_s}));
+}
+
+TEST_F(LinkScannerTest, WhoIsOnlineIsFurniture) {
+    const QString body = u"<p><a id=ctl_WhosOnline1 href='http://www.example.com/11'>x</a></p>"
+                         "<p><a href='http://www.example.com/12'>y</a></p>"_s;
+    Show(u"http://www.example.com/any"_s, body);
+    app->linkScanner->GatherPageProfiles();
+    EXPECT_EQ(Ids(), QStringList{u"12"_s});
+    app->state.CurrentAction = u"ACC"_s;
+    app->linkScanner->GatherPageProfiles();
+    EXPECT_EQ(app->controls.Items("lstAcceptIDs"_L1), QStringList{u"12"_s});
+}
+
+TEST_F(LinkScannerTest, EachAddressIsLookedAtOnceHoweverFarApartItStands) {
+    app->state.blnLoggingEnabled = true;
+    QStringList names;
+    for (int i = 0; i < 120; ++i)
+        names.append(QString::number(100 + i % 60));
+    ShowProfiles(names);
+    int looks = 0;
+    app->diagnostics.onLine = [&](const QString& line) { looks += line.startsWith(u"GPP3 - "_s) ? 1 : 0; };
+    app->linkScanner->GatherPageProfiles();
+    EXPECT_EQ(looks, 60);
+    EXPECT_EQ(Ids().size(), 60);
+}
+
+TEST_F(LinkScannerTest, AHeldLinkCheckEndsTheWalk) {
+    ShowProfiles({u"11"_s, u"12"_s, u"13"_s});
+    app->state.strNextPageLink = u"not the first page"_s;
+    platform->Pump().onPump = [this] { app->state.blnHoldLinkCheck = Ids() == QStringList{u"11"_s}; };
+    app->linkScanner->GatherPageProfiles();
+    EXPECT_EQ(Ids(), QStringList{u"11"_s});
+    EXPECT_FALSE(app->state.blnRetryGatherPage);
 }
 
 TEST_F(LinkScannerTest, ThePageMayMoveAgainBehindAFullGather) {
@@ -138,6 +185,11 @@ TEST_F(LinkScannerTest, WhileAcceptingTheRequestsAreCollected) {
     ShowProfiles({u"11"_s, u"12"_s, u"13"_s, u"11"_s});
     app->linkScanner->GatherPageProfiles();
     EXPECT_EQ(app->controls.Items("lstAcceptIDs"_L1), (QStringList{u"11"_s, u"13"_s}));
+    // Whose page was fetched before is not collected again.
+    app->controls.SetItems("lstAcceptIDs"_L1, {});
+    app->state.lstAlreadyFullGatheredPageIDs.append(u"http://www.example.com/13"_s);
+    app->linkScanner->GatherPageProfiles();
+    EXPECT_EQ(app->controls.Items("lstAcceptIDs"_L1), QStringList{u"11"_s});
     EXPECT_TRUE(app->gatheredList->IsEmpty());
 }
 
