@@ -71,8 +71,8 @@ bool IsEntry(const QString& line, const QString& word) {
     return line.indexOf(word, 0, Qt::CaseInsensitive) >= 1;
 }
 
-// A text up to its first line break, unless it begins with one.
-QString FirstLine(const QString& text) {
+// What the status screen shows of a text: up to its first line break, unless it begins with one.
+QString ShownOf(const QString& text) {
     const qsizetype end = text.indexOf(u"%nl%"_s);
     return end >= 1 ? text.left(end) : text;
 }
@@ -153,7 +153,7 @@ void ContentLists::FillMainList(ContentKind kind) {
             if (FlagTextOf(line).mid(SelectedMarker.size()).trimmed() != u"1"_s)
                 continue;
             if (row.rowIsFirstLine)
-                text = FirstLine(text);
+                text = text.section(u"%nl%"_s, 0, 0);
             m_app.controls.AddItem(row.mainList, text.replace(u"%cln%"_s, u";"_s));
         }
         if (m_app.controls.Items(row.mainList).isEmpty())
@@ -201,7 +201,7 @@ QString ContentLists::GetCompleteStatusFromList(const QString& row) {
         m_app.files.EnsureFile(path);
         for (const QString& line : m_app.files.ReadLines(path)) {
             const QString text = TextBefore(line, SelectedMarker);
-            if (FirstLine(text) == row) {
+            if (ShownOf(text) == row) {
                 found = UnescapeLine(text);
                 return;
             }

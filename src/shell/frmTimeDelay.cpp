@@ -68,4 +68,8 @@ frmTimeDelay::frmTimeDelay(const FormContext& context) : Form(context, u"frmTime
     resize(420, 230);
 }
 
+void frmTimeDelay::Bound() {
+    findChild<QLineEdit*>(QString(Bounds[0].minutes))->selectAll();
+}
+
 } // namespace qlm

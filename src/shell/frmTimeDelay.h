@@ -9,6 +9,10 @@ namespace qlm {
 class frmTimeDelay : public Form {
 public:
     explicit frmTimeDelay(const FormContext& context);
+
+protected:
+    // The first number is replaced by what is typed, as the others are when the Tab key comes to them.
+    void Bound() override;
 };
 
 } // namespace qlm

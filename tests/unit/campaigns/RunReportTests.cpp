@@ -44,6 +44,20 @@ TEST(ReportRows, AResultTakesThePlaceOfTheBegunLineWithItsNumber) {
     EXPECT_EQ(run.ended + run.how, u"uover"_s);
 }
 
+TEST(ReportRows, EveryResultIsReadAsItWasWritten) {
+    const std::vector<std::pair<ReportResult, QString>> results{
+        {ReportResult::Sent, u"Sent"_s},       {ReportResult::SentNotLogged, u"Sent, not logged"_s},
+        {ReportResult::Skipped, u"Skipped"_s}, {ReportResult::PutOff, u"Put off"_s},
+        {ReportResult::Failed, u"Failed"_s},   {ReportResult::Unfinished, u"Unfinished"_s}};
+    for (const auto& [result, text] : results) {
+        EXPECT_EQ(ResultText(result), text);
+        const QString line = ResultLine({1, u"t"_s, u"1001"_s, result, 0, {}});
+        const ReportedRun run = RunsIn({RunLine(u"t"_s, u"a"_s), line})[0];
+        ASSERT_EQ(run.rows.size(), 1) << text.toStdString();
+        EXPECT_EQ(run.rows[0].result, result) << text.toStdString();
+    }
+}
+
 TEST(ReportRows, CsvIsQuotedAsTheStandardSays) {
     ReportedRun run;
     run.rows = {{1, u"2009-06-01 10:00:00"_s, u"1001"_s, ReportResult::SentNotLogged, 0, u"a, \"b\" é"_s},
@@ -92,6 +106,34 @@ TEST_F(RunReportTest, TellsWhatBecameOfEachTarget) {
     report.PassOver(u"1005"_s, u"known"_s);
     report.EndRun(u"IAF"_s);
     EXPECT_EQ(Lines(), before);
+}
+
+TEST_F(RunReportTest, TellsHowTheRunEnded) {
+    struct Row {
+        QString reason;
+        QString how;
+        QString target;
+    };
+    const QString closed = u"The program was closed"_s;
+    const QString pressed = u"You pressed Stop"_s;
+    const QString ended = u"The run was ended"_s;
+    for (
+        const Row& row : std::vector<Row>{
+            {u"IAF"_s, u"All targets were gone through"_s, u"Unfinished"_s},
+            {u"AFC"_s, u"Your limit was reached"_s,
+             u"Sent, not logged, The request that met your limit: it is sent, but neither counted nor logged"_s},
+            {u"LF2"_s, u"The site's daily limit was reached"_s, u"Failed"_s},
+            {u"ADDSTOP"_s, pressed, u"Unfinished, "_s + pressed},
+            {u"MAINSTOP"_s, pressed, u"Unfinished, "_s + pressed},
+            {u"FU"_s, closed, u"Unfinished, "_s + closed},
+            {u"GNCA"_s, ended, u"Unfinished, "_s + ended}}) {
+        report.BeginRun();
+        report.Open(u"1001"_s);
+        report.EndRun(row.reason);
+        const ReportedRun run = report.Runs().constLast();
+        EXPECT_EQ(run.how, row.how) << row.reason.toStdString();
+        EXPECT_EQ(Texts(run), QStringList{u"1001: "_s + row.target}) << row.reason.toStdString();
+    }
 }
 
 TEST_F(RunReportTest, AResultIsOnTheDiskWhenTheRunGoesOn) {

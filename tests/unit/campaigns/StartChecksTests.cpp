@@ -188,14 +188,20 @@ TEST_F(StartChecksTest, OfASingleMessageStandInTheirOrder) {
 TEST_F(StartChecksTest, OfListedMessagesStandInTheirOrder) {
     Choose("optSendFromList(0)"_L1);
     Set("txtMsgStopAt"_L1, u"ten"_s);
-    ExpectInOrder(u"MSG"_s,
-                  {{u"Please enter a valid 'stop at' number, or leave it blank for unlimited messages",
-                    "txtMsgStopAt", [this] { Set("txtMsgStopAt"_L1, u"10"_s); }},
-                   {u"You have selected 'send from list', but you havent added any messages to the list yet.",
-                    "", [this] { Write(ContentKind::Message, u"S&Message=B"_s); }},
-                   // A flag that is not written counts as none here, although the line would be sent.
-                   {u"Please select at least one message in the list to send.", "",
-                    [this] { Write(ContentKind::Message, u"S&Message=B&Selected=1"_s); }}});
+    app->controls.SetItems("lstFriendIDs"_L1, {});
+    ExpectInOrder(
+        u"MSG"_s,
+        {{u"Please enter a valid 'stop at' number, or leave it blank for unlimited messages", "txtMsgStopAt",
+          [this] { Set("txtMsgStopAt"_L1, u"10"_s); }},
+         {u"Your Gathered ID's List is Empty!\nFirst you need to go to a page in the browser and, using "
+          u"the 'Gather IDs' tab, extract the profiles you would like to send messages to.\nQuillmere "
+          u"will now switch to the Gather ID's tab.",
+          "", [this] { app->controls.AddItem("lstFriendIDs"_L1, u"1"_s); }},
+         {u"You have selected 'send from list', but you havent added any messages to the list yet.", "",
+          [this] { Write(ContentKind::Message, u"S&Message=B"_s); }},
+         // A flag that is not written counts as none here, although the line would be sent.
+         {u"Please select at least one message in the list to send.", "",
+          [this] { Write(ContentKind::Message, u"S&Message=B&Selected=1"_s); }}});
 }
 
 TEST_F(StartChecksTest, OfASingleCommentStandInTheirOrder) {

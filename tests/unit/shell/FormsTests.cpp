@@ -5,6 +5,8 @@
 #include "shell/PictureButtons.h"
 
 #include <QAction>
+#include <QComboBox>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -75,10 +77,28 @@ TEST_F(FormsTest, NoButtonOrMenuItemOfTheMainWindowDoesNothing) {
 TEST_F(FormsTest, EveryInputSaysWhatItIsToAScreenReader) {
     for (const QString& form : FormNames()) {
         dialogs.ShowForm(form);
-        for (const auto* line : dialogs.FormWidget(form)->findChildren<QLineEdit*>())
+        const QWidget* window = dialogs.FormWidget(form);
+        for (const auto* line : window->findChildren<QLineEdit*>())
             EXPECT_FALSE(line->accessibleName().isEmpty()) << line->objectName().toStdString();
+        for (const auto* box : window->findChildren<QComboBox*>())
+            EXPECT_FALSE(box->accessibleName().isEmpty()) << box->objectName().toStdString();
+        for (const auto* view : window->findChildren<QAbstractItemView*>()) {
+            const bool isWhole = !qobject_cast<const QHeaderView*>(view) &&
+                                 !view->window()->inherits("QComboBoxPrivateContainer");
+            EXPECT_FALSE(isWhole && view->accessibleName().isEmpty()) << view->objectName().toStdString();
+        }
+        for (const auto* button : window->findChildren<QAbstractButton*>())
+            EXPECT_FALSE(button->isVisible() && button->text().isEmpty() &&
+                         button->accessibleName().isEmpty())
+                << form.toStdString() << ' ' << button->objectName().toStdString();
         dialogs.CloseForm(form);
     }
+}
+
+TEST_F(FormsTest, TheFirstNumberOfTheTimeDelayIsReplacedByWhatIsTyped) {
+    app->controls.SetText("frmTimeDelay.txtMinutes"_L1, u"12"_s);
+    dialogs.ShowForm(u"frmTimeDelay"_s);
+    EXPECT_EQ(Find<QLineEdit>("frmTimeDelay", "txtMinutes")->selectedText(), u"12"_s);
 }
 
 TEST_F(FormsTest, OpenFormsStandInTheOrderInWhichTheyCameUp) {
