@@ -131,6 +131,7 @@ TEST_F(MessagingCaptchaTest, AStopEndsTheWaitAndArmsNothing) {
     };
     app->captchaCalls->MessagingCAPTCHAReached();
     EXPECT_FALSE(app->timers->tmrCheckLinkLoaded.Enabled());
+    EXPECT_TRUE(app->state.blnHoldLinkCheck);
 }
 
 TEST_F(MessagingCaptchaTest, BehindARightAnswerTheConfirmationIsAwaited) {

@@ -45,11 +45,18 @@ protected:
 class BusyBrowserTest : public FriendRequesterTest, public testing::WithParamInterface<const char*> {};
 
 TEST_P(BusyBrowserTest, IsTriedAgainAfterThreeSecondsWithTheSameTarget) {
-    FailAtStatus(sending, GetParam());
     const qint64 startMs = world.clock.NowMs();
+    qint64 openedMs = 0;
+    app->WebBrowser1().events.beforeNavigate2 = [&](const NavigationRequest& request) {
+        if (openedMs == 0 && request.url.endsWith(u"/1001"_s))
+            openedMs = world.clock.NowMs();
+        return false;
+    };
+    FailAtStatus(sending, GetParam());
     EXPECT_EQ(Run().size(), 2);
     EXPECT_TRUE(m_failed);
-    EXPECT_GE(world.clock.NowMs() - startMs, 3000);
+    EXPECT_GE(openedMs - startMs, 3000);
+    EXPECT_LT(openedMs - startMs, 3500);
     EXPECT_EQ(Log(), (QStringList{u"1001"_s, u"1002"_s}));
     EXPECT_TRUE(app->files.ReadLines(app->state.ErrorLogPath).contains(u"Proc: IterateAddFriends"_s));
 }
@@ -91,6 +98,37 @@ TEST_F(FriendRequesterTest, AMessageBehindARequestIsHandedToTheMessenger) {
     EXPECT_EQ(app->WebBrowser1().LocationURL(), u"http://www.example.com/my/mail/new?t=1001"_s);
 }
 
+TEST_F(FriendRequesterTest, TheTimeDelayComesBeforeTheMessageBehindARequest) {
+    app->commands.Add(u"picCmdMsgSend_Click"_s, [] {});
+    app->controls.SetTicked("chkFrSendMessage"_L1, true);
+    app->controls.SetText("txtMsgSubject"_L1, u"Hi"_s);
+    app->controls.SetText("txtMsgMessage"_L1, u"Hello"_s);
+    app->state.lngTimeDelayFrom = app->state.lngTimeDelayTo = 60;
+    const qint64 startMs = world.clock.NowMs();
+    QStringList said;
+    app->controls.AddListener([&](const Control& control, Controls::Change, int) {
+        if (control.name == "myfraCurrentAction"_L1)
+            said += control.text;
+    });
+    Run();
+    EXPECT_EQ(app->state.CurrentAction, u"MSG"_s);
+    EXPECT_GE(world.clock.NowMs() - startMs, 61'000);
+    EXPECT_TRUE(said.contains(u"Friend request successfully sent... time delay active."_s));
+}
+
+TEST_F(FriendRequesterTest, WhileCategoriesAreFetchedTheBoxSaysSo) {
+    QStringList shown;
+    platform->Pump().onPump = [&] { shown += app->controls.Text("cboFRCategories"_L1); };
+    app->commands.Run(u"piccmdFRRefreshCategories_Click"_s);
+    shown.removeDuplicates();
+    EXPECT_EQ(shown, QStringList{u"Retrieving, please wait..."_s});
+    EXPECT_EQ(app->controls.Text("cboFRCategories"_L1), u"Press button to fill list -> -> ->"_s);
+    EXPECT_EQ(
+        dialogs.Texts(),
+        QStringList{
+            u"This account has no friend categories.\n\nIf this is not correct, then please try again."_s});
+}
+
 TEST_F(FriendRequesterTest, TheNoticeOfTheErrorRedirectComesOnceARun) {
     app->friendRequester->NoticeErrorRedirect();
     app->friendRequester->NoticeErrorRedirect();
@@ -99,6 +137,50 @@ TEST_F(FriendRequesterTest, TheNoticeOfTheErrorRedirectComesOnceARun) {
     Run();
     app->friendRequester->NoticeErrorRedirect();
     EXPECT_EQ(dialogs.shownForms.count(u"frmTempMySpaceErrorFR"_s), 2);
+}
+
+TEST_F(FriendRequesterTest, EachEntryOfTheStepMakesBothBrowsersSilent) {
+    app->state.CurrentAction = u"FR"_s;
+    app->state.strLastPageText = app->state.strLastPageHref = u"old"_s;
+    app->WebBrowser1().SetSilent(false);
+    app->webHide().SetSilent(false);
+    app->friendRequester->IterateAddFriends();
+    EXPECT_TRUE(app->WebBrowser1().Silent());
+    EXPECT_TRUE(app->webHide().Silent());
+    EXPECT_EQ(app->state.strLastPageText + app->state.strLastPageHref, QString());
+}
+
+TEST_F(FriendRequesterTest, AStartForgetsWhatAnEarlierRunLeft) {
+    RunState& state = app->state;
+    state.blnInDelay = state.blnMsgAfterFR = state.blnFRSkipMessage = state.blnErrorRedirectTold = true;
+    state.intBlankTicks = state.intFRLimitHits = state.intCaptchaSkips = 2;
+    state.lngFailedCount = state.lngRemovedCount = state.lngSessionFR = 5;
+    app->timers->Timer1.Restart();
+    app->sendRuns->cmdAddFriends_Click();
+    EXPECT_FALSE(state.blnInDelay || state.blnMsgAfterFR || state.blnFRSkipMessage ||
+                 state.blnErrorRedirectTold);
+    EXPECT_EQ(state.intBlankTicks + state.intFRLimitHits + state.intCaptchaSkips, 0);
+    EXPECT_EQ(state.lngFailedCount + state.lngRemovedCount + state.lngSessionFR, 0);
+    EXPECT_FALSE(app->timers->Timer1.Enabled());
+    EXPECT_EQ(app->controls.Text("lblFrFailedCount"_L1), u"Failed: 0"_s);
+    EXPECT_EQ(app->controls.Text("lblProgress"_L1), u"ID 1 of 2"_s);
+}
+
+TEST_F(FriendRequesterTest, AStopWhileAFilteredProfileIsLeftIsTheLastWord) {
+    app->sendRuns->cmdAddFriends_Click();
+    app->state.intFRStep = 7;
+    app->state.blnFilterGenderOff = false;
+    app->state.blnFilterMale = true;
+    platform->Pump().onPump = [this] {
+        if (app->WebBrowser1().LocationURL() == u"about:blank"_s)
+            app->commands.Run(u"piccmdAddFriendsStop_Click"_s);
+    };
+    platform->Browser(BrowserName::WebBrowser1).TakeVisited();
+    app->friendRequester->IterateAddFriends();
+    platform->Pump().RunFor(5000);
+    EXPECT_EQ(app->state.CurrentAction, QString());
+    EXPECT_EQ(app->state.intFRStep, 0);
+    EXPECT_TRUE(platform->Browser(BrowserName::WebBrowser1).TakeVisited().isEmpty());
 }
 
 // More than the walk's pump interval of known IDs: Stop works among them.

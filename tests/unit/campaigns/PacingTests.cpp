@@ -54,6 +54,20 @@ TEST_F(PacingTest, EqualBoundsWaitOneSecondMore) {
     EXPECT_EQ(Label(), u"Time Delay: ON"_s);
 }
 
+TEST_F(PacingTest, TheDelayHoldsThePageCheckAndLiftsTheHoldAtItsEnd) {
+    SetBounds(u"5"_s, u"5"_s);
+    app->timers->tmrAutoResume.Restart();
+    bool alwaysHeld = true;
+    platform->Pump().onPump = [&] {
+        alwaysHeld = alwaysHeld && app->state.blnHoldLinkCheck && app->state.blnInDelay &&
+                     !app->timers->tmrAutoResume.Enabled();
+    };
+    app->pacing->DoDelay();
+    EXPECT_TRUE(alwaysHeld);
+    EXPECT_FALSE(app->state.blnHoldLinkCheck || app->state.blnInDelay);
+    EXPECT_TRUE(app->timers->tmrAutoResume.Enabled());
+}
+
 TEST_F(PacingTest, TheLongestWaitIsOneSecondBeyondTheUpperBound) {
     SetBounds(u"60"_s, u"120"_s);
     world.random.SetNumbers({0.9999});

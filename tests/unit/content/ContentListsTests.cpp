@@ -273,8 +273,8 @@ TEST_F(ContentListsTest, ACutInARewriteLeavesTheOldListWhole) {
 }
 
 TEST_F(ContentListsTest, TheTabShowsTheSelectedEntries) {
-    Write(ContentKind::Message,
-          {u"one%cln%%nl%&Message=x&Selected=1"_s, u"two&message=x"_s, u"three&Message=x&Selected=0"_s});
+    Write(ContentKind::Message, {u"one%cln%%nl%&Message=x&Selected=1"_s, u""_s, u"  "_s, u"two&message=x"_s,
+                                 u"three&Message=x&Selected=0"_s});
     Write(ContentKind::Bulletin, {u"one%cln%&Bulletin=x&Selected=1"_s, u"three&Bulletin=x&Selected=0"_s, {}});
     Write(ContentKind::Comment, {u"one%cln%a%nl%b&usenonhtml=0&nonhtmlcomment=&Selected=1"_s,
                                  u"two&UseNonHTML=1&nonhtmlcomment=x&Selected=0"_s});

@@ -36,6 +36,15 @@ TEST_F(MessageFileTest, IsOneLineOfSubjectAndBody) {
     EXPECT_EQ(Body(), u"one\r\ntwo; three"_s);
 }
 
+TEST_F(MessageFileTest, IsNeitherWrittenNorReadWhenNoneIsChosen) {
+    SetMessage(u"a"_s, u"b"_s);
+    app->commands.Run(u"piccmdMsgSave_Click"_s);
+    app->commands.Run(u"piccmdMsgLoad_Click"_s);
+    EXPECT_EQ(Subject() + Body(), u"ab"_s);
+    EXPECT_TRUE(dialogs.messages.empty());
+    EXPECT_FALSE(app->files.FileExists(app->state.ErrorLogPath));
+}
+
 TEST_F(MessageFileTest, ChosenAgainReceivesAFurtherLineAndGivesTheFirst) {
     SetMessage(u"a"_s, u"b"_s);
     Save();
