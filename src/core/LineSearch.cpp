@@ -4,6 +4,7 @@
 #include "core/FileSystem.h"
 
 #include <QFile>
+#include <cstdint>
 #include <cstring>
 
 namespace qlm {
@@ -29,17 +30,50 @@ bool BeginsLine(QByteArrayView text, qsizetype place) {
     return place == 0 || text[place - 1] == '\n';
 }
 
+using Block = signed char __attribute__((vector_size(16)));
+
+Block BlockAt(const char* place) {
+    Block block;
+    std::memcpy(&block, place, sizeof block);
+    return block;
+}
+
+Block BlockOf(char character) {
+    return Block{} + static_cast<signed char>(character);
+}
+
+bool IsAnySet(Block block) {
+    std::uint64_t halves[2];
+    std::memcpy(halves, &block, sizeof block);
+    return (halves[0] | halves[1]) != 0;
+}
+
+// Where the wanted text stands; nullptr for nowhere. Looks at sixteen places at a time, by three of its
+// characters: among numbers alone memmem, which goes by two, stumbles at every other step.
+const char* Find(const char* place, const char* end, QByteArrayView wanted) {
+    const qsizetype last = wanted.size() - 1;
+    const Block begins = BlockOf(wanted.front());
+    const Block goesOn = BlockOf(wanted[last / 2]);
+    const Block ends = BlockOf(wanted.back());
+    constexpr qsizetype places = sizeof(Block);
+    for (; end - place >= last + places; place += places)
+        if (IsAnySet((BlockAt(place) == begins) & (BlockAt(place + last / 2) == goesOn) &
+                     (BlockAt(place + last) == ends)))
+            for (qsizetype i = 0; i < places; ++i)
+                if (std::memcmp(place + i, wanted.data(), static_cast<size_t>(wanted.size())) == 0)
+                    return place + i;
+    return static_cast<const char*>(
+        memmem(place, static_cast<size_t>(end - place), wanted.data(), static_cast<size_t>(wanted.size())));
+}
+
 // text is of whole lines. Looking for the characters first and for the ends of the line then is several times
 // faster than taking line after line.
 bool HoldsLine(QByteArrayView text, QByteArrayView wanted) {
-    const char* from = text.data();
-    const char* const end = from + text.size();
-    auto rest = [&] { return static_cast<size_t>(end - from); };
-    while (const void* found = memmem(from, rest(), wanted.data(), static_cast<size_t>(wanted.size()))) {
-        const qsizetype place = static_cast<const char*>(found) - text.data();
+    const char* const end = text.data() + text.size();
+    for (const char* found = Find(text.data(), end, wanted); found; found = Find(found + 1, end, wanted)) {
+        const qsizetype place = found - text.data();
         if (BeginsLine(text, place) && EndsLine(text, place + wanted.size()))
             return true;
-        from = static_cast<const char*>(found) + 1;
     }
     return false;
 }

@@ -2,6 +2,7 @@
 #include "core/FileSystem.h"
 #include "core/LineSearch.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -13,7 +14,10 @@ namespace {
 class LineSearchTest : public testing::Test {
 protected:
     bool Holds(const QByteArray& text, const QByteArray& wanted) {
-        FileSystem().WriteBytes(m_path, text);
+        QFile::remove(m_path); // a file that is cut to nothing is flushed
+        QFile file(m_path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+        file.close();
         return FileHoldsLine(m_path, wanted);
     }
     QTemporaryDir m_folder;
@@ -37,6 +41,23 @@ TEST_F(LineSearchTest, AnEarlierPartOfALineHidesNoLaterLine) {
 
 TEST_F(LineSearchTest, NothingIsInNoFile) {
     EXPECT_FALSE(Holds("\r\n\r\n", ""));
+}
+
+// Sixteen places are looked at together: a line may stand at any of them, and so near the end that none fit.
+TEST_F(LineSearchTest, ALineIsFoundWhereverItStandsAmongOthersLikeIt) {
+    for (const QByteArray& wanted : {QByteArray("7"), QByteArray("71"), QByteArray("104924"),
+                                     QByteArray("1049241049"), QByteArray("12345678901234567890")}) {
+        QByteArray like = wanted; // the same but for one character, so that no other tells
+        like[like.size() / 4] = 'x';
+        for (int before = 0; before <= 17; ++before)
+            for (const int behind : {0, 24}) {
+                const QByteArray front = QByteArray(before, '3') + "\n" + like + "\n";
+                const QByteArray back = "\n" + like + QByteArray(behind, '3');
+                EXPECT_TRUE(Holds(front + wanted + back, wanted)) << before << ' ' << behind;
+                EXPECT_FALSE(Holds(front + '3' + wanted + back, wanted)) << before << ' ' << behind;
+                EXPECT_FALSE(Holds(front + back, wanted)) << before << ' ' << behind;
+            }
+    }
 }
 
 TEST_F(LineSearchTest, ALineThatAChunkCutsInTwoIsFound) {
