@@ -95,7 +95,9 @@ TEST_F(MessagingCaptchaTest, ACaptchaCallsTheUserOnce) {
     Show(u"Type the two words:"_s);
     app->timers->tmrAutoResume.SetEnabled(true);
     app->state.blnLinkFound = true;
+    app->SetStatus(u"something else"_s);
     app->captchaCalls->MessagingCAPTCHAReached();
+    EXPECT_EQ(app->Status(), u"Waiting for user to enter and submit CAPTCHA..."_s);
     EXPECT_EQ(platform->Attention().calls, QStringList{u"flash"_s});
     EXPECT_FALSE(app->timers->tmrAutoResume.Enabled());
     ExpectArmed(true, 9);

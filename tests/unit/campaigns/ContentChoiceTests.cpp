@@ -53,6 +53,10 @@ TEST_F(ContentChoiceTest, MessagesStepByTwo) {
     EXPECT_EQ(Messages(u"ABCDE"_s, 9), u"BDACEACEA"_s);
 }
 
+TEST_F(ContentChoiceTest, PastTheEndTheWalkGoesOnFromADeselectedFirstLine) {
+    EXPECT_EQ(Messages(u"aBCDE"_s, 5), u"BDCEC"_s);
+}
+
 TEST_F(ContentChoiceTest, ALoneMessageIsSentEachTime) {
     EXPECT_EQ(Messages(u"A"_s, 3), u"AAA"_s);
     EXPECT_EQ(app->state.intMessageListIndex, 1);

@@ -94,6 +94,7 @@ TEST_F(FriendRequesterTest, AMessageBehindARequestIsHandedToTheMessenger) {
     EXPECT_EQ(app->state.intCurrentIDIndex, 0);
     EXPECT_EQ(app->Status(), u"Proceeding to send message after friend request..."_s);
     EXPECT_EQ(app->state.strLinkValue, u"send"_s);
+    EXPECT_TRUE(app->timers->tmrCheckLinkLoaded.Enabled());
     platform->Pump().RunFor(1000);
     EXPECT_EQ(app->WebBrowser1().LocationURL(), u"http://www.example.com/my/mail/new?t=1001"_s);
 }
@@ -166,21 +167,54 @@ TEST_F(FriendRequesterTest, AStartForgetsWhatAnEarlierRunLeft) {
     EXPECT_EQ(app->controls.Text("lblProgress"_L1), u"ID 1 of 2"_s);
 }
 
-TEST_F(FriendRequesterTest, AStopWhileAFilteredProfileIsLeftIsTheLastWord) {
-    app->sendRuns->cmdAddFriends_Click();
-    app->state.intFRStep = 7;
-    app->state.blnFilterGenderOff = false;
-    app->state.blnFilterMale = true;
-    platform->Pump().onPump = [this] {
-        if (app->WebBrowser1().LocationURL() == u"about:blank"_s)
+class FilteringTest : public FriendRequesterTest {
+protected:
+    FilteringTest() {
+        for (const QString& id : {u"1001"_s, u"1002"_s})
+            world.web.SetPage(
+                u"http://www.example.com/%1/classic"_s.arg(id),
+                u"<html><body><a href='/'>Home</a><p>View My: Pics</p><p>Female<br>33 years old</p></body></html>"_s);
+        app->state.blnFilterGenderOff = false;
+        app->state.blnFilterMale = true;
+    }
+    QString Address() { return app->WebBrowser1().LocationURL(); }
+};
+
+TEST_F(FilteringTest, AProfileThatDoesNotFitIsLeftAndReported) {
+    EXPECT_EQ(Run(), (QStringList{u"http://www.example.com/1001/classic"_s,
+                                  u"http://www.example.com/1002/classic"_s}));
+    EXPECT_EQ(app->state.lngFilteredCount, 2);
+    EXPECT_EQ(Address(), u"about:blank"_s);
+    const QList<ReportRow> rows = app->sendRuns->Report().Runs().constLast().rows;
+    ASSERT_EQ(rows.size(), 2);
+    EXPECT_EQ(ResultText(rows[1].result) + u", "_s + rows[1].why,
+              u"Skipped, Doesn't match your filter settings"_s);
+}
+
+TEST_F(FilteringTest, AStopWhileTheProfileIsLeftIsTheLastWord) {
+    bool stood = false;
+    platform->Pump().onPump = [&] {
+        stood = stood || Address().endsWith(u"/1001/classic"_s);
+        if (stood && Address() == u"about:blank"_s)
             app->commands.Run(u"piccmdAddFriendsStop_Click"_s);
     };
-    platform->Browser(BrowserName::WebBrowser1).TakeVisited();
-    app->friendRequester->IterateAddFriends();
-    platform->Pump().RunFor(5000);
-    EXPECT_EQ(app->state.CurrentAction, QString());
+    EXPECT_EQ(Run().size(), 1);
+    EXPECT_TRUE(stood);
     EXPECT_EQ(app->state.intFRStep, 0);
-    EXPECT_TRUE(platform->Browser(BrowserName::WebBrowser1).TakeVisited().isEmpty());
+}
+
+TEST_F(FriendRequesterTest, ASuccessForgetsTheLimitPagesAndTheSkippedCaptchas) {
+    Run();
+    app->state.CurrentAction = u"FR"_s;
+    app->state.strCurrentID = u"1002"_s;
+    app->state.intFRStep = 8;
+    app->state.blnDailyLimitHit = true;
+    app->state.intFRLimitHits = app->state.intCaptchaSkips = 2;
+    app->WebBrowser1().Navigate(u"http://www.example.com/my/friends/addtofriends/1002"_s);
+    platform->Pump().RunFor(500);
+    app->friendRequester->IterateAddFriends();
+    EXPECT_FALSE(app->state.blnDailyLimitHit);
+    EXPECT_EQ(app->state.intFRLimitHits + app->state.intCaptchaSkips, 0);
 }
 
 // More than the walk's pump interval of known IDs: Stop works among them.

@@ -84,6 +84,7 @@ TEST_F(LogDialogTest, ImportOverwritesWithoutMerging) {
     EXPECT_EQ(app->files.ReadLines(Path()), QStringList{u"3"_s});
     Press(u"cmdImportLog"_s);
     EXPECT_EQ(app->files.ReadLines(Path()), QStringList{u"3"_s});
+    EXPECT_FALSE(app->files.FileExists(app->state.ErrorLogPath));
 }
 
 TEST_F(LogDialogTest, ExportOverwritesTheChosenFile) {
