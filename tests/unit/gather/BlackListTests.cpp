@@ -199,6 +199,12 @@ TEST_F(BlackListTest, WhatCannotBeWrittenIsNotShownAndIsReported) {
         EXPECT_EQ(app->controls.Text("frmBlacklist.txtID"_L1), u"12"_s);
         Delete(0);
         EXPECT_EQ(Rows(), QStringList{u"11"_s});
+        const QString path = world.dataFolder + u"/more.txt"_s;
+        app->files.WriteLines(path, {u"13"_s, u"14"_s});
+        dialogs.files.push_back(path);
+        dialogs.answers.push_back(Dialogs::Answer::No);
+        Press(u"cmdAddFromFile"_s);
+        EXPECT_EQ(Rows(), QStringList{u"11"_s});
         EXPECT_TRUE(app->controls["frmBlacklist.cmdClose"_L1].enabled);
         world.gate.readOnlyFolders.clear();
     });

@@ -131,6 +131,25 @@ TEST_F(FilterOptionsTest, BandsHaveNeitherGenderNorAge) {
     });
 }
 
+TEST_F(FilterOptionsTest, TheWindowComesUpAsItsOptionsSay) {
+    const QString section = u"Field Entries"_s;
+    auto male = [this] { return app->controls["frmFilters.optFilterMale"_L1].enabled; };
+    platform->Settings().SaveSetting(section, u"optFilterBands"_s, u"True"_s);
+    platform->Settings().SaveSetting(section, u"optFilterOff"_s, u"False"_s);
+    platform->Settings().SaveSetting(section, u"blnFilterAgeOn"_s, u"True"_s);
+    platform->Settings().SaveSetting(section, u"optFilterAgeOff"_s, u"False"_s);
+    Open([&] {
+        EXPECT_FALSE(male());
+        EXPECT_FALSE(AgesEnabled());
+    });
+    platform->Settings().SaveSetting(section, u"optFilterBands"_s, u"False"_s);
+    platform->Settings().SaveSetting(section, u"optFilterFilm"_s, u"True"_s);
+    Open([&] {
+        EXPECT_TRUE(male());
+        EXPECT_TRUE(AgesEnabled());
+    });
+}
+
 TEST_F(FilterOptionsTest, TheAgeBoxesFollowTheAgeFilter) {
     Open([this] {
         EXPECT_FALSE(AgesEnabled());

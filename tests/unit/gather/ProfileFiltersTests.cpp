@@ -102,6 +102,40 @@ TEST_F(ProfileFiltersTest, AGenderThatDoesNotComeIsWaitedForFifteenSecondsAndAnA
     EXPECT_NEAR(static_cast<double>(platform->Pump().NowMs() - startMs), 11000.0, 500.0);
 }
 
+TEST_F(ProfileFiltersTest, WhatSaysAnAgeEndsTheWaitAndAMusicPageHasNoGenderToWaitFor) {
+    auto seconds = [this](const QString& body, bool passes) {
+        const qint64 startMs = platform->Pump().NowMs();
+        EXPECT_EQ(Passes(body), passes) << body.toStdString();
+        return (platform->Pump().NowMs() - startMs) / 1000;
+    };
+    Choose("optFilterAgeOn"_L1);
+    Type("cboFilterAge1"_L1, u"30"_s);
+    Type("cboFilterAge2"_L1, u"30"_s);
+    const QString open = u"<div class=friendSpace>"_s;
+    for (const QString& age : {u"30 years old"_s, u"<span class=\"age\">30</span>"_s,
+                               u"<span class=age>30</span>"_s, u"<i title='age\":\"Age: 30\"'></i>"_s})
+        EXPECT_LT(seconds(open + age + u"</div>"_s, true), 5);
+    Choose("optFilterAgeOff"_L1);
+    Choose("optFilterMale"_L1);
+    EXPECT_LT(seconds(NewLayout + u"<p>Featured Playlists, Music News</p><b>Male</b>"_s, true), 5);
+}
+
+TEST_F(ProfileFiltersTest, AFilterThatIsOffIsNotAskedWhateverItsField) {
+    Choose("optFilterPeople"_L1);
+    Type("txtFilterLocation"_L1, u"Hull"_s);
+    Type("txtFilterLastLoginDays"_L1, u"1"_s);
+    EXPECT_TRUE(Passes(Person(u"Male"_s, u"20"_s, u"York"_s)));
+}
+
+// A music page keeps its place in another block.
+TEST_F(ProfileFiltersTest, AMusicPagesPlace) {
+    Choose("optFilterLocation"_L1);
+    Type("txtFilterLocation"_L1, u"York"_s);
+    const QString place = u"<p class=UserBasicInformation>a<br>b<br>York<br>Profile Views: 3</p>"_s;
+    EXPECT_TRUE(Passes(Band + place));
+    EXPECT_FALSE(Passes(u"<div class=friendSpace></div>"_s + place));
+}
+
 TEST_F(ProfileFiltersTest, AnAgeFilterThatIsOffAsksNothing) {
     Choose("optFilterPeople"_L1);
     EXPECT_TRUE(Passes(Person(u"Male"_s, u"unknown"_s, u"Leeds"_s)));
@@ -195,6 +229,9 @@ TEST_F(ProfileFiltersTest, AHeldLinkCheckEndsTheWaitsWithNo) {
     Choose("optFilterPeople"_L1);
     app->state.blnHoldLinkCheck = true;
     EXPECT_FALSE(Passes(Person(u"Male"_s, u"20"_s, u"York"_s)));
+    const qint64 startMs = platform->Pump().NowMs();
+    EXPECT_FALSE(Passes(u"<p>something else</p>"_s));
+    EXPECT_LT(platform->Pump().NowMs() - startMs, 5000);
 }
 
 TEST_F(ProfileFiltersTest, OnAListTheWordsBesideTheLinkSayWhoIsOnline) {

@@ -77,6 +77,10 @@ TEST(Online, TheMarkStandsInFrontOfTheLastLogin) {
     EXPECT_FALSE(SaysOnline(filler + u"userOnline"_s + filler + u"Last Login: 1/1/2009"_s));
     EXPECT_FALSE(SaysOnline(filler + u"<a>userOnline Last Login: 1/1/2009"_s));
     EXPECT_FALSE(SaysOnline(u"userOnline Last Login: 1/1/2009"_s));
+    // At the twelfth character the slice may begin, before it not.
+    const QString mark = u"userOnline"_s + QString(140, u'x') + u"Last Login:"_s;
+    EXPECT_TRUE(SaysOnline(QString(11, u'x') + mark));
+    EXPECT_FALSE(SaysOnline(QString(10, u'x') + mark));
     EXPECT_FALSE(SaysOnline(filler + u"nothing of both"_s));
 }
 
@@ -85,6 +89,20 @@ TEST(LastLogin, IsCutOutOfTheMarkup) {
     EXPECT_EQ(LastLoginText(u"Last Login:<span class=x>\r\n\t3/4/2011&nbsp;</span>"_s), u"3/4/2011"_s);
     EXPECT_EQ(LastLoginText(u"last login:</span> <LI>3/4/2011</LI>"_s), QString());
     EXPECT_EQ(LastLoginText(u"nothing"_s), QString());
+}
+
+TEST(LastLogin, AMarkBeginsNearByAndADateEndsNearBy) {
+    EXPECT_EQ(LastLoginText(u"Last Login:12345<b>6/1/2009</b>"_s), u"6/1/2009"_s);
+    EXPECT_EQ(LastLoginText(u"Last Login:123456<b>6/1/2009</b>"_s), u"123456"_s);
+    const QString hundred(100, u'x');
+    EXPECT_EQ(LastLoginText(u"Last Login:"_s + hundred + u"<b>y</b><span>"_s), hundred);
+    EXPECT_EQ(LastLoginText(u"Last Login:x"_s + hundred + u"<b>y</b> <LI>&nbsp;<SPAN>"_s),
+              u'x' + hundred + u"<b>y</b>"_s);
+}
+
+TEST(LastLogin, AYearOfTwoDigitsIsOfThisCentury) {
+    EXPECT_TRUE(LastLoginWithin(u"6/1/09"_s, QDate(2009, 6, 3), 2));
+    EXPECT_FALSE(LastLoginWithin(u"6/1/08"_s, QDate(2009, 6, 3), 2));
 }
 
 TEST(LastLogin, PassesInEitherOrderOfDayAndMonth) {
