@@ -116,7 +116,9 @@ TEST_F(StopResumeTest, ResumingALoginOnlyArmsTheWatchdog) {
         State().blnHoldLinkCheck = true;
         app->timers->tmrAutoResume.SetEnabled(false);
         trail.clear();
+        Browser().SetSilent(false);
         app->stopResume->ResumeNext();
+        EXPECT_TRUE(Browser().Silent());
         EXPECT_TRUE(app->timers->tmrAutoResume.Enabled());
         EXPECT_FALSE(State().blnHoldLinkCheck);
         EXPECT_TRUE(trail.isEmpty());
@@ -129,7 +131,9 @@ TEST_F(StopResumeTest, ASkipInADelayOnlyEndsTheDelay) {
     State().intMsgStep = 9;
     State().blnInDelay = true;
     State().blnHoldLinkCheck = true;
+    Browser().SetSilent(false);
     app->stopResume->SkipProfile();
+    EXPECT_TRUE(Browser().Silent());
     EXPECT_FALSE(State().blnInDelay);
     EXPECT_FALSE(State().blnSkipRequested);
     EXPECT_EQ(State().intMsgStep, 9);
@@ -216,6 +220,18 @@ TEST_F(StopResumeTest, TheStopButtonStopsThePageToo) {
     EXPECT_EQ(app->webHide().Position(), 1);
     EXPECT_EQ(State().CurrentAction, QString());
     EXPECT_TRUE(SaidBeginningWith(u"MSG stop - (MAINSTOP)"_s));
+}
+
+TEST_F(StopResumeTest, TheRefreshButtonIsNoNavigationOfTheUsers) {
+    Show(u"<a href=\"/\">Home</a>"_s);
+    app->webHide().ZOrder(0);
+    Browser().SetSilent(false);
+    State().blnUserNavigated = false;
+    app->commands.Run(u"picRefresh_Click"_s);
+    EXPECT_TRUE(Browser().Silent());
+    EXPECT_EQ(app->webHide().Position(), 1);
+    EXPECT_TRUE(Browser().Busy());
+    EXPECT_FALSE(State().blnUserNavigated);
 }
 
 TEST_F(StopResumeTest, OnlyAChainHandsOverAndSavesFirst) {
