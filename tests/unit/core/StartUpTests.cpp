@@ -99,6 +99,9 @@ TEST_F(StartUpTest, TheLaunchLeavesItsMarks) {
 TEST_F(StartUpTest, ANewerVersionIsNoted) {
     Start();
     EXPECT_FALSE(app->state.blnNewVersionAvailable);
+    world.http.Set(Main + u"/version.htm"_s, u"version "_s + app->Version());
+    Start();
+    EXPECT_FALSE(app->state.blnNewVersionAvailable);
     world.http.Set(Main + u"/version.htm"_s, u"version 99.0.0\r\n"_s);
     Start();
     EXPECT_TRUE(app->state.blnNewVersionAvailable);
