@@ -89,6 +89,39 @@ TEST_F(AccountScreensTest, AnExportThatFailsIsReported) {
     EXPECT_EQ(Reported(), QStringList{u"SaveList"_s});
 }
 
+// The list takes a double click also while the main window is being loaded.
+TEST_F(AccountScreensTest, AContinueThatIsUnderWayIsNotBegunAgain) {
+    app->accountScreens->ShowLoginScreen();
+    app->controls.SetTicked("frmInteken.chkTOS"_L1, true);
+    app->controls.SetEnabled("frmInteken.cmdContinue"_L1, false);
+    app->commands.Run(u"frmInteken.lstAccounts_DblClick"_s);
+    EXPECT_EQ(app->state.AccountEmail, QString());
+    EXPECT_TRUE(dialogs.IsFormOpen(u"frmInteken"_s));
+    app->controls.SetEnabled("frmInteken.cmdContinue"_L1, true);
+    app->commands.Run(u"frmInteken.lstAccounts_DblClick"_s);
+    EXPECT_EQ(app->state.AccountEmail, u"a@example.com"_s);
+}
+
+// Whoever draws while the list is being written sees that the dialog is busy.
+TEST_F(AccountScreensTest, TheDetailsShowThatTheyAreBusy) {
+    QList<bool> usable;
+    platform->Pump().onPump = [this, &usable] {
+        usable = {app->controls["frmAccountDetails.cmdOK"_L1].enabled,
+                  app->controls["frmAccountDetails.cmdCancel"_L1].enabled,
+                  app->controls["frmAccountDetails.fraFields"_L1].visible};
+    };
+    dialogs.onModal[u"frmAccountDetails"_s] = [this] {
+        for (const auto& [field, text] : {std::pair{"txtEmail", u"b@example.com"_s},
+                                          {"txtPassword", u"word"_s},
+                                          {"txtConfirmPassword", u"word"_s}})
+            app->controls.SetText(QLatin1StringView("frmAccountDetails." + QByteArray(field)), text);
+        app->commands.Run(u"frmAccountDetails.cmdOK_Click"_s);
+    };
+    app->commands.Run(u"frmInteken.cmdAdd_Click"_s);
+    EXPECT_EQ(usable, (QList<bool>{false, false, false}));
+    EXPECT_TRUE(app->controls["frmAccountDetails.cmdOK"_L1].enabled);
+}
+
 TEST_F(AccountScreensTest, WithoutASelectionContinueAsksForOne) {
     app->accountScreens->ShowLoginScreen();
     app->controls.SetTicked("frmInteken.chkTOS"_L1, true);
