@@ -96,7 +96,11 @@ FriendRequester::Next FriendRequester::GoOnBehindSubmit(qint32 target) {
         return Next::Wait;
     if (!state.blnWaitingForCaptcha)
         m_app.SetStatus(u"Friend request submitted, waiting for confirmation page..."_s);
-    Await(u"Text"_s, u"has been sent"_s);
+    // Behind a CAPTCHA in front of the profile that is what comes.
+    if (AwaitsProfile())
+        Await(u"Text"_s, u"View"_s);
+    else
+        Await(u"Text"_s, u"has been sent"_s);
     m_app.timers->tmrCheckLinkLoaded.Restart();
     return Next::Wait;
 }

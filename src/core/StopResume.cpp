@@ -110,6 +110,8 @@ void StopResume::SkipProfile() {
         return;
     }
     state.blnSkipRequested = true;
+    // A tick that is due for the page being left would take a step of the next profile.
+    m_app.timers->Timer1.SetEnabled(false);
     for (const SkipRow& row : SkipRows)
         if (state.CurrentAction == row.action) {
             SkipTo(m_app, row);

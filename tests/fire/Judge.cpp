@@ -103,11 +103,14 @@ void Judge::AfterRequest(const QString& id, const QStringList& journal, const QS
                 Excuse(u"the site's answer was lost"_s);
             if (m_plan.redirects.contains(id))
                 Excuse(u"the site answered with its error page"_s);
+            if (m_givenUp.contains(id))
+                Excuse(u"the user gave up while it was on its way"_s);
         } else if (word == u"asked-again"_s) {
             ++m_askedAgain;
             Demand(m_excused.contains(id), id + u" was opened again although nothing came between"_s);
         }
     }
+    m_givenUp.remove(id);
     const bool isLimit = page.contains(u"maximum limit of friend requests for the day"_s) ||
                          page.contains(u"their daily useage"_s) || page.contains(u"your daily useage"_s);
     m_limitPagesInARow = isLimit                             ? m_limitPagesInARow + 1
@@ -162,8 +165,10 @@ void Judge::OnKill(int stored) {
     Excuse(u"the program died in between"_s);
 }
 
-void Judge::OnUserGivesUp() {
+void Judge::OnUserGivesUp(const QString& id) {
     ReadLog();
+    m_visited.insert(id); // skipped before its page was opened, too
+    m_givenUp.insert(id);
     Excuse(u"the user pressed Skip or Stop in between"_s);
 }
 

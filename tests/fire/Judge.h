@@ -34,7 +34,7 @@ public:
     // The process has just ended, at whatever place.
     void OnKill(int stored);
     // The user takes the target from under the program.
-    void OnUserGivesUp();
+    void OnUserGivesUp(const QString& id);
     // The list has been walked to its end.
     void OnEnd(App& app);
 
@@ -63,6 +63,7 @@ private:
     QSet<QString> m_unlogged; // asked, and neither logged nor excused
     QSet<QString> m_excused;  // asked and, for a reason that is known, not logged
     QSet<QString> m_visited;
+    QSet<QString> m_givenUp; // a request that was on its way may still come to the site
     int m_tornLines = 0;
     int m_kills = 0;
     int m_missed = 0; // counted, and the log line did not come to be

@@ -15,6 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr int SiteStopsOfADay = 5;
 constexpr qint64 LookEveryMs = 1000;
 constexpr qint64 SilentWaitMs = 130'000;
 constexpr qint64 LongestStandMs = 20 * 60 * 1000;
@@ -126,7 +127,20 @@ void Trial::SetUp() {
     m_dialogs.onMessage = [this](const QString& text) {
         m_judge.OnMessage(*m_app, text);
         m_isOver = m_isOver || text.startsWith(u"Finished sending friend requests."_s);
+        if (text.startsWith(u"You have reached the maximum limit"_s) && ++m_siteStops == SiteStopsOfADay)
+            LiftRefusals();
     };
+}
+
+// Three profiles that always answer with a page of the daily limit stop every run before its end, until the
+// site thinks better of them.
+void Trial::LiftRefusals() {
+    Trace(u"the site lifts its refusals"_s);
+    for (const QString& line : m_plan.controls)
+        if (line.startsWith(u"refuse "_s))
+            m_site.Control(line.section(u' ', 0, 1) + u" off"_s);
+        else if (line.endsWith(u" limit"_s))
+            m_site.Control(line.section(u' ', 0, 1) + u" sent"_s);
 }
 
 SimAnswer Trial::AnswerPage(const SimRequest& request) {
@@ -301,10 +315,10 @@ void Trial::LookAtRunningProgram() {
     if (standsMs > SilentWaitMs && !isTold)
         throw Broken(u"a wait of two minutes isn't told: "_s + m_app->Status());
     if (isTold || m_dice.Happens(m_plan.skipsInThousandLooks)) {
-        m_judge.OnUserGivesUp();
+        m_judge.OnUserGivesUp(state.strCurrentID);
         Do("picSkip_Click");
     } else if (m_dice.Happens(m_plan.stopsInThousandLooks)) {
-        m_judge.OnUserGivesUp();
+        m_judge.OnUserGivesUp(state.strCurrentID);
         Do("piccmdAddFriendsStop_Click");
     }
 }

@@ -42,6 +42,7 @@ public:
 
 private:
     void SetUp();
+    void LiftRefusals();
     void StartProgram();
     void DropProgram();
     void LiveOn();
@@ -73,6 +74,7 @@ private:
     bool m_isOver = false;
     int m_kills = 0;
     int m_runs = 0;
+    int m_siteStops = 0;
     int m_killAtTurn = -1;
     int m_writesSeen = -1;
     bool m_limitLifted = false;

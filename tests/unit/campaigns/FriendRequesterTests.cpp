@@ -217,6 +217,17 @@ TEST_F(FriendRequesterTest, ASuccessForgetsTheLimitPagesAndTheSkippedCaptchas) {
     EXPECT_EQ(app->state.intFRLimitHits + app->state.intCaptchaSkips, 0);
 }
 
+// The page of the first was found a moment ago: its tick is due when Skip opens the second.
+TEST_F(FriendRequesterTest, SkipTakesNoStepOfTheNextProfile) {
+    app->sendRuns->cmdAddFriends_Click();
+    app->timers->Timer1.SetInterval(0);
+    app->timers->Timer1.Restart();
+    app->commands.Run(u"picSkip_Click"_s);
+    EXPECT_EQ(app->state.strCurrentID, u"1002"_s);
+    EXPECT_EQ(app->state.CurrentAction, u"FR"_s);
+    EXPECT_EQ(app->state.intFRStep, 8);
+}
+
 // More than the walk's pump interval of known IDs: Stop works among them.
 TEST_F(FriendRequesterTest, StopWorksInALongWalkOverKnownIds) {
     app->files.WriteLines(app->ProgramFile(u"FriendsLog.txt"_s), {u"7"_s});
