@@ -220,8 +220,8 @@ TEST_F(FriendRequesterTest, ASuccessForgetsTheLimitPagesAndTheSkippedCaptchas) {
 // The page of the first was found a moment ago: its tick is due when Skip opens the second.
 TEST_F(FriendRequesterTest, SkipTakesNoStepOfTheNextProfile) {
     app->sendRuns->cmdAddFriends_Click();
-    app->timers->Timer1.SetInterval(0);
     app->timers->Timer1.Restart();
+    world.clock.Advance(500);
     app->commands.Run(u"picSkip_Click"_s);
     EXPECT_EQ(app->state.strCurrentID, u"1002"_s);
     EXPECT_EQ(app->state.CurrentAction, u"FR"_s);
