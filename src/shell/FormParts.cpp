@@ -28,6 +28,7 @@ QPushButton* NewButton(QLatin1StringView name, const QString& caption) {
 QPushButton* NewLink(QLatin1StringView name, const QString& caption) {
     QPushButton* link = Named<QPushButton>(new Link(caption), name);
     link->setFlat(true);
+    link->setAutoDefault(true); // Return follows it in the main window, too
     link->setCursor(Qt::PointingHandCursor);
     link->setProperty("look", u"link"_s);
     link->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);

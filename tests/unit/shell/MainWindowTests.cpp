@@ -6,11 +6,13 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QScreen>
 #include <QStackedLayout>
 #include <QTabWidget>
@@ -87,6 +89,16 @@ TEST_F(MainWindowTest, ATabClickGoesThroughTheLogicAndTheLogicMovesTheTab) {
     EXPECT_TRUE(app->controls.Ticked("optScanFollowing"_L1));
     app->mainForm->ShowTab(u"Gather ID's"_s);
     EXPECT_EQ(tabs->currentIndex(), 0);
+}
+
+TEST_F(MainWindowTest, EnterOnALinkFollowsIt) {
+    for (const char* name : {"lblFullGatherHelp", "lblProfileIDHelp"}) {
+        Count((QByteArray(name) + "_Click").constData());
+        runs = 0;
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(Named<QPushButton>(name), &press);
+        EXPECT_EQ(runs, 1) << name;
+    }
 }
 
 TEST_F(MainWindowTest, EnterInTheAddressLineGoesThere) {
