@@ -113,7 +113,23 @@ TEST_F(FormsContract, TheEventOfAFormTellsWhatWasTyped) {
     EXPECT_EQ(question.inputs[1].name, u"mail"_s);
     EXPECT_EQ(question.inputs[1].value, u"a@example.com"_s);
     EXPECT_EQ(question.inputs[2].value, u"secret"_s);
+    EXPECT_EQ(question.headers, u"Content-Type: application/x-www-form-urlencoded\r\n"_s);
     EXPECT_EQ(seen.order, (QStringList{u"before"_s, u"arrived"_s, u"completed"_s}));
+}
+
+// Who has pressed a button and waits while the browser is busy waits for what the form leads to.
+TEST_F(FormsContract, AFormThatIsSentMakesTheBrowserBusyAtOnce) {
+    ServeBody(u"sent"_s, u"signed in"_s);
+    Show(
+        u"<form id=f method=post action='/sent'><input name=a><input type=submit id=go value=Login></form>"_s);
+    EXPECT_FALSE(browser.Busy());
+    ById(u"go"_s).Click();
+    EXPECT_TRUE(browser.Busy());
+    const qint64 endMs = pump.NowMs() + defaultLimitMs;
+    while (browser.Busy() && pump.NowMs() < endMs)
+        pump.PumpMessages();
+    EXPECT_EQ(browser.LocationURL(), At(u"sent"_s));
+    EXPECT_EQ(browser.Document().BodyText().trimmed(), u"signed in"_s);
 }
 
 TEST_F(FormsContract, TheEventComesForAScriptedSendingToo) {

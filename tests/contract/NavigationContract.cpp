@@ -32,6 +32,8 @@ TEST_F(NavigationContract, ABareHostNameIsItsTopPage) {
     ASSERT_TRUE(WaitForCompletions(1));
     EXPECT_EQ(browser.LocationURL(), u"http://site.example.com/"_s);
     EXPECT_EQ(Text(), u"top page"_s);
+    ASSERT_EQ(seen.questions.size(), 1u);
+    EXPECT_EQ(seen.questions[0].url, u"http://site.example.com/"_s);
 }
 
 TEST_F(NavigationContract, ThePresentDocumentStaysUntilTheNewOneArrives) {

@@ -19,32 +19,32 @@ template <typename Act> void InPage(const QString& what, Act&& act) {
 }
 
 void Browse(Stage& stage, Arguments& arguments) {
-    stage.Browser(BrowserName::WebBrowser1).Browse(arguments.Take("the address"));
+    stage.TheMachine().Browse(arguments.Take("the address"));
 }
 
 void Follow(Stage& stage, Arguments& arguments) {
     const QString text = arguments.Take("the link's text");
-    InPage(u"link \"%1\""_s.arg(text), [&] { stage.Browser(BrowserName::WebBrowser1).FollowLink(text); });
+    InPage(u"link \"%1\""_s.arg(text), [&] { stage.TheMachine().FollowLink(text); });
 }
 
 void PageClick(Stage& stage, Arguments& arguments) {
     const QString element = arguments.Take("the element");
-    InPage(element, [&] { stage.Browser(BrowserName::WebBrowser1).PageClick(element); });
+    InPage(element, [&] { stage.TheMachine().PageClick(element); });
 }
 
 void PageType(Stage& stage, Arguments& arguments) {
     const QString element = arguments.Take("the element");
     const QString text = arguments.Take("the text");
-    InPage(element, [&] { stage.Browser(BrowserName::WebBrowser1).PageType(element, text); });
+    InPage(element, [&] { stage.TheMachine().PageType(element, text); });
 }
 
 void StatusText(Stage& stage, Arguments& arguments) {
-    stage.Browser(BrowserName::WebBrowser1).ShowStatus(arguments.Take("the text"));
+    stage.TheMachine().ShowStatus(arguments.Take("the text"));
     stage.ThePump().PumpMessages();
 }
 
 void RightClick(Stage& stage, Arguments&) {
-    stage.Browser(BrowserName::WebBrowser1).RightClick();
+    stage.TheMachine().RightClick();
     stage.ThePump().PumpMessages();
 }
 

@@ -140,9 +140,7 @@ void Elapsed(Stage& stage, Arguments& arguments) {
 
 void ContextMenu(Stage& stage, Arguments& arguments) {
     const QString kind = arguments.Take("shown or none");
-    ExpectText(u"the page's menu"_s, kind,
-               stage.Browser(BrowserName::WebBrowser1).contextMenuShown.value_or(false) ? u"shown"_s
-                                                                                        : u"none"_s);
+    ExpectText(u"the page's menu"_s, kind, stage.TheMachine().IsContextMenuShown() ? u"shown"_s : u"none"_s);
 }
 
 } // namespace

@@ -109,11 +109,12 @@ bool Play::ReachGoal(const std::function<bool()>& leave) {
 }
 
 void Play::TurnLoop(const Goal& goal) {
-    SimPump& pump = m_stage.ThePump();
-    const qint64 now = pump.NowMs();
-    const qint64 next = std::min(pump.Queue().NextDueMs().value_or(goal.limitMs), goal.limitMs);
-    if (next > now)
-        pump.Sleep(static_cast<int>(std::min<qint64>(next - now, 1'000'000'000)));
+    Pump& pump = m_stage.ThePump();
+    const qint64 longestMs = std::min(m_stage.TheMachine().LongestSleepMs(), goal.limitMs - m_stage.NowMs());
+    const qint64 dueMs = pump.Queue().NextDueMs().value_or(pump.NowMs() + longestMs);
+    const qint64 sleepMs = std::min(dueMs - pump.NowMs(), longestMs);
+    if (sleepMs > 0)
+        pump.Sleep(static_cast<int>(sleepMs));
     m_ownTurn = true;
     pump.PumpMessages();
     m_ownTurn = false;

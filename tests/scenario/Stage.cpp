@@ -28,7 +28,8 @@ QString DeploymentText() {
 
 } // namespace
 
-Stage::Stage() : dialogs([this]() -> Play& { return *play; }) {
+Stage::Stage(MachineMaker makeMachine)
+    : dialogs([this]() -> Play& { return *play; }), m_makeMachine(std::move(makeMachine)) {
     world.installationFolder = m_folder.filePath(u"program"_s);
     world.dataFolder = m_folder.filePath(u"data"_s);
     QDir().mkpath(world.installationFolder);
@@ -37,19 +38,21 @@ Stage::Stage() : dialogs([this]() -> Play& { return *play; }) {
     world.settings.SaveSetting(u"General"_s, u"mnuEnableLogging"_s, u"True"_s);
     world.http.responder = [this](const QString& url) { return AnswerHttp(url); };
     world.web.responder = [this](const SimRequest& request) { return AnswerPage(request); };
-    MakePlatform();
+    StartMachine();
 }
 
 Stage::~Stage() {
     DropProgram();
 }
 
-void Stage::MakePlatform() {
-    m_platform = std::make_unique<SimPlatform>(world, dialogs);
-    m_platform->Pump().onPump = [this] { play->OnPump(); };
+void Stage::StartMachine() {
+    m_machine = m_makeMachine(world, dialogs);
+    m_machine->SetOnPump([this] { play->OnPump(); });
 }
 
 QWidget* Stage::ViewOf(BrowserName name) {
+    if (QWidget* shown = m_machine->ViewOf(name))
+        return shown;
     std::unique_ptr<QWidget>& view = m_views[name];
     if (!view)
         view = std::make_unique<QWidget>();
@@ -66,7 +69,7 @@ void Stage::Build() {
     if (m_app && !HasEnded())
         Fail(u"the program is running already"_s);
     DropProgram();
-    m_app = std::make_unique<App>(*m_platform);
+    m_app = std::make_unique<App>(m_machine->ThePlatform());
     m_app->diagnostics.onLine = [this](const QString& text) { play->OnDebugLine(text); };
     dialogs.Attach(*m_app, *this);
 }
@@ -83,12 +86,12 @@ void Stage::DropProgram() {
     dialogs.Detach();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     m_app.reset();
-    m_platform.reset();
+    m_machine.reset();
     m_views.clear();
     // The browser's session ends with its process.
     world.web.cookies.Clear();
     world.gate.Mend();
-    MakePlatform();
+    StartMachine();
 }
 
 void Stage::Close() {
@@ -101,7 +104,8 @@ void Stage::Close() {
 }
 
 bool Stage::HasEnded() {
-    return !m_app || m_app->state.blnClosing || m_platform->Shell().hasQuit || m_platform->Shell().hasEnded;
+    const SimShell& shell = m_machine->Services().Shell();
+    return !m_app || m_app->state.blnClosing || shell.hasQuit || shell.hasEnded;
 }
 
 bool Stage::IsIdle() {
@@ -110,15 +114,15 @@ bool Stage::IsIdle() {
     const Timers& timers = *m_app->timers;
     const bool isAtRest = m_app->state.CurrentAction.isEmpty() && !timers.Timer1.Enabled() &&
                           !timers.tmrCheckLinkLoaded.Enabled();
-    const bool nothingDue = ThePump().Queue().NextDueMs().value_or(NowMs() + 1) > NowMs();
+    const bool nothingDue = ThePump().Queue().NextDueMs().value_or(ThePump().NowMs() + 1) > ThePump().NowMs();
     return isAtRest && nothingDue && !Browser(BrowserName::WebBrowser1).Busy();
 }
 
 void Stage::CollectRecords() {
     for (const BrowserName name : {BrowserName::WebBrowser1, BrowserName::webHide, BrowserName::webTemp}) {
         Records& records = m_records[name];
-        records.visited += Browser(name).TakeVisited();
-        for (SimBrowser::Posted& form : Browser(name).TakePosted())
+        records.visited += m_machine->TakeVisited(name);
+        for (SimBrowser::Posted& form : m_machine->TakePosted(name))
             records.posted.push_back(std::move(form));
     }
 }
@@ -145,7 +149,7 @@ QString Stage::ProgramFolder() const {
 }
 
 QString Stage::DataFolder() const {
-    return FileSystem::Join(m_platform->SpecialFolderPath(LocalApplicationData), FolderOfData);
+    return FileSystem::Join(m_machine->ThePlatform().SpecialFolderPath(LocalApplicationData), FolderOfData);
 }
 
 QString Stage::Expand(const QString& text) {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Machine.h"
 #include "Play.h"
 #include "ScenarioDialogs.h"
 #include "core/App.h"
-#include "platform/sim/SimPlatform.h"
 #include "practice/PracticeSite.h"
 
 #include <QTemporaryDir>
@@ -18,7 +18,7 @@ namespace qlm::scenario {
 // program, which may end and start again.
 class Stage : private BrowserViews {
 public:
-    Stage();
+    explicit Stage(MachineMaker makeMachine);
     ~Stage() override;
 
     Play* play = nullptr;
@@ -31,11 +31,13 @@ public:
     // The program.
     bool HasProgram() const { return m_app != nullptr; }
     App& TheApp();
-    SimPump& ThePump() { return m_platform->Pump(); }
-    SimBrowser& Browser(BrowserName name) { return m_platform->Browser(name); }
-    QStringList& AttentionCalls() { return m_platform->Attention().calls; }
+    // The user in front of the page.
+    Machine& TheMachine() { return *m_machine; }
+    Pump& ThePump() { return m_machine->ThePlatform().Pump(); }
+    BrowserControl& Browser(BrowserName name) { return m_machine->ThePlatform().Browser(name); }
+    QStringList& AttentionCalls() { return m_machine->Services().Attention().calls; }
     // What the desktop was asked to open: "folder PATH", "address URL", "file PATH".
-    QStringList& Opened() { return m_platform->Shell().opened; }
+    QStringList& Opened() { return m_machine->Services().Shell().opened; }
     qint64 NowMs() const { return world.clock.NowMs(); }
 
     void Start();
@@ -81,7 +83,7 @@ private:
     };
 
     QWidget* ViewOf(BrowserName name) override;
-    void MakePlatform();
+    void StartMachine();
     void Build();
     void OpenMainWindow(const QString& email);
     void CollectRecords();
@@ -91,7 +93,8 @@ private:
     QTemporaryDir m_folder;
     std::map<BrowserName, std::unique_ptr<QWidget>> m_views;
     std::map<BrowserName, Records> m_records;
-    std::unique_ptr<SimPlatform> m_platform;
+    MachineMaker m_makeMachine;
+    std::unique_ptr<Machine> m_machine;
     std::unique_ptr<App> m_app;
 };
 

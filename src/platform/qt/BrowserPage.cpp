@@ -219,8 +219,8 @@ bool BrowserPage::TakeMessage(const QString& text) {
     const std::optional<PageMessage::Kind> kind = KindOf(parts.at(0).toString());
     if (!kind || !m_observer)
         return true;
-    PageMessage message{*kind, parts.at(1).toString(), parts.at(2).toString(), {}};
-    for (qsizetype i = 3; i < parts.size(); ++i) {
+    PageMessage message{*kind, parts.at(1).toString(), parts.at(2).toString(), parts.at(3).toString(), {}};
+    for (qsizetype i = 4; i < parts.size(); ++i) {
         const QJsonArray input = parts.at(i).toArray();
         message.inputs.push_back({input.at(0).toString(), input.at(1).toString(), input.at(2).toString()});
     }

@@ -16,7 +16,8 @@ struct PageMessage {
     Kind kind = Kind::Arrived;
     QString document; // empty for a frame
     QString url;
-    // Inputs: id, name and value of each, in page order.
+    // Inputs: how the form is sent, and id, name and value of each, in page order.
+    QString method; // lower case
     std::vector<QStringList> inputs;
 };
 

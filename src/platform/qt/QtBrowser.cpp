@@ -40,6 +40,7 @@ QtBrowser::QtBrowser(QtPump& pump, QWebEngineProfile& profile)
       m_calls(pump, [this] { return m_page->BridgeSource(); }) {
     m_blankLimit.setSingleShot(true);
     m_silenceLimit.setSingleShot(true);
+    m_formLimit.setSingleShot(true);
     connect(&m_blankLimit, &QTimer::timeout, this, [this] {
         RenewPage(OldRenderer::Kill);
         OnEngineBlank();
@@ -74,7 +75,7 @@ QString QtBrowser::LocationURL() {
 int QtBrowser::ReadyState() {
     Settle();
     constexpr int uninitialised = 0, loading = 1, interactive = 3, complete = 4;
-    if (m_asking || m_isOnItsWay || m_afterBlank)
+    if (m_asking || m_isOnItsWay || m_afterBlank || m_formLimit.isActive())
         return loading;
     if (!m_document)
         return uninitialised;

@@ -153,7 +153,8 @@ private:
     int m_giveUpAfterMs = givenUpMs;
     int m_loads = 0;
 
-    std::vector<NavigationRequest::Input> m_inputs; // of the form that is being sent
+    NavigationRequest m_form; // that is being sent
+    QTimer m_formLimit;       // runs from then on until the engine asks for leave
     std::vector<std::function<void()>> m_notes;
     quint64 m_notedTurn = 0;
     std::vector<QPointer<PopupWindow>> m_popups;

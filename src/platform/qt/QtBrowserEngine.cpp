@@ -10,6 +10,10 @@ namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+constexpr int formLimitMs = 1000;
+}
+
 // The queue may outlive the control.
 void QtBrowser::Post(std::function<void()> event) {
     m_pump.Queue().Post([self = QPointer(this), event = std::move(event)] {
@@ -41,11 +45,17 @@ void QtBrowser::Settle() {
 }
 
 void QtBrowser::OnMessage(const PageMessage& message) {
-    // The navigation that the form leads to comes at once.
+    // The navigation that the form leads to comes soon, from the engine's other process. Until then the page
+    // is on its way: who waits for what a click has begun would otherwise leave too early and cancel it. A
+    // script may collect a form's fields without sending it, hence the limit.
     if (message.kind == PageMessage::Kind::Inputs) {
-        m_inputs.clear();
+        m_form = {};
+        m_form.isForm = true;
+        if (message.method == u"post"_s)
+            m_form.headers = u"Content-Type: application/x-www-form-urlencoded\r\n"_s;
         for (const QStringList& input : message.inputs)
-            m_inputs.push_back({input.at(0), input.at(1), input.at(2)});
+            m_form.inputs.push_back({input.at(0), input.at(1), input.at(2)});
+        m_formLimit.start(formLimitMs);
         return;
     }
     Note([this, message] { Apply(message); });

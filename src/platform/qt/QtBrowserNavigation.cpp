@@ -31,7 +31,11 @@ bool HasScheme(const QString& url) {
 QUrl AddressOf(const QString& text) {
     if (QDir::isAbsolutePath(text))
         return QUrl::fromLocalFile(text);
-    return QUrl(HasScheme(text) ? text : u"http://"_s + text, QUrl::TolerantMode);
+    QUrl url(HasScheme(text) ? text : u"http://"_s + text, QUrl::TolerantMode);
+    // As every browser tells a site's own address.
+    if (url.scheme().startsWith(u"http"_s) && url.path().isEmpty())
+        url.setPath(u"/"_s);
+    return url;
 }
 
 NavigationRequest RequestFor(const QString& url) {
@@ -200,11 +204,13 @@ void QtBrowser::SetOnItsWay(const QUrl& url) {
     m_target = url;
     m_isOnItsWay = true;
     m_isLoading = true;
+    m_formLimit.stop();
 }
 
 void QtBrowser::SetAtRest() {
     m_isOnItsWay = false;
     m_isLoading = false;
+    m_formLimit.stop();
     m_isProgramLoad = false;
     m_failing.clear();
     m_granted.clear();
@@ -258,6 +264,8 @@ bool QtBrowser::AcceptFrame(const QUrl& url) {
 }
 
 bool QtBrowser::AcceptPageWish(const QUrl& url, QWebEnginePage::NavigationType type) {
+    if (type == QWebEnginePage::NavigationTypeFormSubmitted)
+        m_formLimit.stop();
     const bool isProgramUnderWay =
         m_asking == Asker::Program || (m_isProgramLoad && m_isOnItsWay) || m_isBlank;
     if (RefusesNavigations() || isProgramUnderWay)
@@ -283,9 +291,9 @@ bool QtBrowser::AcceptForm(const QUrl& url) {
     m_asking.reset();
     ++m_loads;
     SetOnItsWay(url);
-    NavigationRequest request = RequestFor(url.toString(QUrl::FullyEncoded));
+    NavigationRequest request = std::exchange(m_form, {});
+    request.url = url.toString(QUrl::FullyEncoded);
     request.isForm = true;
-    request.inputs = std::exchange(m_inputs, {});
     Post([this, request] {
         if (events.beforeNavigate2)
             events.beforeNavigate2(request);

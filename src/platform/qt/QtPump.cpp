@@ -41,6 +41,8 @@ QtPump::QtPump(int clockRate)
 }
 
 void QtPump::PumpMessages() {
+    if (onPump)
+        onPump();
     {
         const Counted delivery(m_deliveries);
         QCoreApplication::processEvents();
@@ -76,7 +78,7 @@ void QtPump::Sleep(int milliseconds) {
 }
 
 QDateTime QtPump::Now() const {
-    return QDateTime::currentDateTime();
+    return m_wallClock ? m_wallClock() : QDateTime::currentDateTime();
 }
 
 void QtPump::SetAlarm() {

@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
+#include <functional>
 
 namespace qlm {
 
@@ -37,6 +38,11 @@ public:
     QDateTime Now() const override;
     MessageQueue& Queue() override { return m_queue; }
 
+    // Instead of the machine's own wall clock.
+    void SetWallClock(std::function<QDateTime()> clock) { m_wallClock = std::move(clock); }
+    // Called at each turn that is asked for, before anything is delivered.
+    std::function<void()> onPump;
+
     // Leaves the application's event loop as soon as no delivery is under way: waits that are still on the
     // stack come to their end first.
     void Quit();
@@ -48,6 +54,7 @@ private:
     void OnAlarm();
 
     const int m_clockRate;
+    std::function<QDateTime()> m_wallClock;
     QElapsedTimer m_clock;
     MessageQueue m_queue;
     QTimer m_alarm;

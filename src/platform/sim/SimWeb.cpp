@@ -67,7 +67,7 @@ std::optional<SimAnswer> SimWeb::AnswerFromTable(const QString& url) {
     return answer;
 }
 
-SimAnswer SimWeb::AnswerOne(const SimRequest& request) {
+SimAnswer SimWeb::Answer(const SimRequest& request) {
     const QString key = KeyOf(request.url);
     std::optional<SimAnswer> answer = AnswerFromTable(key);
     // A page that never completes, told without a body, shows what lies underneath.
@@ -93,7 +93,7 @@ SimWeb::Arrival SimWeb::Fetch(SimRequest request) {
         const QString host = HostOf(request.url);
         request.cookies = cookies.For(host);
         arrival.url = request.url;
-        arrival.answer = AnswerOne(request);
+        arrival.answer = Answer(request);
         arrival.latencyMs += arrival.answer.latencyMs.value_or(defaultLatencyMs);
         for (const QString& cookie : arrival.answer.setCookies)
             cookies.Take(host, cookie);

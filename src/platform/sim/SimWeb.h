@@ -71,6 +71,8 @@ public:
         int latencyMs = 0;
     };
     Arrival Fetch(SimRequest request);
+    // One answer, redirects not followed and cookies left to the one who asks.
+    SimAnswer Answer(const SimRequest& request);
 
     int defaultLatencyMs = 40;
     SimCookies cookies;
@@ -83,7 +85,6 @@ private:
         int timesLeft = 0; // 0: for ever
     };
 
-    SimAnswer AnswerOne(const SimRequest& request);
     std::optional<SimAnswer> AnswerFromTable(const QString& url);
 
     std::map<QString, std::vector<Layer>> m_layers;

@@ -88,6 +88,18 @@ TEST_F(EngineNavigation, AFormTellsItsPagesInputsHoweverItIsSent) {
     EXPECT_EQ(server.CountRequests(u"/post"_s), 3);
 }
 
+// A script may read a form's fields for itself.
+TEST_F(EngineNavigation, AFormThatIsOnlyReadKeepsNobodyWaiting) {
+    Serve(u"/form"_s, "<body><form id=f><input name=q value=1></form><b id=b "
+                      "onclick=\"new FormData(document.getElementById('f'))\">read</b>");
+    ASSERT_TRUE(Open(u"/form"_s));
+    ASSERT_TRUE(WaitUntil([&] { return !browser->Busy(); }));
+    ById(u"b"_s).Click();
+    EXPECT_TRUE(browser->Busy());
+    EXPECT_TRUE(WaitUntil([&] { return !browser->Busy(); }));
+    EXPECT_EQ(browser->ReadyState(), 4);
+}
+
 TEST_F(EngineNavigation, AFormsQuestionComesBeforeTheEventsOfWhatItLeadsTo) {
     Serve(u"/form"_s, "<body><form id=f method=get action=/got><input name=q value=1></form>");
     Serve(u"/got"_s, "<body>got");

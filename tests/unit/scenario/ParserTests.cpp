@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Arguments.h"
+#include "EngineWords.h"
 #include "Parser.h"
 
 #include <QFile>
@@ -54,6 +55,27 @@ TEST(SplitWords, KeepsABackslashThatEscapesNothing) {
 TEST(SplitWords, RefusesAnOpenQuote) {
     EXPECT_THROW(SplitWords(u"type x \"open"_s), ScenarioFailure);
     EXPECT_THROW(SplitWords(u"type x \"open\\"_s), ScenarioFailure);
+}
+
+TEST(EngineWords, NameWhatTheEngineCannotPlay) {
+    struct Row {
+        QString line;
+        QString word;
+    };
+    for (const Row& row :
+         {Row{u"status-text \"Done\""_s, u"status-text"_s}, Row{u"right-click"_s, u"right-click"_s},
+          Row{u"expect context-menu none"_s, u"expect context-menu"_s},
+          Row{u"expect elapsed 3s 5s"_s, u"expect elapsed"_s},
+          Row{u"fault {ASK}/1 nobody times 2"_s, u"fault ... nobody"_s},
+          Row{u"page x \"<a data-on-click='goto y'>\""_s, u"data-on-click"_s},
+          Row{u"on frmLog\n  right-click\nend"_s, u"right-click"_s}}) {
+        const QString refusal = WordOfSimulationAlone(Parse(u"start\n"_s + row.line));
+        EXPECT_TRUE(refusal.startsWith(u"test.scn:"_s)) << row.line.toStdString();
+        EXPECT_TRUE(refusal.endsWith(u'"' + row.word + u'"')) << refusal.toStdString();
+    }
+    for (const QString& line :
+         {u"start"_s, u"fault {ASK}/1 hang"_s, u"expect status \"x\""_s, u"page-click #right-click"_s})
+        EXPECT_EQ(WordOfSimulationAlone(Parse(line)), QString()) << line.toStdString();
 }
 
 TEST(Parser, SkipsBlankLinesAndKeepsLineNumbers) {

@@ -34,8 +34,9 @@
     // Every form that is sent, by a click, by Enter or by a script, collects its fields first. The page waits
     // here until the program has them, so that they are never later than the navigation that follows.
     const describe = input => [input.id, input.name, input.value];
-    window.addEventListener('formdata', () => {
+    const methodOf = Object.getOwnPropertyDescriptor(HTMLFormElement.prototype, 'method').get;
+    window.addEventListener('formdata', event => {
         const inputs = Array.from(Document.prototype.getElementsByTagName.call(document, 'input'), describe);
-        prompt(message('inputs', inputs));
+        prompt(message('inputs', [methodOf.call(event.target)].concat(inputs)));
     }, true);
 })

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "Runner.h"
+
 #include "Parser.h"
 #include "Play.h"
 #include "Stage.h"
@@ -8,13 +10,16 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QScopeGuard>
+#include <algorithm>
 #include <cstdio>
 #include <ctime>
+#include <map>
+
+namespace qlm::scenario {
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-using namespace qlm::scenario;
-using namespace Qt::Literals::StringLiterals;
 
 struct Options {
     QStringList files;
@@ -22,11 +27,14 @@ struct Options {
     bool list = false;
     bool trace = false;
     bool figures = false;
+    int speed = 20;
     int trailLines = 10; // of each debug file, shown with a failure
 };
 
-const char Usage[] =
-    "quillmere-scenario [--list] [--filter TEXT] [--trace] [--trail LINES] [--figures] FILE...\n";
+constexpr auto EngineWord = "--browser=webengine"_L1;
+
+const char Usage[] = "quillmere-scenario [--list] [--filter TEXT] [--trace] [--trail LINES] [--figures]\n"
+                     "                   [--browser=sim|webengine] [--speed N] FILE...\n";
 
 // How much was played, and what that took on this machine.
 struct Figures {
@@ -54,13 +62,17 @@ std::optional<Options> ReadOptions(QStringList arguments) {
             options.figures = true;
         else if (word == u"--trail" && !arguments.isEmpty())
             options.trailLines = arguments.takeFirst().toInt();
+        else if (word == u"--speed" && !arguments.isEmpty())
+            options.speed = arguments.takeFirst().toInt();
         else if (word == u"--filter" && !arguments.isEmpty())
             options.filter = arguments.takeFirst();
-        else if (word.startsWith(u"--") && word != u"--browser=sim")
+        else if (word.startsWith(u"--") && word != u"--browser=sim" && word != EngineWord)
             return {};
         else if (!word.startsWith(u"--"))
             options.files << word;
     }
+    if (options.speed < 1)
+        return {};
     return options;
 }
 
@@ -78,7 +90,9 @@ void Report(const QString& file, const ScenarioFailure& failure, const QString& 
     Say(u"  repeat: quillmere-scenario --trace "_s + file);
 }
 
-bool RunOne(const QString& file, const Options& options, Figures& figures) {
+enum class Outcome { Passed, Failed, Refused };
+
+Outcome RunOne(const QString& file, const Options& options, const Playing& playing, Figures& figures) {
     QElapsedTimer timer;
     timer.start();
     const std::clock_t processor = std::clock();
@@ -88,7 +102,13 @@ bool RunOne(const QString& file, const Options& options, Figures& figures) {
     });
     try {
         const std::vector<Command> script = ParseScenarioFile(file);
-        Stage stage;
+        if (const QString refusal = playing.refusal(script); !refusal.isEmpty()) {
+            Say(u"REFUSED "_s + NameOf(file) + u"\n  "_s + refusal);
+            return Outcome::Refused;
+        }
+        Stage stage([&](SimWorld& world, Dialogs& dialogs) {
+            return playing.makeMachine(world, dialogs, options.speed);
+        });
         Play play(stage, script);
         play.trace = options.trace;
         stage.play = &play;
@@ -100,14 +120,14 @@ bool RunOne(const QString& file, const Options& options, Figures& figures) {
         if (failure) {
             Report(file, *failure, play.Current() ? play.Current()->source : QString(),
                    stage.DebugTrail(options.trailLines));
-            return false;
+            return Outcome::Failed;
         }
     } catch (const ScenarioFailure& failure) {
         Report(file, failure, {}, {});
-        return false;
+        return Outcome::Failed;
     }
     Say(u"ok "_s + NameOf(file));
-    return true;
+    return Outcome::Passed;
 }
 
 void ReportFigures(const Figures& figures) {
@@ -135,7 +155,12 @@ void OnQtMessage(QtMsgType, const QMessageLogContext&, const QString& text) {
 
 } // namespace
 
-int main(int argc, char* argv[]) {
+bool WantsEngine(int argc, char* argv[]) {
+    return std::any_of(argv + 1, argv + argc,
+                       [](const char* word) { return EngineWord == QLatin1StringView(word); });
+}
+
+int RunScenarios(int argc, char* argv[], const Playing& playing) {
     // The platform's own screen is too small for a main window.
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" QUILLMERE_SCREEN);
     qInstallMessageHandler(OnQtMessage);
@@ -146,8 +171,7 @@ int main(int argc, char* argv[]) {
         std::fputs(Usage, stderr);
         return 2;
     }
-    int passed = 0;
-    int failed = 0;
+    std::map<Outcome, int> count;
     Figures figures;
     for (const QString& file : options->files) {
         if (!file.contains(options->filter))
@@ -156,12 +180,16 @@ int main(int argc, char* argv[]) {
             Say(NameOf(file));
             continue;
         }
-        ++(RunOne(file, *options, figures) ? passed : failed);
+        ++count[RunOne(file, *options, playing, figures)];
         std::fflush(stdout);
     }
     if (options->figures)
         ReportFigures(figures);
+    if (count[Outcome::Refused] > 0)
+        Say(u"%1 refused"_s.arg(count[Outcome::Refused]));
     if (!options->list)
-        Say(u"%1 passed, %2 failed"_s.arg(passed).arg(failed));
-    return failed == 0 ? 0 : 1;
+        Say(u"%1 passed, %2 failed"_s.arg(count[Outcome::Passed]).arg(count[Outcome::Failed]));
+    return count[Outcome::Failed] == 0 ? 0 : 1;
 }
+
+} // namespace qlm::scenario
