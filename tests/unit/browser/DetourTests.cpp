@@ -115,6 +115,7 @@ TEST_F(DetourTest, AConfirmationThatCameLateGoesOn) {
     EXPECT_TRUE(Said(u"Request Sent!FR LF2"_s));
     EXPECT_EQ(State().lngFailedCount, 0);
     EXPECT_TRUE(WentOn());
+    EXPECT_TRUE(covers.startsWith(u'-')) << covers.toStdString();
     EXPECT_FALSE(covers.contains(u'+'));
 }
 
@@ -255,6 +256,35 @@ TEST_F(DetourTest, AnInterstitialOfTheLoginIsPassedByTheHomePage) {
         State().CurrentAction = u"BUL"_s;
         EXPECT_TRUE(TakesNone());
     }
+}
+
+// However long the next page takes, nothing of the old one is looked at any more.
+TEST_F(DetourTest, TheOldPageIsGoneAtOnce) {
+    const QString forum = u"http://forums.site.example.com/t?x=1&page=2"_s;
+    Show(u"{ForumHost}/t?x=1&page=2"_s, u"Sorry! An unexpected error has occurred"_s);
+    State().CurrentAction = u"SCANNING"_s;
+    world.web.SetFault(forum, SimFault::Hang);
+    EXPECT_TRUE(TakesUnfound());
+    EXPECT_EQ(Address(), u"about:blank"_s);
+    Show(u"Skip this advertisement"_s);
+    LogIn(3);
+    world.web.SetFault(HomeAddress, SimFault::Hang);
+    EXPECT_TRUE(TakesUnfound());
+    EXPECT_EQ(Address(), u"about:blank"_s);
+    EXPECT_TRUE(Browser().Busy());
+}
+
+TEST_F(DetourTest, AStopWhileTheOldPageGoesIsTheLastWord) {
+    Show(u"Skip this advertisement"_s);
+    LogIn(3);
+    app->Pump().Queue().Post([this] { app->stopResume->StopAll(u"LPSTOP"_s); });
+    EXPECT_TRUE(TakesUnfound());
+    EXPECT_EQ(Visited(), QStringList());
+    Show(u"{ForumHost}/t?x=1&page=2"_s, u"Sorry! An unexpected error has occurred"_s);
+    State().CurrentAction = u"SCANNING"_s;
+    app->Pump().Queue().Post([this] { app->stopResume->StopAll(u"SCANSTOP"_s); });
+    EXPECT_TRUE(TakesUnfound());
+    EXPECT_EQ(Visited(), QStringList());
 }
 
 TEST_F(DetourTest, AnAdvertisementComesBeforeTheLanguage) {

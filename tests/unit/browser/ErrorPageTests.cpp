@@ -269,6 +269,18 @@ TEST_F(ErrorPageTest, AnyOtherActivityEndsThePassOnAnEmptyPage) {
     }
 }
 
+TEST_F(ErrorPageTest, WithoutAnExpectationThePageIsNotLookedAt) {
+    for (const bool hasType : {true, false}) {
+        Show(Refusal);
+        State().CurrentAction = u"FR"_s;
+        Await(hasType ? u"Text"_s : QString(), hasType ? QString() : u"wanted"_s);
+        trail.clear();
+        EXPECT_FALSE(CheckHeld());
+        EXPECT_TRUE(trail.isEmpty()) << trail.join(u'|').toStdString();
+        EXPECT_NE(Address(), u"about:blank"_s);
+    }
+}
+
 TEST_F(ErrorPageTest, AnotherPageForgetsTheLimit) {
     State().blnDailyLimitHit = true;
     EXPECT_TRUE(Check(u"BUL"_s, u"wanted"_s));
