@@ -15,13 +15,15 @@ const QString FieldEntries = u"Field Entries"_s;
 struct TypedLogin {
     QString email;
     QString password;
+    bool isLoginForm = false; // has the fields of one, empty or not
 
     void Take(const QString& id, const QString& value) {
-        if (value.isEmpty())
-            return;
-        if (Has(id, u"Email_Textbox"_s))
+        const bool isEmail = Has(id, u"Email_Textbox"_s);
+        const bool isPassword = Has(id, u"Password_Textbox"_s);
+        isLoginForm = isLoginForm || isEmail || isPassword;
+        if (isEmail && !value.isEmpty())
             email = value.trimmed();
-        if (Has(id, u"Password_Textbox"_s))
+        if (isPassword && !value.isEmpty())
             password = value.trimmed();
     }
 };
@@ -32,7 +34,8 @@ bool ShowsLoginForm(const Document& document) {
     return Has(text, u"forgot your password?"_s) || Has(text, u"forgot password?"_s);
 }
 
-// A form that is sent brings its inputs along; of a link that sends the form by script the page tells them.
+// A form that is sent brings its inputs along, and they tell whether its page, which may be gone by now, was
+// a login page; of a link that sends the form by script the page tells both.
 TypedLogin TypedInto(const NavigationRequest& request, BrowserControl& browser) {
     TypedLogin typed;
     if (request.isForm) {
@@ -55,7 +58,7 @@ QString Stars(const QString& text) {
 
 void BrowserHost::ReadTypedLogin(const NavigationRequest& request) {
     const TypedLogin typed = TypedInto(request, m_app.WebBrowser1());
-    if (!request.isForm && typed.email.isEmpty() && typed.password.isEmpty())
+    if (!typed.isLoginForm)
         return;
     Diagnostics& diagnostics = m_app.diagnostics;
     SettingsStore& settings = m_app.platform.Settings();

@@ -204,6 +204,19 @@ TEST_F(BrowserHostTest, OnlyALoginLooksAtWhatIsTyped) {
     EXPECT_EQ(Stored(u"txtPassword"_s), u"none"_s);
 }
 
+TEST_F(BrowserHostTest, AFormWithoutTheFieldsOfALoginTellsNothing) {
+    Show(u"x"_s);
+    State().CurrentAction = u"LOGIN"_s;
+    NavigationRequest search;
+    search.url = u"http://www.site.example.com/search"_s;
+    search.isForm = true;
+    search.inputs = {{u"q"_s, u"q"_s, u"zoe"_s}};
+    EXPECT_FALSE(Browser().events.beforeNavigate2(search));
+    EXPECT_FALSE(SaidBeginningWith(u"Navigate 2.3"_s));
+    SendLogin({}, {});
+    EXPECT_TRUE(Said(u"Navigate 2.3 - , "_s));
+}
+
 // A link may send the form by script: then the page itself tells what stands in it.
 TEST_F(BrowserHostTest, ALoginThatALinkSendsIsReadOffThePage) {
     State().CurrentAction = u"LOGIN"_s;
