@@ -84,15 +84,17 @@ TEST_F(Gathering, ThirtyPagesAreTheListQuickAndFull) {
     EXPECT_EQ(Sorted(program.List()), Sorted(shown.Full()));
 }
 
-// Over thirty pages each is tried on the simulated engine; here they meet real profiles.
+// Over thirty pages each is tried on the simulated engine, and here when it is asked for.
 TEST_F(Gathering, EachFilterLeavesThoseWhoFit) {
-    constexpr int perPage = 5;
-    const qint64 owner = OwnerOfAMixedList(2 * perPage);
+    const bool isLong = !qEnvironmentVariableIsEmpty("QUILLMERE_LONG_TESTS");
+    const int pages = isLong ? 30 : 2;
+    const int perPage = isLong ? 2 : 5;
+    const qint64 owner = OwnerOfAMixedList(pages * perPage);
     for (const FilterChoice& filter : FilterChoices()) {
         SCOPED_TRACE(filter.name);
         FilterFor(filter);
-        HaveFriends(2, perPage, owner);
-        ASSERT_TRUE(program.Gather()) << program.Program().Status().toStdString();
+        HaveFriends(pages, perPage, owner);
+        ASSERT_TRUE(program.Gather("optQuickGather", 300 * 1000)) << program.Program().Status().toStdString();
         const QStringList shown = program.TakeShown().Quick();
         const QStringList those = Those(shown, filter);
         EXPECT_GT(those.size(), 0);
