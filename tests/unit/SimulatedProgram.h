@@ -19,9 +19,15 @@ protected:
         world.dataFolder = folder.filePath(QStringLiteral("data"));
         QDir().mkpath(world.installationFolder);
         QDir().mkpath(world.dataFolder);
-        world.deploymentText = QStringLiteral("SiteRootHost=www.example.com\n"
-                                              "ProductServer=http://product.example.com\n"
-                                              "ProductServerAlternate=http://product2.example.com\n");
+        StartOn(QStringLiteral("SiteRootHost=www.example.com\n"
+                               "ProductServer=http://product.example.com\n"
+                               "ProductServerAlternate=http://product2.example.com\n"));
+    }
+
+    // A program that has read this deployment file, in the place of the one before.
+    void StartOn(const QString& deploymentText) {
+        world.deploymentText = deploymentText;
+        app.reset();
         app.emplace(platform.emplace(world, dialogs));
         app->state.ProgramFolder = world.installationFolder;
         app->state.DataFolder = world.dataFolder;

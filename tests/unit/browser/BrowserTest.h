@@ -14,27 +14,20 @@ class BrowserTest : public SimulatedProgram {
 protected:
     BrowserTest() {
         using namespace Qt::Literals::StringLiterals;
-        world.deploymentText = u"SiteDomain=site.example.com\nSiteRootHost=www.site.example.com\n"
-                               "HomeHost=home.site.example.com\nLoginHost=login.site.example.com\n"
-                               "MessagingHost=mail.site.example.com\nFriendsHost=friends.site.example.com\n"
-                               "ProfileHost=profile.site.example.com\nCommentHost=comment.site.example.com\n"
-                               "GroupsHost=groups.site.example.com\nEventsHost=events.site.example.com\n"
-                               "BulletinsHost=bulletins.site.example.com\n"
-                               "SearchServiceHost=search.site.example.com\n"
-                               "BrowseUsersHost=people.example.org\nVideoHost=vids.site.example.com\n"
-                               "MusicHost=music.site.example.com\nTopArtistsHost=top.site.example.com\n"
-                               "ForumHost=forums.site.example.com\nSchoolHost=school.site.example.com\n"
-                               "CreativeHost=creative.site.example.com\nInviteHost=invite.site.example.com\n"
-                               "LinkRedirectHost=links.site.example.com\n"
-                               "ProductServer=http://product.example.com\n"
-                               "ProductServerAlternate=http://product2.example.com\n"_s;
-        app.reset();
-        platform.emplace(world, dialogs);
-        app.emplace(*platform);
-        app->state.ProgramFolder = world.installationFolder;
-        app->state.DataFolder = world.dataFolder;
-        app->state.ErrorLogPath = app->DataFile(u"Error.log"_s);
-        app->state.ServerBaseURL = u"http://product.example.com"_s;
+        StartOn(u"SiteDomain=site.example.com\nSiteRootHost=www.site.example.com\n"
+                "HomeHost=home.site.example.com\nLoginHost=login.site.example.com\n"
+                "MessagingHost=mail.site.example.com\nFriendsHost=friends.site.example.com\n"
+                "ProfileHost=profile.site.example.com\nCommentHost=comment.site.example.com\n"
+                "GroupsHost=groups.site.example.com\nEventsHost=events.site.example.com\n"
+                "BulletinsHost=bulletins.site.example.com\n"
+                "SearchServiceHost=search.site.example.com\n"
+                "BrowseUsersHost=people.example.org\nVideoHost=vids.site.example.com\n"
+                "MusicHost=music.site.example.com\nTopArtistsHost=top.site.example.com\n"
+                "ForumHost=forums.site.example.com\nSchoolHost=school.site.example.com\n"
+                "CreativeHost=creative.site.example.com\nInviteHost=invite.site.example.com\n"
+                "LinkRedirectHost=links.site.example.com\n"
+                "ProductServer=http://product.example.com\n"
+                "ProductServerAlternate=http://product2.example.com\n"_s);
         app->state.blnLoggingEnabled = true;
         app->diagnostics.onLine = [this](const QString& line) { trail += line; };
     }

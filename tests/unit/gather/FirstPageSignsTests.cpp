@@ -10,12 +10,8 @@ namespace {
 class FirstPageSignsTest : public SimulatedProgram {
 protected:
     FirstPageSignsTest() {
-        world.deploymentText += u"SiteDomain=example.com\nSearchServiceHost=search.example.com\n"
-                                "FriendsHost=friends.example.com\n"_s;
-        app.reset();
-        platform.emplace(world, dialogs);
-        app.emplace(*platform);
-        app->state.DataFolder = world.dataFolder;
+        StartOn(world.deploymentText + u"SiteDomain=example.com\nSearchServiceHost=search.example.com\n"
+                                       "FriendsHost=friends.example.com\n"_s);
     }
     bool Shows(const QString& body, const QString& url = u"http://www.example.com/any"_s) {
         world.web.SetPage(url, u"<html><body>"_s + body + u"</body></html>"_s);

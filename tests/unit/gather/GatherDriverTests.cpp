@@ -14,13 +14,7 @@ namespace {
 class GatherDriverTest : public SimulatedProgram {
 protected:
     GatherDriverTest() {
-        world.deploymentText += u"SiteDomain=example.com\nEventsHost=events.example.com\n"_s;
-        app.reset();
-        platform.emplace(world, dialogs);
-        app.emplace(*platform);
-        app->state.ProgramFolder = world.installationFolder;
-        app->state.DataFolder = world.dataFolder;
-        app->state.ErrorLogPath = app->DataFile(u"Error.log"_s);
+        StartOn(world.deploymentText + u"SiteDomain=example.com\nEventsHost=events.example.com\n"_s);
         app->state.blnNewLayout = true;
     }
     void Show(const QString& url, const QString& body) {

@@ -93,12 +93,8 @@ TEST_F(IdResolutionTest, TheMarkupBesideTheLinkInTheBrowseForm) {
 class IdRoute : public IdResolutionTest {
 protected:
     IdRoute() {
-        world.deploymentText += u"SiteDomain=example.com\nMessagingHost=mail.example.com\n"
-                                "VideoHost=vids.example.com\n"_s;
-        app.reset();
-        platform.emplace(world, dialogs);
-        app.emplace(*platform);
-        app->state.DataFolder = world.dataFolder;
+        StartOn(world.deploymentText + u"SiteDomain=example.com\nMessagingHost=mail.example.com\n"
+                                       "VideoHost=vids.example.com\n"_s);
         app->state.blnNewLayout = true;
     }
     QString Id(const QString& path, const QString& body) {

@@ -36,13 +36,10 @@ void PrintTo(const Row& row, std::ostream* stream) {
 class ProfileLinkRow : public SimulatedProgram, public testing::WithParamInterface<Row> {
 protected:
     ProfileLinkRow() {
-        world.deploymentText += u"SiteDomain=example.com\nProfileHost=profile.example.com\n"
-                                "VideoHost=vids.example.com\nSearchServiceHost=search.example.com\n"
-                                "MessagingHost=mail.example.com\nLinkRedirectHost=links.example.com\n"_s;
-        app.reset();
-        platform.emplace(world, dialogs);
-        app.emplace(*platform);
-        app->state.DataFolder = world.dataFolder;
+        StartOn(world.deploymentText +
+                u"SiteDomain=example.com\nProfileHost=profile.example.com\n"
+                "VideoHost=vids.example.com\nSearchServiceHost=search.example.com\n"
+                "MessagingHost=mail.example.com\nLinkRedirectHost=links.example.com\n"_s);
     }
 };
 

@@ -12,13 +12,10 @@ namespace {
 class ProfileLinksTest : public SimulatedProgram {
 protected:
     ProfileLinksTest() {
-        world.deploymentText += u"SiteDomain=example.com\nProfileHost=profile.example.com\n"
-                                "VideoHost=vids.example.com\nSearchServiceHost=search.example.com\n"
-                                "MessagingHost=mail.example.com\nLinkRedirectHost=links.example.com\n"_s;
-        app.reset();
-        platform.emplace(world, dialogs);
-        app.emplace(*platform);
-        app->state.DataFolder = world.dataFolder;
+        StartOn(world.deploymentText +
+                u"SiteDomain=example.com\nProfileHost=profile.example.com\n"
+                "VideoHost=vids.example.com\nSearchServiceHost=search.example.com\n"
+                "MessagingHost=mail.example.com\nLinkRedirectHost=links.example.com\n"_s);
         app->state.blnNewLayout = true;
     }
     void Show(const QString& path, const QString& body) {

@@ -12,13 +12,7 @@ namespace {
 class WebSearchTest : public SimulatedProgram {
 protected:
     WebSearchTest() {
-        world.deploymentText += u"SiteDomain=example.com\nWebSearchHost=search.example.net\n"_s;
-        app.reset();
-        platform.emplace(world, dialogs);
-        app.emplace(*platform);
-        app->state.ProgramFolder = world.installationFolder;
-        app->state.DataFolder = world.dataFolder;
-        app->state.ErrorLogPath = app->DataFile(u"Error.log"_s);
+        StartOn(world.deploymentText + u"SiteDomain=example.com\nWebSearchHost=search.example.net\n"_s);
         app->state.blnLoggingEnabled = true;
         app->state.blnNewLayout = true;
         app->controls.SetTicked("optScanGoogle"_L1, true);
