@@ -70,6 +70,11 @@ int PageTree::NodeOfId(const QString& id) {
     return place < 0 ? 0 : NodeAt(place);
 }
 
+int PageTree::ParentOf(int node) const {
+    const int place = PlaceOf(node);
+    return place > 0 ? NodeAt(m_outline.Parent(place)) : 0;
+}
+
 void PageCache::EnterTurn(quint64 turn) {
     if (turn == m_turn)
         return;

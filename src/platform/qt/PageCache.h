@@ -32,6 +32,8 @@ public:
     bool HasPlaces() const { return !m_nodes.empty(); }
     // -1: the node stands elsewhere.
     int PlaceOf(int node) const { return m_places.value(node, -1); }
+    // 0: none, or it is not told by the markup.
+    int ParentOf(int node) const;
     int NodeAt(int place) const { return m_nodes.at(static_cast<size_t>(place)); }
     const PageOutline& Outline() const { return m_outline; }
     int NodeOfId(const QString& id);

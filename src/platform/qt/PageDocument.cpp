@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/PageDocument.h"
 
+#include <algorithm>
 #include <array>
 
 namespace qlm {
@@ -311,8 +312,10 @@ bool PageDocument::HasAttribute(int node, const QString& name) {
 
 int PageDocument::Parent(int node) {
     if (const PageTree* tree = Places())
-        if (const int place = tree->PlaceOf(node); place > 0)
-            return tree->NodeAt(tree->Outline().Parent(place));
+        if (const int parent = tree->ParentOf(node); parent != 0) {
+            ExpectParents(*tree, node, parent);
+            return parent;
+        }
     if (const std::optional<int> known = Cache().Parent(node))
         return *known;
     const std::vector<int> nodes = Cache().Following(node, parentLimit);
@@ -332,6 +335,18 @@ int PageDocument::Parent(int node) {
         for (const std::vector<int>& level : levels)
             cache.AddGroup(level);
     return cache.Parent(node).value_or(0);
+}
+
+// Who asks for the parent of one link asks for that of the next one too.
+void PageDocument::ExpectParents(const PageTree& tree, int node, int parent) {
+    PageCache& cache = Cache();
+    if (!cache.IsGrouped(node) || cache.IsGrouped(parent))
+        return;
+    std::vector<int> parents = cache.Following(node, neighbourLimit);
+    std::transform(parents.begin(), parents.end(), parents.begin(),
+                   [&](int next) { return tree.ParentOf(next); });
+    std::erase(parents, 0);
+    cache.AddGroup(parents);
 }
 
 void PageDocument::Expect(const std::vector<int>& nodes) {

@@ -70,6 +70,7 @@ private:
     PageTree* Places();
     bool IsTreePresent();
     std::optional<QString> FromOutline(int node, ElementText which);
+    void ExpectParents(const PageTree& tree, int node, int parent);
 
     QtPump& m_pump;
     PageCalls& m_calls;

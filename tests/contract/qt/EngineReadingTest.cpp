@@ -91,6 +91,24 @@ TEST_F(EngineReading, LinksSurroundingsCostNoCallALink) {
     EXPECT_LE(browser->EngineCalls() - before, 6);
 }
 
+// Texts are not told by the markup, but those of a whole level come with the first one.
+TEST_F(EngineReading, TheTextsAboveTheLinksCostACallForEachLevel) {
+    Serve(u"/list"_s, ListPage(100));
+    ASSERT_TRUE(Open(u"/list"_s));
+    pump.PumpMessages();
+    const std::vector<Element> links = browser->Document().Links();
+    EXPECT_FALSE(links.front().Ancestor(1).OuterHTML().isEmpty());
+    const qint64 before = browser->EngineCalls();
+    int persons = 0;
+    for (const Element& link : links)
+        for (int level = 1; level <= 2; ++level)
+            persons += link.Ancestor(level).InnerText().contains(u"Person 100042"_s);
+    // The heading around the name, the person's box around that and around the picture; around the boxes the
+    // page, which holds everybody.
+    EXPECT_EQ(persons, 1 + 1 + 1 + 100);
+    EXPECT_LE(browser->EngineCalls() - before, 2);
+}
+
 // Text, markup and the answers to what was foreseen come with one call, on a changed page too.
 TEST_F(EngineReading, ALookWithItsQuestionIsOneCall) {
     Serve(u"/list"_s, ListPage(100));
