@@ -143,11 +143,12 @@ bool ProfileFilters::MatchesGender(const Profile& profile) {
     if (state.blnFilterBands)
         return true;
     Trace(u"ifp9 - "_s);
-    if (!state.blnFilterMale && !state.blnFilterFemale)
-        return true;
+    // Waited for with any choice of gender: the age and the place arrive with it.
     if (profile.blnNewLayout && !profile.blnIsMusic)
         WaitOnPage([this] { return InHTML(u"gender&quot;:&quot;"_s) || InHTML(u"gender\":\""_s); },
                    SecondsForGender, false);
+    if (!state.blnFilterMale && !state.blnFilterFemale)
+        return true;
     const Document document = m_app.WebBrowser1().Document();
     const bool matches = state.blnFilterMale ? SaysMale(document.BodyText(), document.BodyHTML())
                                              : SaysFemale(document.BodyText(), document.BodyHTML());

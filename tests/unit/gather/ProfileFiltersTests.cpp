@@ -98,8 +98,22 @@ TEST_F(ProfileFiltersTest, AGenderThatDoesNotComeIsWaitedForFifteenSecondsAndAnA
     Choose("optFilterGenderOff"_L1);
     Choose("optFilterAgeOn"_L1);
     startMs = platform->Pump().NowMs();
-    EXPECT_FALSE(Passes(NewLayout));
+    EXPECT_FALSE(Passes(u"<div class=friendSpace></div>"_s));
     EXPECT_NEAR(static_cast<double>(platform->Pump().NowMs() - startMs), 11000.0, 500.0);
+}
+
+// The list of the person's facts comes in late and as a whole.
+TEST_F(ProfileFiltersTest, InTheNewLayoutThePlaceIsWaitedForByTheGenderThatStandsBesideIt) {
+    Choose("optFilterLocation"_L1);
+    Type("txtFilterLocation"_L1, u"Leeds"_s);
+    world.web.SetPage(u"http://www.example.com/5/classic"_s,
+                      u"<html><body>"_s + NewLayout + u"</body></html>"_s);
+    const QString facts = u"<ul><li title='gender\":\"Male'>Leeds</li></ul>"_s;
+    world.web.AddSwap(u"http://www.example.com/5/classic"_s, 8000,
+                      u"<html><body>"_s + NewLayout + facts + u"</body></html>"_s);
+    app->WebBrowser1().Navigate(u"http://www.example.com/5/classic"_s);
+    platform->Pump().RunFor(1000);
+    EXPECT_TRUE(app->profileFilters->IsFilteredProfile());
 }
 
 TEST_F(ProfileFiltersTest, WhatSaysAnAgeEndsTheWaitAndAMusicPageHasNoGenderToWaitFor) {
