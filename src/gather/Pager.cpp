@@ -35,15 +35,25 @@ QString Pager::CaptionToClick() {
     return caption;
 }
 
+// False when the run is over.
+bool Pager::TurnOn(const Document& document) {
+    m_app.waiting.Turn();
+    if (m_app.state.CurrentAction != u"SCANNING"_s)
+        return false;
+    if (!document.IsPresent())
+        throw BrowserError();
+    return true;
+}
+
 // Each link has its turn of the message loop, but all are read before the first: a turn lets go of what is
 // known of the page.
 QString Pager::WalkLinks(ElementText which, const LinkAnswer& answer) {
+    const Document document = m_app.WebBrowser1().Document();
     std::vector<std::pair<Element, QString>> links;
-    for (const Element& link : m_app.WebBrowser1().Document().Links())
+    for (const Element& link : document.Links())
         links.emplace_back(link, link.Read(which).trimmed().toLower());
     for (const auto& [link, text] : links) {
-        m_app.waiting.Turn();
-        if (m_app.state.CurrentAction != u"SCANNING"_s)
+        if (!TurnOn(document))
             return {};
         if (const std::optional<QString> found = answer(link, text))
             return *found;
@@ -80,20 +90,30 @@ QString Pager::ShowMoreOfChart() {
     return next.isEmpty() ? u"DONTLOOKAGAIN"_s : next;
 }
 
+namespace {
+
+std::vector<NextLinkCandidate> Candidates(const Document& document) {
+    std::vector<NextLinkCandidate> candidates;
+    for (const Element& link : document.Links()) {
+        const QString text = link.InnerText().trimmed();
+        candidates.push_back(
+            {PlainHref(link.Href()), text, text.toLower(), [link] { return link.OuterHTML(); }});
+    }
+    return candidates;
+}
+
+} // namespace
+
 QString Pager::FindNextLink() {
     const Document document = m_app.WebBrowser1().Document();
+    const bool hasNextPage = !document.GetElementById(u"nextPage"_s).IsNull();
     NextLinkPage page;
     page.address = m_app.pageTests->LocationURL();
     page.expand = [this](const QString& text) { return m_app.Expand(text); };
-    page.hasNextPageElement = [&document] { return !document.GetElementById(u"nextPage"_s).IsNull(); };
-    for (const Element& link : document.Links()) {
-        if (m_app.state.CurrentAction != u"SCANNING"_s)
+    page.hasNextPageElement = [hasNextPage] { return hasNextPage; };
+    for (const NextLinkCandidate& candidate : Candidates(document)) {
+        if (!TurnOn(document))
             return {};
-        NextLinkCandidate candidate;
-        candidate.href = PlainHref(link.Href());
-        candidate.text = link.InnerText().trimmed();
-        candidate.lower = candidate.text.toLower();
-        candidate.outerHTML = [&link] { return link.OuterHTML(); };
         if (const std::optional<NextLink> next = MatchNextLink(candidate, page)) {
             m_app.diagnostics.Debug(u"debuggather.txt"_s, u"GPP12 - FOUND! - "_s + candidate.href);
             m_app.state.blnClickNextLink = next->click;

@@ -20,8 +20,8 @@ public:
     // The pages of the new layout, by their address. Pumps once a link. "DONTLOOKAGAIN" means that the page's
     // own way leads nowhere and no other is to be tried. Sets blnClickNextLink where the answer is a caption.
     QString GetNextPageHref();
-    // The ordered table over all links; "" when no row fits. Sets blnClickNextLink where the answer is a
-    // caption.
+    // The ordered table over all links; "" when no row fits. Pumps once a link. Sets blnClickNextLink where
+    // the answer is a caption.
     QString FindNextLink();
     // Does the page show that its way to the next page has arrived?
     bool ShowsNextPageSign();
@@ -39,6 +39,8 @@ private:
     // What the link and its text (trimmed, lower case) answer; nothing goes on to the next link.
     using LinkAnswer = std::function<std::optional<QString>(const Element& link, const QString& text)>;
     QString WalkLinks(ElementText which, const LinkAnswer& answer);
+    // The turn of the message loop that each link of a walk has.
+    bool TurnOn(const Document& document);
     QString LinkTitledNextPage(bool wantText);
     QString CaptionToClick();
     QString LinkWithText(const QString& text);

@@ -147,6 +147,40 @@ TEST_F(GatherDriverTest, AnotherPagesNextLinkIsClickedOrGoneTo) {
     EXPECT_FALSE(app->state.blnClickNextLink);
 }
 
+// Each of the two searches: the message loop turns once a link, and what happens there counts.
+TEST_F(GatherDriverTest, TheSearchForTheNextPageIsStoppedAndEndsWithThePage) {
+    using Search = QString (Pager::*)();
+    QString links;
+    for (int i = 0; i < 50; ++i)
+        links += u"<a href='/x"_s + QString::number(i) + u"'>x</a>"_s;
+    const QString next = u"<a title='next page' href='/friends/page/2'>Next</a>"_s;
+    for (const Search search : {&Pager::GetNextPageHref, &Pager::FindNextLink}) {
+        app->state.CurrentAction = u"SCANNING"_s;
+        Show(u"http://www.example.com/7/friends"_s, links + next);
+        const qint64 startMs = platform->Pump().NowMs();
+        EXPECT_EQ((*app->pager.*search)(), u"http://www.example.com/friends/page/2"_s);
+        EXPECT_NEAR(static_cast<double>(platform->Pump().NowMs() - startMs), 510.0, 5.0);
+
+        int turns = 0;
+        platform->Pump().onPump = [&] {
+            if (++turns == 20)
+                app->WebBrowser1().Navigate(u"about:blank"_s);
+        };
+        EXPECT_THROW((*app->pager.*search)(), BrowserError);
+        platform->Pump().onPump = {};
+
+        Show(u"http://www.example.com/7/friends"_s, links + next);
+        turns = 0;
+        platform->Pump().onPump = [&] {
+            if (++turns == 20)
+                app->state.CurrentAction.clear();
+        };
+        EXPECT_EQ((*app->pager.*search)(), QString());
+        EXPECT_EQ(turns, 20);
+        platform->Pump().onPump = {};
+    }
+}
+
 TEST_F(GatherDriverTest, TheFirstLinkWithTheCaptionIsClicked) {
     const QString form = u"http://events.example.com/event/addedit"_s;
     const QString links =
