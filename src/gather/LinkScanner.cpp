@@ -235,7 +235,7 @@ void LinkScanner::LookAtLink(Pass& pass, JudgedLink& link) {
         return;
     const bool whosOnline = Has(link.facts.Id(), u"whosonline"_s);
     if (state.CurrentAction == u"ACC"_s && !whosOnline) {
-        CollectRequest(link);
+        CollectRequest(pass, link);
         return;
     }
     QString id;
@@ -244,7 +244,6 @@ void LinkScanner::LookAtLink(Pass& pass, JudgedLink& link) {
             m_app.controls.Ticked("optFullGather"_L1) && m_app.gatheredList->IsInList(href, true);
         if (!fetchedBefore)
             id = m_app.idResolution->GetFriendIDFromLink(link);
-        // Fetching a profile takes a while; the run may be over.
         if (!Goes(pass))
             return;
         Trace(u"GPP4 - "_s + id);
@@ -253,10 +252,13 @@ void LinkScanner::LookAtLink(Pass& pass, JudgedLink& link) {
         Consider(pass, id.trimmed());
 }
 
-void LinkScanner::CollectRequest(JudgedLink& link) {
+void LinkScanner::CollectRequest(const Pass& pass, JudgedLink& link) {
     if (m_app.gatheredList->IsInList(link.facts.Href(), true))
         return;
     const QString id = m_app.idResolution->GetFriendIDFromLink(link).trimmed();
+    // Fetching a profile takes a while; the run may be over.
+    if (!Goes(pass))
+        return;
     if (!id.isEmpty() && id != m_app.state.MyProfileID && !m_app.gatheredList->IsInList(id, false))
         m_app.controls.AddItem("lstAcceptIDs"_L1, id);
 }

@@ -47,7 +47,7 @@ private:
     // False when the pass is to end.
     bool WalkOver(Pass& pass, LinkInTurn& link);
     void LookAtLink(Pass& pass, JudgedLink& link);
-    void CollectRequest(JudgedLink& link);
+    void CollectRequest(const Pass& pass, JudgedLink& link);
     void Consider(Pass& pass, const QString& id);
     bool IsFoundersLink(JudgedLink& link) const;
     void FindNextPage();

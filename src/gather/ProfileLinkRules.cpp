@@ -108,8 +108,8 @@ constexpr qsizetype TrackingLinkLength = 200;
 
 bool IsFriendsEntry(JudgedLink& l) {
     if (l.OuterHas(1, u"Send Message") || l.OuterHas(2, u"miniProfile"))
-        return !l.OuterHas(0, u"MySpace.CMS.track") && !l.OuterHas(0, u"/photos") && !l.TextIs(u"IM") &&
-               l.facts.OuterHTML(1).size() <= FriendBlockLength;
+        return !l.OuterHas(0, u"MySpace.CMS.track") && !l.OuterHas(0, u"/photos") &&
+               l.facts.Text().trimmed() != u"IM"_s && l.facts.OuterHTML(1).size() <= FriendBlockLength;
     const QString list = u"topFriendsList"_s;
     const QString beginning = l.facts.OuterHTML(3).left(TopFriendsPosition - 2 + list.size());
     if (Has(beginning, list) && l.OuterHas(4, u"topFriendsList"))
@@ -214,9 +214,9 @@ const std::vector<ExclusionRule>& ExclusionRules() {
         {[](JudgedLink& l) { return l.TextBegins(0, u"Back to") || l.TextBegins(0, u"Go to"); }, false},
         {[](JudgedLink& l) { return l.TextHas(1, u"You have denied a friend request from"); }, false},
         {IsChartFurniture, true},
-        {[](JudgedLink& l) { return l.TextBegins(2, u"More"); }, false},
+        {[](JudgedLink& l) { return l.facts.Text(2).startsWith(u"More"_s); }, false},
         {[](JudgedLink& l) {
-             return l.At(u"&type=Music&") && l.TextBegins(4, u"Your Friends are Listening to");
+             return l.At(u"&type=Music&") && l.facts.Text(4).startsWith(u"Your Friends are Listening to"_s);
          },
          false},
         {[](JudgedLink& l) {

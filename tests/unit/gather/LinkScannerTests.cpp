@@ -193,6 +193,25 @@ TEST_F(LinkScannerTest, WhileAcceptingTheRequestsAreCollected) {
     EXPECT_TRUE(app->gatheredList->IsEmpty());
 }
 
+TEST_F(LinkScannerTest, AStopDuringAFetchCollectsNothingMore) {
+    app->state.CurrentAction = u"ACC"_s;
+    world.web.SetPage(u"http://www.example.com/ann"_s,
+                      u"<html><body><script>a={\"DisplayFriendId\":4711,x}</script></body></html>"_s);
+    ShowProfiles({u"11"_s, u"ann"_s});
+    app->controls.SetVisible("ucpanelFullGatherIDNotify"_L1, false);
+    platform->Pump().onPump = [this] {
+        if (app->controls["ucpanelFullGatherIDNotify"_L1].visible)
+            app->state.CurrentAction.clear();
+    };
+    app->linkScanner->GatherPageProfiles();
+    EXPECT_EQ(app->controls.Items("lstAcceptIDs"_L1), QStringList{u"11"_s});
+    platform->Pump().onPump = {};
+    app->state.CurrentAction = u"ACC"_s;
+    app->state.lstAlreadyFullGatheredPageIDs.clear();
+    app->linkScanner->GatherPageProfiles();
+    EXPECT_EQ(app->controls.Items("lstAcceptIDs"_L1), (QStringList{u"11"_s, u"4711"_s}));
+}
+
 TEST_F(LinkScannerTest, ComparingTakesOutTheFirstExactMatchAlone) {
     app->state.blnComparingIDs = true;
     for (const QString& id : {u"1"_s, u"11"_s, u"111"_s, u"11"_s})
