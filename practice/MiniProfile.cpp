@@ -36,6 +36,10 @@ QString PageLink(const Pager& pager, int page) {
                 {{u"base", pager.base}, {u"n", QString::number(page)}});
 }
 
+QString Gap(int before, int behind) {
+    return behind > before + 1 ? u"<li class=\"gap\">&hellip;</li>"_s : QString();
+}
+
 } // namespace
 
 QString MiniProfile(const Person& person) {
@@ -74,11 +78,11 @@ QString PagerMarkup(const Pager& pager) {
     const int first = std::max(1, pager.page - 3);
     const int last = std::min(pager.pages, pager.page + 3);
     if (first > 1)
-        links += PageLink(pager, 1) + u"<li class=\"gap\">&hellip;</li>"_s;
+        links += PageLink(pager, 1) + Gap(1, first);
     for (int page = first; page <= last; ++page)
         links += PageLink(pager, page);
     if (last < pager.pages)
-        links += u"<li class=\"gap\">&hellip;</li>"_s + PageLink(pager, pager.pages);
+        links += Gap(last, pager.pages) + PageLink(pager, pager.pages);
     if (pager.page < pager.pages)
         links +=
             Fill(uR"-(<li><a class="pageBtn nextBtn" href="{base}{n}" title="next page">{caption}</a></li>)-",

@@ -28,8 +28,9 @@ constexpr QStringView frame = uR"(<!DOCTYPE html>
 )";
 
 bool Fits(const Person& person, const QStringList& words) {
-    const QString text = person.name + u' ' + person.town + u' ' + person.interests + u' ' + person.genre +
-                         u' ' + person.headline;
+    const QString text = QStringList{person.name,      person.town,  person.region,  person.country,
+                                     person.interests, person.genre, person.headline}
+                             .join(u' ');
     return std::all_of(words.begin(), words.end(),
                        [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
 }

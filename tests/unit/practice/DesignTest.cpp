@@ -171,6 +171,8 @@ TEST(WebSearch, ShowsPeopleByOldAndNewAddressesPageByPage) {
     EXPECT_NE(client.Text(url + u"&start=100"_s), first);
     EXPECT_EQ(client.Text(url + u"&start=1000"_s).count(u"<h3>"_s), 0);
     EXPECT_EQ(client.Text(u"websearch.myspace.example.com/search?q=nobodylikethat"_s).count(u"<h3>"_s), 0);
+    // What stands beside the name on a list can be searched for.
+    EXPECT_GT(client.Text(u"websearch.myspace.example.com/search?q=illinois"_s).count(u"<h3>"_s), 0);
 }
 
 TEST(Private, WhoeverTakesNoRequestsShowsStrangersNoProfile) {

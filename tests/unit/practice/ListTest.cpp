@@ -103,6 +103,19 @@ TEST(FriendsList, OnTheLastPageNextIsThereButDead) {
     EXPECT_EQ(client.Text(friendsUrl + u"/page/99"_s), page);
 }
 
+// The pager stands above the list and below it.
+TEST(FriendsList, APagerLeavesAGapOnlyWherePagesAreLeftOut) {
+    SiteClient client;
+    client.Control(u"friends 900001 199"_s);
+    for (const int page : {1, 2, 5})
+        EXPECT_EQ(client.Text(friendsUrl + u"/page/%1"_s.arg(page)).count(u"class=\"gap\""_s), 0) << page;
+    client.Control(u"friends 900001 400"_s);
+    EXPECT_EQ(client.Text(friendsUrl + u"/page/6"_s).count(u"class=\"gap\""_s), 2);
+    EXPECT_EQ(client.Text(friendsUrl + u"/page/5"_s).count(u"class=\"gap\""_s), 2);
+    client.Control(u"friends 900001 900"_s);
+    EXPECT_EQ(client.Text(friendsUrl + u"/page/10"_s).count(u"class=\"gap\""_s), 4);
+}
+
 TEST(FriendsList, LengthsDifferAndEmptyListsSaySo) {
     SiteClient client;
     EXPECT_NE(
