@@ -8,6 +8,7 @@
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -26,13 +27,18 @@ QString WithoutMnemonic(const QString& text) {
     return plain;
 }
 
-// A button's caption comes from the table; the letter to press with it from the form.
+// A button's caption comes from the table; the letter to press with it from the form. It stays when another
+// caption begins with it.
 std::function<void(const QString&)> CaptionOf(QAbstractButton& button) {
     return [&button, own = button.text()](const QString& text) {
-        if (text.isEmpty() || text == WithoutMnemonic(own))
+        if (text.isEmpty() || text == WithoutMnemonic(own)) {
             button.setText(own);
-        else
-            button.setText(QString(text).replace(u'&', u"&&"_s));
+            return;
+        }
+        const QString plain = QString(text).replace(u'&', u"&&"_s);
+        const QString marked = u'&' + plain;
+        const bool hasItsLetter = QKeySequence::mnemonic(marked) == QKeySequence::mnemonic(own);
+        button.setText(hasItsLetter ? marked : plain);
     };
 }
 

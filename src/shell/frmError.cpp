@@ -27,8 +27,9 @@ frmError::frmError(const FormContext& context) : Form(context, u"frmError"_s, u"
     column->addWidget(NewLink("lblHowToClick"_L1, u"- &How do I Send an Error Report? -"_s));
     column->addWidget(howTo);
     column->addStretch();
-    column->addWidget(
-        NewButtonRow({NewButton("cmdOK"_L1, u"&OK"_s), NewButton("cmdOpenFolder"_L1, u"Open &folder"_s)}));
+    QPushButton* ok = NewButton("cmdOK"_L1, u"&OK"_s);
+    column->addWidget(NewButtonRow({ok, NewButton("cmdOpenFolder"_L1, u"Open &folder"_s)}));
+    ok->setFocus(); // else Return would follow the link, which stands first
     resize(480, 260);
 }
 

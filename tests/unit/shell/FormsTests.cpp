@@ -178,6 +178,15 @@ TEST_F(FormsTest, ReturnOnAnInputPressesTheFirstButtonOfTheFoot) {
     }
 }
 
+TEST_F(FormsTest, ReturnClosesTheErrorFormRatherThanFollowingItsLink) {
+    Count("frmError.cmdOK_Click");
+    QWidget* form = Shown("frmError");
+    ASSERT_NE(form->focusWidget(), nullptr);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(form->focusWidget(), &press);
+    EXPECT_EQ(runs, 1);
+}
+
 TEST_F(FormsTest, EscapeWorksAsTheCancelButton) {
     Count("frmAccountDetails.cmdCancel_Click");
     dialogs.ShowForm(u"frmAccountDetails"_s);

@@ -6,6 +6,8 @@
 #include "shell/Look.h"
 
 #include <QComboBox>
+#include <QGroupBox>
+#include <QPushButton>
 #include <QRadioButton>
 
 namespace qlm {
@@ -116,6 +118,27 @@ TEST_F(GatherFormsTest, TheFilterWindowSaysWhatItFiltersBy) {
         spoken.append(option->accessibleName());
     EXPECT_EQ(spoken.removeDuplicates(), 0) << spoken.join(u'|').toStdString();
     EXPECT_TRUE(spoken.contains(u"Gender: Filter Off"_s));
+}
+
+TEST_F(GatherFormsTest, TheSearchWindowsButtonKeepsItsLetterWhereItBeginsTheCaption) {
+    const auto* button = Shown("frmGoogleSearch")->findChild<QPushButton*>(u"cmdOK"_s);
+    for (const auto& [caption, shown] : {std::pair{u"Stop"_s, u"&Stop"_s},
+                                         {u"Finishing..."_s, u"Finishing..."_s},
+                                         {u"Search"_s, u"&Search"_s}}) {
+        app->controls.SetText("frmGoogleSearch.cmdOK"_L1, caption);
+        EXPECT_EQ(button->text(), shown);
+    }
+}
+
+TEST_F(GatherFormsTest, EachFrameOfTheFilterWindowHasALetterOfItsOwn) {
+    const QDialog* form = Shown("frmFilters");
+    QStringList letters;
+    for (const auto* frame : form->findChildren<QGroupBox*>())
+        letters.append(QKeySequence::mnemonic(frame->title()).toString());
+    EXPECT_EQ(letters.size(), 6);
+    letters.append(QKeySequence::mnemonic(form->findChild<QPushButton*>(u"cmdOK"_s)->text()).toString());
+    EXPECT_FALSE(letters.contains(QString())) << letters.join(u'|').toStdString();
+    EXPECT_EQ(letters.removeDuplicates(), 0) << letters.join(u'|').toStdString();
 }
 
 TEST_F(GatherFormsTest, TheBlackListsWindowIsWorkedThroughByTheKeyboardInOrder) {
