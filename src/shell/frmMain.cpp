@@ -23,6 +23,7 @@
 #include <QSplitter>
 #include <QTabWidget>
 #include <QToolButton>
+#include <QWindow>
 
 namespace qlm {
 
@@ -50,6 +51,14 @@ public:
         return {widget()->minimumSizeHint().width() + bar, QScrollArea::minimumSizeHint().height()};
     }
 };
+
+// A screen that is gone or smaller now must not hide the window.
+QRect Within(const QRect& available, QRect rect) {
+    rect.setSize(rect.size().boundedTo(available.size()));
+    rect.moveLeft(std::clamp(rect.left(), available.left(), available.right() + 1 - rect.width()));
+    rect.moveTop(std::clamp(rect.top(), available.top(), available.bottom() + 1 - rect.height()));
+    return rect;
+}
 
 } // namespace
 
@@ -143,6 +152,25 @@ void frmMain::closeEvent(QCloseEvent* event) {
     event->accept();
 }
 
+bool frmMain::event(QEvent* event) {
+    const bool isHandled = QMainWindow::event(event);
+    if (event->type() == QEvent::WindowActivate && !m_isFramed) {
+        m_isFramed = true;
+        BringFrameOntoScreen();
+    }
+    return isHandled;
+}
+
+// How wide the frame is, is known when the window stands on the screen. Its title bar must not lie above the
+// screen, nor push the foot below it.
+void frmMain::BringFrameOntoScreen() {
+    if (isMaximized() || isMinimized())
+        return;
+    const QRect room = screen()->availableGeometry().marginsRemoved(windowHandle()->frameMargins());
+    if (const QRect place = Within(room, geometry()); place != geometry())
+        setGeometry(place);
+}
+
 WindowPlace frmMain::Place() const {
     const QRect rect = isMaximized() || isMinimized() ? normalGeometry() : geometry();
     return {rect.left(), rect.top(), rect.width(), rect.height(), isMaximized(), isMinimized()};
@@ -150,13 +178,9 @@ WindowPlace frmMain::Place() const {
 
 void frmMain::SetPlace(const WindowPlace& place) {
     QRect rect(place.left, place.top, place.width, place.height);
-    // A screen that is gone or smaller now must not hide the window.
     const QScreen* where = QApplication::screenAt(rect.center());
-    const QRect available = (where ? where : screen())->availableGeometry();
-    rect.setSize(rect.size().expandedTo(minimumSizeHint()).boundedTo(available.size()));
-    rect.moveLeft(std::clamp(rect.left(), available.left(), available.right() + 1 - rect.width()));
-    rect.moveTop(std::clamp(rect.top(), available.top(), available.bottom() + 1 - rect.height()));
-    setGeometry(rect);
+    rect.setSize(rect.size().expandedTo(minimumSizeHint()));
+    setGeometry(Within((where ? where : screen())->availableGeometry(), rect));
     if (place.maximized)
         setWindowState(windowState() | Qt::WindowMaximized);
 }

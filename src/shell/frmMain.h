@@ -24,6 +24,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     QWidget* NewControlPanel();
@@ -33,6 +34,7 @@ private:
     void ConnectMainForm();
     WindowPlace Place() const;
     void SetPlace(const WindowPlace& place);
+    void BringFrameOntoScreen();
     void OnChange(const Control& control, Controls::Change change);
 
     App& m_app;
@@ -40,6 +42,7 @@ private:
     ControlBinder m_binder;
     QTabWidget* m_tabs = nullptr;
     QToolButton* m_collapse = nullptr;
+    bool m_isFramed = false; // the window manager's frame was looked at
     int m_listener;
 };
 

@@ -68,17 +68,18 @@ QGroupBox* CategoryFrame(const App& app) {
     const QString hint = u"This setting appears on the friend request page"_s;
     auto* add = Named(new QCheckBox(u"Add to cate&gory"_s), "chkFRAddToCategory"_L1);
     auto* categories = Named(new QComboBox, "cboFRCategories"_L1, u"Category"_s);
+    // Neither a long name nor the words that stand there before one is chosen make the panel wider.
     categories->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    categories->setMinimumContentsLength(6);
+    categories->setMinimumWidth(categories->fontMetrics().averageCharWidth() * 12);
     add->setToolTip(hint);
     categories->setToolTip(hint);
 
     auto* row = new QHBoxLayout;
-    row->addWidget(add);
     row->addWidget(categories, 1);
     AddPictureButtons(*row, app.commands, Caption::None, {"piccmdFRRefreshCategories"_L1});
     auto* frame = new QGroupBox(u"Category"_s);
     auto* column = new QVBoxLayout(frame);
+    column->addWidget(add);
     column->addLayout(row);
     column->addWidget(NewText(u"Kept for request pages that ask for a category."_s, u"quiet"_s));
     return frame;

@@ -166,6 +166,31 @@ TEST_F(MainWindowTest, APlaceOffTheScreenIsBroughtBackOntoIt) {
     EXPECT_TRUE(window->screen()->availableGeometry().contains(window->geometry()));
 }
 
+// The offscreen display draws a frame of two pixels around a window.
+TEST_F(MainWindowTest, TheFrameIsBroughtOntoTheScreenToo) {
+    app->mainForm->setPlace({0, 0, 9000, 9000, false, false});
+    ASSERT_FALSE(window->screen()->availableGeometry().contains(window->frameGeometry()));
+    QEvent active(QEvent::WindowActivate);
+    QApplication::sendEvent(window, &active);
+    EXPECT_TRUE(window->screen()->availableGeometry().contains(window->frameGeometry()));
+    // From then on it stays where the user puts it.
+    window->move(-20, 5);
+    QApplication::sendEvent(window, &active);
+    EXPECT_EQ(window->pos(), QPoint(-20, 5));
+}
+
+TEST_F(WindowTest, ATabThatIsShownFirstLaterDoesNotPushThePage) {
+    ApplyLook(*qApp);
+    dialogs.ShowForm(u"frmMain"_s);
+    app->stopResume->StopAll(u"TEST"_s);
+    QApplication::processEvents();
+    auto* tabs = Find<QTabWidget>("frmMain", "TabStrip1");
+    const int width = tabs->width();
+    tabs->setCurrentIndex(1);
+    QApplication::processEvents();
+    EXPECT_EQ(tabs->width(), width);
+}
+
 // A start asks for a category while its box is ticked, and the account's categories can be fetched.
 TEST_F(MainWindowTest, TheCategoryIsShownAndSaysWhatItIsGoodFor) {
     ASSERT_NE(Named<QComboBox>("cboFRCategories"), nullptr);
