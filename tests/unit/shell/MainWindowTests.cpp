@@ -55,7 +55,8 @@ TEST_F(MainWindowTest, MenuBarAndStatusLineHaveOneBackground) {
     ApplyLook(*qApp);
     const QColor bar = QColor::fromRgb(0xE9, 0xE9, 0xED);
     for (QWidget* widget :
-         {static_cast<QWidget*>(window->findChild<QMenuBar*>()), Named<QWidget>("lblStatus")}) {
+         {static_cast<QWidget*>(window->findChild<QMenuBar*>()), Named<QWidget>("fraFoot"),
+          Named<QWidget>("lblStatus")}) {
         const QImage picture = widget->grab().toImage();
         EXPECT_EQ(picture.pixelColor(picture.width() - 2, picture.height() / 2).name(), bar.name());
     }
