@@ -154,16 +154,19 @@ void frmMain::closeEvent(QCloseEvent* event) {
 
 bool frmMain::event(QEvent* event) {
     const bool isHandled = QMainWindow::event(event);
-    if (event->type() == QEvent::WindowActivate && !m_isFramed) {
-        m_isFramed = true;
-        BringFrameOntoScreen();
+    if (event->type() == QEvent::WindowActivate && !m_isSettled) {
+        m_isSettled = true;
+        SettleOnScreen();
     }
     return isHandled;
 }
 
-// How wide the frame is, is known when the window stands on the screen. Its title bar must not lie above the
-// screen, nor push the foot below it.
-void frmMain::BringFrameOntoScreen() {
+// What only a window that stands on the screen can do: some window managers forget that it is to come up
+// maximised, and how wide their frame is, is known only now. Its title bar must not lie above the screen, nor
+// push the foot below it.
+void frmMain::SettleOnScreen() {
+    if (m_comesUpMaximized)
+        setWindowState(windowState() | Qt::WindowMaximized);
     if (isMaximized() || isMinimized())
         return;
     const QRect room = screen()->availableGeometry().marginsRemoved(windowHandle()->frameMargins());
@@ -181,6 +184,7 @@ void frmMain::SetPlace(const WindowPlace& place) {
     const QScreen* where = QApplication::screenAt(rect.center());
     rect.setSize(rect.size().expandedTo(minimumSizeHint()));
     setGeometry(Within((where ? where : screen())->availableGeometry(), rect));
+    m_comesUpMaximized = place.maximized;
     if (place.maximized)
         setWindowState(windowState() | Qt::WindowMaximized);
 }

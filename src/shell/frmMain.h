@@ -34,7 +34,7 @@ private:
     void ConnectMainForm();
     WindowPlace Place() const;
     void SetPlace(const WindowPlace& place);
-    void BringFrameOntoScreen();
+    void SettleOnScreen();
     void OnChange(const Control& control, Controls::Change change);
 
     App& m_app;
@@ -42,7 +42,8 @@ private:
     ControlBinder m_binder;
     QTabWidget* m_tabs = nullptr;
     QToolButton* m_collapse = nullptr;
-    bool m_isFramed = false; // the window manager's frame was looked at
+    bool m_isSettled = false;
+    bool m_comesUpMaximized = false;
     int m_listener;
 };
 

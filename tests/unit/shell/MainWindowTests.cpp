@@ -167,6 +167,14 @@ TEST_F(MainWindowTest, APlaceOffTheScreenIsBroughtBackOntoIt) {
     EXPECT_TRUE(window->screen()->availableGeometry().contains(window->geometry()));
 }
 
+TEST_F(MainWindowTest, ItComesUpMaximisedThoughTheDisplayForgetsIt) {
+    app->mainForm->setPlace({40, 30, 700, 500, true, false});
+    window->setWindowState(Qt::WindowNoState);
+    QEvent active(QEvent::WindowActivate);
+    QApplication::sendEvent(window, &active);
+    EXPECT_TRUE(window->isMaximized());
+}
+
 // The offscreen display draws a frame of two pixels around a window.
 TEST_F(MainWindowTest, TheFrameIsBroughtOntoTheScreenToo) {
     app->mainForm->setPlace({0, 0, 9000, 9000, false, false});
