@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "core/IdList.h"
 
+#include "core/AnsiText.h"
+
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <limits>
 #include <stdexcept>
 
@@ -14,6 +18,8 @@ constexpr int LengthBits = 31;
 constexpr quint64 LengthMask = (quint64(1) << LengthBits) - 1;
 constexpr qsizetype MostDigits = 18;
 constexpr size_t FirstSlots = 16;
+// A usual one, with its line end.
+constexpr qsizetype BytesOfAnId = 12;
 
 bool IsNarrow(quint64 number) {
     return number < std::numeric_limits<quint32>::max();
@@ -215,6 +221,33 @@ QStringList IdList::ToStringList(qsizetype limit) const {
     for (qsizetype i = 0; i < count; ++i)
         texts.append(at(i));
     return texts;
+}
+
+// The window waits while a list of a million is saved; so no number becomes a text on the way.
+QByteArray IdList::Lines(qsizetype first, qsizetype end) const {
+    QByteArray lines;
+    lines.reserve((end - first) * BytesOfAnId);
+    std::array<char, 4096> block{};
+    char* to = block.data();
+    auto flush = [&] {
+        lines.append(block.data(), to - block.data());
+        to = block.data();
+    };
+    for (qsizetype i = first; i < end; ++i) {
+        const Key key = m_keys.at(i);
+        if (block.data() + block.size() - to < MostDigits + 2)
+            flush();
+        if ((key & TextMark) == 0) {
+            to = std::to_chars(to, to + MostDigits, key).ptr;
+        } else {
+            flush();
+            lines += ToAnsi(TextOf(key));
+        }
+        *to++ = '\r';
+        *to++ = '\n';
+    }
+    flush();
+    return lines;
 }
 
 bool IdList::operator==(const QStringList& texts) const {

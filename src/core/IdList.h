@@ -61,6 +61,8 @@ public:
     qsizetype indexOf(const QString& text) const;
 
     QStringList ToStringList(qsizetype limit = -1) const;
+    // The entries from first up to end, that one left out, as lines of a text file.
+    QByteArray Lines(qsizetype first, qsizetype end) const;
     bool operator==(const QStringList& texts) const;
 
 private:

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "gather/GatheredList.h"
 
-#include "core/AnsiText.h"
 #include "core/App.h"
 #include "core/SettingsFields.h"
 #include "gather/ListFiles.h"
@@ -148,14 +147,16 @@ void GatheredList::SaveScannedList(const QString& path) {
 void GatheredList::WriteList(const QString& path, bool turns) {
     m_app.diagnostics.Trap("SaveScannedList - form1", [&] {
         m_app.files.CreateFolder(QFileInfo(path).path());
-        const IdList ids = m_app.state.arrFriendIDs;
+        const IdList asItIs = turns ? m_app.state.arrFriendIDs : IdList();
+        const IdList& ids = turns ? asItIs : m_app.state.arrFriendIDs;
         const qsizetype entries = turns ? EntriesInAPart : ids.size();
         qsizetype next = 0;
         m_app.files.WriteParts(path, [&](QByteArray& part) {
             if (turns && next > 0)
                 m_app.waiting.Pump();
-            for (const qsizetype end = std::min(next + entries, ids.size()); next < end; ++next)
-                part += ToAnsi(ids.at(next)) + "\r\n";
+            const qsizetype end = std::min(next + entries, ids.size());
+            part = ids.Lines(next, end);
+            next = end;
             return next < ids.size();
         });
     });

@@ -5,11 +5,14 @@
 #include "Figures.h"
 #include "RunningProgram.h"
 #include "SiteProcess.h"
+#include "core/SettingsFields.h"
 #include "gather/BlackList.h"
 #include "gather/GatheredList.h"
 #include "platform/qt/EngineProfile.h"
 
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
@@ -127,7 +130,9 @@ private:
     }
     void Time(const std::string& name, const std::function<void()>& program,
               const std::function<void()>& plain);
+    void Note(const std::string& name, double programMs, double unansweredMs, double plainMs);
     void Round();
+    void PressSave(const Plain& plain);
     void MeasureMemory();
     void MeasureBlackList();
 
@@ -147,13 +152,47 @@ private:
 
 void GatherLists::Time(const std::string& name, const std::function<void()>& program,
                        const std::function<void()>& plain) {
+    m_heartbeat.Begin();
+    const double programMs = MsOf(program);
+    const double unansweredMs = m_heartbeat.EndMs();
+    Note(name, programMs, unansweredMs, MsOf(plain));
+}
+
+void GatherLists::Note(const std::string& name, double programMs, double unansweredMs, double plainMs) {
     if (m_rows.find(name) == m_rows.end())
         m_order.push_back(name);
     Row& row = m_rows[name];
-    m_heartbeat.Begin();
-    row.program.push_back(MsOf(program));
-    row.unanswered.push_back(m_heartbeat.EndMs());
-    row.plain.push_back(MsOf(plain));
+    row.program.push_back(programMs);
+    row.unanswered.push_back(unansweredMs);
+    row.plain.push_back(plainMs);
+}
+
+// From the moment at which the file has been chosen.
+void GatherLists::PressSave(const Plain& plain) {
+    const QString path = m_folder.filePath(u"chosen.txt"_s);
+    QFile::remove(path);
+    long long startNs = 0;
+    QTimer chooser;
+    QObject::connect(&chooser, &QTimer::timeout, &chooser, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        chooser.stop();
+        QObject::connect(dialog, &QFileDialog::finished, &chooser, [&] {
+            startNs = NowNs();
+            m_heartbeat.Begin();
+        });
+        dialog->findChild<QLineEdit*>(u"fileNameEdit"_s)->setText(path);
+        static_cast<QDialog*>(dialog)->accept();
+    });
+    chooser.start(10);
+    m_program.app.commands.Run(u"picSaveToFile_Click"_s);
+    const double programMs = static_cast<double>(NowNs() - startNs) / 1e6;
+    const double unansweredMs = m_heartbeat.EndMs();
+    if (QFileInfo(path).size() != QFileInfo(m_listFile).size())
+        throw std::runtime_error("the Save button has not written the list");
+    Note("Save button", programMs, unansweredMs,
+         MsOf([&] { plain.Save(m_folder.filePath(u"plain.txt"_s).toStdString()); }));
 }
 
 void GatherLists::Round() {
@@ -161,7 +200,7 @@ void GatherLists::Round() {
     GatheredList& list = *app.gatheredList;
     Plain plain;
     const std::string path = m_listFile.toStdString();
-    const QString saved = m_folder.filePath(u"saved.txt"_s);
+    app.controls.SetTicked("chkSaveScanned"_L1, true);
     Time(
         "import without the duplicate question", [&] { list.FillScannedList(m_listFile, true, false); },
         [&] { plain.Import(path, false); });
@@ -173,10 +212,14 @@ void GatherLists::Round() {
         "shuffle", [&] { list.Shuffle(); },
         [&] { std::shuffle(plain.list.begin(), plain.list.end(), random); });
     Time(
-        "save", [&] { list.SaveScannedList(saved); },
+        "save at the end", [&] { app.settingsFields->SaveListsAndSettings(); },
         [&] { plain.Save(m_folder.filePath(u"plain.txt"_s).toStdString()); });
+    PressSave(plain);
     Time(
-        "load", [&] { list.FillScannedList(saved, true, false); }, [&] { plain.Import(path, true); });
+        "load", [&] { list.FillScannedList(list.ScopedPath(), true, false); },
+        [&] { plain.Import(path, true); });
+    if (app.state.arrFriendIDs.size() != Ids)
+        throw std::runtime_error("the save at the end has not written the list");
     const QStringList asked = app.state.arrFriendIDs.ToStringList(100'000);
     std::vector<std::string> askedPlain;
     for (const QString& id : asked)
@@ -255,6 +298,11 @@ void GatherLists::Report() const {
         std::printf("%-40s %10.1f %10.1f %12.1f\n", name.c_str(), Median(row.program), Median(row.plain),
                     *std::max_element(row.unanswered.begin(), row.unanswered.end()));
     }
+    for (const std::string& name : m_order)
+        PrintAgainstGoal(
+            ("longest without an answer: " + name).c_str(),
+            *std::max_element(m_rows.at(name).unanswered.begin(), m_rows.at(name).unanswered.end()), 50,
+            "ms");
     const double rawMb = static_cast<double>(QFileInfo(m_listFile).size()) / 1e6;
     PrintAgainstGoal("import with the question", Median(m_rows.at("import with it").program), 2000, "ms");
     std::printf("memory: raw text %.1f MB; list %.1f + index %.1f MB; vector %.1f + set %.1f MB\n", rawMb,

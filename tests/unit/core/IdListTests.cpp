@@ -45,6 +45,27 @@ TEST(IdList, FindsExactlyWhatItHolds) {
     EXPECT_EQ(list.indexOf(u"08"_s), -1);
 }
 
+TEST(IdList, LinesAreTheEntriesAsAFileHoldsThem) {
+    const IdList odd(Odd);
+    EXPECT_EQ(odd.Lines(0, odd.size()), "0\r\n7\r\n007\r\n+5\r\n-5\r\n4294967294\r\n4294967295\r\n"
+                                        "4294967296\r\n999999999999999999\r\n1000000000000000000\r\n"
+                                        "18446744073709551616\r\nann\r\nAnn\r\n12 34\r\n???\r\n"
+                                        "ID \x96 \xFCn\xEF ?\r\n\r\n");
+    EXPECT_EQ(odd.Lines(1, 3), "7\r\n007\r\n");
+    EXPECT_EQ(odd.Lines(2, 2), QByteArray());
+}
+
+TEST(IdList, LinesOfManyEntriesKeepTheirOrder) {
+    IdList list;
+    QByteArray lines;
+    for (int i = 0; i < 3000; ++i) {
+        const QString text = i % 7 == 0 ? u"n"_s.repeated(i) : QString::number(quint64(i) * i * i * i * i);
+        list.append(text);
+        lines += text.toLatin1() + "\r\n";
+    }
+    EXPECT_EQ(list.Lines(0, list.size()), lines);
+}
+
 TEST(IdList, BeyondTheEndsThereIsNoText) {
     const IdList list{u"1"_s};
     EXPECT_EQ(list.value(-1), QString());
