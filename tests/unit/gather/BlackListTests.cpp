@@ -49,6 +49,27 @@ TEST_F(BlackListTest, AFileThatIsMissingIsCreated) {
     EXPECT_EQ(Known(), QStringList{QString()});
 }
 
+TEST_F(BlackListTest, WhileTheWindowIsFilledItCannotBeAddedToOrClosed) {
+    QStringList lines;
+    for (int i = 1; i <= 1000; ++i)
+        lines.append(QString::number(i));
+    Stands(lines);
+    const auto buttons = {"frmBlacklist.cmdAdd"_L1, "frmBlacklist.cmdAddFromFile"_L1,
+                          "frmBlacklist.cmdClose"_L1};
+    int turns = 0;
+    platform->Pump().onPump = [&] {
+        ++turns;
+        for (const auto button : buttons)
+            EXPECT_FALSE(app->controls[button].enabled) << button.data();
+        EXPECT_EQ(app->controls.Text("MousePointer"_L1), u"11"_s);
+    };
+    app->blackList->FillBlacklist(app->blackList->Path(), false, false);
+    EXPECT_GT(turns, 0);
+    for (const auto button : buttons)
+        EXPECT_TRUE(app->controls[button].enabled) << button.data();
+    EXPECT_EQ(app->controls.Text("MousePointer"_L1), u"0"_s);
+}
+
 TEST_F(BlackListTest, AddAppendsALineAndARowAlsoASecondTime) {
     Stands({u"11"_s});
     Open([this] {

@@ -245,6 +245,9 @@ TEST_F(GatherDriverTest, EachPromptShowsUntilItsBoxWasTicked) {
         EXPECT_TRUE(app->gatherDriver->ShowPrompt(prompt.form));
         EXPECT_EQ(stored(), u"1"_s);
         EXPECT_FALSE(app->gatherDriver->ShowPrompt(prompt.form));
+        // It comes up unticked again however it was left.
+        platform->Settings().SaveSetting(u"General"_s, prompt.key, u"0"_s);
+        EXPECT_TRUE(app->gatherDriver->ShowPrompt(prompt.form));
     }
 }
 

@@ -216,6 +216,17 @@ TEST_F(GatheredListTest, ShuffleSwapsFromTheTop) {
     EXPECT_TRUE(app->state.CurrentAction.isEmpty());
 }
 
+TEST_F(GatheredListTest, ShuffleShowsThatItIsBusy) {
+    Add({u"1"_s, u"2"_s});
+    QStringList meanwhile;
+    platform->Pump().onPump = [&] {
+        meanwhile = {app->state.CurrentAction, app->controls.Text("MousePointer"_L1)};
+    };
+    app->commands.Run(u"picRandomize_Click"_s);
+    EXPECT_EQ(meanwhile, (QStringList{u"RANDOMIZING"_s, u"11"_s}));
+    EXPECT_EQ(app->controls.Text("MousePointer"_L1), u"0"_s);
+}
+
 TEST_F(GatheredListTest, ShuffleRefusesDuringARun) {
     Add({u"1"_s, u"2"_s});
     for (const QString& action : {u"FR"_s, u"SCANNING"_s, u"COM"_s, u"MSG"_s}) {
@@ -395,8 +406,10 @@ TEST_F(GatheredListTest, GoToPageRefusesDuringARun) {
     Add({u"1"_s});
     app->controls.SetSelected("lstFriendIDs"_L1, 0);
     app->state.CurrentAction = u"FR"_s;
+    app->WebBrowser1().SetSilent(false);
     app->commands.Run(u"lstFriendIDs_DblClick"_s);
     EXPECT_EQ(dialogs.Texts(), QStringList{u"Please stop all other operations first"_s});
+    EXPECT_TRUE(app->WebBrowser1().Silent());
 }
 
 } // namespace
