@@ -124,6 +124,7 @@ TEST_F(IdRoute, ItsFormOnBrowseAndNotificationsPages) {
     EXPECT_EQ(Id(u"/browse/people"_s, body), u"55"_s);
     EXPECT_EQ(Id(u"/x"_s, body), QString());
     EXPECT_EQ(Id(u"/browse/people"_s, u"<div><i data='friendid:55'></i><p>"_s + Vanity), QString());
+    EXPECT_EQ(Id(u"/browse/people"_s, u"<div><i data='friendid,55'></i><p>"_s + Vanity), QString());
 }
 
 TEST_F(IdRoute, TheNumericAddress) {
@@ -218,6 +219,20 @@ TEST_F(IdResolutionTest, TheReportLinkHelpsWhenNoScriptNamesTheID) {
     Show(u"http://www.example.com/ann"_s,
          u"<p><a href='http://x.example.com/r?reportedUserId=654&amp;b=1'>x</a></p>"_s);
     EXPECT_EQ(app->idResolution->GetDisplayFriendID(u"WebBrowser1"_s, {}), u"654"_s);
+}
+
+TEST_F(IdResolutionTest, TheReportLinkHelpsToWhenTheScriptNamesNoNumber) {
+    Show(u"http://www.example.com/ann"_s,
+         u"<script>a={\"DisplayFriendId\":none,x}</script>"
+         "<p><a href='http://x.example.com/r?reportedUserId=654&amp;b=1'>x</a></p>"_s);
+    EXPECT_EQ(app->idResolution->GetDisplayFriendID(u"WebBrowser1"_s, {}), u"654"_s);
+}
+
+TEST_F(IdResolutionTest, AnIDOfThreeDigitsIsOne) {
+    Show(u"http://www.example.com/ann"_s,
+         u"<script>a={\"DisplayFriendId\":123,x}</script>"
+         "<p><a href='http://www.example.com/my/mail/new?t=678'>Write</a></p>"_s);
+    EXPECT_EQ(app->idResolution->GetFriendIDFromDocument(u"WebBrowser1"_s, {}), u"123"_s);
 }
 
 TEST_F(IdResolutionTest, AnIDOfTwoDigitsIsNoneAndAnotherKeyIsAsked) {

@@ -193,6 +193,77 @@ TEST_F(LinkScannerTest, WhileAcceptingTheRequestsAreCollected) {
     EXPECT_TRUE(app->gatheredList->IsEmpty());
 }
 
+// Top friends are no entries of the list and are forgotten, so that one counts where he stands as an entry.
+TEST_F(LinkScannerTest, AForgottenAddressIsLookedAtAgain) {
+    const QString ann = u"<a href='http://www.example.com/11'>Ann</a>"_s;
+    const QString top = u"<div><div title=topFriendsList><ul><li>"_s + ann + u"</li></ul></div></div>"_s;
+    const QString entry = u"<div class=miniProfile><p>"_s + ann + u"</p></div>"_s;
+    QString others;
+    for (int i = 0; i < 60; ++i)
+        others += u"<a href='http://www.example.com/x"_s + QString::number(i) + u"'>x</a>"_s;
+    for (const QString& between : {QString(), others}) {
+        Show(u"http://www.example.com/7/friends"_s, top + between + entry);
+        app->gatheredList->Clear();
+        app->linkScanner->GatherPageProfiles();
+        EXPECT_EQ(Ids(), QStringList{u"11"_s});
+    }
+}
+
+TEST_F(LinkScannerTest, APassBeginsWithoutWhatTheLastLeft) {
+    ShowProfiles({u"11"_s});
+    app->state.strNextPageLink = u"not the first page"_s;
+    app->state.blnClickNextLink = true;
+    app->timers->tmrAutoResume.SetEnabled(false);
+    app->linkScanner->GatherPageProfiles();
+    EXPECT_EQ(app->state.strNextPageLink, QString());
+    EXPECT_FALSE(app->state.blnClickNextLink);
+    EXPECT_TRUE(app->timers->tmrAutoResume.Enabled());
+}
+
+// Such a page grows in place: no pager is waited for, no next page looked for.
+TEST_F(LinkScannerTest, OfACommentsPageTheNewPartIsScannedAndNoPagerSought) {
+    auto entry = [](const QString& id) {
+        return u"<div class=miniProfile><p><a href='/"_s + id + u"'>x</a></p></div>"_s;
+    };
+    Show(u"http://www.example.com/7/comments"_s,
+         entry(u"11"_s) + entry(u"12"_s) + u"<a href='javascript:more()'>Next</a>"_s);
+    const QString html = app->WebBrowser1().Document().BodyHTML();
+    app->state.lngPageScanOffset = static_cast<qint32>(html.lastIndexOf(u"<div"_s));
+    app->controls.SetTicked("optScanFollowing"_L1, true);
+    const qint64 startMs = platform->Pump().NowMs();
+    app->linkScanner->GatherPageProfiles();
+    EXPECT_LT(platform->Pump().NowMs() - startMs, 4000);
+    EXPECT_EQ(Ids(), QStringList{u"12"_s});
+    const QString newPart = html.mid(app->state.lngPageScanOffset);
+    EXPECT_TRUE(app->webTemp().Document().BodyHTML().endsWith(u'>' + newPart));
+    EXPECT_EQ(app->state.strNextPageLink, QString());
+}
+
+TEST_F(LinkScannerTest, TheReminderIsForAQuickGatherOfThisPageThatFoundNobody) {
+    ShowProfiles({u"ann"_s});
+    RunState& state = app->state;
+    auto reminded = [&] {
+        const qsizetype before = dialogs.shownForms.count(u"frmFullGatherReminder"_s);
+        state.strNextPageLink = u"not the first page"_s;
+        app->linkScanner->GatherPageProfiles();
+        return dialogs.shownForms.count(u"frmFullGatherReminder"_s) > before;
+    };
+    EXPECT_FALSE(reminded());
+    app->controls.SetTicked("optScanCurrentPage"_L1, true);
+    EXPECT_TRUE(reminded());
+    state.optFilterOnlineNow = true;
+    EXPECT_TRUE(reminded());
+    state.optFilterWhenGathering = true;
+    EXPECT_FALSE(reminded());
+    state.optFilterOnlineNow = false;
+    EXPECT_TRUE(reminded());
+    state.blnComparingIDs = true;
+    EXPECT_FALSE(reminded());
+    state.blnComparingIDs = false;
+    app->controls.SetTicked("optFullGather"_L1, true);
+    EXPECT_FALSE(reminded());
+}
+
 TEST_F(LinkScannerTest, AStopDuringAFetchCollectsNothingMore) {
     app->state.CurrentAction = u"ACC"_s;
     world.web.SetPage(u"http://www.example.com/ann"_s,

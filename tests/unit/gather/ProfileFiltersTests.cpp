@@ -239,6 +239,27 @@ TEST_F(ProfileFiltersTest, APageThatNeverShowsAProfileIsJudgedAsItIs) {
     EXPECT_NEAR(static_cast<double>(platform->Pump().NowMs() - startMs), 16000.0, 500.0);
 }
 
+// The wait for any profile ends with an error page, that for a new one with a complete page.
+TEST_F(ProfileFiltersTest, WhatEndsTheWaitForTheLayout) {
+    Choose("optFilterPeople"_L1);
+    const QString url = u"http://www.example.com/5/classic"_s;
+    auto seconds = [&](const QString& body, SimFault fault) {
+        world.web.SetPage(url, u"<html><body>"_s + body + u"</body></html>"_s);
+        if (fault != SimFault::None)
+            world.web.SetFault(url, fault);
+        app->WebBrowser1().Navigate(url);
+        platform->Pump().RunFor(1000);
+        const qint64 startMs = platform->Pump().NowMs();
+        EXPECT_TRUE(app->profileFilters->IsFilteredProfile());
+        return (platform->Pump().NowMs() - startMs + 500) / 1000;
+    };
+    EXPECT_EQ(seconds(u"<p>The page cannot be displayed</p>"_s, SimFault::Incomplete), 15);
+    EXPECT_EQ(seconds(u"<p>something else</p>"_s, SimFault::Incomplete), 45);
+    const QString person = u"<div class=userBadgeSideBar title='gender\":\"Male'></div>"_s;
+    EXPECT_EQ(seconds(person, SimFault::Incomplete), 60);
+    EXPECT_EQ(seconds(person, SimFault::None), 0);
+}
+
 TEST_F(ProfileFiltersTest, AHeldLinkCheckEndsTheWaitsWithNo) {
     Choose("optFilterPeople"_L1);
     app->state.blnHoldLinkCheck = true;

@@ -124,6 +124,43 @@ TEST_F(ProfileLinksTest, TheExclusions) {
     EXPECT_TRUE(Judge(place, u"<div data-category=feed><b><i>"_s + Ann + u"</i></b></div>"_s));
 }
 
+// How long a piece of markup may be, to the character.
+TEST_F(ProfileLinksTest, TheLengthsThatDecide) {
+    auto padded = [this](const QString& path, const QString& body, int ancestor, ElementText which,
+                         qsizetype length) {
+        Show(path, body.arg(QString()));
+        const Element link = app->WebBrowser1().Document().Links().front();
+        Show(path, body.arg(QString(length - link.Ancestor(ancestor).Read(which).size(), u'x')));
+        EXPECT_EQ(app->WebBrowser1().Document().Links().front().Ancestor(ancestor).Read(which).size(),
+                  length);
+        return Judge();
+    };
+    const QString friends = u"<div class=miniProfile><p>"_s + Ann + u"%1</p></div>"_s;
+    EXPECT_TRUE(padded(u"/7/friends"_s, friends, 1, ElementText::OuterHTML, 4000));
+    EXPECT_FALSE(padded(u"/7/friends"_s, friends, 1, ElementText::OuterHTML, 4001));
+    const QString marked = u"<div><span><i friendID=3></i><em><i class=msProfileLink></i>"_s +
+                           Link(u"http://y.example.com/q"_s) + u"</em></span>%1</div>"_s;
+    EXPECT_TRUE(padded(u"/any"_s, marked, 3, ElementText::InnerHTML, 649));
+    EXPECT_FALSE(padded(u"/any"_s, marked, 3, ElementText::InnerHTML, 650));
+    const QString tracked = u"<p><a class=MySpace.CMS.track href='http://www.example.com/ann'>%1</a></p>"_s;
+    EXPECT_FALSE(padded(u"/any"_s, tracked, 0, ElementText::OuterHTML, 199));
+    EXPECT_TRUE(padded(u"/any"_s, tracked, 0, ElementText::OuterHTML, 200));
+}
+
+TEST_F(ProfileLinksTest, TopFriendsStandBeforePositionFourHundred) {
+    auto remembered = [this](qsizetype position) {
+        const QString open = u"<div title=\""_s;
+        Show(u"/7/friends"_s, u"<div>"_s + open + QString(position - 1 - open.size(), u'x') +
+                                  u"topFriendsList\"><ul><li>"_s + Ann + u"</li></ul></div></div>"_s);
+        const Element list = app->WebBrowser1().Document().Links().front().Ancestor(3);
+        EXPECT_EQ(list.OuterHTML().indexOf(u"topFriendsList"_s) + 1, position);
+        EXPECT_FALSE(Judge());
+        return app->state.blnRememberLink;
+    };
+    EXPECT_FALSE(remembered(399));
+    EXPECT_TRUE(remembered(400));
+}
+
 TEST_F(ProfileLinksTest, AMediaBlockIsForgotten) {
     EXPECT_FALSE(Judge(u"/any"_s, u"<div class=mediablock><b><i>"_s + Ann + u"</i></b></div>"_s));
     EXPECT_FALSE(app->state.blnRememberLink);

@@ -129,6 +129,7 @@ TEST_F(WebSearchTest, TheWindowShowsTheSearchRowFirstAndTheProgressThen) {
         EXPECT_TRUE(visible("frmGoogleSearch.lblInProgress"_L1));
         EXPECT_TRUE(visible("frmGoogleSearch.lblFullGatheringID"_L1));
         EXPECT_FALSE(app->state.blnStopGoogle);
+        EXPECT_FALSE(app->state.blnHoldLinkCheck);
     };
     app->commands.Run(u"picScanStart_Click"_s);
     EXPECT_TRUE(looked);
