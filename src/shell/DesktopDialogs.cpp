@@ -36,10 +36,19 @@ QString DesktopDialogs::ChooseFileToOpen(const QString& title, const QString& fi
                                                  m_folder, QtFilter(filter)));
 }
 
+QString DesktopDialogs::UsualSuffix(const QString& suggestedName, const QString& filter) {
+    const QString pattern = filter.section(u'|', 1, 1).section(u';', 0, 0);
+    return QFileInfo(suggestedName.isEmpty() ? pattern : suggestedName).suffix().remove(u'*');
+}
+
 QString DesktopDialogs::ChooseFileToSave(const QString& title, const QString& suggestedName,
                                          const QString& filter) {
-    return Remember(QFileDialog::getSaveFileName(ParentWindow(), title.isEmpty() ? u"Save"_s : title,
-                                                 QDir(m_folder).filePath(suggestedName), QtFilter(filter)));
+    QFileDialog dialog(ParentWindow(), title.isEmpty() ? u"Save"_s : title, m_folder, QtFilter(filter));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // A name without one gets it, so that the dialog that opens such files lists it.
+    dialog.setDefaultSuffix(UsualSuffix(suggestedName, filter));
+    dialog.selectFile(suggestedName);
+    return dialog.exec() == QDialog::Accepted ? Remember(dialog.selectedFiles().value(0)) : QString();
 }
 
 void DesktopDialogs::RunModal(const QString&, QDialog& dialog) {

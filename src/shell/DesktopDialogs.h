@@ -15,6 +15,8 @@ public:
     // "Text files (txt)|*.txt;|All files (*.*)|*.*" as Qt wants it: "Text files (txt) (*.txt);;All files
     // (*)".
     static QString QtFilter(const QString& filter);
+    // "txt": the suggested name's, else that of the filter's first pattern; none for "*.*".
+    static QString UsualSuffix(const QString& suggestedName, const QString& filter);
 
 protected:
     void RunModal(const QString& form, QDialog& dialog) override;

@@ -5,13 +5,19 @@
 #include "shell/PictureButtons.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabBar>
+#include <QTemporaryDir>
+#include <QTimer>
 
 namespace qlm {
 
@@ -253,6 +259,27 @@ TEST(FileFilter, IsTranslatedForTheFileDialog) {
               u"Text files (txt) (*.txt);;All files (*)"_s);
     EXPECT_EQ(DesktopDialogs::QtFilter(u"Pictures|*.bmp;*.png"_s), u"Pictures (*.bmp *.png)"_s);
     EXPECT_EQ(DesktopDialogs::QtFilter({}), QString());
+}
+
+TEST(FileToSave, TakesTheUsualSuffixWhenTheUserTypesNone) {
+    const QTemporaryDir folder;
+    DesktopDialogs dialogs;
+    const auto choose = [&](const QString& typed, const QString& suggested, const QString& filter) {
+        QTimer::singleShot(0, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            auto* name = dialog->findChild<QLineEdit*>();
+            EXPECT_EQ(name->text(), suggested);
+            name->setText(folder.filePath(typed));
+            dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+        });
+        return QFileInfo(dialogs.ChooseFileToSave({}, suggested, filter)).fileName();
+    };
+    const QString texts = u"Text files (txt)|*.txt;|All files (*.*)|*.*"_s;
+    EXPECT_EQ(choose(u"list"_s, {}, texts), u"list.txt"_s);
+    EXPECT_EQ(choose(u"list.ids"_s, {}, texts), u"list.ids"_s);
+    EXPECT_EQ(choose(u"page"_s, u"Pagesource.txt"_s, u"Documents|*.bmp;"_s), u"page.txt"_s);
+    EXPECT_EQ(choose(u"any"_s, {}, u"All files (*.*)|*.*"_s), u"any"_s);
 }
 
 TEST(PictureButtonTable, KnowsNoOtherNames) {
