@@ -227,7 +227,7 @@ void FileSystem::WriteBytes(const QString& path, const QByteArray& bytes, Reader
 }
 
 void FileSystem::WriteParts(const QString& path, const std::function<bool(QByteArray&)>& nextPart,
-                            Readers readers) {
+                            Readers readers, Durability eachPart) {
     Refuse(path);
     const QString temporary = path + u".new"_s;
     // What an earlier end has left there may stand open to others.
@@ -239,7 +239,8 @@ void FileSystem::WriteParts(const QString& path, const std::function<bool(QByteA
             QByteArray part;
             more = nextPart(part);
             WriteAll(file.Number(), part, temporary);
-            file.Sync(temporary);
+            if (eachPart == Durability::Synced || !more)
+                file.Sync(temporary);
         }
     }
     Replace(temporary, path);

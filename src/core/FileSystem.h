@@ -55,10 +55,10 @@ public:
     void AppendLines(const QString& path, const QStringList& lines);
     void WriteLines(const QString& path, const QStringList& lines, Readers readers = Readers::Everyone);
     // As WriteBytes for what is too much for one go: nextPart adds the next bytes to the empty array and
-    // answers false when those were the last. Each part has reached the disk before the next is asked for, so
-    // that no single wait is long.
+    // answers false when those were the last. Unless told otherwise, each part has reached the disk before
+    // the next is asked for, so that no single wait is long; the whole file has at the end.
     void WriteParts(const QString& path, const std::function<bool(QByteArray& part)>& nextPart,
-                    Readers readers = Readers::Everyone);
+                    Readers readers = Readers::Everyone, Durability eachPart = Durability::Synced);
     void WriteBytes(const QString& path, const QByteArray& bytes, Readers readers = Readers::Everyone);
     // Overwrites the target, whole or not at all.
     void CopyFile(const QString& from, const QString& to, Readers readers = Readers::Everyone);

@@ -283,6 +283,17 @@ TEST_F(GatheredListTest, TwoHundredMegabytesComeInWithTheMessageLoopTurning) {
     EXPECT_GT(turns, Lines / 300);
 }
 
+TEST_F(GatheredListTest, ALongListIsSavedWholeAndWithoutATurn) {
+    QStringList lines = Numbers(12'345);
+    lines.insert(7000, u"ann"_s);
+    const QString path = app->ProgramFile(u"long.txt"_s);
+    app->files.WriteLines(path, lines);
+    List().FillScannedList(path, false, false);
+    platform->Pump().onPump = [] { FAIL() << "the list may change in a turn"; };
+    List().SaveScannedList(List().ScopedPath());
+    EXPECT_EQ(app->files.ReadLines(List().ScopedPath()), lines);
+}
+
 TEST_F(GatheredListTest, TheFileThatIsBeingReadIsNotWrittenOver) {
     QStringList lines = Numbers(1000);
     const QString path = List().ScopedPath();
