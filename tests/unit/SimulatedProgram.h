@@ -35,6 +35,13 @@ protected:
         app->state.ServerBaseURL = QStringLiteral("http://product.example.com");
     }
 
+    // A page of the site that has arrived in WebBrowser1.
+    void Show(const QString& url, const QString& body) {
+        world.web.SetPage(url, QStringLiteral("<html><body>") + body + QStringLiteral("</body></html>"));
+        app->WebBrowser1().Navigate(url);
+        platform->Pump().RunFor(1000);
+    }
+
     QTemporaryDir folder;
     SimWorld world;
     RecordingDialogs dialogs;

@@ -17,11 +17,6 @@ protected:
         StartOn(world.deploymentText + u"SiteDomain=example.com\nEventsHost=events.example.com\n"_s);
         app->state.blnNewLayout = true;
     }
-    void Show(const QString& url, const QString& body) {
-        world.web.SetPage(url, u"<html><body>"_s + body + u"</body></html>"_s);
-        app->WebBrowser1().Navigate(url);
-        platform->Pump().RunFor(1000);
-    }
 };
 
 TEST_F(GatherDriverTest, StartWantsAScanOption) {

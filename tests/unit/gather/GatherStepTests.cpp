@@ -16,11 +16,6 @@ protected:
         app->state.CurrentAction = u"SCANNING"_s;
         app->controls.SetTicked("optScanFollowing"_L1, true);
     }
-    void Show(const QString& url, const QString& body) {
-        world.web.SetPage(url, u"<html><body>"_s + body + u"</body></html>"_s);
-        app->WebBrowser1().Navigate(url);
-        platform->Pump().RunFor(1000);
-    }
     // A load that is on its way and arrives unless the browser is stopped.
     void BeginLoad() {
         world.web.SetPage(u"http://x.example.com/late"_s, u"<html><body><a href=/>Late</a></body></html>"_s);

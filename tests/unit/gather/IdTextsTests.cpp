@@ -50,11 +50,6 @@ TEST(IdTexts, TheNameToShowWhileFetching) {
 class IdResolutionTest : public SimulatedProgram {
 protected:
     IdResolutionTest() { app->state.blnNewLayout = true; }
-    void Show(const QString& url, const QString& body) {
-        world.web.SetPage(url, u"<html><body>"_s + body + u"</body></html>"_s);
-        app->WebBrowser1().Navigate(url);
-        platform->Pump().RunFor(1000);
-    }
     QString Resolve() {
         return app->idResolution->GetFriendIDFromLink(app->WebBrowser1().Document().Links().front());
     }

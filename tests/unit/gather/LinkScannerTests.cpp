@@ -15,11 +15,6 @@ protected:
         app->state.blnNewLayout = true;
         app->state.CurrentAction = u"SCANNING"_s;
     }
-    void Show(const QString& url, const QString& body) {
-        world.web.SetPage(url, u"<html><body>"_s + body + u"</body></html>"_s);
-        app->WebBrowser1().Navigate(url);
-        platform->Pump().RunFor(1000);
-    }
     void ShowProfiles(const QStringList& names) {
         QString body;
         for (const QString& name : names)

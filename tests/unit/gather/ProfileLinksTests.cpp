@@ -19,10 +19,7 @@ protected:
         app->state.blnNewLayout = true;
     }
     void Show(const QString& path, const QString& body) {
-        const QString url = path.startsWith(u"http"_s) ? path : u"http://www.example.com"_s + path;
-        world.web.SetPage(url, u"<html><body>"_s + body + u"</body></html>"_s);
-        app->WebBrowser1().Navigate(url);
-        platform->Pump().RunFor(1000);
+        SimulatedProgram::Show(path.startsWith(u"http"_s) ? path : u"http://www.example.com"_s + path, body);
     }
     bool Judge(bool clicked = false) {
         app->state.blnRememberLink = true;
