@@ -29,6 +29,11 @@ protected:
         };
         app->commands.Run(u"picScanStart_Click"_s);
     }
+    void Classic(const QString& id, const QString& gender) {
+        world.web.SetPage(u"http://www.example.com/"_s + id + u"/classic"_s,
+                          u"<html><body><div class=friendSpace>x</div><b>"_s + gender +
+                              u"</b><br>View My: Pictures</body></html>"_s);
+    }
     void Full() { app->controls.SetTicked("optFullGather"_L1, true); }
     void Profile(const QString& name, const QString& id) {
         world.web.SetPage(u"http://www.example.com/"_s + name,
@@ -204,19 +209,38 @@ TEST_F(WebSearchTest, TheFilterLooksAtWhatStoodInTheListBeforeToo) {
     app->controls.SetTicked("optFilterFemale"_L1, true);
     for (const QString& id : {u"5"_s, u"6"_s})
         app->gatheredList->ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
-    auto profile = [this](const QString& id, const QString& gender) {
-        world.web.SetPage(u"http://www.example.com/"_s + id + u"/classic"_s,
-                          u"<html><body><div class=friendSpace>x</div><b>"_s + gender +
-                              u"</b><br>View My: Pictures</body></html>"_s);
-    };
-    profile(u"5"_s, u"Male"_s);
-    profile(u"6"_s, u"Female"_s);
-    profile(u"11"_s, u"Female"_s);
+    Classic(u"5"_s, u"Male"_s);
+    Classic(u"6"_s, u"Female"_s);
+    Classic(u"11"_s, u"Female"_s);
     world.web.SetPage(u"http://www.example.com/12/classic"_s,
                       u"<html><body><p class=advertiserProfile>Buy</p></body></html>"_s);
     Answer(Results(u"x"_s, 0), u"friendid=11 friendid=12"_s);
     Search(u"x"_s);
     EXPECT_EQ(Ids(), (QStringList{u"6"_s, u"11"_s}));
+}
+
+TEST_F(WebSearchTest, TheFilterGoesOnBehindAnEntryBeyondTheView) {
+    app->controls.SetTicked("optFilterWhenGathering"_L1, true);
+    app->controls.SetTicked("optFilterFemale"_L1, true);
+    app->gatheredList->ProcessArrayAndList(u"ADD"_s, 0, u"6"_s, u"test"_s);
+    for (const QString& id : {u"5"_s, u"7"_s})
+        app->state.arrFriendIDs.append(id); // not in the view, so that nothing removes them
+    Classic(u"5"_s, u"Male"_s);
+    Classic(u"6"_s, u"Female"_s);
+    Classic(u"7"_s, u"Male"_s);
+    QStringList visited;
+    app->controls.AddListener([&](const Control&, Controls::Change, int) {
+        if (!app->state.strCurrentID.isEmpty() && !visited.endsWith(app->state.strCurrentID))
+            visited.append(app->state.strCurrentID);
+    });
+    platform->Pump().onPump = [this, end = platform->Pump().NowMs() + 600'000] {
+        if (platform->Pump().NowMs() > end)
+            app->state.blnStopGoogle = true;
+    };
+    Search(u"x"_s);
+    EXPECT_EQ(visited, (QStringList{u"6"_s, u"5"_s, u"7"_s}));
+    EXPECT_EQ(Ids(), (QStringList{u"6"_s, u"5"_s, u"7"_s}));
+    EXPECT_FALSE(app->state.blnStopGoogle);
 }
 
 TEST_F(WebSearchTest, WithEveryFilterOffNobodyIsVisited) {
