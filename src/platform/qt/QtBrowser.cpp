@@ -39,12 +39,14 @@ QtBrowser::QtBrowser(QtPump& pump, QWebEngineProfile& profile)
       m_view(new BrowserView([this](const QPoint& position) { OnContextMenu(position); })),
       m_calls(pump, [this] { return m_page->BridgeSource(); }) {
     m_blankLimit.setSingleShot(true);
+    m_holdLimit.setSingleShot(true);
     m_silenceLimit.setSingleShot(true);
     m_formLimit.setSingleShot(true);
     connect(&m_blankLimit, &QTimer::timeout, this, [this] {
         RenewPage(OldRenderer::Kill);
         OnEngineBlank();
     });
+    connect(&m_holdLimit, &QTimer::timeout, this, &QtBrowser::BeginHeldLoad);
     connect(&m_silenceLimit, &QTimer::timeout, this, &QtBrowser::GiveUpPage);
     m_calls.onSilence = [this] { OnSilence(); };
     m_calls.onAnswer = [this] { m_silenceLimit.stop(); };
@@ -98,8 +100,10 @@ void QtBrowser::Stop() {
     m_afterBlank.reset();
     SetAtRest();
     // The real blank page behind the program's own must not be stopped on its way.
-    if (!m_awaitsBlank)
-        m_page->TriggerNow(QWebEnginePage::Stop);
+    if (m_awaitsBlank)
+        return;
+    m_heldLoad = {};
+    m_page->TriggerNow(QWebEnginePage::Stop);
 }
 
 void QtBrowser::GoBack() {
@@ -119,7 +123,7 @@ void QtBrowser::Refresh() {
         ++m_wish;
         Load(QUrl(m_location));
     } else if (m_document) {
-        m_page->TriggerNow(QWebEnginePage::Reload);
+        BeginLoad([this] { m_page->TriggerNow(QWebEnginePage::Reload); });
     }
 }
 

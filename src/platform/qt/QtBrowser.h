@@ -81,6 +81,9 @@ private:
     void RunScriptAddress(const QString& url);
     void GoInHistory(QWebEnginePage::WebAction action);
     void Load(const QUrl& url);
+    void BeginLoad(std::function<void()> load);
+    void BeginHeldLoad();
+    void LoadInEngine(const QUrl& url);
     void BlankEngine();
     void OnEngineBlank();
     void AwaitEngineBlank();
@@ -101,10 +104,11 @@ private:
     void Arrive(const QString& document, const QString& url);
     void ShowBlank();
     void Complete();
-    enum class LoadEnd { Finished, ErrorStatus, Failed, Stopped };
+    enum class LoadEnd { Finished, CutShort, ErrorStatus, Failed, Stopped };
     static LoadEnd EndOf(const QWebEngineLoadingInfo& info);
     void OnEnd(const QUrl& url, LoadEnd end);
     void OnFailed(const QUrl& url);
+    void OnCutShort(const QUrl& url);
     void ShowError(const QUrl& url);
     enum class OldRenderer { Kill, IsGone };
     void RenewPage(OldRenderer old);
@@ -144,6 +148,9 @@ private:
     QUrl m_failing;              // the error page for this address is on its way
     bool m_isError = false;      // the error page is shown
 
+    bool m_isEngineLoading = false;
+    std::function<void()> m_heldLoad; // waits for the end of the one before
+    QTimer m_holdLimit;
     bool m_isEngineBlank = true;
     bool m_awaitsBlank = false;
     std::optional<QUrl> m_afterBlank;

@@ -156,21 +156,30 @@ QtBrowser::LoadEnd QtBrowser::EndOf(const QWebEngineLoadingInfo& info) {
         return LoadEnd::Finished;
     if (info.errorDomain() == QWebEngineLoadingInfo::HttpStatusCodeDomain)
         return LoadEnd::ErrorStatus;
-    // The answer ended before its announced end. What has come of it is shown.
+    // The answer ended before its announced end.
     constexpr int lengthMismatch = -354, incompleteChunks = -355;
     const bool isCutShort = info.errorCode() == lengthMismatch || info.errorCode() == incompleteChunks;
-    return isCutShort ? LoadEnd::Finished : LoadEnd::Failed;
+    return isCutShort ? LoadEnd::CutShort : LoadEnd::Failed;
 }
 
 // The end of a load as the engine tells it: the watching script has told the good ends before, so this is
 // about those that never reached a document.
 void QtBrowser::OnLoading(const QWebEngineLoadingInfo& info) {
     using Info = QWebEngineLoadingInfo;
-    if (info.status() == Info::LoadStartedStatus)
+    m_isEngineLoading = info.status() == Info::LoadStartedStatus;
+    if (m_isEngineLoading)
         return;
     const auto refused = std::find(m_refused.begin(), m_refused.end(), info.url());
     if (info.status() == Info::LoadStoppedStatus && refused != m_refused.end()) {
         m_refused.erase(refused);
+        return;
+    }
+    if (m_heldLoad) {
+        const auto begin = [this] {
+            if (!m_isEngineLoading)
+                BeginHeldLoad();
+        };
+        QMetaObject::invokeMethod(this, begin, Qt::QueuedConnection);
         return;
     }
     Note([this, url = info.url(), end = EndOf(info)] {
@@ -185,8 +194,10 @@ void QtBrowser::OnEnd(const QUrl& url, LoadEnd end) {
         OnFailed(url);
     else if (end == LoadEnd::Stopped && isTarget)
         SetAtRest();
-    else if (end == LoadEnd::Finished && isTarget && m_isOnItsWay)
+    else if ((end == LoadEnd::Finished || end == LoadEnd::CutShort) && isTarget && m_isOnItsWay)
         m_calls.InstallBridge();
+    else if (end == LoadEnd::CutShort && !m_isOnItsWay && m_document)
+        OnCutShort(url);
     else if (end == LoadEnd::ErrorStatus && !m_isOnItsWay && m_isEmpty)
         ShowError(url);
     else if (end != LoadEnd::Stopped && !m_isOnItsWay && m_document)
@@ -210,12 +221,28 @@ void QtBrowser::OnFailed(const QUrl& url) {
         Qt::QueuedConnection);
 }
 
+// What has come is shown, and where nothing has, the error page. How much the engine has kept of the last
+// bytes is chance.
+void QtBrowser::OnCutShort(const QUrl& url) {
+    Post([this, url, shown = m_document] {
+        if (shown != m_document || m_isOnItsWay)
+            return;
+        try {
+            if (qlm::Document(shown).BodyHTML().trimmed().isEmpty())
+                return ShowError(url);
+        } catch (const BrowserError&) {
+            return; // the page is gone
+        }
+        Complete();
+    });
+}
+
 // Keeps the address that was asked for.
 void QtBrowser::ShowError(const QUrl& url) {
     SetOnItsWay(url);
     m_failing = url;
     m_isEngineBlank = false;
-    m_page->setHtml(ErrorPageHTML(url.toString(QUrl::FullyEncoded)), url);
+    BeginLoad([this, url] { m_page->setHtml(ErrorPageHTML(url.toString(QUrl::FullyEncoded)), url); });
 }
 
 void QtBrowser::OnOtherDocument(const QString& document) {
@@ -256,6 +283,8 @@ void QtBrowser::RenewPage(OldRenderer oldRenderer) {
     m_granted.clear();
     m_awaitsBlank = false;
     m_isEngineBlank = true;
+    m_isEngineLoading = false;
+    m_heldLoad = {};
     m_blankLimit.stop();
     m_silenceLimit.stop();
     m_loads = 0;
@@ -313,9 +342,12 @@ void QtBrowser::Recover(OldRenderer old) {
     const std::optional<QUrl> next = m_afterBlank;
     const QUrl lost = m_isOnItsWay ? m_target : QUrl(m_location);
     const bool wasBlank = m_isBlank && !m_isOnItsWay;
+    const bool isStillToAsk = m_heldLoad && m_isOnItsWay && !m_awaitsBlank && m_failing.isEmpty();
     RenewPage(old);
     if (next)
         Load(*next);
+    else if (isStillToAsk)
+        Load(lost);
     else if (!wasBlank && !lost.isEmpty())
         ShowError(lost);
 }

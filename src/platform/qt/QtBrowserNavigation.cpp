@@ -12,6 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int blankLimitMs = 2000;
+constexpr int holdLimitMs = 500;
 
 bool IsBlankAddress(const QString& url) {
     return url.compare(u"about:blank"_s, Qt::CaseInsensitive) == 0;
@@ -119,7 +120,7 @@ void QtBrowser::GoInHistory(QWebEnginePage::WebAction action) {
     const QWebEngineHistoryItem item = isBack ? history->backItem() : history->forwardItem();
     Ask(Asker::Program, RequestFor(item.url().toString(QUrl::FullyEncoded)), [this, action] {
         m_isEngineBlank = false;
-        m_page->TriggerNow(action);
+        BeginLoad([this, action] { m_page->TriggerNow(action); });
     });
 }
 
@@ -139,14 +140,42 @@ void QtBrowser::Load(const QUrl& url) {
         return;
     }
     m_afterBlank.reset();
-    const bool isWithin = IsWithinDocument(url);
-    if (!isWithin)
-        SetOnItsWay(url);
     m_isEngineBlank = false;
     ++m_loads;
-    m_page->load(url);
-    if (isWithin)
+    if (IsWithinDocument(url)) {
+        m_page->load(url);
         m_location = url.toString(QUrl::FullyEncoded);
+        return;
+    }
+    SetOnItsWay(url);
+    BeginLoad([this, url] {
+        SetOnItsWay(url);
+        LoadInEngine(url);
+    });
+}
+
+// The engine reports two loads that overlap as one, so that nobody would hear how the second one ended. It
+// begins when the first has ended, which is stopped for that. A page that is too busy to stop is not waited
+// for.
+void QtBrowser::BeginLoad(std::function<void()> load) {
+    m_heldLoad = std::move(load);
+    if (!m_isEngineLoading)
+        return BeginHeldLoad();
+    m_page->TriggerNow(QWebEnginePage::Stop);
+    m_holdLimit.start(holdLimitMs);
+}
+
+void QtBrowser::BeginHeldLoad() {
+    if (m_calls.IsUnderWay())
+        return Post([this] { BeginHeldLoad(); });
+    m_holdLimit.stop();
+    if (const auto load = std::exchange(m_heldLoad, {}))
+        load();
+}
+
+void QtBrowser::LoadInEngine(const QUrl& url) {
+    m_isEngineLoading = true;
+    m_page->load(url);
 }
 
 // An engine that is at rest on its blank page is left there.
@@ -159,7 +188,7 @@ void QtBrowser::BlankEngine() {
     }
     m_awaitsBlank = true;
     m_blankLimit.start(blankLimitMs);
-    m_page->load(QUrl(u"about:blank"_s));
+    BeginLoad([this] { LoadInEngine(QUrl(u"about:blank"_s)); });
 }
 
 void QtBrowser::OnEngineBlank() {
@@ -281,7 +310,7 @@ bool QtBrowser::AcceptPageWish(const QUrl& url, QWebEnginePage::NavigationType t
         m_granted = url;
         SetOnItsWay(url);
         ++m_loads;
-        m_calls.PostCall(m_documentId, u"leaveFor"_s, {address});
+        BeginLoad([this, address] { m_calls.PostCall(m_documentId, u"leaveFor"_s, {address}); });
     });
     return Refuse(url);
 }

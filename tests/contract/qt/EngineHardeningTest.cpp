@@ -7,7 +7,21 @@ namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
-using EngineHardening = EngineTest;
+class EngineHardening : public EngineTest {
+protected:
+    // Opens a page whose script says, once the page is complete, that it begins, and then doesn't let go
+    // before the loop ends; the page's text is its name.
+    void OpenBusyPage(const QString& name, const QByteArray& loop) {
+        Serve(u"/begun"_s, "");
+        Serve(u'/' + name, "<body>" + name.toLatin1() +
+                               "<script>setTimeout(() => { const begun = new XMLHttpRequest();"
+                               "begun.open('GET', '/begun', false); begun.send();" +
+                               loop + "}, 100)</script>");
+        ASSERT_TRUE(Open(u'/' + name));
+        ASSERT_TRUE(WaitUntil([&] { return server.CountRequests(u"/begun"_s) == 1; }));
+    }
+    void OpenEndlessPage() { ASSERT_NO_FATAL_FAILURE(OpenBusyPage(u"endless"_s, "for (;;);")); }
+};
 
 TEST_F(EngineHardening, ARendererThatDiesGivesTheErrorPageAndTheNextPageLoads) {
     Serve(u"/a"_s, "<body>alpha");
@@ -39,25 +53,20 @@ TEST_F(EngineHardening, ARendererThatDiesBehindTheBlankPageLeavesItBlank) {
 }
 
 TEST_F(EngineHardening, AnEndlessScriptHoldsNoCallLongerThanASecond) {
-    Serve(u"/endless"_s, "<body>endless<script>setTimeout(() => { for (;;); }, 100)</script>");
-    ASSERT_TRUE(Open(u"/endless"_s));
-    PumpFor(300);
-    const qint64 start = pump.NowMs();
-    EXPECT_EQ(Text(), QString());
-    EXPECT_LT(pump.NowMs() - start, 1000);
+    ASSERT_NO_FATAL_FAILURE(OpenEndlessPage());
+    EXPECT_LT(PageCalls::answerMs, 1000);
+    EXPECT_EQ(Text(), QString()); // comes back, though the script doesn't end
     EXPECT_FALSE(browser->Document());
     EXPECT_TRUE(browser->Busy());
-    // From now on nothing is waited for.
-    const qint64 again = pump.NowMs();
+    // From now on nothing is asked, and nothing waited for.
+    const qint64 asked = browser->EngineCalls();
     EXPECT_EQ(Text(), QString());
-    EXPECT_LT(pump.NowMs() - again, 100);
+    EXPECT_EQ(browser->EngineCalls(), asked);
 }
 
 TEST_F(EngineHardening, AnEndlessScriptIsLeftByTheNextNavigation) {
-    Serve(u"/endless"_s, "<body>endless<script>setTimeout(() => { for (;;); }, 100)</script>");
     Serve(u"/b"_s, "<body>beta");
-    ASSERT_TRUE(Open(u"/endless"_s));
-    PumpFor(300);
+    ASSERT_NO_FATAL_FAILURE(OpenEndlessPage());
     EXPECT_EQ(Text(), QString());
     browser->Navigate(u"about:blank"_s);
     EXPECT_EQ(browser->LocationURL(), u"about:blank"_s);
@@ -67,10 +76,8 @@ TEST_F(EngineHardening, AnEndlessScriptIsLeftByTheNextNavigation) {
 }
 
 TEST_F(EngineHardening, AnEndlessScriptThatNobodyNoticedIsLeftToo) {
-    Serve(u"/endless"_s, "<body>endless<script>setTimeout(() => { for (;;); }, 100)</script>");
     Serve(u"/b"_s, "<body>beta");
-    ASSERT_TRUE(Open(u"/endless"_s));
-    PumpFor(300);
+    ASSERT_NO_FATAL_FAILURE(OpenEndlessPage());
     browser->Navigate(u"about:blank"_s);
     ASSERT_TRUE(Open(u"/b"_s));
     EXPECT_EQ(Text(), u"beta"_s);
@@ -95,19 +102,15 @@ TEST_F(EngineHardening, WhatIsOnItsWayIntoAStuckPageIsAskedForOnce) {
 
 TEST_F(EngineHardening, APageThatIsSilentTooLongIsGivenUp) {
     browser->SetGiveUpAfter(1500);
-    Serve(u"/endless"_s, "<body>endless<script>setTimeout(() => { for (;;); }, 100)</script>");
-    ASSERT_TRUE(Open(u"/endless"_s));
-    PumpFor(300);
+    ASSERT_NO_FATAL_FAILURE(OpenEndlessPage());
     EXPECT_EQ(Text(), QString());
     EXPECT_TRUE(WaitForText(u"The page cannot be displayed"_s));
     EXPECT_EQ(browser->LocationURL(), server.Address(u"/endless"_s));
 }
 
 TEST_F(EngineHardening, APageThatIsOnlySlowAnswersLater) {
-    Serve(u"/slow"_s, "<body>slow<script>setTimeout(() => { const end = Date.now() + 1500; "
-                      "while (Date.now() < end); }, 100)</script>");
-    ASSERT_TRUE(Open(u"/slow"_s));
-    PumpFor(200);
+    ASSERT_NO_FATAL_FAILURE(
+        OpenBusyPage(u"slow"_s, "const end = Date.now() + 1500; while (Date.now() < end);"));
     EXPECT_EQ(Text(), QString());
     EXPECT_TRUE(WaitForText(u"slow"_s, 5000));
 }
@@ -127,9 +130,7 @@ TEST_F(EngineHardening, AStormOfBoxesIsSurvived) {
     Serve(u"/b"_s, "<body>beta");
     ASSERT_TRUE(Open(u"/storm"_s));
     PumpFor(200);
-    const qint64 start = pump.NowMs();
-    Text();
-    EXPECT_LT(pump.NowMs() - start, 1500);
+    Text(); // comes back, though the boxes don't end
     browser->Navigate(u"about:blank"_s);
     ASSERT_TRUE(Open(u"/b"_s));
     EXPECT_EQ(Text(), u"beta"_s);
@@ -138,8 +139,8 @@ TEST_F(EngineHardening, AStormOfBoxesIsSurvived) {
 TEST_F(EngineHardening, AStormOfWindowsIsLimited) {
     Serve(u"/pop"_s, "<body>pop<script>for (let i = 0; i < 40; ++i) window.open('/w' + i);</script>");
     ASSERT_TRUE(Open(u"/pop"_s));
+    EXPECT_TRUE(WaitUntil([&] { return CountEvents(u"window "_s) >= 1; }));
     PumpFor(500);
-    EXPECT_GE(CountEvents(u"window "_s), 1);
     EXPECT_LE(CountEvents(u"window "_s), static_cast<int>(QtBrowser::popupLimit));
 }
 
@@ -162,6 +163,51 @@ TEST_F(EngineHardening, ADownloadIsRefusedAndThePageStays) {
     EXPECT_TRUE(WaitUntil([&] { return !browser->Busy(); }));
     EXPECT_EQ(Text(), u"alpha"_s);
 }
+
+struct Ending {
+    const char* name;
+    LoopbackAnswer answer;
+    const char* shown;
+};
+
+void PrintTo(const Ending& ending, std::ostream* out) {
+    *out << ending.name;
+}
+
+class EngineEndings : public EngineTest, public ::testing::WithParamInterface<Ending> {};
+
+// The frame, which never comes, keeps the engine from ending the load of a page that is complete by its own
+// account.
+TEST_P(EngineEndings, AreHeardThoughTheEngineIsNotDoneWithThePageBefore) {
+    LoopbackAnswer hanging;
+    hanging.fault = LoopbackAnswer::Fault::Hang;
+    server.Answer(u"/never"_s, hanging);
+    Serve(u"/a"_s, "<body>alpha<script>addEventListener('load', () => {"
+                   "const frame = document.createElement('iframe'); frame.src = '/never';"
+                   "document.body.append(frame); });</script>");
+    Serve(u"/next"_s, GetParam().answer);
+    ASSERT_TRUE(Open(u"/a"_s));
+    ASSERT_TRUE(WaitUntil([&] { return server.CountRequests(u"/never"_s) == 1; }));
+    Go(u"/next"_s);
+    EXPECT_TRUE(WaitUntil([&] { return server.CountRequests(u"/next"_s) == 1; }));
+    EXPECT_TRUE(WaitUntil([&] { return !browser->Busy(); }));
+    EXPECT_TRUE(WaitForText(QString::fromLatin1(GetParam().shown))) << Text().toStdString();
+}
+
+using Fault = LoopbackAnswer::Fault;
+INSTANTIATE_TEST_SUITE_P(
+    All, EngineEndings,
+    ::testing::Values(
+        Ending{"Page", {"<body>beta", "text/html", 200, "", 0, Fault::None}, "beta"},
+        Ending{"Reset", {"", "text/html", 200, "", 0, Fault::Reset}, "The page cannot be displayed"},
+        Ending{"EmptyErrorPage", {"", "text/html", 404, "", 0, Fault::None}, "The page cannot be displayed"},
+        Ending{
+            "CutToNothing", {"", "text/html", 200, "", 0, Fault::BreakOff}, "The page cannot be displayed"},
+        Ending{"NoContent", {"", "text/html", 204, "", 0, Fault::None}, "alpha"},
+        Ending{"Download",
+               {"abcd", "application/zip", 200, "Content-Disposition: attachment\r\n", 0, Fault::None},
+               "alpha"}),
+    [](const auto& tested) { return std::string(tested.param.name); });
 
 TEST_F(EngineHardening, APermissionThatAPageAsksForIsDenied) {
     Serve(u"/ask"_s,
@@ -197,11 +243,14 @@ TEST_F(EngineHardening, FiveMegabytesOfTextAreRead) {
 }
 
 TEST_F(EngineHardening, APageBrokenOffInTheMiddleIsShownAsFarAsItCame) {
-    Serve(u"/half"_s, {"<body>first half", "text/html", 200, "", 0, LoopbackAnswer::Fault::BreakOff});
+    Serve(u"/half"_s, {"<body>first half", "text/html", 200, "", 0, LoopbackAnswer::Fault::Stall});
     Go(u"/half"_s);
     EXPECT_TRUE(WaitForText(u"first half"_s));
+    EXPECT_TRUE(browser->Busy());
+    server.DropStalled();
     EXPECT_TRUE(WaitUntil([&] { return !browser->Busy(); }));
     EXPECT_TRUE(WaitUntil([&] { return CountEvents(u"complete /half"_s) == 1; }));
+    EXPECT_EQ(Text(), u"first half"_s);
 }
 
 TEST_F(EngineHardening, ThePageIsExchangedAfterManyLoads) {

@@ -46,8 +46,8 @@ TEST_F(EngineNavigation, ACancelledLinkIsNeverAskedFromTheServer) {
     ASSERT_TRUE(Open(u"/a"_s));
     isCancelling = true;
     ById(u"l"_s).Click();
+    EXPECT_TRUE(WaitUntil([&] { return asked.size() == 2; }));
     PumpFor(200);
-    EXPECT_EQ(asked.size(), 2U);
     EXPECT_EQ(server.CountRequests(u"/b"_s), 0);
     EXPECT_EQ(Text(), u"alpha go"_s);
     EXPECT_FALSE(browser->Busy());
@@ -152,6 +152,7 @@ TEST_F(EngineNavigation, BackAndForwardAreAskedForAndCanBeCancelled) {
     asked.clear();
     isCancelling = true;
     browser->GoBack();
+    ASSERT_TRUE(WaitUntil([&] { return asked.size() == 1; }));
     PumpFor(200);
     EXPECT_EQ(Text(), u"beta"_s);
     isCancelling = false;

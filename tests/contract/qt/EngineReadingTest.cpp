@@ -131,8 +131,8 @@ TEST_F(EngineReading, ALookWithItsQuestionIsOneCall) {
     EXPECT_EQ(callsOfALook(), 1);
 }
 
-// What has been answered stands as long as the page does, and no longer: a link may be added, or be sent elsewhere, and
-// the address to which all of them are relative may change.
+// What has been answered stands as long as the page does, and no longer: a link may be added, or be sent
+// elsewhere, and the address to which all of them are relative may change.
 TEST_F(EngineReading, AQuestionIsAnsweredAnewWhenThePageHasChanged) {
     Serve(u"/list"_s, ListPage(3));
     ASSERT_TRUE(Open(u"/list"_s));

@@ -21,8 +21,8 @@ protected:
     void Serve(const QString& path, const LoopbackAnswer& answer) { server.Answer(path, answer); }
     void Go(const QString& path) { browser->Navigate(server.Address(path)); }
     // Pumps as the program's waits do until the condition holds; false when the time is over.
-    bool WaitUntil(const std::function<bool()>& condition, int limitMs = 10'000);
-    bool WaitForText(const QString& text, int limitMs = 10'000);
+    bool WaitUntil(const std::function<bool()>& condition, int limitMs = 30'000);
+    bool WaitForText(const QString& text, int limitMs = 30'000);
     // Loads and waits until the document is complete.
     bool Open(const QString& path);
     void PumpFor(int milliseconds);

@@ -38,14 +38,14 @@ LoopbackServer::LoopbackServer() {
     m_unknown.status = 404;
     m_unknown.body = "<body>no such page</body>";
     // The helper object carries the server into its thread and dies there.
-    auto* context = new QObject;
-    context->moveToThread(&m_thread);
-    QObject::connect(&m_thread, &QThread::finished, context, &QObject::deleteLater);
+    m_context = new QObject;
+    m_context->moveToThread(&m_thread);
+    QObject::connect(&m_thread, &QThread::finished, m_context, &QObject::deleteLater);
     m_thread.start();
     QMetaObject::invokeMethod(
-        context,
-        [this, context] {
-            auto* server = new QTcpServer(context);
+        m_context,
+        [this] {
+            auto* server = new QTcpServer(m_context);
             if (!server->listen(QHostAddress::LocalHost))
                 throw std::runtime_error("no loopback port");
             m_port = server->serverPort();
@@ -161,16 +161,26 @@ void LoopbackServer::Reply(QTcpSocket* socket, const LoopbackAnswer& answer) {
         socket->abort();
         return;
     }
-    const bool isBrokenOff = answer.fault == Fault::BreakOff;
-    const qsizetype promised = answer.body.size() + (isBrokenOff ? 1000 : 0);
+    const bool isCutShort = answer.fault == Fault::BreakOff || answer.fault == Fault::Stall;
+    const qsizetype promised = answer.body.size() + (isCutShort ? 1000 : 0);
     const QByteArray reply = "HTTP/1.1 " + QByteArray::number(answer.status) +
                              " X\r\nContent-Type: " + answer.contentType +
                              "\r\nContent-Length: " + QByteArray::number(promised) + "\r\n" + answer.headers +
                              "\r\n" + answer.body;
-    QTimer::singleShot(answer.delayMs, socket, [socket, reply, isBrokenOff] {
+    QTimer::singleShot(answer.delayMs, socket, [this, socket, reply, fault = answer.fault] {
         socket->write(reply);
-        if (isBrokenOff)
+        if (fault == Fault::BreakOff)
             socket->disconnectFromHost();
+        if (fault == Fault::Stall)
+            m_stalled.emplace_back(socket);
+    });
+}
+
+void LoopbackServer::DropStalled() {
+    QMetaObject::invokeMethod(m_context, [this] {
+        for (const QPointer<QTcpSocket>& socket : std::exchange(m_stalled, {}))
+            if (socket)
+                socket->disconnectFromHost();
     });
 }
 

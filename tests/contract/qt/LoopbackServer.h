@@ -3,6 +3,7 @@
 
 #include <QHash>
 #include <QMutex>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QThread>
@@ -15,7 +16,8 @@ namespace qlm {
 
 // What the server answers to one path.
 struct LoopbackAnswer {
-    enum class Fault { None, Hang, Reset, BreakOff };
+    // BreakOff and Stall announce more than they send; Stall keeps the connection until DropStalled().
+    enum class Fault { None, Hang, Reset, BreakOff, Stall };
 
     QByteArray body;
     QByteArray contentType = "text/html; charset=utf-8";
@@ -51,6 +53,7 @@ public:
     void AnswerUnknown(const LoopbackAnswer& answer);
     // Everything that has no answer here is asked of another server on this machine.
     void ForwardUnknownTo(quint16 port);
+    void DropStalled();
     void Clear();
     std::vector<LoopbackRequest> Requests() const;
     int CountRequests(const QString& path) const;
@@ -67,6 +70,8 @@ private:
     quint16 m_forwardPort = 0;
     std::vector<LoopbackRequest> m_requests;
     QThread m_thread;
+    QObject* m_context = nullptr;                // lives in the thread
+    std::vector<QPointer<QTcpSocket>> m_stalled; // of the thread alone
     quint16 m_port = 0;
 };
 
