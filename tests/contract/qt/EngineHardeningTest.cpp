@@ -174,24 +174,63 @@ void PrintTo(const Ending& ending, std::ostream* out) {
     *out << ending.name;
 }
 
-class EngineEndings : public EngineTest, public ::testing::WithParamInterface<Ending> {};
+class EngineEnding : public EngineTest {
+protected:
+    // Complete by its own account; a frame that never comes keeps the engine from ending its load.
+    void OpenUnended(const QString& path, const QByteArray& body) {
+        LoopbackAnswer hanging;
+        hanging.fault = LoopbackAnswer::Fault::Hang;
+        server.Answer(u"/never"_s, hanging);
+        Serve(path, "<body>" + body +
+                        "<script>addEventListener('load', () => {"
+                        "const frame = document.createElement('iframe'); frame.src = '/never';"
+                        "document.body.append(frame); });</script>");
+        ASSERT_TRUE(Open(path));
+        ASSERT_TRUE(WaitUntil([&] { return server.CountRequests(u"/never"_s) == 1; }));
+    }
+    void FailFromNowOn(const QString& path) {
+        server.AnswerOnly(path, {"", "text/html", 200, "", 0, LoopbackAnswer::Fault::Reset});
+    }
+    void ExpectErrorPage() {
+        EXPECT_TRUE(WaitForText(u"The page cannot be displayed"_s));
+        EXPECT_TRUE(WaitUntil([&] { return !browser->Busy(); }));
+    }
+};
 
-// The frame, which never comes, keeps the engine from ending the load of a page that is complete by its own
-// account.
+class EngineEndings : public EngineEnding, public ::testing::WithParamInterface<Ending> {};
+
 TEST_P(EngineEndings, AreHeardThoughTheEngineIsNotDoneWithThePageBefore) {
-    LoopbackAnswer hanging;
-    hanging.fault = LoopbackAnswer::Fault::Hang;
-    server.Answer(u"/never"_s, hanging);
-    Serve(u"/a"_s, "<body>alpha<script>addEventListener('load', () => {"
-                   "const frame = document.createElement('iframe'); frame.src = '/never';"
-                   "document.body.append(frame); });</script>");
+    ASSERT_NO_FATAL_FAILURE(OpenUnended(u"/a"_s, "alpha"));
     Serve(u"/next"_s, GetParam().answer);
-    ASSERT_TRUE(Open(u"/a"_s));
-    ASSERT_TRUE(WaitUntil([&] { return server.CountRequests(u"/never"_s) == 1; }));
     Go(u"/next"_s);
     EXPECT_TRUE(WaitUntil([&] { return server.CountRequests(u"/next"_s) == 1; }));
     EXPECT_TRUE(WaitUntil([&] { return !browser->Busy(); }));
     EXPECT_TRUE(WaitForText(QString::fromLatin1(GetParam().shown))) << Text().toStdString();
+}
+
+TEST_F(EngineEnding, OfALinkIsHeardToo) {
+    ASSERT_NO_FATAL_FAILURE(OpenUnended(u"/a"_s, "alpha <a id=l href=/next>go</a>"));
+    FailFromNowOn(u"/next"_s);
+    browser->Document().GetElementById(u"l"_s).Click();
+    ExpectErrorPage();
+    EXPECT_EQ(browser->LocationURL(), server.Address(u"/next"_s));
+}
+
+TEST_F(EngineEnding, OfAReloadIsHeardToo) {
+    ASSERT_NO_FATAL_FAILURE(OpenUnended(u"/a"_s, "alpha"));
+    FailFromNowOn(u"/a"_s);
+    browser->Refresh();
+    ExpectErrorPage();
+}
+
+TEST_F(EngineEnding, OfAStepBackIsHeardToo) {
+    Serve(u"/first"_s,
+          {"<body>first", "text/html", 200, "Cache-Control: no-store\r\n", 0, LoopbackAnswer::Fault::None});
+    ASSERT_TRUE(Open(u"/first"_s));
+    ASSERT_NO_FATAL_FAILURE(OpenUnended(u"/a"_s, "alpha"));
+    FailFromNowOn(u"/first"_s);
+    browser->GoBack();
+    ExpectErrorPage();
 }
 
 using Fault = LoopbackAnswer::Fault;
