@@ -18,8 +18,16 @@ template <typename Act> void InPage(const QString& what, Act&& act) {
     }
 }
 
+constexpr qint64 LongestLoadMs = 60 * 1000;
+
+// Goes on when the page is there, or when nobody would wait for it any longer.
 void Browse(Stage& stage, Arguments& arguments) {
-    stage.TheMachine().Browse(arguments.Take("the address"));
+    const QString url = arguments.Take("the address");
+    if (stage.Browser(BrowserName::WebBrowser1).RefusesNavigations())
+        return;
+    stage.TheMachine().Browse(url);
+    stage.play->SetGoal({[&stage] { return !stage.Browser(BrowserName::WebBrowser1).Busy(); }, false,
+                         stage.NowMs() + LongestLoadMs, true, u"the page"_s});
 }
 
 void Follow(Stage& stage, Arguments& arguments) {

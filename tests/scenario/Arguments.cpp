@@ -56,6 +56,11 @@ QStringList Arguments::TakeAll() {
     return words;
 }
 
+QStringList Arguments::TakeAsWritten() {
+    const qsizetype from = std::exchange(m_at, m_command.words.size());
+    return m_command.words.mid(from);
+}
+
 QStringList Arguments::TakeLines() {
     const QString text = Take("the lines");
     return text.isEmpty() ? QStringList() : text.split(u'\n');

@@ -26,6 +26,8 @@ public:
     // "3000ms", "5s", "2m", "1h".
     qint64 TakeDurationMs(const char* what);
     QStringList TakeAll();
+    // What is left, as it stands in the file.
+    QStringList TakeAsWritten();
     // A text that came from <<END, or given as one word, as lines; an empty text has none.
     QStringList TakeLines();
     // Nothing may be left over.

@@ -63,6 +63,7 @@ public:
 
     Platform& ThePlatform() override { return m_platform; }
     SimPlatform& Services() override { return m_platform.Services(); }
+    bool AwaitsLoad() override { return Shown().Busy() && !m_pages.WithholdsPage(); }
     QWidget* ViewOf(BrowserName name) override { return m_platform.Browser(name).View(); }
     void SetOnPump(std::function<void()> onPump) override;
     qint64 LongestSleepMs() const override { return WallSleepMs * m_speed; }

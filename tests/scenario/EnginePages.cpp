@@ -19,8 +19,9 @@ QString HeaderValue(const QByteArray& head, const QByteArray& name) {
     return {};
 }
 
+// On its way a line end is CR LF; in the page, and so for whoever expects it, LF.
 QString Decoded(const QByteArray& part) {
-    return QUrl::fromPercentEncoding(QByteArray(part).replace('+', ' '));
+    return QUrl::fromPercentEncoding(QByteArray(part).replace('+', ' ')).replace(u"\r\n"_s, u"\n"_s);
 }
 
 std::vector<SimField> FieldsOf(const QByteArray& body) {
@@ -53,7 +54,10 @@ EnginePages::EnginePages(SimWeb& web, int speed) : m_web(web), m_speed(speed) {
     connect(&m_server, &QTcpServer::newConnection, this, [this] {
         while (QTcpSocket* socket = m_server.nextPendingConnection()) {
             connect(socket, &QTcpSocket::readyRead, this, [this, socket] { OnReadable(socket); });
-            connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+            connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
+                m_withheld.erase(socket);
+                socket->deleteLater();
+            });
         }
     });
 }
@@ -97,6 +101,8 @@ void EnginePages::Serve(QTcpSocket* socket, const SimRequest& request) {
 }
 
 void EnginePages::Reply(QTcpSocket* socket, const SimAnswer& answer) {
+    if (answer.fault == SimFault::Hang || answer.fault == SimFault::Incomplete)
+        m_withheld.insert(socket);
     if (answer.fault == SimFault::Hang)
         return;
     if (answer.fault == SimFault::Reset)

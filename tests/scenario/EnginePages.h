@@ -4,6 +4,7 @@
 #include "platform/sim/SimBrowser.h"
 
 #include <QTcpServer>
+#include <set>
 
 class QTcpSocket;
 
@@ -16,6 +17,8 @@ public:
     EnginePages(SimWeb& web, int speed);
 
     quint16 Port() const { return m_server.serverPort(); }
+    // An answer was begun or awaited that will never be whole, and the engine still listens.
+    bool WithholdsPage() const { return !m_withheld.empty(); }
     std::vector<SimBrowser::Posted> TakePosted() { return std::exchange(m_posted, {}); }
 
     std::function<void()> onRequest;
@@ -29,6 +32,7 @@ private:
 
     SimWeb& m_web;
     const int m_speed;
+    std::set<QTcpSocket*> m_withheld; // before the server, whose end disconnects them
     QTcpServer m_server;
     std::vector<SimBrowser::Posted> m_posted;
 };

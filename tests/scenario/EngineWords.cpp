@@ -27,6 +27,11 @@ const std::vector<Row>& Rows() {
 }
 
 QString Refused(const Command& command) {
+    if (command.words.first() == u"after") {
+        Command later = command;
+        later.words = command.words.mid(2);
+        return later.words.isEmpty() ? QString() : Refused(later);
+    }
     const QString line = command.words.join(u' ');
     for (const Row& row : Rows()) {
         const QString begin = QString::fromUtf16(row.command);

@@ -71,12 +71,31 @@ void Value(Stage& stage, Arguments& arguments) {
     ExpectText(u"the value of #"_s + id, arguments.Take("the text"), element.Value());
 }
 
+QString PageText(Stage& stage, BrowserName name) {
+    const Document document = stage.Browser(name).Document();
+    return document ? document.BodyText() : QString();
+}
+
+// expect page [webHide|webTemp] "text"
 void Page(Stage& stage, Arguments& arguments) {
-    const QString text = arguments.Take("the text");
-    const Document document = stage.Browser(BrowserName::WebBrowser1).Document();
-    const QString body = document ? document.BodyText() : QString();
-    if (!body.contains(text))
+    const QString body = PageText(stage, TakeBrowser(arguments));
+    if (!body.contains(arguments.Take("the text")))
         Fail(u"the page does not hold the text; %1, it begins: %2"_s.arg(stage.Describe(), body.left(300)));
+}
+
+void NoPage(Stage& stage, Arguments& arguments) {
+    const QString body = PageText(stage, TakeBrowser(arguments));
+    const qsizetype at = body.indexOf(arguments.Take("the text"));
+    if (at >= 0)
+        Fail(u"the page holds the text; %1, it stands in: %2"_s.arg(
+            stage.Describe(), body.mid(std::max<qsizetype>(0, at - 50), 200)));
+}
+
+void PageFocus(Stage& stage, Arguments& arguments) {
+    const QString expected = arguments.Take("the element");
+    const Document document = stage.Browser(BrowserName::WebBrowser1).Document();
+    const Element focused = document ? document.ActiveElement() : Element();
+    ExpectText(u"the element with the focus"_s, expected, focused ? u'#' + focused.Id() : u"none"_s);
 }
 
 void Journal(Stage& stage, Arguments& arguments) {
@@ -89,8 +108,9 @@ void Journal(Stage& stage, Arguments& arguments) {
 
 const CommandRows& ExpectingSiteCommands() {
     static const CommandRows rows{
-        {"expect visited", Visited}, {"expect posted", Posted}, {"expect no posted", NoPosted},
-        {"expect value", Value},     {"expect page", Page},     {"expect journal", Journal},
+        {"expect visited", Visited},      {"expect posted", Posted},   {"expect no posted", NoPosted},
+        {"expect value", Value},          {"expect page", Page},       {"expect no page", NoPage},
+        {"expect page-focus", PageFocus}, {"expect journal", Journal},
     };
     return rows;
 }

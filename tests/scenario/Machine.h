@@ -16,6 +16,8 @@ public:
     virtual Platform& ThePlatform() = 0;
     // Whatever is simulated on both: everything but pages and time.
     virtual SimPlatform& Services() = 0;
+    // WebBrowser1 has a load under way that can still end.
+    virtual bool AwaitsLoad() = 0;
     // Null when the browser shows nowhere.
     virtual QWidget* ViewOf(BrowserName name) = 0;
     // Called at each turn of the program's message loop.

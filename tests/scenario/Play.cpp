@@ -5,6 +5,7 @@
 #include "CommandTable.h"
 #include "Stage.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace qlm::scenario {
@@ -50,6 +51,7 @@ std::optional<ScenarioFailure> Play::Run() {
 void Play::ProcessHasEnded() {
     m_level = 0;
     m_ownTurn = false;
+    m_offScript = nullptr;
     m_goal.reset();
     m_stage.DropProgram();
 }
@@ -57,6 +59,15 @@ void Play::ProcessHasEnded() {
 void Play::Insert(const std::vector<Command>& commands) {
     m_inserted.push_back(commands);
     m_frames.push_back({&m_inserted.back(), 0, {}});
+}
+
+void Play::SetGoal(Goal goal) {
+    if (!m_offScript || m_current != m_offScript)
+        m_goal = std::move(goal);
+}
+
+void Play::PutOff(qint64 delayMs, const Command& command) {
+    m_putOff.push_back({m_stage.NowMs() + delayMs, command});
 }
 
 void Play::AddBlock(const Command& command) {
@@ -68,6 +79,9 @@ QString Play::Unused() const {
         if (!block.used)
             return u"the block \"on %1\" of line %2 was never used"_s.arg(block.form)
                 .arg(block.command->line);
+    if (!m_putOff.empty())
+        return u"\"%1\" of line %2 never came due"_s.arg(m_putOff.front().command.source)
+            .arg(m_putOff.front().command.line);
     return m_stage.UnusedAnswers();
 }
 
@@ -99,7 +113,7 @@ void Play::PlayOn(Level level, const std::function<bool()>& leave) {
 // The message loop. False when the level is over before the goal is reached; the level below goes on with the
 // goal.
 bool Play::ReachGoal(const std::function<bool()>& leave) {
-    while (m_goal && !GoalHolds(true)) {
+    while (m_goal && (IsPutOffDue() || !GoalHolds(true))) {
         if (leave())
             return false;
         TurnLoop(*m_goal);
@@ -110,7 +124,9 @@ bool Play::ReachGoal(const std::function<bool()>& leave) {
 
 void Play::TurnLoop(const Goal& goal) {
     Pump& pump = m_stage.ThePump();
-    const qint64 longestMs = std::min(m_stage.TheMachine().LongestSleepMs(), goal.limitMs - m_stage.NowMs());
+    qint64 longestMs = std::min(m_stage.TheMachine().LongestSleepMs(), goal.limitMs - m_stage.NowMs());
+    if (const auto next = NextPutOff(); next != m_putOff.end())
+        longestMs = std::min(longestMs, next->dueMs - m_stage.NowMs());
     const qint64 dueMs = pump.Queue().NextDueMs().value_or(pump.NowMs() + longestMs);
     const qint64 sleepMs = std::min(dueMs - pump.NowMs(), longestMs);
     if (sleepMs > 0)
@@ -139,10 +155,10 @@ bool Play::GoalHolds(bool atRest) {
 
 void Play::OnPump() {
     ++m_turns;
-    if (m_ownTurn) {
-        m_ownTurn = false;
+    const bool isOwnTurn = std::exchange(m_ownTurn, false);
+    PlayPutOff();
+    if (isOwnTurn)
         return;
-    }
     CheckStuck();
     if (!m_goal || !GoalHolds(false))
         return;
@@ -150,6 +166,30 @@ void Play::OnPump() {
     ++m_level;
     PlayOn(Level::Wait, [] { return false; });
     --m_level;
+}
+
+std::list<Play::PutOffCommand>::iterator Play::NextPutOff() {
+    return std::ranges::min_element(m_putOff, {}, &PutOffCommand::dueMs);
+}
+
+bool Play::IsPutOffDue() {
+    const auto next = NextPutOff();
+    return next != m_putOff.end() && next->dueMs <= m_stage.NowMs();
+}
+
+// As the user's own doing in the program's turn: what it brings up may let the script go on inside.
+void Play::PlayPutOff() {
+    while (IsPutOffDue()) {
+        const auto next = NextPutOff();
+        m_carriedOut.splice(m_carriedOut.end(), m_putOff, next);
+        const Command* const before = m_current;
+        const Command* const offScriptBefore = std::exchange(m_offScript, &next->command);
+        ++m_level;
+        Execute(next->command);
+        --m_level;
+        m_offScript = offScriptBefore;
+        m_current = before;
+    }
 }
 
 void Play::OnDebugLine(const QString& text) {

@@ -36,9 +36,12 @@ public:
     std::optional<ScenarioFailure> Run();
 
     // For commands.
-    void SetGoal(Goal goal) { m_goal = std::move(goal); }
+    // A command that was put off is not waited for.
+    void SetGoal(Goal goal);
     void AddBlock(const Command& command);
     void StopAt(const QString& text) { m_stopAt = text; }
+    // The command is carried out when that time has come, wherever the program stands then.
+    void PutOff(qint64 delayMs, const Command& command);
     // The commands run next, before what follows in the script.
     void Insert(const std::vector<Command>& commands);
     // Ends the program's process without any unloading and goes on with the script.
@@ -73,6 +76,10 @@ private:
         const Command* command;
         bool used = false;
     };
+    struct PutOffCommand {
+        qint64 dueMs;
+        Command command;
+    };
     enum class Level { Base, Modal, Wait };
 
     void PlayOn(Level level, const std::function<bool()>& leave);
@@ -81,6 +88,9 @@ private:
     bool GoalHolds(bool atRest);
     bool ExecuteNext();
     void Execute(const Command& command);
+    std::list<PutOffCommand>::iterator NextPutOff();
+    bool IsPutOffDue();
+    void PlayPutOff();
     void ProcessHasEnded();
     void TurnWidgets();
     void PopFinishedFrames();
@@ -90,6 +100,9 @@ private:
     std::vector<Frame> m_frames;
     std::list<std::vector<Command>> m_inserted; // frames point into it
     std::vector<Block> m_blocks;
+    std::list<PutOffCommand> m_putOff;
+    std::list<PutOffCommand> m_carriedOut; // m_current points into it
+    const Command* m_offScript = nullptr;  // the one of them that runs
     std::optional<Goal> m_goal;
     QString m_stopAt;
     const Command* m_current = nullptr;

@@ -13,6 +13,12 @@ namespace {
 // Long enough for a day of pacing.
 constexpr qint64 DefaultLimitMs = 24LL * 60 * 60 * 1000;
 
+// Commands that say when the next one comes; who acts behind the script's back can't.
+bool LetsTimePass(const Command& command) {
+    static const QStringList words{u"run"_s, u"wait"_s, u"restart"_s, u"after"_s, u"on"_s};
+    return words.contains(command.words.first());
+}
+
 void RunTo(Stage& stage, Arguments& arguments, Goal goal) {
     const qint64 limitMs =
         arguments.TakeWord("limit"_L1) ? arguments.TakeDurationMs("the limit") : DefaultLimitMs;
@@ -67,6 +73,18 @@ void StopAt(Stage& stage, Arguments& arguments) {
     stage.play->StopAt(arguments.Take("the text of a debug line"));
 }
 
+// The user does it when that time has passed, whatever the program is at.
+void After(Stage& stage, Arguments& arguments) {
+    const qint64 delayMs = arguments.TakeDurationMs("the time");
+    Command command = arguments.Source();
+    command.words = arguments.TakeAsWritten();
+    if (command.words.isEmpty())
+        Fail(u"a command is missing"_s);
+    if (LetsTimePass(command))
+        Fail(u"%1 lets time pass itself"_s.arg(command.words.first()));
+    stage.play->PutOff(delayMs, command);
+}
+
 void Restart(Stage& stage, Arguments& arguments) {
     Command close = arguments.Source();
     close.words = QStringList{u"restart:close"_s};
@@ -101,6 +119,7 @@ const CommandRows& RunningCommands() {
         {"wait", Wait},
         {"mark", Mark},
         {"stop-at", StopAt},
+        {"after", After},
         {"restart", Restart},
         {"restart:close", Close},
         {"kill", Kill},

@@ -11,6 +11,7 @@ public:
 
     Platform& ThePlatform() override { return m_platform; }
     SimPlatform& Services() override { return m_platform; }
+    bool AwaitsLoad() override { return Shown().CanBecomeReady(); }
     QWidget* ViewOf(BrowserName) override { return nullptr; }
     void SetOnPump(std::function<void()> onPump) override { m_platform.Pump().onPump = std::move(onPump); }
     qint64 LongestSleepMs() const override { return 1'000'000'000; }

@@ -111,11 +111,11 @@ bool Stage::HasEnded() {
 bool Stage::IsIdle() {
     if (HasEnded())
         return true;
-    const Timers& timers = *m_app->timers;
-    const bool isAtRest = m_app->state.CurrentAction.isEmpty() && !timers.Timer1.Enabled() &&
-                          !timers.tmrCheckLinkLoaded.Enabled();
+    const RunState& state = m_app->state;
+    const bool isAtRest =
+        state.CurrentAction.isEmpty() && !state.blnBulletinWaiting && !state.blnStatusWaiting;
     const bool nothingDue = ThePump().Queue().NextDueMs().value_or(ThePump().NowMs() + 1) > ThePump().NowMs();
-    return isAtRest && nothingDue && !Browser(BrowserName::WebBrowser1).Busy();
+    return isAtRest && nothingDue && !m_machine->AwaitsLoad();
 }
 
 void Stage::CollectRecords() {

@@ -130,6 +130,7 @@ void DoubleClickRow(QWidget* list) {
 void PressKey(QWidget* widget, const QString& key) {
     const int code = KeyCode(key);
     const QString text = key.size() == 1 ? key : QString();
+    widget->setFocus();
     QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier, text);
     QApplication::sendEvent(widget, &press);
     QKeyEvent release(QEvent::KeyRelease, code, Qt::NoModifier, text);

@@ -30,6 +30,8 @@ public:
     QString LocationURL() override { return m_location; }
     int ReadyState() override;
     bool Busy() override { return m_questions > 0 || m_isLoading; }
+    // Busy with a load that nothing keeps from ending some day.
+    bool CanBecomeReady() const { return m_questions > 0 || (m_isLoading && !m_neverEnds); }
 
     // What the user does in the page. A selector is "#id"; a text is that of a link, whole, or a part of it
     // when no link has it whole. An element that is not there throws BrowserError.
@@ -119,6 +121,7 @@ private:
     int m_questions = 0;
     bool m_isLoading = false;
     bool m_hasCommitted = false;
+    bool m_neverEnds = false;
     int m_framesLeft = 0;
     quint64 m_arrivalNumber = 0;
     std::vector<SimAnswer::Swap> m_swaps;

@@ -22,6 +22,7 @@ SimRequest BlankRequest() {
 void SimBrowser::AbandonLoad() {
     ++m_loadRound;
     m_isLoading = false;
+    m_neverEnds = false;
     m_pump.Queue().Cancel(m_arrivalNumber);
 }
 
@@ -97,7 +98,8 @@ void SimBrowser::Start(const Load& load) {
     const SimWeb::Arrival arrival = m_web.Fetch(load.request);
     if (load.isCounted)
         m_visited += arrival.url;
-    if (arrival.answer.fault == SimFault::Hang)
+    m_neverEnds = arrival.answer.fault == SimFault::Hang;
+    if (m_neverEnds)
         return;
     m_arrivalNumber = PostLater(arrival.latencyMs, [this, load, arrival, round = m_loadRound] {
         if (round == m_loadRound)
@@ -125,7 +127,8 @@ void SimBrowser::Arrive(const Load& load, const SimWeb::Arrival& arrival) {
     });
     m_framesLeft = 0;
     BeginEmbedded();
-    if (answer.fault != SimFault::Incomplete)
+    m_neverEnds = answer.fault == SimFault::Incomplete;
+    if (!m_neverEnds)
         CompleteWhenFramesAre();
 }
 
@@ -196,8 +199,10 @@ void SimBrowser::LoadFrame(const SimRequest& request, bool holdsPage) {
     asked.topLevel = false;
     asked.referrer = m_location;
     const SimWeb::Arrival arrival = m_web.Fetch(asked);
-    if (arrival.answer.fault == SimFault::Hang)
+    if (arrival.answer.fault == SimFault::Hang) {
+        m_neverEnds = m_neverEnds || holdsPage;
         return;
+    }
     PostLater(arrival.latencyMs, [this, arrival, holdsPage, document = m_document, round = m_loadRound] {
         if (document != m_document)
             return;

@@ -68,6 +68,7 @@ TEST(EngineWords, NameWhatTheEngineCannotPlay) {
           Row{u"expect elapsed 3s 5s"_s, u"expect elapsed"_s},
           Row{u"fault {ASK}/1 nobody times 2"_s, u"fault ... nobody"_s},
           Row{u"page x \"<a data-on-click='goto y'>\""_s, u"data-on-click"_s},
+          Row{u"after 5s right-click"_s, u"right-click"_s},
           Row{u"on frmLog\n  right-click\nend"_s, u"right-click"_s}}) {
         const QString refusal = WordOfSimulationAlone(Parse(u"start\n"_s + row.line));
         EXPECT_TRUE(refusal.startsWith(u"test.scn:"_s)) << row.line.toStdString();
