@@ -14,6 +14,10 @@ Controls::Controls() {
         control.group = QLatin1StringView(row.group);
         control.text = QString::fromUtf16(row.text);
         control.ticked = row.ticked;
+        if (row.choices) {
+            control.items = row.choices();
+            control.selected = static_cast<int>(control.items.indexOf(control.text));
+        }
         m_index.insert(control.name, static_cast<int>(m_controls.size()));
         m_controls.push_back(control);
     }

@@ -38,7 +38,8 @@ struct Control {
 
 // A row of the table of controls. kind tells where the value is stored: "" not at all, "General", "Field
 // Entries" shared by all accounts, or a kind of data with its own global-or-per-account flag
-// ("FriendRequest"). key is the settings key where it differs from the name.
+// ("FriendRequest"). key is the settings key where it differs from the name. choices gives the items of a
+// combo box whose choices never change.
 struct ControlRow {
     const char* name;
     ControlType type;
@@ -47,6 +48,7 @@ struct ControlRow {
     const char* group = "";
     const char16_t* text = u"";
     bool ticked = false;
+    QStringList (*choices)() = nullptr;
 };
 
 // All controls of the program by name; those of a form other than the main window as

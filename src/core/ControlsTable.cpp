@@ -3,6 +3,30 @@
 
 namespace qlm {
 
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int YoungestAge = 13;
+constexpr int OldestAge = 100;
+
+QStringList Periods() {
+    return {u"this session"_s, u"per day"_s};
+}
+
+QStringList HalvesOfTheDay() {
+    return {u"AM"_s, u"PM"_s};
+}
+
+QStringList Ages() {
+    QStringList ages;
+    for (int age = YoungestAge; age <= OldestAge; ++age)
+        ages.append(QString::number(age));
+    return ages;
+}
+
+} // namespace
+
 // Rows of one kind stand in the order in which they are restored and saved. optFilterOff comes last of its
 // kind, so that what depends on it settles on its final state.
 const std::vector<ControlRow>& Controls::Table() {
@@ -15,6 +39,7 @@ const std::vector<ControlRow>& Controls::Table() {
         {"myfraCurrentAction", Label},
         {"lblWaitingFor", Label},
         {"lblTimeDelay", Label, "", "", "", u"Time Delay: OFF"},
+        {"lblLaterErrors", Label},
         {"lblProgress", Label},
         {"MousePointer", Label, "", "", "", u"0"}, // the shape's number: 0 the usual one, 11 the hourglass
         {"lblPracticeSite", Label},
@@ -32,10 +57,11 @@ const std::vector<ControlRow>& Controls::Table() {
         {"mnuMultipleAccountsBULOn", MenuItem, "General", "", "chainBUL", u"On (always)"},
         {"mnuMultipleAccountsBULOnSession", MenuItem, "General", "", "chainBUL", u"On (until I close QLM)"},
         {"mnuMultipleAccountsBULOff", MenuItem, "General", "", "chainBUL", u"Off", true},
-        {"mnuCaptchaSound", MenuItem, "General", "", "", u"Play a sound when CAPTCHA page is reached"},
+        {"mnuCaptchaSound", MenuItem, "General", "", "", u"Play a sound when CAPTCHA page is reached", true},
         {"mnuCaptchaPopup", MenuItem, "General", "", "",
          u"Display a popup alert when CAPTCHA page is reached"},
-        {"mnuCaptchaRestoreIfMinimized", MenuItem, "General", "", "", u"Restore QLM window if minimized"},
+        {"mnuCaptchaRestoreIfMinimized", MenuItem, "General", "", "", u"Restore QLM window if minimized",
+         true},
         {"mnuSkipProfileCAPTCHAs", MenuItem, "General", "", "",
          u"Skip profiles that require CAPTCHA's (except CAPTCHA's required by MySpace)"},
         {"mnuAddToLogWhenAccepting", MenuItem, "General", "", "",
@@ -48,9 +74,9 @@ const std::vector<ControlRow>& Controls::Table() {
 
         // Auto start, shared by all accounts.
         {"optAutoStartOn", OptionButton, "Field Entries", "", "autostart"},
-        {"txtTimeHH", TextBox, "Field Entries"},
-        {"txtTimeMM", TextBox, "Field Entries"},
-        {"cboAMPM", ComboBox, "Field Entries"},
+        {"txtTimeHH", TextBox, "Field Entries", "", "", u"hh"},
+        {"txtTimeMM", TextBox, "Field Entries", "", "", u"00"},
+        {"cboAMPM", ComboBox, "Field Entries", "", "", u"AM", false, HalvesOfTheDay},
         {"cboAutostartAction", ComboBox, "Field Entries"},
 
         // Gather ID's.
@@ -69,7 +95,7 @@ const std::vector<ControlRow>& Controls::Table() {
 
         // Friend Requester.
         {"txtFriendRequestsToSend", TextBox, "FriendRequest"},
-        {"cboFRPerDayOrSession", ComboBox, "FriendRequest", "", "", u"this session"},
+        {"cboFRPerDayOrSession", ComboBox, "FriendRequest", "", "", u"this session", false, Periods},
         {"chkFRNote", CheckBox, "FriendRequest"},
         {"txtFRNote", ManyLineBox, "FriendRequest"},
         {"chkFRFullName", CheckBox, "FriendRequest"},
@@ -88,7 +114,7 @@ const std::vector<ControlRow>& Controls::Table() {
         {"txtMsgMessage", ManyLineBox, "Message"},
         {"chkMsgDontSendAgain", CheckBox, "Message"},
         {"txtMsgStopAt", TextBox, "Message"},
-        {"cboMSGPerDayOrSession", ComboBox, "Message", "", "", u"this session"},
+        {"cboMSGPerDayOrSession", ComboBox, "Message", "", "", u"this session", false, Periods},
         {"optSendSingle(0)", OptionButton, "Message", "", "sendMSG", u"", true},
         {"optSendFromList(0)", OptionButton, "Message", "", "sendMSG"},
         {"picMessanger.lstSendList", ListBox},
@@ -105,7 +131,7 @@ const std::vector<ControlRow>& Controls::Table() {
         {"chkComUseNonHTML", CheckBox, "Comment"},
         {"txtComStopAt", TextBox, "Comment"},
         {"chkComDontSendAgain", CheckBox, "Comment"},
-        {"cboCOMPerDayOrSession", ComboBox, "Comment", "", "", u"this session"},
+        {"cboCOMPerDayOrSession", ComboBox, "Comment", "", "", u"this session", false, Periods},
         {"chkCOMListSkipNonHMTL", CheckBox, "Comment"},
         {"optSendSingle(1)", OptionButton, "Comment", "", "sendCOM", u"", true},
         {"optSendFromList(1)", OptionButton, "Comment", "", "sendCOM"},
@@ -169,8 +195,8 @@ const std::vector<ControlRow>& Controls::Table() {
         {"optFilterWhenSending", OptionButton, "Filter", "", "filterWhen", u"Filter when sending", true},
         {"optFilterAgeOff", OptionButton, "Filter", "", "filterAge", u"Filter Off", true},
         {"optFilterAgeOn", OptionButton, "Filter", "blnFilterAgeOn", "filterAge", u"Age:"},
-        {"cboFilterAge1", ComboBox, "Filter", "", "", u"18"},
-        {"cboFilterAge2", ComboBox, "Filter", "", "", u"99"},
+        {"cboFilterAge1", ComboBox, "Filter", "", "", u"18", false, Ages},
+        {"cboFilterAge2", ComboBox, "Filter", "", "", u"99", false, Ages},
         {"optFilterLastLoginOff", OptionButton, "Filter", "", "filterLogin", u"Filter Off", true},
         {"optFilterOnlineNow", OptionButton, "Filter", "", "filterLogin", u"Online now"},
         {"optFilterLastLoginOn", OptionButton, "Filter", "", "filterLogin", u"Last login within"},
@@ -188,6 +214,10 @@ const std::vector<ControlRow>& Controls::Table() {
         {"frmInteken.Label5", Label, "", "", "", u"Quillmere is in no way affiliated with MySpace™"},
         {"frmInteken.lblPracticeSite", Label},
         {"frmInteken.cmdContinue", Button, "", "", "", u"Continue"},
+
+        // Terms of Service.
+        {"frmTerms.txtTerms", Label},
+        {"frmTerms.cmdClose", Button, "", "", "", u"Close"},
 
         // Switch Account.
         {"frmSwitchAccount.lstAccounts", ListBox},
@@ -226,8 +256,8 @@ const std::vector<ControlRow>& Controls::Table() {
          true},
         {"frmFilters.optFilterAgeOff", OptionButton, "", "", "frmFilters.Age", u"Filter Off", true},
         {"frmFilters.optFilterAgeOn", OptionButton, "", "", "frmFilters.Age", u"Age:"},
-        {"frmFilters.cboFilterAge1", ComboBox, "", "", "", u"18"},
-        {"frmFilters.cboFilterAge2", ComboBox, "", "", "", u"99"},
+        {"frmFilters.cboFilterAge1", ComboBox, "", "", "", u"18", false, Ages},
+        {"frmFilters.cboFilterAge2", ComboBox, "", "", "", u"99", false, Ages},
         {"frmFilters.optFilterLastLoginOff", OptionButton, "", "", "frmFilters.Login", u"Filter Off", true},
         {"frmFilters.optFilterOnlineNow", OptionButton, "", "", "frmFilters.Login", u"Online now"},
         {"frmFilters.optFilterLastLoginOn", OptionButton, "", "", "frmFilters.Login", u"Last login within"},
@@ -300,6 +330,7 @@ const std::vector<ControlRow>& Controls::Table() {
         {"frmTimeDelay.txtSeconds", TextBox, "", "", "", u"0"},
         {"frmTimeDelay.txtMinutes2", TextBox, "", "", "", u"0"},
         {"frmTimeDelay.txtSeconds2", TextBox, "", "", "", u"0"},
+        {"frmTimeDelay.lblProblem", Label},
         {"frmTimeDelay.cmdOK", Button, "", "", "", u"OK"},
         {"frmTimeDelay.cmdCancel", Button, "", "", "", u"Cancel"},
         {"frmGroupGatherPrompt.chkDontShowAgain", CheckBox, "", "", "", u"Don't show again"},

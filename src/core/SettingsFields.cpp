@@ -130,6 +130,10 @@ void SettingsFields::RestoreControl(const QString& section, const ControlRow& ro
             isWord || IsNumeric(value))
             m_app.controls.SetTicked(name, ToBoolean(value));
         return;
+    case ControlType::ComboBox:
+        if (!row.choices || row.choices().contains(value))
+            m_app.controls.SetText(name, value);
+        return;
     default:
         m_app.controls.SetText(name, value);
     }
@@ -162,19 +166,18 @@ void SettingsFields::RestoreWindowPlace() {
     if (!m_app.mainForm->setPlace || !m_app.mainForm->getPlace)
         return;
     const SettingsStore& settings = m_app.platform.Settings();
-    auto number = [&settings](const QString& key) {
-        return ToLong(settings.GetSetting(General, key, QString()));
-    };
-    const auto width = number(u"Width"_s);
-    const auto height = number(u"Height"_s);
-    const auto left = number(u"Left"_s);
-    const auto top = number(u"Top"_s);
-    // A window that was closed maximised at its first use has stored no place beside that.
+    // A value that is missing or bad leaves the others their say.
     WindowPlace place = m_app.mainForm->getPlace();
-    if (width && height && left && top)
-        place = {*left, *top, *width, *height, false, false};
+    bool isStored = false;
+    for (const auto& [key, field] :
+         {std::pair{u"Left"_s, &WindowPlace::left}, std::pair{u"Top"_s, &WindowPlace::top},
+          std::pair{u"Width"_s, &WindowPlace::width}, std::pair{u"Height"_s, &WindowPlace::height}})
+        if (const std::optional<qint32> number = ToLong(settings.GetSetting(General, key, QString()))) {
+            place.*field = *number;
+            isStored = true;
+        }
     place.maximized = ToBoolean(settings.GetSetting(General, u"Maximized"_s, u"False"_s));
-    if (place.maximized || (width && height && left && top))
+    if (place.maximized || isStored)
         m_app.mainForm->setPlace(place);
 }
 

@@ -13,8 +13,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int YoungestAge = 13;
-constexpr int OldestAge = 100;
 const QString FormPrefix = u"frmFilters."_s;
 const QString FilterKind = u"Filter"_s;
 
@@ -77,7 +75,7 @@ QString ValueOf(const Control& control) {
 void SetValueOf(Controls& controls, const Control& control, const QString& value) {
     if (control.type == ControlType::OptionButton)
         controls.SetTicked(control.name, ToBoolean(value));
-    else
+    else if (control.type != ControlType::ComboBox || control.items.contains(value))
         controls.SetText(control.name, value);
 }
 
@@ -99,12 +97,6 @@ void ProfileFilters::FollowOptions() {
 }
 
 void ProfileFilters::RegisterForm() {
-    QStringList ages;
-    for (int age = YoungestAge; age <= OldestAge; ++age)
-        ages.append(QString::number(age));
-    for (const QLatin1StringView box : {"frmFilters.cboFilterAge1"_L1, "frmFilters.cboFilterAge2"_L1})
-        m_app.controls.SetItems(box, ages);
-
     Commands& commands = m_app.commands;
     commands.Add(u"picFilterOptions_Click"_s, [this] { picFilterOptions_Click(); });
     commands.Add(u"frmFilters.cmdOK_Click"_s, [this] { frmFilters_cmdOK_Click(); });

@@ -14,6 +14,7 @@
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QTabWidget>
+#include <QTextBrowser>
 
 namespace qlm {
 
@@ -55,6 +56,11 @@ ControlBinder::Show ControlBinder::ViewFor(QWidget& widget, QLatin1StringView na
         return ViewOfLine(*line, name);
     if (auto* lines = qobject_cast<QPlainTextEdit*>(&widget))
         return ViewOfLines(*lines, name);
+    if (auto* page = qobject_cast<QTextBrowser*>(&widget))
+        return [page](const Control& control, Change change, int) {
+            if (change == Change::Text)
+                page->setHtml(control.text);
+        };
     if (auto* combo = qobject_cast<QComboBox*>(&widget))
         return ViewOfCombo(*combo, name);
     if (auto* list = qobject_cast<QListView*>(&widget))
@@ -132,8 +138,9 @@ ControlBinder::Show ControlBinder::ViewOfTick(QAbstractButton& button, QLatin1St
             showCaption(control.text);
         if (change != Change::Ticked)
             return;
-        // A group that excludes would not let its last button go.
-        if (group)
+        // A group that excludes doesn't let its last button go, and one that doesn't is no stop of the Tab
+        // key's own, at the chosen button.
+        if (group && !control.ticked)
             group->setExclusive(false);
         button.setChecked(control.ticked);
         if (group)
@@ -142,14 +149,6 @@ ControlBinder::Show ControlBinder::ViewOfTick(QAbstractButton& button, QLatin1St
 }
 
 ControlBinder::Show ControlBinder::ViewOfCombo(QComboBox& combo, QLatin1StringView name) {
-    // A row that has no items yet takes the choices that the form was built with.
-    if (m_app.controls.Items(name).isEmpty() && combo.count() > 0) {
-        QStringList choices;
-        for (int i = 0; i < combo.count(); ++i)
-            choices.append(combo.itemText(i));
-        m_app.controls.SetItems(name, choices);
-        m_app.controls.SetSelected(name, static_cast<int>(choices.indexOf(m_app.controls.Text(name))));
-    }
     connect(&combo, &QComboBox::currentIndexChanged, this, [this, name](int row) {
         if (m_showing)
             return;

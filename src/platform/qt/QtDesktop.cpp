@@ -49,10 +49,10 @@ void QtAttention::FlashWindow() {
 }
 
 void QtAttention::RestoreWindow() {
-    if (!m_window)
+    // A window that stands behind another program's stays there: the sound and the flashing call.
+    if (!m_window || (m_window->isVisible() && !m_window->isMinimized()))
         return;
-    if (m_window->isMinimized() || !m_window->isVisible())
-        m_window->showNormal();
+    m_window->showNormal();
     m_window->raise();
 }
 

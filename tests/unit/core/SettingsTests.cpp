@@ -80,6 +80,27 @@ TEST_F(SettingsTest, NothingButTheKnownKeysIsStored) {
             EXPECT_TRUE(known[section].contains(key)) << section.toStdString() << " " << key.toStdString();
 }
 
+// None that the control starts with.
+QString OtherText(const ControlRow& row) {
+    return row.choices ? row.choices().at(1) : u"other "_s + QLatin1StringView(row.name);
+}
+
+TEST_F(SettingsTest, ATextThatIsNoneOfItsChoicesLeavesTheBoxAsItStands) {
+    int boxes = 0;
+    for (const ControlRow& row : Controls::Table()) {
+        if (row.type != ControlType::ComboBox || !row.choices || !row.kind[0])
+            continue;
+        world.settings.SaveSetting(Shared, QString::fromLatin1(row.name), u"something else"_s);
+        ++boxes;
+    }
+    EXPECT_EQ(boxes, 6);
+    Restart();
+    for (const ControlRow& row : Controls::Table())
+        if (row.type == ControlType::ComboBox && row.choices) {
+            EXPECT_EQ(Inputs().Text(QLatin1StringView(row.name)), QString::fromUtf16(row.text)) << row.name;
+        }
+}
+
 TEST_F(SettingsTest, EveryStoredInputComesBack) {
     Share(false);
     Restart();
@@ -93,7 +114,7 @@ TEST_F(SettingsTest, EveryStoredInputComesBack) {
         if (IsTick(Inputs()[name]))
             Inputs().SetTicked(name, !row.ticked);
         else
-            Inputs().SetText(name, u"other "_s + name);
+            Inputs().SetText(name, OtherText(row));
     }
     Save();
     Restart();
@@ -102,7 +123,7 @@ TEST_F(SettingsTest, EveryStoredInputComesBack) {
         if (IsTick(Inputs()[name])) {
             EXPECT_EQ(Inputs().Ticked(name), !row->ticked) << row->name;
         } else {
-            EXPECT_EQ(Inputs().Text(name), u"other "_s + name) << row->name;
+            EXPECT_EQ(Inputs().Text(name), OtherText(*row)) << row->name;
         }
     }
 }
@@ -353,6 +374,23 @@ TEST_F(WindowPlaceTest, AnOrdinaryPlaceComesBack) {
     ASSERT_TRUE(set);
     EXPECT_EQ(std::make_tuple(set->left, set->top, set->width, set->height, set->maximized),
               std::make_tuple(10, 20, 900, 700, false));
+}
+
+TEST_F(WindowPlaceTest, EachValueHoldsWhateverBecameOfTheOthers) {
+    const std::vector<std::pair<QString, int WindowPlace::*>> values{{u"Left"_s, &WindowPlace::left},
+                                                                     {u"Top"_s, &WindowPlace::top},
+                                                                     {u"Width"_s, &WindowPlace::width},
+                                                                     {u"Height"_s, &WindowPlace::height}};
+    for (const auto& [bad, own] : values) {
+        SCOPED_TRACE(bad.toStdString());
+        Close({10, 20, 900, 700, false, false});
+        world.settings.SaveSetting(General, bad, u"wide"_s);
+        Restore();
+        ASSERT_TRUE(set);
+        const WindowPlace stored{10, 20, 900, 700, false, false};
+        for (const auto& [key, field] : values)
+            EXPECT_EQ((*set).*field, key == bad ? place.*own : stored.*field) << key.toStdString();
+    }
 }
 
 TEST_F(WindowPlaceTest, AMaximisedOrMinimisedWindowLeavesTheStoredPlace) {

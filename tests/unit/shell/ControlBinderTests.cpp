@@ -193,15 +193,16 @@ TEST_F(ControlBinderTest, ALeftFieldRunsLostFocusButNotWhenAnotherProgramComesUp
     auto* line = Add<QLineEdit>("txtMinutes"_L1);
     Bind(u"frmTimeDelay."_s);
     LoseFocus(*line, Qt::ActiveWindowFocusReason);
+    LoseFocus(*line, Qt::PopupFocusReason);
     EXPECT_EQ(runs, 0);
     LoseFocus(*line, Qt::TabFocusReason);
     EXPECT_EQ(runs, 1);
 }
 
-TEST_F(ControlBinderTest, AComboBoxGivesItsChoicesToARowThatHasNone) {
+TEST_F(ControlBinderTest, AComboBoxShowsTheChoicesOfItsRow) {
     auto* combo = Add<QComboBox>("cboFRPerDayOrSession"_L1);
-    combo->addItems({u"this session"_s, u"per day"_s});
     Bind();
+    EXPECT_EQ(combo->count(), 2);
     EXPECT_EQ(combo->currentText(), u"this session"_s);
     combo->setCurrentIndex(1);
     EXPECT_EQ(Table().Text("cboFRPerDayOrSession"_L1), u"per day"_s);
@@ -243,6 +244,69 @@ TEST_F(ControlBinderTest, DeleteInAListRunsItsKeyDownWithTheKeysCode) {
     EXPECT_EQ(lastArgument, 46);
     Press(*list, Qt::Key_Down);
     EXPECT_EQ(runs, 1);
+}
+
+TEST_F(ControlBinderTest, TheOtherKeysOfAListHaveTheirCodesToo) {
+    Count("lstFriendIDs_KeyDown");
+    auto* list = Add<QListView>("lstFriendIDs"_L1);
+    Bind();
+    for (const auto& [key, code] :
+         {std::pair<int, int>{Qt::Key_Return, 13}, {Qt::Key_Enter, 13}, {Qt::Key_Insert, 45}}) {
+        lastArgument = 0;
+        Press(*list, key);
+        EXPECT_EQ(lastArgument, code);
+    }
+}
+
+TEST_F(ControlBinderTest, AListRunsItsClickAndItsDoubleClick) {
+    Table().SetItems("lstFriendIDs"_L1, {u"1"_s});
+    auto* list = Add<QListView>("lstFriendIDs"_L1);
+    Bind();
+    Count("lstFriendIDs_Click");
+    Q_EMIT list->clicked(list->model()->index(0, 0));
+    EXPECT_EQ(runs, 1);
+    Count("lstFriendIDs_DblClick");
+    Q_EMIT list->doubleClicked(list->model()->index(0, 0));
+    EXPECT_EQ(runs, 2);
+}
+
+TEST_F(ControlBinderTest, AComboBoxRunsItsClickWhenTheUserChoosesAndNotWhenTheLogicDoes) {
+    auto* combo = Add<QComboBox>("cboFRPerDayOrSession"_L1);
+    Bind();
+    Count("cboFRPerDayOrSession_Click");
+    Table().SetText("cboFRPerDayOrSession"_L1, u"per day"_s);
+    EXPECT_EQ(runs, 0);
+    combo->setCurrentIndex(0);
+    EXPECT_EQ(runs, 1);
+}
+
+TEST_F(ControlBinderTest, AMenuItemIsEnabledAsTheTableSays) {
+    QAction action;
+    action.setObjectName(u"mnuCaptchaPopup"_s);
+    action.setCheckable(true);
+    Bind().Bind(action);
+    Table().SetEnabled("mnuCaptchaPopup"_L1, false);
+    EXPECT_FALSE(action.isEnabled());
+    Table().SetEnabled("mnuCaptchaPopup"_L1, true);
+    EXPECT_TRUE(action.isEnabled());
+}
+
+// By the keyboard, and by a screen reader that follows it, the chosen option is the one that is come to.
+TEST_F(ControlBinderTest, TheTabKeyComesToTheChosenOptionOfAGroup) {
+    auto* first = Add<QRadioButton>("optScanCurrentPage"_L1);
+    auto* second = Add<QRadioButton>("optScanFollowing"_L1);
+    auto* line = Add<QLineEdit>("txtAddress"_L1);
+    Table().SetTicked("optScanCurrentPage"_L1, true);
+    Bind();
+    window.show();
+    QApplication::setActiveWindow(&window);
+    for (const auto& [name, chosen] :
+         {std::pair{"optScanFollowing"_L1, second}, {"optScanCurrentPage"_L1, first}}) {
+        Table().SetTicked(name, true);
+        line->setFocus();
+        Press(*line, Qt::Key_Tab);
+        EXPECT_EQ(window.focusWidget(), chosen) << name.data();
+    }
 }
 
 TEST_F(ControlBinderTest, AListOfThirtyThousandRowsIsShownWithoutCopyingThem) {
