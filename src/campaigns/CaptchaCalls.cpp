@@ -60,14 +60,33 @@ void CaptchaCalls::CallUser() {
     FocusAnswerField();
 }
 
-void CaptchaCalls::FocusAnswerField() {
-    for (const Element& input : m_app.WebBrowser1().Document().GetElementsByTagName(u"input"_s)) {
+namespace {
+
+Element AnswerField(const Document& page) {
+    for (const Element& input : page.GetElementsByTagName(u"input"_s)) {
         const QString name = input.Name();
-        if (Has(name, u"captchaResponseTextBox"_s) || Has(name, u"captcha_text"_s)) {
-            input.Focus();
-            return;
-        }
+        if (Has(name, u"captchaResponseTextBox"_s) || Has(name, u"captcha_text"_s))
+            return input;
     }
+    return {};
+}
+
+} // namespace
+
+void CaptchaCalls::FocusAnswerField() {
+    if (m_focusedPage.IsPresent())
+        return;
+    const Document page = m_app.WebBrowser1().Document();
+    const Element field = AnswerField(page);
+    // The page may still be building.
+    if (field.IsNull() && m_app.WebBrowser1().ReadyState() < 4)
+        return;
+    m_focusedPage = page;
+    // An element that is focused in a page without the window's focus gets no keys: they would go on pressing
+    // the button that was pressed last.
+    m_app.WebBrowser1().TakeFocus();
+    if (!field.IsNull())
+        field.Focus();
 }
 
 void CaptchaCalls::MessagingCAPTCHAReached() {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QtGlobal>
+#include "platform/Document.h"
 
 namespace qlm {
 
@@ -15,7 +15,8 @@ public:
     // Sound, flash, status line, box, restore and focus, in that order, as the menu says. The box turns the
     // message loop: the caller has to look afterwards whether its activity is still there.
     void CallUser();
-    // Puts the input focus into the field for the answer, if the page has one.
+    // Puts the input focus into the page and there into the field for the answer: once for each page that
+    // loads, since the user may go elsewhere from there.
     void FocusAnswerField();
     // The messenger's step 9: a CAPTCHA stands before a message, or the message has gone out behind one.
     void MessagingCAPTCHAReached();
@@ -25,6 +26,7 @@ private:
     void WaitForUser();
 
     App& m_app;
+    Document m_focusedPage;
 };
 
 } // namespace qlm

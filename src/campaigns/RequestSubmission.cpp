@@ -150,7 +150,15 @@ FriendRequester::Next FriendRequester::WaitForAnswer(qint32 target) {
     RunState& state = m_app.state;
     PageTests& page = *m_app.pageTests;
     auto goesOn = [this, target, &state] { return IsCurrent(target) && !state.blnHoldLinkCheck; };
-    m_app.waiting.WaitWhile([&] { return goesOn() && page.IsCaptchaPage(); }, 0);
+    m_app.waiting.WaitWhile(
+        [&] {
+            if (!goesOn() || !page.IsCaptchaPage())
+                return false;
+            // A word that the site refuses brings another page.
+            m_app.captchaCalls->FocusAnswerField();
+            return true;
+        },
+        0);
     m_app.waiting.WaitWhile(
         [&] { return goesOn() && m_app.WebBrowser1().ReadyState() != 4 && !page.IsTextInPage(WrongAnswer); },
         0);

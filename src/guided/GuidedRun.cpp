@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "guided/GuidedRun.h"
 
-#include "campaigns/CaptchaCalls.h"
 #include "core/App.h"
 #include "guided/PracticeControls.h"
 
@@ -157,17 +156,13 @@ void GuidedRun::PlanCaptcha() {
          [this, field] {
              return m_app.state.blnWaitingForCaptcha && m_app.WebBrowser1().ReadyState() == 4 && field();
          },
-         [this] {
-             KeepPicture("frmMain", u"captcha.png"_s);
-             FocusPage();
-             m_app.captchaCalls->FocusAnswerField();
-         }});
-    Add({u"Typing the word"_s, 10, [] { return true; }, [this] { TypeIntoPage(CaptchaWord); }});
+         [this] { KeepPicture("frmMain", u"captcha.png"_s); }});
+    Add({u"Typing the word"_s, 10, [] { return true; }, [this] { TypeKeys(CaptchaWord); }});
     Add({u"The word stands in its field; pressing Enter"_s, 20,
          [field] { return field().Value() == CaptchaWord; },
          [this] {
              m_summary.append(u"The CAPTCHA's word was typed key by key"_s);
-             TypeIntoPage(u"\n"_s);
+             TypeKeys(u"\n"_s);
          }});
 }
 

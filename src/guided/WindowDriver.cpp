@@ -110,41 +110,21 @@ void WindowDriver::ChooseItem(const char* form, const char* name, const QString&
     box->setCurrentText(item);
 }
 
-// What takes the keys of the page that the main window shows: of the views that lie over each other the
-// topmost, which is the last child.
-QWidget* WindowDriver::Page() const {
+void WindowDriver::TypeKeys(const QString& text) {
     QWidget* window = Form("frmMain");
-    QWidget* page = nullptr;
-    for (QWidget* widget : window ? window->findChildren<QWidget*>() : QList<QWidget*>())
-        if (widget->inherits("QWebEngineView") && widget->isVisible())
-            page = widget;
-    return page && page->focusProxy() ? page->focusProxy() : page;
-}
-
-void WindowDriver::FocusPage() {
-    QWidget* page = Page();
-    if (!page) {
-        End(u"There is no page to type into."_s);
-        return;
-    }
-    QApplication::setActiveWindow(page->window());
-    page->setFocus(Qt::MouseFocusReason);
-}
-
-void WindowDriver::TypeIntoPage(const QString& text) {
-    QWidget* page = Page();
-    if (!page) {
-        End(u"There is no page to type into."_s);
-        return;
-    }
     for (const QChar sign : text) {
+        QWidget* target = window ? window->focusWidget() : nullptr;
+        if (!target) {
+            End(u"Nothing has the keyboard."_s);
+            return;
+        }
         const bool isEnter = sign == u'\n';
         const int key = isEnter ? int(Qt::Key_Return) : int(sign.toUpper().unicode());
         const QString typed = isEnter ? u"\r"_s : QString(sign);
         QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, typed);
-        QApplication::sendEvent(page, &press);
+        QApplication::sendEvent(target, &press);
         QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, typed);
-        QApplication::sendEvent(page, &release);
+        QApplication::sendEvent(target, &release);
     }
 }
 

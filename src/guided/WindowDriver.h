@@ -55,10 +55,8 @@ public:
     void Choose(const char* menuItem);
     void Type(const char* form, const char* name, const QString& text);
     void ChooseItem(const char* form, const char* name, const QString& item);
-    // So that the page gets the keys; which of its fields does, the page decides.
-    void FocusPage();
-    // Key by key into the page that the main window shows; "\n" is Enter.
-    void TypeIntoPage(const QString& text);
+    // Key by key to whatever has the keyboard in the main window; "\n" is Enter.
+    void TypeKeys(const QString& text);
     // One line of the run's story, with the seconds since its beginning.
     void Say(const QString& text) const;
 
@@ -71,7 +69,6 @@ protected:
 private:
     void Look();
     bool AnswerBox();
-    QWidget* Page() const;
 
     std::vector<Step> m_steps;
     size_t m_next = 0;

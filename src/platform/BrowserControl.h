@@ -93,10 +93,17 @@ public:
     // 0 brings the control to the front of its container, 1 sends it to the back.
     void ZOrder(int position);
     int Position() const { return m_position; }
+    // Keys go to the page from now on, to its element that has the focus.
+    void TakeFocus() {
+        if (onTakeFocus)
+            onTakeFocus();
+    }
 
     BrowserEvents events;
     // The container's share of ZOrder().
     std::function<void(int position)> onZOrder;
+    // The container's share of TakeFocus().
+    std::function<void()> onTakeFocus;
 
 private:
     bool m_silent = false;

@@ -42,6 +42,11 @@ BrowserStack::BrowserStack(App& app, BrowserViews& views)
         m_stack->setCurrentWidget(m_browser);
     m_app.WebBrowser1().onZOrder = [this](int position) { SetOrder(m_browser, m_cover, position); };
     m_app.webHide().onZOrder = [this](int position) { SetOrder(m_cover, m_browser, position); };
+    QWidget* page = Named(m_browser ? m_browser.data() : m_pages, "WebBrowser1"_L1, u"Page"_s);
+    m_app.WebBrowser1().onTakeFocus = [page = QPointer(page)] {
+        if (page)
+            page->setFocus(Qt::OtherFocusReason);
+    };
 
     // One cell for both: the notice lies over the pages, in the middle.
     auto* cell = new QGridLayout(this);
@@ -56,6 +61,7 @@ BrowserStack::BrowserStack(App& app, BrowserViews& views)
 BrowserStack::~BrowserStack() {
     m_app.WebBrowser1().onZOrder = nullptr;
     m_app.webHide().onZOrder = nullptr;
+    m_app.WebBrowser1().onTakeFocus = nullptr;
     // The views belong to who gave them.
     for (const QPointer<QWidget>& view : {m_browser, m_cover})
         if (view)

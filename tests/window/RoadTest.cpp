@@ -2,8 +2,10 @@
 // The whole road, as the built program goes it: sign in, gather, send, stop.
 #include "PrintText.h"
 #include "ProgramProcess.h"
+#include "RunningProgram.h"
 #include "SiteProcess.h"
 #include "UsedProgram.h"
+#include "core/Text.h"
 
 #include <QImage>
 #include <gtest/gtest.h>
@@ -99,6 +101,50 @@ TEST(Road, PagesThatFailCostTheirOwnTargetAlone) {
     EXPECT_EQ(TargetsOf(journal, u"asked"_s), expected);
     EXPECT_EQ(TargetsOf(journal, u"asked-again"_s), QStringList());
     EXPECT_EQ(folders.Log(), expected);
+}
+
+// On the real engine an element can have the page's focus without the page having the window's: then a blank
+// would press the button that was pressed last, and start the run anew.
+TEST(Road, ACaptchaPageHasTheKeyboardAndHasItAgainBehindARefusedWord) {
+    SiteProcess site;
+    const UsedProgram folders(site.Port());
+    const QStringList ids = SomeTargets(3);
+    folders.SaveList(ids);
+    site.Tell(u"outcome "_s + ids[1] + u" captcha"_s);
+    site.Tell(u"captcha-word zebra"_s);
+    std::optional<RunningProgram> program(folders);
+    App& app = program->app;
+    WindowDriver& driver = program->driver;
+    auto answer = [&app] { return app.WebBrowser1().Document().GetElementById(u"captchaText"_s).Value(); };
+    auto asks = [&app, answer](bool again) {
+        return app.state.blnWaitingForCaptcha && app.WebBrowser1().ReadyState() == 4 &&
+               !app.WebBrowser1().Document().GetElementById(u"captchaText"_s).IsNull() &&
+               answer().isEmpty() &&
+               Has(app.WebBrowser1().Document().BodyText(), u"Security code does not match"_s) == again;
+    };
+    program->PlanSending();
+    driver.Add({u"The run"_s, 20, [&] { return app.state.CurrentAction == u"FR"_s; },
+                [&] { driver.Find("frmMain", "piccmdAddFriends")->setFocus(); }});
+    driver.Add({u"The CAPTCHA"_s, 60, [&] { return asks(false); }, [&] { driver.TypeKeys(u" wrong"_s); }});
+    driver.Add({u"A wrong word"_s, 20, [&] { return answer() == u" wrong"_s; },
+                [&] {
+                    driver.Find("frmMain", "piccmdAddFriends")->setFocus();
+                    app.WebBrowser1().TakeFocus();
+                    driver.TypeKeys(u"\n"_s);
+                    driver.Find("frmMain", "piccmdAddFriends")->setFocus();
+                }});
+    driver.Add(
+        {u"The CAPTCHA again"_s, 60, [&] { return asks(true); }, [&] { driver.TypeKeys(u"zebra"_s); }});
+    driver.Add(
+        {u"The word"_s, 20, [&] { return answer() == u"zebra"_s; }, [&] { driver.TypeKeys(u"\n"_s); }});
+    program->PlanReport(60);
+    const bool isWell = program->Run();
+    EXPECT_TRUE(isWell) << driver.Problem().toStdString();
+    program.reset();
+    const QStringList journal = site.Journal();
+    EXPECT_EQ(TargetsOf(journal, u"asked"_s), ids);
+    EXPECT_EQ(journal.filter(u"captcha-wrong"_s).size(), 1) << journal.join(u'\n').toStdString();
+    EXPECT_EQ(folders.Log(), ids);
 }
 
 } // namespace qlm

@@ -17,10 +17,10 @@ protected:
         app->WebBrowser1().Navigate(u"http://www.example.com/captcha"_s);
         platform->Pump().RunFor(1000);
     }
-    void TickAll() {
+    void TickAll(bool ticked = true) {
         for (const auto item :
              {"mnuCaptchaSound"_L1, "mnuCaptchaPopup"_L1, "mnuCaptchaRestoreIfMinimized"_L1})
-            app->commands.Run(item + u"_Click"_s);
+            app->controls.SetTicked(item, ticked);
     }
     QString Focused() { return app->WebBrowser1().Document().ActiveElement().Id(); }
 };
@@ -39,6 +39,7 @@ TEST_F(CaptchaCallsTest, WithAllTickedTheUserIsCalledInOrder) {
 }
 
 TEST_F(CaptchaCallsTest, WithNothingTickedTheWindowFlashesAndTheFieldHasTheFocus) {
+    TickAll(false);
     app->webHide().ZOrder(0);
     app->timers->tmrAutoResume.SetEnabled(true);
     app->captchaCalls->CallUser();
@@ -51,10 +52,42 @@ TEST_F(CaptchaCallsTest, WithNothingTickedTheWindowFlashesAndTheFieldHasTheFocus
 }
 
 TEST_F(CaptchaCallsTest, AClickFlipsATick) {
-    TickAll();
+    for (const auto item : {"mnuCaptchaSound"_L1, "mnuCaptchaPopup"_L1, "mnuCaptchaRestoreIfMinimized"_L1}) {
+        const bool before = app->controls.Ticked(item);
+        app->commands.Run(item + u"_Click"_s);
+        EXPECT_EQ(app->controls.Ticked(item), !before);
+    }
+}
+
+TEST_F(CaptchaCallsTest, SoundAndRestoreStartTickedAndTheBoxDoesNot) {
     EXPECT_TRUE(app->controls.Ticked("mnuCaptchaSound"_L1));
-    TickAll();
-    EXPECT_FALSE(app->controls.Ticked("mnuCaptchaSound"_L1));
+    EXPECT_TRUE(app->controls.Ticked("mnuCaptchaRestoreIfMinimized"_L1));
+    EXPECT_FALSE(app->controls.Ticked("mnuCaptchaPopup"_L1));
+}
+
+TEST_F(CaptchaCallsTest, ThePageTakesTheWindowsFocusOnceForEachPageThatLoads) {
+    int taken = 0;
+    app->WebBrowser1().onTakeFocus = [&taken] { ++taken; };
+    app->captchaCalls->CallUser();
+    EXPECT_EQ(taken, 1);
+    // Where the user goes from there is theirs.
+    app->captchaCalls->FocusAnswerField();
+    EXPECT_EQ(taken, 1);
+    app->WebBrowser1().Navigate(u"http://www.example.com/captcha"_s);
+    platform->Pump().RunFor(1000);
+    app->captchaCalls->FocusAnswerField();
+    EXPECT_EQ(taken, 2);
+    EXPECT_EQ(Focused(), u"answer"_s);
+}
+
+TEST_F(CaptchaCallsTest, APageWithoutAFieldTakesTheFocusToo) {
+    int taken = 0;
+    world.web.SetPage(u"http://www.example.com/other"_s, u"<html><body>Words</body></html>"_s);
+    app->WebBrowser1().Navigate(u"http://www.example.com/other"_s);
+    platform->Pump().RunFor(1000);
+    app->WebBrowser1().onTakeFocus = [&taken] { ++taken; };
+    app->captchaCalls->CallUser();
+    EXPECT_EQ(taken, 1);
 }
 
 class MessagingCaptchaTest : public CaptchaCallsTest {
