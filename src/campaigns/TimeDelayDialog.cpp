@@ -31,6 +31,12 @@ const std::vector<DelayField>& DelayFields() {
     return fields;
 }
 
+constexpr auto ProblemLabel = "frmTimeDelay.lblProblem"_L1;
+
+bool IsNumberFromZero(const QString& text) {
+    return IsNumeric(text) && ToLong(text).value_or(0) >= 0;
+}
+
 qint16 ToInteger(const QString& text) {
     if (!IsNumeric(text))
         throw std::invalid_argument("Type mismatch");
@@ -59,6 +65,7 @@ void TimeDelayDialog::Show() {
 
 void TimeDelayDialog::LoadFields() {
     Controls& controls = m_app.controls;
+    controls.SetText(ProblemLabel, {});
     for (const DelayField& field : DelayFields())
         controls.SetText(field.name,
                          m_app.platform.Settings().GetSetting(u"Field Entries"_s, field.key, u"0"_s));
@@ -73,8 +80,27 @@ void TimeDelayDialog::KeepNumeric(QLatin1StringView field) {
         m_app.controls.SetText(field, u"0"_s);
 }
 
-qint16 TimeDelayDialog::Seconds(QLatin1StringView minutesField, QLatin1StringView secondsField) const {
-    return SecondsInInteger(m_app.controls.Text(minutesField), m_app.controls.Text(secondsField));
+std::nullopt_t TimeDelayDialog::Refuse(QLatin1StringView field, const QString& problem) {
+    m_app.controls.SetText(ProblemLabel, problem);
+    m_app.controls.SetFocus(field);
+    return std::nullopt;
+}
+
+std::optional<qint16> TimeDelayDialog::Seconds(QLatin1StringView minutesField,
+                                               QLatin1StringView secondsField) {
+    const QString minutes = m_app.controls.Text(minutesField);
+    const QString seconds = m_app.controls.Text(secondsField);
+    for (const QLatin1StringView field : {minutesField, secondsField})
+        if (!IsNumberFromZero(m_app.controls.Text(field)))
+            return Refuse(field, u"Please enter a number, 0 or more."_s);
+    QLatin1StringView tooLong = minutesField;
+    try {
+        SecondsInInteger(minutes, u"0"_s);
+        tooLong = secondsField;
+        return SecondsInInteger(minutes, seconds);
+    } catch (const std::overflow_error&) {
+        return Refuse(tooLong, u"The longest time is 546 minutes and 7 seconds."_s);
+    }
 }
 
 void TimeDelayDialog::cmdOK_Click() {
@@ -82,13 +108,16 @@ void TimeDelayDialog::cmdOK_Click() {
         // The Enter key presses OK without the field losing the focus.
         KeepNumeric(FromMinutes);
         KeepNumeric(FromSeconds);
-        const qint16 from = Seconds(FromMinutes, FromSeconds);
-        const qint16 to = Seconds(ToMinutes, ToSeconds);
-        if (to < from) {
+        m_app.controls.SetText(ProblemLabel, {});
+        const std::optional<qint16> from = Seconds(FromMinutes, FromSeconds);
+        const std::optional<qint16> to = from ? Seconds(ToMinutes, ToSeconds) : std::nullopt;
+        if (!from || !to)
+            return;
+        if (*to < *from) {
             m_app.ShowMessage(u"The second time value is smaller than the first"_s);
             return;
         }
-        Save(from, to);
+        Save(*from, *to);
         m_app.platform.Dialogs().CloseForm(u"frmTimeDelay"_s);
     });
 }

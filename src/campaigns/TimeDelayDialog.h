@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 namespace qlm {
 
@@ -19,7 +20,9 @@ private:
     void LoadFields();
     void cmdOK_Click();
     void KeepNumeric(QLatin1StringView field);
-    qint16 Seconds(QLatin1StringView minutesField, QLatin1StringView secondsField) const;
+    // Nothing for values beyond the rule, which are told at their field.
+    std::optional<qint16> Seconds(QLatin1StringView minutesField, QLatin1StringView secondsField);
+    std::nullopt_t Refuse(QLatin1StringView field, const QString& problem);
     void Save(qint16 from, qint16 to);
 
     App& m_app;

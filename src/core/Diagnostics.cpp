@@ -129,7 +129,7 @@ void Diagnostics::ReportError(const QString& procedure, const std::exception& er
     try {
         for (const QString& text : block)
             m_app.files.AppendLine(m_app.state.ErrorLogPath, text);
-        ShowErrorFormOnce();
+        TellUser(Masked(QString::fromUtf8(error.what())));
     } catch (const FileError&) {
         m_app.ShowMessage(
             u"An error has occurred while trying to write to the log file. This usually indicates a "
@@ -139,9 +139,14 @@ void Diagnostics::ReportError(const QString& procedure, const std::exception& er
     }
 }
 
-void Diagnostics::ShowErrorFormOnce() {
-    if (m_shown)
+void Diagnostics::TellUser(const QString& error) {
+    if (m_shown) {
+        const QString line =
+            u"Another error at "_s + m_app.Pump().Now().toString(u"hh:mm:ss"_s) + u": "_s + error;
+        m_app.controls.SetText("lblLaterErrors"_L1, line);
+        m_app.controls.SetToolTip("lblLaterErrors"_L1, line + u'\n' + m_app.state.ErrorLogPath);
         return;
+    }
     m_shown = true;
     m_app.controls.SetText("frmError.lblErrorLogPath"_L1, m_app.state.ErrorLogPath);
     m_app.platform.Dialogs().ShowForm(u"frmError"_s);

@@ -27,7 +27,8 @@ public:
     // A line in the debug file of the running activity; nothing for one that has none.
     void DebugForAction(const QString& text);
 
-    // Appends a block to the error log and shows frmError, that once in a program run.
+    // Appends a block to the error log and tells the user: the first time in a program run by frmError, from
+    // then on in a line of the main window.
     void ReportError(const QString& procedure, const std::exception& error, const QString& line = {},
                      const QString& data = {});
 
@@ -87,7 +88,7 @@ public:
 
 private:
     QString Masked(const QString& text);
-    void ShowErrorFormOnce();
+    void TellUser(const QString& error);
 
     App& m_app;
     PasswordMask m_mask;

@@ -43,10 +43,14 @@ ActivityStrip::ActivityStrip(App& app) : m_app(app), m_bar(NewProgressBar()) {
     ElidedLabel* waiting = NewElided("lblWaitingFor"_L1, u"waiting"_s);
     waiting->setProperty("hideWhenEmpty", true);
 
+    ElidedLabel* errors = NewElided("lblLaterErrors"_L1, u"problem"_s);
+    errors->setProperty("hideWhenEmpty", true);
+
     auto* words = new QVBoxLayout;
     words->setSpacing(1);
     words->addWidget(action);
     words->addWidget(waiting);
+    words->addWidget(errors);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(12, 7, 12, 7);
     row->setSpacing(12);

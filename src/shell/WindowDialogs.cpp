@@ -78,9 +78,22 @@ void WindowDialogs::ShowForm(const QString& form) {
         BringToFront(*open);
         return;
     }
-    // Over the main window if it is there, and of its own otherwise: the form that is active now may close
-    // first.
-    Create(form, m_main && m_main->isVisible() ? m_main.data() : nullptr)->show();
+    PlaceBeside(*Create(form, nullptr));
+}
+
+// Over the main window if it is there, and of its own otherwise: the form that is active now may close first.
+// Not so while a modal window stands above everything: behind that one the form could neither be seen nor
+// used.
+void WindowDialogs::PlaceBeside(QDialog& form) {
+    auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    QWidget* main = m_main && m_main->isVisible() ? m_main.data() : nullptr;
+    form.setParent(modal ? modal : main, form.windowFlags());
+    if (modal)
+        QObject::connect(modal, &QDialog::finished, &form, [this, &form] {
+            if (form.isVisible())
+                PlaceBeside(form);
+        });
+    form.show();
 }
 
 void WindowDialogs::ShowMain() {

@@ -72,6 +72,8 @@ private:
 
     QDialog* Create(const QString& form, QWidget* parent);
     QWidget* ParentForm() const;
+    // Puts a form that nobody waits for over what may be used now, and so again when that closes.
+    void PlaceBeside(QDialog& form);
     void ShowMain();
     void Forget(const QString& form);
 

@@ -60,6 +60,9 @@ frmTimeDelay::frmTimeDelay(const FormContext& context) : Form(context, u"frmTime
     column->setSpacing(12);
     column->addWidget(purpose);
     column->addLayout(grid);
+    QLabel* problem = NewLabel("lblProblem"_L1, u"notice"_s);
+    problem->setProperty("hideWhenEmpty", true);
+    column->addWidget(problem);
     column->addWidget(
         NewText(u"Each pause has a random length between the two. Two zeros mean no pause."_s, u"quiet"_s));
     column->addStretch();

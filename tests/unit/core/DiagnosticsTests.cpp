@@ -99,6 +99,17 @@ TEST_F(DiagnosticsTest, AnErrorLeavesABlockInTheLogAndShowsItsFormOnce) {
     EXPECT_EQ(app->controls.Text("frmError.lblErrorLogPath"_L1), app->state.ErrorLogPath);
 }
 
+TEST_F(DiagnosticsTest, LaterErrorsAreToldInALineOfTheWindow) {
+    The().Trap("IterateAddFriends", [] { throw std::runtime_error("Automation error"); });
+    EXPECT_EQ(app->controls.Text("lblLaterErrors"_L1), QString());
+    The().Trap("DoDelay", [] { throw std::runtime_error("Overflow"); });
+    EXPECT_EQ(app->controls.Text("lblLaterErrors"_L1),
+              u"Another error at "_s + app->Pump().Now().toString(u"hh:mm:ss"_s) + u": Overflow"_s);
+    EXPECT_TRUE(app->controls["lblLaterErrors"_L1].toolTip.endsWith(app->state.ErrorLogPath));
+    The().Trap("DoDelay", [] { throw std::runtime_error("Bad file"); });
+    EXPECT_TRUE(app->controls.Text("lblLaterErrors"_L1).endsWith(u"Bad file"_s));
+}
+
 TEST_F(DiagnosticsTest, TheBlockTellsPageBrowserKindOfErrorAndDataCleaned) {
     world.web.SetPage(u"http://www.example.com/"_s, u"<body>x</body>"_s);
     app->WebBrowser1().Navigate(u"http://www.example.com/"_s);
