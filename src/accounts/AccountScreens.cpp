@@ -122,8 +122,20 @@ void AccountScreens::RegisterLoginScreen() {
     Commands& commands = m_app.commands;
     commands.Add(u"frmInteken.cmdContinue_Click"_s, [this] { cmdContinue_Click(); });
     commands.Add(u"frmInteken.lstAccounts_DblClick"_s, [this] { cmdContinue_Click(); });
-    commands.Add(u"frmInteken.lblTOS_Click"_s, [this] {
-        m_app.platform.Shell().OpenAddress(m_app.Expand(u"{ProductServer}/terms.php"_s));
+    commands.Add(u"frmInteken.lblTOS_Click"_s, [this] { lblTOS_Click(); });
+    commands.Add(u"frmTerms.cmdClose_Click"_s, [this] { m_app.platform.Dialogs().CloseForm(u"frmTerms"_s); });
+}
+
+// In a window of the program's own: no other browser knows the practice site.
+void AccountScreens::lblTOS_Click() {
+    m_app.diagnostics.Trap("lblTOS_Click", [this] {
+        m_app.controls.SetText("frmTerms.txtTerms"_L1, u"Please wait..."_s);
+        m_app.platform.Dialogs().ShowForm(u"frmTerms"_s);
+        const std::optional<QString> terms =
+            m_app.platform.Http().Get(m_app.Expand(u"{ProductServer}/terms.php"_s));
+        m_app.controls.SetText(
+            "frmTerms.txtTerms"_L1,
+            terms.value_or(u"The Terms of Service could not be fetched. Please try again later."_s));
     });
 }
 

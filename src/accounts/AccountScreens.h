@@ -40,6 +40,7 @@ private:
     void cmdDelete_Click(const AccountScreen& screen);
 
     void RegisterLoginScreen();
+    void lblTOS_Click();
     void cmdContinue_Click();
     bool MayContinue();
     void Continue();

@@ -3,6 +3,7 @@
 
 #include "campaigns/Pacing.h"
 #include "campaigns/SendRuns.h"
+#include "campaigns/StartChecks.h"
 #include "core/App.h"
 #include "core/StopResume.h"
 #include "core/Text.h"
@@ -39,6 +40,11 @@ FriendRequester::FriendRequester(App& app) : m_app(app), m_categories(app) {
         m_app.platform.Settings().SaveSetting(u"General"_s, NoticeKey, notAgain ? u"1"_s : u"0"_s);
         m_app.platform.Settings().Sync();
         m_app.platform.Dialogs().CloseForm(u"frmTempMySpaceErrorFR"_s);
+    });
+    app.commands.Add(u"chkFrSendMessage_MouseDown"_s, [this] {
+        if (!m_app.controls.Ticked("chkFrSendMessage"_L1) && !HasMessenger(m_app))
+            m_app.ShowMessage(u"This version of Quillmere has no Auto Messenger yet, so it can't send a "
+                              "message after a friend request."_s);
     });
 }
 

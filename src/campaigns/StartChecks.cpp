@@ -127,9 +127,7 @@ const std::vector<StartCheck>& FriendRequestChecks() {
          u"'send "
          u"from list', but you havent selected any of the messages in your list."},
         // Requests without the message that was asked for would be gone for good.
-        {[](const App& app) {
-             return SendsMessageBehind(app) && !app.commands.Has(u"picCmdMsgSend_Click"_s);
-         },
+        {[](const App& app) { return SendsMessageBehind(app) && !HasMessenger(app); },
          u"You have selected to send a message after each friend request, but this version of Quillmere has "
          u"no "
          u"Auto Messenger yet. No friend requests have been sent."},
@@ -232,6 +230,10 @@ bool Passes(App& app, const std::vector<StartCheck>& checks) {
 }
 
 } // namespace
+
+bool HasMessenger(const App& app) {
+    return app.commands.Has(u"picCmdMsgSend_Click"_s);
+}
 
 bool CampaignMayStart(App& app, const QString& campaign) {
     if (campaign == u"FR"_s)

@@ -69,9 +69,13 @@ Dialogs::Answer DesktopDialogs::RunMessage(const QString& text, const QString& t
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         // Escape says no where there is no cancelling.
         box.setEscapeButton(QMessageBox::No);
+        // What Yes does can often not be undone: nobody says it by a Return that was meant for something
+        // else.
+        box.setDefaultButton(QMessageBox::No);
         if (buttons == Buttons::YesNoCancel) {
             box.addButton(QMessageBox::Cancel);
             box.setEscapeButton(QMessageBox::Cancel);
+            box.setDefaultButton(QMessageBox::Yes);
         }
     }
     switch (box.exec()) {

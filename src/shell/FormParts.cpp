@@ -46,6 +46,13 @@ QLabel* NewLabel(QLatin1StringView name, const QString& look) {
     return label;
 }
 
+QLabel* NewCaptionOf(QWidget& input, const QString& words, const QString& accessibleName) {
+    auto* caption = new QLabel(words);
+    caption->setBuddy(&input);
+    caption->setAccessibleName(accessibleName);
+    return caption;
+}
+
 QLabel* NewText(const QString& text, const QString& look) {
     auto* label = new QLabel(text);
     label->setTextFormat(Qt::PlainText);

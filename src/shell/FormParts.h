@@ -31,6 +31,9 @@ QLineEdit* NewLine(QLatin1StringView name, const QString& accessibleName);
 // A label that shows a control; look names its part in the style sheet ("heading", "quiet", "badge", or
 // empty).
 QLabel* NewLabel(QLatin1StringView name, const QString& look = {});
+// The label in front of an input: its letter leads there, and it is what a screen reader calls the input, by
+// the accessible name where that says more than the words. A combo box has no other name for a screen reader.
+QLabel* NewCaptionOf(QWidget& input, const QString& words, const QString& accessibleName = {});
 // A fixed text that wraps.
 QLabel* NewText(const QString& text, const QString& look = {});
 

@@ -14,6 +14,7 @@
 #include "shell/frmProifleIDHelp.h"
 #include "shell/frmRunReport.h"
 #include "shell/frmSwitchAccount.h"
+#include "shell/frmTerms.h"
 #include "shell/frmTimeDelay.h"
 
 #include <stdexcept>
@@ -39,6 +40,7 @@ constexpr Registered Forms[] = {
     {"frmAccountDetails"_L1, Make<frmAccountDetails>},
     {"frmLoginProblem"_L1, Make<frmLoginProblem>},
     {"frmError"_L1, Make<frmError>},
+    {"frmTerms"_L1, Make<frmTerms>},
     {"frmTimeDelay"_L1, Make<frmTimeDelay>},
     {"frmFilters"_L1, Make<frmFilters>},
     {"frmGlobalSettings"_L1, Make<frmGlobalSettings>},

@@ -39,7 +39,7 @@ frmAccountDetails::frmAccountDetails(const FormContext& context)
 
     auto* column = new QVBoxLayout(this);
     column->addWidget(
-        NewText(u"The e-mail address and password with which you log in to MySpace."_s, u"quiet"_s));
+        NewText(u"The e-mail address and password with which you log in to the site."_s, u"quiet"_s));
     column->addWidget(fields);
     column->addStretch();
     column->addWidget(

@@ -14,6 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 frmError::frmError(const FormContext& context) : Form(context, u"frmError"_s, u"Error"_s) {
     const QString support = context.app.deployment.Value(u"SupportAddress"_s);
     QLabel* path = NewLabel("lblErrorLogPath"_L1, u"path"_s);
+    path->setAccessibleName(u"The log file"_s);
     path->setWordWrap(true);
     path->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     QLabel* howTo = NewLabel("lblHowTo"_L1, u"hint"_s);

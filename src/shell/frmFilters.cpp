@@ -65,12 +65,15 @@ QGroupBox* GenderFrame() {
 }
 
 QGroupBox* AgeFrame() {
+    auto* youngest = Named(new QComboBox, "cboFilterAge1"_L1);
+    auto* oldest = Named(new QComboBox, "cboFilterAge2"_L1);
     return Frame(u"&Age"_s, {Row({NewOption("optFilterAgeOff"_L1, u"Filter Off"_s)}),
                              Row({
                                  NewOption("optFilterAgeOn"_L1, u"Age:"_s),
-                                 Named(new QComboBox, "cboFilterAge1"_L1, u"Youngest age"_s),
-                                 new QLabel(u"to"_s),
-                                 Named(new QComboBox, "cboFilterAge2"_L1, u"Oldest age"_s),
+                                 NewCaptionOf(*youngest, u"from"_s, u"Youngest age"_s),
+                                 youngest,
+                                 NewCaptionOf(*oldest, u"to"_s, u"Oldest age"_s),
+                                 oldest,
                              })});
 }
 

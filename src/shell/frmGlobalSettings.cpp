@@ -26,4 +26,8 @@ frmGlobalSettings::frmGlobalSettings(const FormContext& context)
     resize(460, 480);
 }
 
+void frmGlobalSettings::reject() {
+    UserCloses();
+}
+
 } // namespace qlm

@@ -9,6 +9,8 @@ namespace qlm {
 class frmGlobalSettings : public Form {
 public:
     explicit frmGlobalSettings(const FormContext& context);
+    // Close stores; Escape and the frame's cross leave everything as it was.
+    void reject() override;
 };
 
 } // namespace qlm

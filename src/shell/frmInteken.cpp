@@ -37,8 +37,7 @@ QLayout* Head() {
 frmInteken::frmInteken(const FormContext& context)
     : Form(context, u"frmInteken"_s, u"Quillmere v"_s + context.app.Version() + u" - Login Screen -"_s) {
     m_list = Named(new QListView, "lstAccounts"_L1, u"Accounts"_s);
-    m_hint =
-        NewText(u"Press Add and enter the e-mail address and password of your MySpace account."_s, u"hint"_s);
+    m_hint = NewText(u"Press Add and enter the e-mail address and password of your account."_s, u"hint"_s);
     auto* upkeep = new QVBoxLayout;
     upkeep->addWidget(NewButton("cmdAdd"_L1, u"&Add"_s));
     upkeep->addWidget(NewButton("cmdEdit"_L1, u"&Edit"_s));

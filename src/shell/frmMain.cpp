@@ -21,6 +21,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
 #include <QWindow>
@@ -44,6 +45,8 @@ public:
         setWidgetResizable(true);
         setFrameShape(QFrame::NoFrame);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        // It follows what has the focus in it and needs none of its own.
+        setFocusPolicy(Qt::NoFocus);
     }
 
     QSize minimumSizeHint() const override {
@@ -113,6 +116,7 @@ QWidget* frmMain::NewControlPanel() {
     for (const QString& caption : m_app.controls.Items("TabStrip1"_L1))
         m_tabs->addTab(NewTab(caption), caption);
     m_tabs->setDocumentMode(true);
+    m_tabs->tabBar()->setAccessibleName(u"Control panel"_s);
     return m_tabs;
 }
 

@@ -25,12 +25,10 @@ constexpr QSize StartingSize(760, 460);
 
 frmRunReport::frmRunReport(const FormContext& context)
     : Form(context, u"frmRunReport"_s, u"Run Report"_s), m_rows(new ReportTable(this)) {
-    auto* runs = Named(new QComboBox, "cboRuns"_L1, u"Run"_s);
+    auto* runs = Named(new QComboBox, "cboRuns"_L1);
     runs->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    auto* caption = new QLabel(u"&Run of"_s);
-    caption->setBuddy(runs);
     auto* choice = new QHBoxLayout;
-    choice->addWidget(caption);
+    choice->addWidget(NewCaptionOf(*runs, u"&Run of"_s));
     choice->addWidget(runs, 1);
     QLabel* summary = NewLabel("lblSummary"_L1);
     summary->setWordWrap(true);

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "shell/picFriendRequester.h"
 
+#include "campaigns/StartChecks.h"
 #include "core/App.h"
 #include "shell/FormParts.h"
 #include "shell/PictureButtons.h"
+#include "shell/TickBox.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -11,6 +13,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QToolButton>
 
 namespace qlm {
@@ -24,16 +27,14 @@ QGroupBox* LimitFrame() {
     limit->setPlaceholderText(u"no limit"_s);
     limit->setToolTip(u"Leave blank to send an unlimited number of requests"_s);
     limit->setMaximumWidth(limit->fontMetrics().averageCharWidth() * 14);
-    auto* period = Named(new QComboBox, "cboFRPerDayOrSession"_L1, u"Limit counts for"_s);
-    period->addItems({u"this session"_s, u"per day"_s});
+    auto* period = Named(new QComboBox, "cboFRPerDayOrSession"_L1);
     period->setToolTip(u"If you select \"per day\" then QLM takes all your sending activity into account and "
                        "ensures you don't send too much in a 24-hour period"_s);
-    auto* caption = new QLabel(u"S&end at most"_s);
-    caption->setBuddy(limit);
 
     auto* row = new QHBoxLayout;
-    row->addWidget(caption);
+    row->addWidget(NewCaptionOf(*limit, u"S&end at most"_s));
     row->addWidget(limit);
+    row->addWidget(NewCaptionOf(*period, u"requests"_s, u"Limit counts for"_s));
     row->addWidget(period);
     row->addStretch();
     auto* frame = new QGroupBox(u"How many"_s);
@@ -64,24 +65,55 @@ QGroupBox* CountersFrame() {
     return frame;
 }
 
-QGroupBox* CategoryFrame(const App& app) {
-    const QString hint = u"This setting appears on the friend request page"_s;
-    auto* add = Named(new QCheckBox(u"Add to cate&gory"_s), "chkFRAddToCategory"_L1);
-    auto* categories = Named(new QComboBox, "cboFRCategories"_L1, u"Category"_s);
+const QString HintOfThePage = u"This setting appears on the friend request page"_s;
+
+template <typename Input> Input* NewPageOption(QLatin1StringView name, const QString& words) {
+    auto* input = Named(new Input, name, QString(words).remove(u'&'));
+    if (auto* box = qobject_cast<QCheckBox*>(input))
+        box->setText(words);
+    input->setToolTip(HintOfThePage);
+    return input;
+}
+
+QPlainTextEdit* NewNote() {
+    auto* note = NewPageOption<QPlainTextEdit>("txtFRNote"_L1, u"Text of the note"_s);
+    note->setTabChangesFocus(true);
+    note->setFixedHeight(note->fontMetrics().lineSpacing() * 2 + 14);
+    return note;
+}
+
+QLayout* CategoryRow(const App& app) {
+    auto* categories = NewPageOption<QComboBox>("cboFRCategories"_L1, {});
     // Neither a long name nor the words that stand there before one is chosen make the panel wider.
     categories->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     categories->setMinimumWidth(categories->fontMetrics().averageCharWidth() * 12);
-    add->setToolTip(hint);
-    categories->setToolTip(hint);
-
     auto* row = new QHBoxLayout;
+    row->addWidget(NewPageOption<QCheckBox>("chkFRAddToCategory"_L1, u"&Add to"_s));
+    row->addWidget(NewCaptionOf(*categories, u"cate&gory"_s, u"Category"_s));
     row->addWidget(categories, 1);
     AddPictureButtons(*row, app.commands, Caption::None, {"piccmdFRRefreshCategories"_L1});
-    auto* frame = new QGroupBox(u"Category"_s);
+    return row;
+}
+
+TickBox* NewMessageOption(const App& app) {
+    const QString caption = u"Send a &message after each request"_s;
+    auto* message =
+        Named(new TickBox(HasMessenger(app) ? caption : caption + u" (not yet)"_s), "chkFrSendMessage"_L1);
+    message->setToolTip(u"Uses the message specified on the 'Auto Messenger' tab"_s);
+    return message;
+}
+
+QGroupBox* OptionsFrame(const App& app) {
+    auto* frame = new QGroupBox(u"With each request"_s);
     auto* column = new QVBoxLayout(frame);
-    column->addWidget(add);
-    column->addLayout(row);
-    column->addWidget(NewText(u"Kept for request pages that ask for a category."_s, u"quiet"_s));
+    column->addWidget(NewMessageOption(app));
+    column->addWidget(NewPageOption<QCheckBox>("chkFRNote"_L1, u"Add this &note:"_s));
+    column->addWidget(NewNote());
+    column->addWidget(NewPageOption<QCheckBox>("chkFRFullName"_L1, u"Show my f&ull name"_s));
+    column->addWidget(NewPageOption<QCheckBox>("chkFRAddToUpdates"_L1, u"Add to my friend u&pdates"_s));
+    column->addLayout(CategoryRow(app));
+    column->addWidget(
+        NewText(u"All but the message are kept for request pages that ask for them."_s, u"quiet"_s));
     return frame;
 }
 
@@ -105,9 +137,9 @@ picFriendRequester::picFriendRequester(const App& app) {
                 u"quiet"_s));
     column->addWidget(NewLink("lblProfileIDHelp"_L1, u"- What is a profile ID? -"_s));
     column->addWidget(LimitFrame());
-    column->addWidget(CategoryFrame(app));
     column->addLayout(RunRow(app));
     column->addWidget(CountersFrame());
+    column->addWidget(OptionsFrame(app));
     column->addLayout(ToolRow(app));
     column->addStretch();
 }

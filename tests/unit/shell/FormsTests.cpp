@@ -6,7 +6,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -14,9 +13,11 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 #include <QTimer>
 
 namespace qlm {
@@ -86,8 +87,6 @@ TEST_F(FormsTest, EveryInputSaysWhatItIsToAScreenReader) {
         const QWidget* window = dialogs.FormWidget(form);
         for (const auto* line : window->findChildren<QLineEdit*>())
             EXPECT_FALSE(line->accessibleName().isEmpty()) << line->objectName().toStdString();
-        for (const auto* box : window->findChildren<QComboBox*>())
-            EXPECT_FALSE(box->accessibleName().isEmpty()) << box->objectName().toStdString();
         for (const auto* view : window->findChildren<QAbstractItemView*>()) {
             const bool isWhole = !qobject_cast<const QHeaderView*>(view) &&
                                  !view->window()->inherits("QComboBoxPrivateContainer");
@@ -127,6 +126,45 @@ TEST_F(FormsTest, AModalFormIsOpenWhileItIsWaitedForAndGoneAfterwards) {
     dialogs.ShowModal(u"frmTimeDelay"_s);
     EXPECT_TRUE(wasOpen);
     EXPECT_TRUE(dialogs.OpenForms().isEmpty());
+}
+
+// Behind a modal form it could neither be seen nor used.
+TEST_F(FormsTest, AFormThatComesUpBesideAModalOneStandsOverItAndOutlivesIt) {
+    dialogs.ShowForm(u"frmMain"_s);
+    QWidget* main = dialogs.FormWidget(u"frmMain"_s);
+    dialogs.whileModal = [&](QDialog& dialog) {
+        dialogs.ShowForm(u"frmError"_s);
+        QWidget* error = dialogs.FormWidget(u"frmError"_s);
+        EXPECT_EQ(error->parentWidget(), &dialog);
+        dialogs.CloseForm(u"frmTimeDelay"_s);
+        EXPECT_EQ(error->parentWidget(), main);
+        EXPECT_TRUE(error->isVisible());
+    };
+    dialogs.ShowModal(u"frmTimeDelay"_s);
+    EXPECT_TRUE(dialogs.IsFormOpen(u"frmError"_s));
+    dialogs.CloseForm(u"frmError"_s);
+    EXPECT_EQ(dialogs.OpenForms(), QStringList{u"frmMain"_s});
+}
+
+TEST_F(FormsTest, TheTermsLoadNothingAndLeadNowhere) {
+    app->controls.SetText("frmTerms.txtTerms"_L1,
+                          u"<h1>Terms</h1><img src='file:///etc/passwd'><a href='http://x/'>Be kind</a>"_s);
+    Shown("frmTerms");
+    auto* page = Find<QTextBrowser>("frmTerms", "txtTerms");
+    EXPECT_TRUE(page->toPlainText().contains(u"Be kind"_s));
+    EXPECT_FALSE(page->loadResource(QTextDocument::ImageResource, QUrl(u"file:///etc/passwd"_s)).isValid());
+    EXPECT_FALSE(page->openLinks());
+    EXPECT_FALSE(page->textInteractionFlags() & Qt::LinksAccessibleByMouse);
+}
+
+TEST_F(FormsTest, EscapeAndTheFramesCrossLeaveTheGlobalSettingsUnstored) {
+    Count("frmGlobalSettings.cmdClose_Click");
+    for (const bool byEscape : {true, false}) {
+        QDialog* form = Shown("frmGlobalSettings");
+        byEscape ? form->reject() : static_cast<void>(form->close());
+        EXPECT_FALSE(dialogs.IsFormOpen(u"frmGlobalSettings"_s));
+    }
+    EXPECT_EQ(runs, 0);
 }
 
 TEST_F(FormsTest, AnUnknownFormIsAFault) {
@@ -252,6 +290,22 @@ TEST_F(FormsTest, AMessageWithoutATitleCarriesTheProgramsName) {
     app->ShowMessage(u"words"_s, u"A title"_s);
     EXPECT_EQ(dialogs.messages, (QStringList{u"Quillmere: words"_s, u"A title: words"_s}));
     EXPECT_EQ(dialogs.MessageCount(), 2);
+}
+
+// A Return that was meant for something else says nothing that can't be taken back.
+TEST(Question, HasNoAsItsDefaultUnlessItCanBeCancelled) {
+    DesktopDialogs dialogs;
+    const auto answerByReturn = [&](Dialogs::Buttons buttons) {
+        QTimer::singleShot(0, [] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QApplication::sendEvent(box, &press);
+        });
+        return dialogs.ShowMessage(u"Are you sure?"_s, {}, buttons);
+    };
+    EXPECT_EQ(answerByReturn(Dialogs::Buttons::YesNo), Dialogs::Answer::No);
+    EXPECT_EQ(answerByReturn(Dialogs::Buttons::YesNoCancel), Dialogs::Answer::Yes);
 }
 
 TEST(FileFilter, IsTranslatedForTheFileDialog) {

@@ -5,6 +5,7 @@
 #include "shell/Look.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -54,9 +55,8 @@ TEST_F(MainWindowTest, ComesUpLoadedAndTitled) {
 TEST_F(MainWindowTest, MenuBarAndStatusLineHaveOneBackground) {
     ApplyLook(*qApp);
     const QColor bar = QColor::fromRgb(0xE9, 0xE9, 0xED);
-    for (QWidget* widget :
-         {static_cast<QWidget*>(window->findChild<QMenuBar*>()), Named<QWidget>("fraFoot"),
-          Named<QWidget>("lblStatus")}) {
+    for (QWidget* widget : {static_cast<QWidget*>(window->findChild<QMenuBar*>()), Named<QWidget>("fraFoot"),
+                            Named<QWidget>("lblStatus")}) {
         const QImage picture = widget->grab().toImage();
         EXPECT_EQ(picture.pixelColor(picture.width() - 2, picture.height() / 2).name(), bar.name());
     }
@@ -200,15 +200,42 @@ TEST_F(WindowTest, ATabThatIsShownFirstLaterDoesNotPushThePage) {
     EXPECT_EQ(tabs->width(), width);
 }
 
-// A start asks for a category while its box is ticked, and the account's categories can be fetched.
-TEST_F(MainWindowTest, TheCategoryIsShownAndSaysWhatItIsGoodFor) {
-    ASSERT_NE(Named<QComboBox>("cboFRCategories"), nullptr);
+TEST_F(MainWindowTest, TheOptionsOfARequestAreShownAndSayWhatTheyAreGoodFor) {
     EXPECT_NE(Named<QToolButton>("piccmdFRRefreshCategories"), nullptr);
-    for (const char* name : {"chkFRAddToCategory", "cboFRCategories"})
-        EXPECT_EQ(Named<QWidget>(name)->toolTip(), u"This setting appears on the friend request page"_s);
+    for (const char* name : {"chkFRNote", "txtFRNote", "chkFRFullName", "chkFRAddToUpdates",
+                             "chkFRAddToCategory", "cboFRCategories"})
+        EXPECT_EQ(Named<QWidget>(name)->toolTip(), u"This setting appears on the friend request page"_s)
+            << name;
+    EXPECT_EQ(Named<QWidget>("chkFrSendMessage")->toolTip(),
+              u"Uses the message specified on the 'Auto Messenger' tab"_s);
+}
+
+TEST_F(MainWindowTest, TheMessageBehindARequestStaysOffWhileNoneCanBeSent) {
+    auto* message = Named<QCheckBox>("chkFrSendMessage");
+    EXPECT_TRUE(message->text().endsWith(u"(not yet)"_s));
+    message->click();
+    EXPECT_FALSE(message->isChecked());
+    EXPECT_EQ(dialogs.messages.size(), 1);
+    // What another version has stored can be taken away.
+    app->controls.SetTicked("chkFrSendMessage"_L1, true);
+    message->click();
+    EXPECT_FALSE(message->isChecked());
+    EXPECT_EQ(dialogs.messages.size(), 1);
+    Count("picCmdMsgSend_Click");
+    message->click();
+    EXPECT_TRUE(message->isChecked());
+}
+
+TEST_F(MainWindowTest, LaterErrorsHaveALineOnlyWhenThereIsOne) {
+    auto* errors = Named<QLabel>("lblLaterErrors");
+    EXPECT_TRUE(errors->isHidden());
+    app->controls.SetText("lblLaterErrors"_L1, u"Another error at 10:00:00: Overflow"_s);
+    EXPECT_FALSE(errors->isHidden());
 }
 
 TEST_F(MainWindowTest, TheLimitSaysWhatADayCounts) {
+    EXPECT_EQ(Named<QLineEdit>("txtFriendRequestsToSend")->toolTip(),
+              u"Leave blank to send an unlimited number of requests"_s);
     EXPECT_EQ(
         Named<QComboBox>("cboFRPerDayOrSession")->toolTip(),
         u"If you select \"per day\" then QLM takes all your sending activity into account and ensures you "
@@ -222,8 +249,7 @@ TEST_F(MainWindowTest, EveryWayOfGatheringIsShown) {
 }
 
 TEST_F(MainWindowTest, OptionsWithoutEffectAreNotShown) {
-    for (const char* name : {"chkFRNote", "chkFRFullName", "mnuBackup"})
-        EXPECT_EQ(Named<QObject>(name), nullptr) << name;
+    EXPECT_EQ(Named<QObject>("mnuBackup"), nullptr);
 }
 
 } // namespace qlm
