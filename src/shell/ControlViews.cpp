@@ -43,6 +43,13 @@ std::function<void(const QString&)> CaptionOf(QAbstractButton& button) {
     };
 }
 
+// Tab stops at the chosen option of a group; where none is chosen, at each.
+void SettleTabStops(const QButtonGroup& group) {
+    for (QAbstractButton* option : group.buttons())
+        option->setFocusPolicy(!group.checkedButton() || option->isChecked() ? Qt::StrongFocus
+                                                                             : Qt::ClickFocus);
+}
+
 void ShowLabel(QLabel& label, const QString& text) {
     label.setText(text);
     if (label.property("hideWhenEmpty").toBool())
@@ -138,13 +145,14 @@ ControlBinder::Show ControlBinder::ViewOfTick(QAbstractButton& button, QLatin1St
             showCaption(control.text);
         if (change != Change::Ticked)
             return;
-        // A group that excludes doesn't let its last button go, and one that doesn't is no stop of the Tab
-        // key's own, at the chosen button.
-        if (group && !control.ticked)
+        // A group that excludes would not let its last button go.
+        if (group)
             group->setExclusive(false);
         button.setChecked(control.ticked);
-        if (group)
+        if (group) {
             group->setExclusive(true);
+            SettleTabStops(*group);
+        }
     };
 }
 

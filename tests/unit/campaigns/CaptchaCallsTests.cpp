@@ -116,6 +116,7 @@ protected:
 };
 
 TEST_F(MessagingCaptchaTest, ACaptchaCallsTheUserOnce) {
+    TickAll(false);
     Show(u"Type the two words:"_s);
     app->captchaCalls->MessagingCAPTCHAReached();
     EXPECT_EQ(platform->Attention().calls, QStringList{u"flash"_s});

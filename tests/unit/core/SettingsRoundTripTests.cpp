@@ -44,7 +44,7 @@ protected:
             else if (!row.group[0] && IsTick(Inputs()[name]))
                 Inputs().SetTicked(name, !row.ticked);
             else if (!row.group[0])
-                Inputs().SetText(name, u"other "_s + name);
+                Inputs().SetText(name, OtherText(row));
         }
     }
     void Exit() { app->mainForm->Form_Unload(); }

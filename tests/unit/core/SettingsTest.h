@@ -53,6 +53,10 @@ protected:
                control.type == ControlType::MenuItem;
     }
     Controls& Inputs() { return app->controls; }
+    // Such as the control may hold and doesn't start with.
+    static QString OtherText(const ControlRow& row) {
+        return row.choices ? row.choices().at(1) : u"other "_s + QLatin1StringView(row.name);
+    }
 };
 
 } // namespace qlm

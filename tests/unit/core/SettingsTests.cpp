@@ -80,11 +80,6 @@ TEST_F(SettingsTest, NothingButTheKnownKeysIsStored) {
             EXPECT_TRUE(known[section].contains(key)) << section.toStdString() << " " << key.toStdString();
 }
 
-// None that the control starts with.
-QString OtherText(const ControlRow& row) {
-    return row.choices ? row.choices().at(1) : u"other "_s + QLatin1StringView(row.name);
-}
-
 TEST_F(SettingsTest, ATextThatIsNoneOfItsChoicesLeavesTheBoxAsItStands) {
     int boxes = 0;
     for (const ControlRow& row : Controls::Table()) {

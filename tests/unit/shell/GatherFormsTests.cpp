@@ -86,15 +86,13 @@ TEST_F(GatherFormsTest, TheTabSaysWhatEachOfItsControlsDoes) {
 }
 
 TEST_F(GatherFormsTest, TheTabIsWorkedThroughByTheKeyboardFromTopToBottom) {
-    EXPECT_EQ(TabOrder(*Tab()),
-              (QStringList{u"piccmdFrGotoBrowse"_s,       u"piccmdFrGotoFriends"_s, u"piccmdFrGotoComments"_s,
-                           u"optScanCurrentPage"_s,       u"optScanFollowing"_s,    u"optScanGoogle"_s,
-                           u"optImportClickedProfiles"_s, u"optQuickGather"_s,      u"optFullGather"_s,
-                           u"lblFullGatherHelp"_s,        u"picScanStart"_s,        u"picScanStop"_s,
-                           u"picFilterOptions"_s,         u"lstFriendIDs"_s,        u"picRandomize"_s,
-                           u"piccmdClearList"_s,          u"picImport"_s,           u"picSaveToFile"_s,
-                           u"piccmdBlackList"_s,          u"picRemoveFriends"_s,    u"chkSaveScanned"_s,
-                           u"chkRemoveAfterSent"_s}));
+    EXPECT_EQ(
+        TabOrder(*Tab()),
+        (QStringList{u"piccmdFrGotoBrowse"_s, u"piccmdFrGotoFriends"_s, u"piccmdFrGotoComments"_s,
+                     u"optScanFollowing"_s, u"optQuickGather"_s, u"lblFullGatherHelp"_s, u"picScanStart"_s,
+                     u"picScanStop"_s, u"picFilterOptions"_s, u"lstFriendIDs"_s, u"picRandomize"_s,
+                     u"piccmdClearList"_s, u"picImport"_s, u"picSaveToFile"_s, u"piccmdBlackList"_s,
+                     u"picRemoveFriends"_s, u"chkSaveScanned"_s, u"chkRemoveAfterSent"_s}));
 }
 
 TEST_F(GatherFormsTest, TheFilterWindowSaysWhatItFiltersBy) {
