@@ -10,15 +10,18 @@ add_library(quillmere_logic STATIC
     core/Controls.cpp
     core/ControlsTable.cpp
     core/Deployment.cpp
+    core/Descriptor.cpp
     core/Diagnostics.cpp
     core/FileSystem.cpp
     core/GlobalSettings.cpp
     core/IdList.cpp
     core/IniFile.cpp
+    core/LineReader.cpp
     core/LineSearch.cpp
     core/MainForm.cpp
     core/PasswordMask.cpp
     core/ProductServer.cpp
+    core/ProfileLock.cpp
     core/Registry.cpp
     core/SettingsFields.cpp
     core/StartUp.cpp

@@ -73,7 +73,12 @@ void LogDialog::cmdExportLog_Click() {
 
 void LogDialog::cmdImportLog_Click() {
     const QString chosen = m_app.platform.Dialogs().ChooseFileToOpen(u"Import Log"_s, TextFiles);
-    if (!chosen.isEmpty())
+    if (chosen.isEmpty())
+        return;
+    if (m_app.files.IsIllegible(chosen))
+        m_app.ShowMessage(u"This file is written in UTF-16 (\"Unicode\"): nobody in it would be recognised. "
+                          "Please save it as plain text (ANSI or UTF-8) first."_s);
+    else
         m_app.files.CopyFile(chosen, m_path);
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/ReportRows.h"
 
-#include <QHash>
 #include <vector>
 
 namespace qlm {
@@ -53,56 +52,6 @@ QString Quoted(const QString& field) {
     return plain ? field : u'"' + QString(field).replace(u'"', u"\"\""_s) + u'"';
 }
 
-// Takes the lines of a file in, one after the other.
-class Reader {
-public:
-    void Take(const QString& line) {
-        const QStringList fields = line.split(u'\t');
-        if (fields.size() < 3 || fields.constLast() != Mark)
-            return;
-        if (fields.size() == 4 && fields[0] == RunWord)
-            Begin({fields[1], fields[2], {}, {}, {}});
-        else if (m_runs.isEmpty())
-            return;
-        else if (fields.size() == 4 && fields[0] == EndWord)
-            End(fields[1], fields[2]);
-        else if (fields.size() == 5 && fields[0] == BegunWord)
-            Put({fields[1].toInt(), fields[2], fields[3], ReportResult::Unfinished, 0, {}});
-        else if (fields.size() == 7)
-            TakeResult(fields);
-    }
-    QList<ReportedRun> Runs() const { return m_runs; }
-
-private:
-    void Begin(const ReportedRun& run) {
-        m_runs.append(run);
-        m_places.clear();
-    }
-    void End(const QString& time, const QString& how) {
-        m_runs.last().ended = time;
-        m_runs.last().how = how;
-    }
-    void TakeResult(const QStringList& fields) {
-        for (const ResultName& name : ResultNames())
-            if (fields[0] == name.word)
-                Put({fields[1].toInt(), fields[2], fields[3], name.result, fields[4].toInt(), fields[5]});
-    }
-    // A line that was written a second time, since the first came to a torn end, takes its place.
-    void Put(const ReportRow& row) {
-        QList<ReportRow>& rows = m_runs.last().rows;
-        const auto known = m_places.constFind(row.number);
-        if (known == m_places.constEnd()) {
-            m_places.insert(row.number, rows.size());
-            rows.append(row);
-        } else {
-            rows[*known] = row;
-        }
-    }
-
-    QList<ReportedRun> m_runs;
-    QHash<int, qsizetype> m_places; // of the last run's rows, by number
-};
-
 } // namespace
 
 QString ResultText(ReportResult result) {
@@ -126,12 +75,56 @@ QString EndLine(const QString& time, const QString& how) {
     return Line({EndWord, time, how});
 }
 
-bool IsRunLine(const QString& line) {
-    return line.startsWith(RunWord + u'\t') && line.endsWith(u'\t' + Mark);
+bool IsRunLine(QByteArrayView line) {
+    return line.startsWith("run\t") && line.endsWith("\t.");
+}
+
+void ReportReader::Take(const QString& line) {
+    const QStringList fields = line.split(u'\t');
+    if (fields.size() < 3 || fields.constLast() != Mark)
+        return;
+    if (fields.size() == 4 && fields[0] == RunWord)
+        Begin({fields[1], fields[2], {}, {}, {}});
+    else if (m_runs.isEmpty())
+        return;
+    else if (fields.size() == 4 && fields[0] == EndWord)
+        End(fields[1], fields[2]);
+    else if (fields.size() == 5 && fields[0] == BegunWord)
+        Put({fields[1].toInt(), fields[2], fields[3], ReportResult::Unfinished, 0, {}});
+    else if (fields.size() == 7)
+        TakeResult(fields);
+}
+
+void ReportReader::Begin(const ReportedRun& run) {
+    m_runs.append(run);
+    m_places.clear();
+}
+
+void ReportReader::End(const QString& time, const QString& how) {
+    m_runs.last().ended = time;
+    m_runs.last().how = how;
+}
+
+void ReportReader::TakeResult(const QStringList& fields) {
+    for (const ResultName& name : ResultNames())
+        if (fields[0] == name.word)
+            Put({fields[1].toInt(), fields[2], fields[3], name.result, fields[4].toInt(), fields[5]});
+}
+
+// A line that was written a second time, since the first came to a torn end, takes its place.
+void ReportReader::Put(const ReportRow& row) {
+    QList<ReportRow>& rows = m_runs.last().rows;
+    const auto known = m_places.constFind(row.number);
+    if (known == m_places.constEnd()) {
+        m_places.insert(row.number, rows.size());
+        rows.append(row);
+    } else {
+        rows[*known] = row;
+    }
 }
 
 QList<ReportedRun> RunsIn(const QStringList& lines) {
-    Reader reader;
+    ReportReader reader;
     for (const QString& line : lines)
         reader.Take(line);
     return reader.Runs();

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -46,7 +48,24 @@ QString RunLine(const QString& time, const QString& account);
 QString BegunLine(const ReportRow& row);
 QString ResultLine(const ReportRow& row);
 QString EndLine(const QString& time, const QString& how);
-bool IsRunLine(const QString& line);
+bool IsRunLine(QByteArrayView line);
+
+// Takes the lines of a file in, one after the other.
+class ReportReader {
+public:
+    void Take(const QString& line);
+    // Oldest first.
+    QList<ReportedRun> Runs() const { return m_runs; }
+
+private:
+    void Begin(const ReportedRun& run);
+    void End(const QString& time, const QString& how);
+    void TakeResult(const QStringList& fields);
+    void Put(const ReportRow& row);
+
+    QList<ReportedRun> m_runs;
+    QHash<int, qsizetype> m_places; // of the last run's rows, by number
+};
 
 // The runs of a file, oldest first.
 QList<ReportedRun> RunsIn(const QStringList& lines);

@@ -2,8 +2,11 @@
 #include "campaigns/RunReport.h"
 
 #include "campaigns/SentLog.h"
+#include "core/AnsiText.h"
 #include "core/App.h"
+#include "core/LineReader.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace qlm {
@@ -13,6 +16,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr qsizetype KeptRuns = 20;
+// Of the runs before the last as many as fit: the report is read at once when its window opens.
+constexpr qint64 LargestReport = 8 << 20;
+constexpr qsizetype PartBytes = 1 << 18;
 constexpr qsizetype PassedOverAtOnce = 100;
 
 // What a reason of StopAll means to the user, and what it makes of the target that is being worked on.
@@ -43,6 +49,38 @@ EndRow RowFor(const QString& reason) {
     return {{}, "The run was ended", ReportResult::Unfinished, "The run was ended"};
 }
 
+// How many runs at the file's beginning are too many.
+qsizetype RunsTooMany(const QString& path, qsizetype mostRuns) {
+    QList<qint64> sizes;
+    LineReader reader(path);
+    while (const auto line = reader.Next()) {
+        if (IsRunLine(*line))
+            sizes.append(0);
+        if (!sizes.isEmpty())
+            sizes.last() += line->size() + 2;
+    }
+    qint64 bytes = 0;
+    qsizetype kept = 0;
+    while (kept < std::min(sizes.size(), mostRuns)) {
+        bytes += sizes[sizes.size() - 1 - kept];
+        if (kept > 0 && bytes > LargestReport)
+            break;
+        ++kept;
+    }
+    return sizes.size() - kept;
+}
+
+// The next line of the runs behind the first so many.
+std::optional<QByteArrayView> NextBehind(LineReader& reader, qsizetype& runsToLeave) {
+    auto line = reader.Next();
+    while (line && runsToLeave >= 0) {
+        if (IsRunLine(*line) && --runsToLeave < 0)
+            break;
+        line = reader.Next();
+    }
+    return line;
+}
+
 } // namespace
 
 QString RunReport::Path() {
@@ -70,14 +108,20 @@ void RunReport::DropOldRuns() {
     Diagnostics::IgnoreErrors([this] {
         if (!m_app.files.FileExists(m_path))
             return;
-        const QStringList lines = m_app.files.ReadLines(m_path);
-        QList<qsizetype> begins;
-        for (qsizetype i = 0; i < lines.size(); ++i)
-            if (IsRunLine(lines[i]))
-                begins.append(i);
-        if (begins.size() >= KeptRuns)
-            m_app.files.WriteLines(m_path, lines.mid(begins[begins.size() - KeptRuns + 1]),
-                                   Readers::OwnerAlone);
+        qsizetype toLeave = RunsTooMany(m_path, KeptRuns - 1);
+        if (toLeave == 0)
+            return;
+        LineReader reader(m_path);
+        const auto nextPart = [&](QByteArray& part) {
+            while (part.size() < PartBytes) {
+                const auto line = NextBehind(reader, toLeave);
+                if (!line)
+                    return false;
+                part.append(*line).append("\r\n");
+            }
+            return true;
+        };
+        m_app.files.WriteParts(m_path, nextPart, Readers::OwnerAlone, Durability::Quick);
     });
 }
 
@@ -161,13 +205,18 @@ void RunReport::Changed() const {
 
 QList<ReportedRun> RunReport::Runs() {
     const QString path = m_running ? m_path : Path();
-    QStringList lines;
-    if (m_app.files.FileExists(path))
-        lines = m_app.files.ReadLines(path);
+    ReportReader report;
+    if (m_app.files.FileExists(path)) {
+        qsizetype toLeave = RunsTooMany(path, KeptRuns);
+        LineReader reader(path);
+        while (const auto line = NextBehind(reader, toLeave))
+            report.Take(FromAnsi(*line));
+    }
     // Another account's report has nothing to do with what this one could not write.
     if (path == m_path)
-        lines += m_lines;
-    return RunsIn(lines);
+        for (const QString& line : m_lines)
+            report.Take(line);
+    return report.Runs();
 }
 
 } // namespace qlm

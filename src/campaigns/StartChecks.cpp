@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/StartChecks.h"
 
+#include "campaigns/SentLog.h"
 #include "content/ContentLists.h"
 #include "core/App.h"
 #include "core/MainForm.h"
@@ -43,6 +44,14 @@ bool ListIsShuffled(const App& app) {
 
 bool ListIsEmpty(const App& app) {
     return app.controls.Items("lstFriendIDs"_L1).isEmpty();
+}
+
+// A log that can't be opened counts as empty, and the run tells; one that can be and says nothing would have
+// everybody asked again without a word.
+bool LogIsIllegible(const App& app) {
+    bool isIllegible = false;
+    Diagnostics::IgnoreErrors([&] { isIllegible = app.files.IsIllegible(app.sentLog->PathFor(u"FR"_s)); });
+    return isIllegible;
 }
 
 bool SendsMessageBehind(const App& app) {
@@ -131,6 +140,10 @@ const std::vector<StartCheck>& FriendRequestChecks() {
          u"You have selected to send a message after each friend request, but this version of Quillmere has "
          u"no "
          u"Auto Messenger yet. No friend requests have been sent."},
+        {LogIsIllegible,
+         u"The log of everybody you have asked is written in UTF-16 (\"Unicode\"). Nobody in it would be "
+         u"recognised, and all would be asked again. Please save it as plain text (ANSI or UTF-8), or clear "
+         u"it."},
     };
     return rows;
 }

@@ -2,6 +2,8 @@
 #include "core/FileSystem.h"
 
 #include "core/AnsiText.h"
+#include "core/Descriptor.h"
+#include "core/LineReader.h"
 #include "platform/Platform.h"
 
 #include <QDir>
@@ -20,41 +22,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-[[noreturn]] void Fail(const char* what, const QString& path) {
-    throw FileError(std::string(what) + " \"" + path.toStdString() + "\": " + std::strerror(errno));
-}
-
-class Descriptor {
-public:
-    Descriptor(const QString& path, int flags, mode_t mode)
-        : m_number(open(QFile::encodeName(path), flags, mode)) {
-        if (m_number < 0)
-            Fail("Cannot open", path);
-    }
-    ~Descriptor() {
-        if (m_number >= 0)
-            close(m_number);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    int Number() const { return m_number; }
-    void Sync(const QString& path) const {
-        // A folder on some file systems cannot be synced; that is no failure of the write.
-        if (fsync(m_number) != 0 && errno != EINVAL && errno != EROFS)
-            Fail("Cannot write", path);
-    }
-
-private:
-    int m_number;
-};
+// Nothing of the program's is as big, and all of it would be in memory at once.
+constexpr qint64 LargestWhole = 256 * 1024 * 1024;
 
 mode_t ModeFor(Readers readers) {
     return readers == Readers::OwnerAlone ? 0600 : 0644;
-}
-
-void SyncFolderOf(const QString& path) {
-    const QString folder = QFileInfo(path).absolutePath();
-    Descriptor(folder, O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0).Sync(folder);
 }
 
 QByteArray LinesToBytes(const QStringList& lines) {
@@ -95,14 +67,20 @@ bool FileSystem::FolderExists(const QString& path) const {
 void FileSystem::Refuse(const QString& path) const {
     if (m_gate && m_gate->IsReadOnly(path)) {
         errno = EACCES;
-        Fail("Cannot write", path);
+        FailFile("Cannot write", path);
     }
 }
 
 void FileSystem::CreateFolder(const QString& path) {
     Refuse(path);
+    if (FolderExists(path))
+        return;
+    const QString parent = QFileInfo(path).absolutePath();
+    if (parent != QDir::cleanPath(path))
+        CreateFolder(parent);
     if (!QDir().mkpath(path))
-        Fail("Cannot create the folder", path);
+        FailFile("Cannot create the folder", path);
+    SyncFolderOf(path);
 }
 
 void FileSystem::EnsureFile(const QString& path, Readers readers) {
@@ -110,7 +88,8 @@ void FileSystem::EnsureFile(const QString& path, Readers readers) {
         return;
     CreateFolder(QFileInfo(path).absolutePath());
     Refuse(path);
-    const Descriptor created(path, O_WRONLY | O_CREAT | O_CLOEXEC, ModeFor(readers));
+    const Descriptor created(path, O_WRONLY | O_CREAT, ModeFor(readers));
+    SyncFolderOf(path);
 }
 
 void FileSystem::CloseToOthers(const QString& path) {
@@ -118,7 +97,7 @@ void FileSystem::CloseToOthers(const QString& path) {
     const QByteArray name = QFile::encodeName(path);
     if (stat(name, &status) == 0 && (status.st_mode & 077) != 0 && status.st_uid == geteuid() &&
         chmod(name, status.st_mode & 0700) != 0)
-        Fail("Cannot protect", path);
+        FailFile("Cannot protect", path);
 }
 
 void FileSystem::CreateFile(const QString& path, Readers readers) {
@@ -129,52 +108,47 @@ void FileSystem::CreateFile(const QString& path, Readers readers) {
 void FileSystem::DeleteFile(const QString& path) {
     Refuse(path);
     if (FileExists(path) && unlink(QFile::encodeName(path)) != 0)
-        Fail("Cannot delete", path);
+        FailFile("Cannot delete", path);
 }
 
 QByteArray FileSystem::ReadBytes(const QString& path) const {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw FileError("Cannot open \"" + path.toStdString() + "\": " + file.errorString().toStdString());
-    return file.readAll();
+    const Descriptor file(path, O_RDONLY);
+    if (file.Size() > LargestWhole)
+        throw FileError("Cannot read \"" + path.toStdString() + "\": it is too big");
+    QByteArray bytes(file.Size(), Qt::Uninitialized);
+    bytes.resize(file.Read(bytes.data(), bytes.size()));
+    return bytes;
+}
+
+bool FileSystem::IsIllegible(const QString& path) const {
+    if (!FileExists(path))
+        return false;
+    char beginning[4];
+    const Descriptor file(path, O_RDONLY);
+    return LooksLikeUtf16(QByteArrayView(beginning, file.Read(beginning, sizeof beginning)));
 }
 
 QStringList FileSystem::ReadLines(const QString& path) const {
     QStringList lines;
-    ForEachLine(path, [&lines](QByteArrayView line) {
-        lines.append(FromAnsi(line));
-        return true;
-    });
+    qint64 left = LargestWhole;
+    LineReader reader(path);
+    while (const auto line = reader.Next()) {
+        left -= line->size();
+        if (left < 0)
+            throw FileError("Cannot read \"" + path.toStdString() + "\": it is too big");
+        lines.append(FromAnsi(*line));
+    }
+    if (reader.PassedOver() > 0)
+        throw FileError("Cannot read \"" + path.toStdString() +
+                        "\": it holds a line of more than a megabyte");
     return lines;
 }
 
 void FileSystem::ForEachLine(const QString& path, const std::function<bool(QByteArrayView)>& visit) const {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        throw FileError("Cannot open \"" + path.toStdString() + "\": " + file.errorString().toStdString());
-    constexpr qint64 ChunkBytes = 1 << 18;
-    qint64 left = file.size(); // what is added meanwhile is not visited
-    QByteArray data;           // begins at a line
-    auto give = [&visit](QByteArrayView line) { return visit(line.endsWith('\r') ? line.chopped(1) : line); };
-    while (true) {
-        const QByteArray chunk = file.read(std::min(ChunkBytes, left));
-        if (chunk.isEmpty())
-            break;
-        left -= chunk.size();
-        const qsizetype searched = data.size();
-        data += chunk;
-        qsizetype start = 0;
-        for (qsizetype end = data.indexOf('\n', searched); end >= 0; end = data.indexOf('\n', start)) {
-            if (!give(QByteArrayView(data).sliced(start, end - start)))
-                return;
-            start = end + 1;
-        }
-        // A line longer than the chunk stays where it is and grows.
-        if (start > 0)
-            data = data.mid(start);
-    }
-    if (!data.isEmpty())
-        give(data);
+    LineReader reader(path);
+    while (const auto line = reader.Next())
+        if (!visit(*line))
+            return;
 }
 
 void FileSystem::WriteAll(int descriptor, const QByteArray& bytes, const QString& path) {
@@ -185,7 +159,7 @@ void FileSystem::WriteAll(int descriptor, const QByteArray& bytes, const QString
         if (written < 0 && errno == EINTR)
             continue;
         if (written < 0)
-            Fail("Cannot write", path);
+            FailFile("Cannot write", path);
         done += written;
     }
     if (allowed < bytes.size())
@@ -204,12 +178,15 @@ void FileSystem::AppendLines(const QString& path, const QStringList& lines) {
 void FileSystem::Append(const QString& path, QByteArray bytes, Readers readers, Durability durability) {
     CreateFolder(QFileInfo(path).absolutePath());
     Refuse(path);
-    const Descriptor file(path, O_RDWR | O_CREAT | O_APPEND | O_CLOEXEC, ModeFor(readers));
+    const bool isNew = !FileExists(path);
+    const Descriptor file(path, O_RDWR | O_CREAT | O_APPEND, ModeFor(readers));
     if (EndsInsideLine(file.Number()))
         bytes.prepend("\r\n");
     WriteAll(file.Number(), bytes, path);
     if (durability == Durability::Synced)
-        file.Sync(path);
+        Sync(file, path);
+    if (durability == Durability::Synced && isNew)
+        SyncFolderOf(path);
 }
 
 void FileSystem::WriteLines(const QString& path, const QStringList& lines, Readers readers) {
@@ -229,27 +206,49 @@ void FileSystem::WriteBytes(const QString& path, const QByteArray& bytes, Reader
 void FileSystem::WriteParts(const QString& path, const std::function<bool(QByteArray&)>& nextPart,
                             Readers readers, Durability eachPart) {
     Refuse(path);
+    if (QFileInfo::exists(path) && !FileExists(path))
+        throw FileError("Cannot write \"" + path.toStdString() + "\": it is not an ordinary file");
     const QString temporary = path + u".new"_s;
     // What an earlier end has left there may stand open to others.
     unlink(QFile::encodeName(temporary));
     auto undo = qScopeGuard([&temporary] { unlink(QFile::encodeName(temporary)); });
     {
-        const Descriptor file(temporary, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, ModeFor(readers));
+        const Descriptor file(temporary, O_WRONLY | O_CREAT | O_TRUNC, ModeFor(readers));
         for (bool more = true; more;) {
             QByteArray part;
             more = nextPart(part);
             WriteAll(file.Number(), part, temporary);
             if (eachPart == Durability::Synced || !more)
-                file.Sync(temporary);
+                Sync(file, temporary);
         }
     }
     Replace(temporary, path);
     undo.dismiss();
 }
 
+void FileSystem::Sync(const Descriptor& file, const QString& path) const {
+    if (m_gate && !m_gate->AllowSync(path)) {
+        errno = EIO;
+        FailFile("Cannot write", path);
+    }
+    // A folder on some file systems cannot be synced; that is no failure of the write.
+    if (fsync(file.Number()) != 0 && errno != EINVAL && errno != EROFS)
+        FailFile("Cannot write", path);
+}
+
+// What stands in a folder is the folder's: a new name in it lasts when the folder is synced.
+void FileSystem::SyncFolderOf(const QString& path) const {
+    const QString folder = QFileInfo(path).absolutePath();
+    Sync(Descriptor(folder, O_RDONLY | O_DIRECTORY), folder);
+}
+
 void FileSystem::Replace(const QString& temporary, const QString& path) {
+    if (m_gate && !m_gate->AllowReplace(path)) {
+        errno = EIO;
+        FailFile("Cannot replace", path);
+    }
     if (rename(QFile::encodeName(temporary), QFile::encodeName(path)) != 0)
-        Fail("Cannot replace", path);
+        FailFile("Cannot replace", path);
     SyncFolderOf(path);
 }
 
@@ -262,7 +261,7 @@ bool FileSystem::IsWritable(const QString& folder, const QString& testFileName) 
     try {
         DeleteFile(path);
         Refuse(path);
-        const Descriptor created(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+        const Descriptor created(path, O_WRONLY | O_CREAT | O_TRUNC, 0644);
         DeleteFile(path);
         return true;
     } catch (const FileError&) {

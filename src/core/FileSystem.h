@@ -9,6 +9,7 @@
 
 namespace qlm {
 
+class Descriptor;
 class WriteGate;
 
 // A file that could not be read or written; the text names what failed and the path.
@@ -22,8 +23,9 @@ enum class Readers { Everyone, OwnerAlone };
 enum class Durability { Synced, Quick };
 
 // All file access of the program. Files are opened, used and closed within one call. Text files are
-// Windows-1252 with CR LF ends; LF ends are read too. Every member throws FileError when it cannot do what it
-// says.
+// Windows-1252 with CR LF ends; LF and CR ends are read too, and a mark for UTF-8 at the start is passed
+// over. Text in UTF-16 and whatever is no ordinary file is an error. Every member throws FileError when it
+// cannot do what it says.
 //
 // Appending is one write of whole lines, synced; a line that a power cut left unfinished is closed first, so
 // that nothing is ever glued to it. Rewriting leaves either the old or the new file whole, at whatever byte
@@ -43,11 +45,15 @@ public:
     void CreateFile(const QString& path, Readers readers = Readers::Everyone);
     void DeleteFile(const QString& path);
 
+    // All lines, for a file that may be written back: one of more than a megabyte is an error.
     QStringList ReadLines(const QString& path) const;
     // Line by line from the start, without the line end, as bytes on disk; stops when visit answers false.
-    // The lines of the moment of the call: visit may append to the file.
+    // The lines of the moment of the call: visit may append to the file. A line of more than a megabyte is
+    // none of the program's and passed over.
     void ForEachLine(const QString& path, const std::function<bool(QByteArrayView line)>& visit) const;
     QByteArray ReadBytes(const QString& path) const;
+    // A file that can be read and holds text in another encoding than the program's: UTF-16.
+    bool IsIllegible(const QString& path) const;
 
     void AppendLine(const QString& path, const QString& line, Readers readers = Readers::Everyone,
                     Durability durability = Durability::Synced);
@@ -71,6 +77,8 @@ public:
 
 private:
     void Append(const QString& path, QByteArray bytes, Readers readers, Durability durability);
+    void Sync(const Descriptor& file, const QString& path) const;
+    void SyncFolderOf(const QString& path) const;
     void Replace(const QString& temporary, const QString& path);
     void Refuse(const QString& path) const;
     void WriteAll(int descriptor, const QByteArray& bytes, const QString& path);

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "core/LineSearch.h"
 
-#include "core/FileSystem.h"
+#include "core/LineReader.h"
 
-#include <QFile>
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <fcntl.h>
+#include <utility>
 
 namespace qlm {
 
@@ -13,21 +15,25 @@ namespace {
 
 constexpr qsizetype ChunkBytes = 1 << 18;
 
+bool IsLineEnd(char byte) {
+    return byte == '\n' || byte == '\r';
+}
+
 bool IsBlank(char byte) {
-    return byte == ' ' || (byte >= '\t' && byte <= '\r' && byte != '\n');
+    return byte == ' ' || (byte >= '\t' && byte < '\r' && byte != '\n');
 }
 
 // Nothing but blanks between the place and the end of its line.
 bool EndsLine(QByteArrayView text, qsizetype place) {
     while (place < text.size() && IsBlank(text[place]))
         ++place;
-    return place == text.size() || text[place] == '\n';
+    return place == text.size() || IsLineEnd(text[place]);
 }
 
 bool BeginsLine(QByteArrayView text, qsizetype place) {
     while (place > 0 && IsBlank(text[place - 1]))
         --place;
-    return place == 0 || text[place - 1] == '\n';
+    return place == 0 || IsLineEnd(text[place - 1]);
 }
 
 using Block = signed char __attribute__((vector_size(16)));
@@ -78,28 +84,40 @@ bool HoldsLine(QByteArrayView text, QByteArrayView wanted) {
     return false;
 }
 
+// Where the last line begins that text cuts in two: a bare CR counts where there is no LF.
+qsizetype WholeLines(QByteArrayView text) {
+    const qsizetype feeds = text.lastIndexOf('\n') + 1;
+    return feeds > 0 ? feeds : text.lastIndexOf('\r') + 1;
+}
+
 } // namespace
 
 bool FileHoldsLine(const QString& path, QByteArrayView wanted) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        throw FileError("Cannot open \"" + path.toStdString() + "\": " + file.errorString().toStdString());
+    const Descriptor file(path, O_RDONLY);
     if (wanted.isEmpty())
         return false;
     QByteArray buffer;
     qsizetype held = 0; // of a line that the last chunk has cut in two
+    bool isFirst = true;
     while (true) {
-        if (buffer.size() < held + ChunkBytes)
-            buffer.resize(held + ChunkBytes);
-        const qint64 read = file.read(buffer.data() + held, ChunkBytes);
-        const QByteArrayView text = QByteArrayView(buffer).first(held + std::max<qint64>(read, 0));
-        if (read <= 0)
+        buffer.resize(std::max(buffer.size(), held + ChunkBytes));
+        const qint64 read = file.Read(buffer.data() + held, ChunkBytes);
+        QByteArrayView text = QByteArrayView(buffer).first(held + read);
+        if (std::exchange(isFirst, false))
+            text = text.sliced(MarkLength(text, path));
+        if (read == 0)
             return HoldsLine(text, wanted);
-        const qsizetype whole = text.lastIndexOf('\n') + 1;
+        const qsizetype whole = WholeLines(text);
         if (HoldsLine(text.first(whole), wanted))
             return true;
         held = text.size() - whole;
-        std::memmove(buffer.data(), text.data() + whole, static_cast<size_t>(held));
+        if (held <= LineReader::LongestLine) {
+            std::memmove(buffer.data(), text.data() + whole, static_cast<size_t>(held));
+        } else {
+            // The rest of the line is no line of its own: what nobody looks for stands before it.
+            buffer[0] = '\0';
+            held = 1;
+        }
     }
 }
 

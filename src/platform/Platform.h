@@ -7,7 +7,8 @@
 
 namespace qlm {
 
-// Lets a test stop the process's file writes in the middle, as at a power cut.
+// Lets a test hear what the process does to its files, refuse it, and stop its writes in the middle, as at a
+// power cut.
 class WriteGate {
 public:
     virtual ~WriteGate() = default;
@@ -16,6 +17,10 @@ public:
     virtual qint64 Allow(qint64 bytes) = 0;
     // Called when a write was cut short: never returns to the writer.
     [[noreturn]] virtual void Cut() = 0;
+    // Called before a file or a folder is synced, and before a new file takes an older one's place; false
+    // refuses.
+    virtual bool AllowSync(const QString&) { return true; }
+    virtual bool AllowReplace(const QString&) { return true; }
     // True for a folder in which nothing can be created or written.
     virtual bool IsReadOnly(const QString& path) const = 0;
 };

@@ -2,6 +2,7 @@
 #include "platform/sim/SimServices.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace qlm {
 
@@ -111,6 +112,7 @@ void SimRandom::SetSeed(quint64 seed) {
 
 qint64 SimWriteGate::Allow(qint64 bytes) {
     ++writes;
+    log += u"write"_s;
     if (m_writesLeft < 0)
         return bytes;
     if (m_writesLeft > 1) {
@@ -125,6 +127,16 @@ qint64 SimWriteGate::Allow(qint64 bytes) {
 
 void SimWriteGate::Cut() {
     throw SimPowerCut();
+}
+
+bool SimWriteGate::AllowSync(const QString& path) {
+    log += u"sync "_s + QFileInfo(path).fileName();
+    return !refusesSyncs;
+}
+
+bool SimWriteGate::AllowReplace(const QString& path) {
+    log += u"replace "_s + QFileInfo(path).fileName();
+    return true;
 }
 
 bool SimWriteGate::IsReadOnly(const QString& path) const {

@@ -120,6 +120,8 @@ class SimWriteGate : public WriteGate {
 public:
     qint64 Allow(qint64 bytes) override;
     [[noreturn]] void Cut() override;
+    bool AllowSync(const QString& path) override;
+    bool AllowReplace(const QString& path) override;
     bool IsReadOnly(const QString& path) const override;
 
     // The Nth write from here, counted from 1, reaches the disk by half, and none after it.
@@ -127,6 +129,10 @@ public:
     void Mend() { m_writesLeft = -1; }
     QStringList readOnlyFolders;
     int writes = 0;
+    // In their order: "write", "sync NAME", "replace NAME"; NAME of a file or a folder without its path.
+    QStringList log;
+    // Syncs fail from here on, as those of a broken disk.
+    bool refusesSyncs = false;
 
 private:
     int m_writesLeft = -1; // -1: no end is set

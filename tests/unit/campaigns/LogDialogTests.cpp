@@ -65,7 +65,8 @@ TEST_F(LogDialogTest, EditingLooksFirstInTheCopyThatTheSystemKeepsOfTheFolder) {
     Show(u"FR"_s);
     QDir().mkpath(copy);
     Press(u"cmdEditLog"_s);
-    EXPECT_EQ(platform->Shell().opened, QStringList{u"file "_s + FileSystem::Join(copy, u"FriendsLog.txt"_s)});
+    EXPECT_EQ(platform->Shell().opened,
+              QStringList{u"file "_s + FileSystem::Join(copy, u"FriendsLog.txt"_s)});
     // A data folder is never redirected.
     app->state.ProgramFolder = world.dataFolder;
     Show(u"FR"_s);
@@ -85,6 +86,20 @@ TEST_F(LogDialogTest, ImportOverwritesWithoutMerging) {
     Press(u"cmdImportLog"_s);
     EXPECT_EQ(app->files.ReadLines(Path()), QStringList{u"3"_s});
     EXPECT_FALSE(app->files.FileExists(app->state.ErrorLogPath));
+}
+
+TEST_F(LogDialogTest, AnImportThatNobodyWouldBeRecognisedInIsRefused) {
+    Show(u"FR"_s);
+    app->files.WriteLines(Path(), {u"1"_s});
+    const QString other = folder.filePath(u"other.txt"_s);
+    app->files.WriteBytes(other, QByteArray("\xFF\xFE"
+                                            "3\0\r\0\n\0",
+                                            8));
+    dialogs.files = {other};
+    Press(u"cmdImportLog"_s);
+    EXPECT_EQ(app->files.ReadLines(Path()), QStringList{u"1"_s});
+    ASSERT_EQ(dialogs.messages.size(), 1U);
+    EXPECT_TRUE(dialogs.messages[0].text.contains(u"UTF-16"_s));
 }
 
 TEST_F(LogDialogTest, ExportOverwritesTheChosenFile) {

@@ -3,6 +3,8 @@
 #include "browser/PageClassTable.h"
 #include "campaigns/RunReport.h"
 
+#include <QFileInfo>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace qlm {
@@ -181,6 +183,25 @@ TEST_F(RunReportTest, OnlyTheLastTwentyRunsAreKept) {
     ASSERT_EQ(report.Runs().size(), 20);
     EXPECT_EQ(report.Runs().constFirst().rows[0].id, u"6"_s);
     EXPECT_EQ(report.Runs().constLast().rows[0].id, u"25"_s);
+}
+
+// A report of that size would be read for seconds, and held in memory, at the start of each run.
+TEST_F(RunReportTest, OldRunsThatAreTooBigGoAndTheLastOneStays) {
+    const QString why(900, u'x');
+    for (int run = 1; run <= 4; ++run) {
+        report.BeginRun();
+        for (int target = 1; target <= 5000; ++target)
+            report.PassOver(QString::number(target), why);
+        report.EndRun(u"IAF"_s);
+    }
+    EXPECT_LT(QFileInfo(report.Path()).size(), 15'000'000);
+    report.BeginRun();
+    EXPECT_LT(QFileInfo(report.Path()).size(), 10'000'000);
+    const QList<ReportedRun> runs = report.Runs();
+    ASSERT_EQ(runs.size(), 2);
+    EXPECT_EQ(runs[0].rows.size(), 5000);
+    EXPECT_EQ(runs[0].how, u"All targets were gone through"_s);
+    EXPECT_TRUE(runs[1].rows.isEmpty());
 }
 
 TEST_F(RunReportTest, ATornLastLineIsPassedOverAndTheNextRunStandsWhole) {

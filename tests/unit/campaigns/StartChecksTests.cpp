@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
+#include "campaigns/SentLog.h"
 #include "campaigns/StartChecks.h"
 #include "content/ContentLists.h"
 
@@ -276,6 +277,24 @@ TEST_F(StartChecksTest, TheEmptyListShowsTheGatherTab) {
     app->controls.SetItems("lstFriendIDs"_L1, {});
     Refusal();
     EXPECT_EQ(app->controls.Selected("TabStrip1"_L1), 0);
+}
+
+// Read as text of one byte a letter it would hold nobody, and everybody would be asked again.
+TEST_F(StartChecksTest, ALogInUtf16RefusesTheStartAndOneWithAMarkOrBareReturnsDoesNot) {
+    Idle();
+    const QString log = app->ProgramFile(u"FriendsLog.txt"_s);
+    app->files.WriteBytes(log, QByteArray("\xFF\xFE"
+                                          "1\0"
+                                          "0\0\r\0\n\0",
+                                          10));
+    EXPECT_TRUE(Refusal().startsWith(u"The log of everybody you have asked is written in UTF-16"_s));
+    app->files.WriteBytes(log, "\xEF\xBB\xBF"
+                               "10\r11\r");
+    EXPECT_EQ(Refusal(), QString());
+    app->state.CurrentAction = u"FR"_s;
+    app->state.blnCheckLog = true;
+    EXPECT_TRUE(app->sentLog->LogEntryExists(u"10"_s));
+    EXPECT_TRUE(app->sentLog->LogEntryExists(u"11"_s));
 }
 
 } // namespace

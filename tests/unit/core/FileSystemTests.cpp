@@ -6,7 +6,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 using namespace qlm;
 using namespace Qt::Literals::StringLiterals;
@@ -101,10 +104,70 @@ TEST_F(FileSystemTest, ARewriteCutAtAnyByteLeavesTheOldOrTheNewFileWhole) {
     }
 }
 
+// A limit stands for the full disk.
 TEST_F(FileSystemTest, AFullDiskIsAnErrorAndLeavesTheOldFileAlone) {
-    if (!QFileInfo::exists(u"/dev/full"_s))
-        GTEST_SKIP() << "no /dev/full here";
-    EXPECT_THROW(m_files.AppendLine(u"/dev/full"_s, u"1001"_s), FileError);
+    const QString path = Path(u"a.txt"_s);
+    m_files.WriteBytes(path, "1001\r\n");
+    const auto ignored = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    ::getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit limit{8, before.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    EXPECT_THROW(m_files.AppendLine(path, u"1002"_s), FileError);
+    EXPECT_THROW(m_files.WriteBytes(path, "1003\r\n1004\r\n"), FileError);
+    ::setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, ignored);
+    EXPECT_TRUE(Bytes(path).startsWith("1001\r\n"));
+    EXPECT_FALSE(QFileInfo::exists(path + u".new"_s));
+}
+
+TEST_F(FileSystemTest, BareReturnsEndLinesAlsoWhereAChunkEnds) {
+    m_files.WriteBytes(Path(u"a.txt"_s), "1\r2\r\n3\r\r4");
+    EXPECT_EQ(m_files.ReadLines(Path(u"a.txt"_s)), (QStringList{u"1"_s, u"2"_s, u"3"_s, u""_s, u"4"_s}));
+    constexpr int chunk = 1 << 18;
+    for (const QByteArray& end : {QByteArray("\r"), QByteArray("\r\n"), QByteArray("\n")})
+        for (int before = chunk - 3; before <= chunk + 1; ++before) {
+            m_files.WriteBytes(Path(u"a.txt"_s), QByteArray(before, 'x') + end + "2" + end);
+            const QStringList lines = m_files.ReadLines(Path(u"a.txt"_s));
+            ASSERT_EQ(lines.size(), 2) << before;
+            EXPECT_EQ(lines[0].size(), before);
+            EXPECT_EQ(lines[1], u"2"_s);
+        }
+}
+
+TEST_F(FileSystemTest, AMarkForUtf8IsNoPartOfTheFirstLineAndUtf16AnError) {
+    m_files.WriteBytes(Path(u"a.txt"_s), "\xEF\xBB\xBF"
+                                         "1001\r\n");
+    EXPECT_EQ(m_files.ReadLines(Path(u"a.txt"_s)), QStringList{u"1001"_s});
+    m_files.WriteBytes(Path(u"a.txt"_s), QByteArray("\xFF\xFE"
+                                                    "1\0\r\0\n\0",
+                                                    8));
+    EXPECT_THROW(m_files.ReadLines(Path(u"a.txt"_s)), FileError);
+}
+
+TEST_F(FileSystemTest, ALineOfMoreThanAMegabyteIsPassedOverButNeverLostByRewriting) {
+    const QByteArray line(3 << 20, '7');
+    m_files.WriteBytes(Path(u"a.txt"_s), "1\r\n" + line + "\r\n2\r\n" + line);
+    QStringList seen;
+    m_files.ForEachLine(Path(u"a.txt"_s), [&seen](QByteArrayView text) {
+        seen.append(QString::fromLatin1(text));
+        return true;
+    });
+    EXPECT_EQ(seen, (QStringList{u"1"_s, u"2"_s}));
+    EXPECT_THROW(m_files.ReadLines(Path(u"a.txt"_s)), FileError);
+}
+
+TEST_F(FileSystemTest, PipesDevicesAndFoldersAreErrorsAndNotWaits) {
+    const QString pipe = Path(u"pipe"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    for (const QString& path : {pipe, u"/dev/zero"_s, m_folder.path()}) {
+        EXPECT_THROW(m_files.ReadLines(path), FileError) << path.toStdString();
+        EXPECT_THROW(m_files.ReadBytes(path), FileError) << path.toStdString();
+        EXPECT_THROW(m_files.EnsureFile(path), FileError) << path.toStdString();
+        EXPECT_THROW(m_files.AppendLine(path, u"1001"_s), FileError) << path.toStdString();
+        EXPECT_THROW(m_files.WriteLines(path, {u"1001"_s}), FileError) << path.toStdString();
+    }
+    EXPECT_TRUE(QFileInfo::exists(pipe));
 }
 
 TEST_F(FileSystemTest, PrivateFilesAreTheOwnersAlone) {

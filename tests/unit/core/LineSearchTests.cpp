@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -73,6 +74,67 @@ TEST_F(LineSearchTest, ALineThatAChunkCutsInTwoIsFound) {
 TEST_F(LineSearchTest, ALineLongerThanAChunkIsPassedOver) {
     EXPECT_TRUE(Holds(QByteArray(700'000, 'x') + "2\r\n2\r\n", "2"));
     EXPECT_FALSE(Holds(QByteArray(700'000, 'x') + "2\r\n", "2"));
+}
+
+TEST_F(LineSearchTest, ABareReturnEndsALine) {
+    EXPECT_TRUE(Holds("1\r2\r3\r", "1"));
+    EXPECT_TRUE(Holds("1\r2\r3\r", "2"));
+    EXPECT_TRUE(Holds("1\r2\r3", "3"));
+    EXPECT_FALSE(Holds("1\r23\r4", "2"));
+    EXPECT_TRUE(
+        Holds(QByteArray("1001\r").repeated(60'000) + "2\r" + QByteArray("1001\r").repeated(60'000), "2"));
+}
+
+TEST_F(LineSearchTest, AMarkForUtf8HidesNoFirstLine) {
+    EXPECT_TRUE(Holds("\xEF\xBB\xBF"
+                      "1001\r\n1002\r\n",
+                      "1001"));
+    EXPECT_FALSE(Holds("1003\r\n\xEF\xBB\xBF"
+                       "1001\r\n",
+                       "1001"));
+}
+
+TEST_F(LineSearchTest, TextInUtf16IsAnErrorAndNotAnEmptyLog) {
+    EXPECT_THROW(Holds(QByteArray("\xFF\xFE"
+                                  "1\0"
+                                  "2\0\r\0\n\0",
+                                  10),
+                       "12"),
+                 FileError);
+    EXPECT_THROW(Holds(QByteArray("\xFE\xFF\0"
+                                  "1\0"
+                                  "2\0\r\0\n",
+                                  10),
+                       "12"),
+                 FileError);
+    EXPECT_THROW(Holds(QByteArray("1\0"
+                                  "2\0\r\0\n\0",
+                                  8),
+                       "12"),
+                 FileError);
+    EXPECT_THROW(Holds(QByteArray("\0"
+                                  "1\0"
+                                  "2\0\r\0\n",
+                                  8),
+                       "12"),
+                 FileError);
+}
+
+// What is kept of a line is bounded, so that a log of one line costs no more than any other.
+TEST_F(LineSearchTest, ALineOfTwentyMegabytesIsPassedOverQuicklyAndHidesNoOther) {
+    const QByteArray line = QByteArray(20 << 20, '7');
+    EXPECT_TRUE(Holds("1001\r\n" + line + "\r\n1002\r\n", "1001"));
+    EXPECT_TRUE(Holds(line + "\r\n1002\r\n", "1002"));
+    EXPECT_TRUE(Holds(line + "\r1002", "1002"));
+    EXPECT_FALSE(Holds(line + "x\r\n", "x"));
+    EXPECT_FALSE(Holds(QByteArray(4 << 20, ' ') + "x 7\r\n", "7"));
+}
+
+TEST_F(LineSearchTest, APipeIsAnErrorAndNotAWait) {
+    ASSERT_EQ(mkfifo(QFile::encodeName(m_path).constData(), 0600), 0);
+    EXPECT_THROW(FileHoldsLine(m_path, "2"), FileError);
+    EXPECT_THROW(FileHoldsLine(m_folder.path(), "2"), FileError);
+    EXPECT_THROW(FileHoldsLine(u"/dev/zero"_s, "2"), FileError);
 }
 
 TEST_F(LineSearchTest, AMissingFileIsAnError) {
