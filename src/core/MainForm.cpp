@@ -92,8 +92,7 @@ void MainForm::Form_Load() {
         Diagnostics::IgnoreErrors([this] { m_app.files.CreateFolder(m_app.state.DataFolder); });
         m_app.diagnostics.Debug(u"debuginitial.txt"_s, u"frmLoad 3"_s);
         m_app.controls.SetText("lblLoggedInAs"_L1, {});
-        m_app.controls.SetText("lblPracticeSite"_L1,
-                               m_app.deployment.UsesPracticeSite() ? u"Practice site"_s : QString());
+        ShowPracticeSite(m_practiceSiteRuns);
         state.intLoginStep = 10;
         state.CurrentAction = u"LOGIN"_s;
         m_app.timers->tmrCheckLinkLoaded.Restart();
@@ -102,17 +101,41 @@ void MainForm::Form_Load() {
     });
 }
 
-void MainForm::Form_Unload() {
-    if (m_unloading)
-        return;
-    m_unloading = true;
-    m_app.diagnostics.Trap("Form_Unload", [this] {
-        if (!m_app.state.blnNoSaveOnExit) {
-            m_app.SetStatus(u"Exiting Quillmere, saving all your settings..."_s);
-            m_app.settingsFields->SaveListsAndSettings();
-            m_app.settingsFields->SaveGeneral();
-        }
+bool MainForm::SaveAll() {
+    bool isListSaved = true;
+    m_app.diagnostics.Trap("Form_Unload", [&] {
+        if (m_app.state.blnNoSaveOnExit)
+            return;
+        isListSaved = m_app.settingsFields->SaveListsAndSettings();
+        m_app.settingsFields->SaveGeneral();
     });
+    return isListSaved;
+}
+
+// A list that is lost at the end is lost for good.
+bool MainForm::MayClose() {
+    const QString status = m_app.Status();
+    if (!m_app.state.blnNoSaveOnExit)
+        m_app.SetStatus(u"Exiting Quillmere, saving all your settings..."_s);
+    if (SaveAll() || !m_asks)
+        return true;
+    const Dialogs::Answer answer = m_app.platform.Dialogs().ShowMessage(
+        u"The gathered list could not be saved."_s, {}, Dialogs::Buttons::OkOrStay);
+    if (answer != Dialogs::Answer::Cancel)
+        return true;
+    m_app.SetStatus(status);
+    m_app.state.blnExitWhenFinished = false;
+    return false;
+}
+
+bool MainForm::Form_Unload() {
+    if (m_unloading)
+        return m_app.state.blnClosing;
+    m_unloading = true;
+    if (!MayClose() && m_asks) {
+        m_unloading = false;
+        return false;
+    }
     m_app.diagnostics.Trap("Form_Unload", [this] {
         if (m_app.controls.Ticked("mnuDisableBrowserSounds"_L1))
             m_app.browserSounds->Restore();
@@ -121,6 +144,12 @@ void MainForm::Form_Unload() {
     UnloadAllForms(u"frmMain"_s);
     m_app.state.blnClosing = true;
     m_app.platform.Shell().Quit();
+    return true;
+}
+
+void MainForm::UnloadUnasked() {
+    m_asks = false;
+    Unload();
 }
 
 void MainForm::Unload() {
@@ -132,6 +161,12 @@ void MainForm::Unload() {
     UnloadAllForms({});
     m_app.state.blnClosing = true;
     m_app.platform.Shell().Quit();
+}
+
+void MainForm::ShowPracticeSite(bool runs) {
+    m_practiceSiteRuns = runs;
+    const QString badge = runs ? u"Practice site"_s : u"Practice site: not running"_s;
+    m_app.controls.SetText("lblPracticeSite"_L1, m_app.deployment.UsesPracticeSite() ? badge : QString());
 }
 
 void MainForm::UnloadAllForms(const QString& except) {

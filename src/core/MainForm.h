@@ -26,11 +26,17 @@ public:
 
     // Called by the window when it has been built and bound, before it is first shown.
     void Form_Load();
-    // Called by the window when it is about to close; afterwards the program is ending. A second call does
-    // nothing.
-    void Form_Unload();
+    // Called by the window when it is about to close. False when the window is to stay, since the user wants
+    // to see to a list that could not be saved; otherwise the program is ending.
+    bool Form_Unload();
     // Closes the main window, which runs Form_Unload.
     void Unload();
+    // The same for who can't be asked: the desktop's session is ending, or the process is told to.
+    void UnloadUnasked();
+    // Lists and settings as at the end. False when the gathered list could not be saved.
+    bool SaveAll();
+    // Whether the practice site, where there is one, answers.
+    void ShowPracticeSite(bool runs);
     // Closes every open form whose name differs from except.
     void UnloadAllForms(const QString& except);
 
@@ -54,10 +60,13 @@ public:
 
 private:
     void RegisterCommands();
+    bool MayClose();
     void Browse(const std::function<void()>& move);
 
     App& m_app;
     bool m_unloading = false;
+    bool m_asks = true;
+    bool m_practiceSiteRuns = true;
 };
 
 } // namespace qlm

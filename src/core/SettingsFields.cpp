@@ -261,10 +261,11 @@ void SettingsFields::SetStartingValue(const ControlRow& row) {
         m_app.controls.SetText(name, QString::fromUtf16(row.text));
 }
 
-void SettingsFields::SaveListsAndSettings() {
+bool SettingsFields::SaveListsAndSettings() {
     if (!m_restored)
-        return;
-    m_app.diagnostics.Trap("SaveListsAndSettings", [this] {
+        return true;
+    bool isListSaved = true;
+    m_app.diagnostics.Trap("SaveListsAndSettings", [&] {
         for (const char* kind : InputKinds()) {
             const QString section = SectionOf(QLatin1StringView(kind));
             for (const ControlRow& row : Controls::Table())
@@ -276,8 +277,9 @@ void SettingsFields::SaveListsAndSettings() {
                 SaveControl(FieldEntries, row);
         m_app.platform.Settings().Sync();
         if (m_app.controls.Ticked("chkSaveScanned"_L1))
-            m_app.gatheredList->SaveScannedList(m_app.gatheredList->ScopedPath());
+            isListSaved = m_app.gatheredList->SaveScannedList(m_app.gatheredList->ScopedPath());
     });
+    return isListSaved;
 }
 
 void SettingsFields::SaveGeneral() {

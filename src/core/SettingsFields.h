@@ -31,7 +31,7 @@ public:
     // After a login and on account switch: the global flags, every input, the lists.
     void RestoreAccountSpecificFields();
     // While the account is still the current one: every input and, if wanted, the lists.
-    void SaveListsAndSettings();
+    bool SaveListsAndSettings();
     void SaveGeneral();
 
     // For a list kind the folder below ProgramFolder, created; for a settings kind the suffix of "Field

@@ -141,13 +141,12 @@ void GatheredList::ReadLinesInto(const QString& path, bool checkDuplicates) {
     });
 }
 
-void GatheredList::SaveScannedList(const QString& path) {
-    if (path != m_readFrom)
-        WriteList(path, false);
+bool GatheredList::SaveScannedList(const QString& path) {
+    return path == m_readFrom || WriteList(path, false);
 }
 
-void GatheredList::WriteList(const QString& path, bool turns) {
-    m_app.diagnostics.Trap("SaveScannedList - form1", [&] {
+bool GatheredList::WriteList(const QString& path, bool turns) {
+    const QString error = m_app.diagnostics.Trap("SaveScannedList - form1", [&] {
         m_app.files.CreateFolder(QFileInfo(path).path());
         const IdList asItIs = turns ? m_app.state.arrFriendIDs : IdList();
         const IdList& ids = turns ? asItIs : m_app.state.arrFriendIDs;
@@ -164,6 +163,7 @@ void GatheredList::WriteList(const QString& path, bool turns) {
         m_app.files.WriteParts(path, nextLines, Readers::Everyone,
                                turns ? Durability::Synced : Durability::Quick);
     });
+    return error.isEmpty();
 }
 
 } // namespace qlm

@@ -29,7 +29,8 @@ public:
     // turns every few hundred lines.
     void FillScannedList(const QString& path, bool clearFirst, bool checkDuplicates);
     // Does nothing for the file that is just being read into the list: it holds more than the list does.
-    void SaveScannedList(const QString& path);
+    // False when the file could not be written.
+    bool SaveScannedList(const QString& path);
     void SetScannedLabel();
     // Fills lstFriendIDs anew from the array, up to the cap.
     void ArrayToListBox(const QString& caller);
@@ -50,7 +51,7 @@ private:
     void Remove(qint32 index);
     void ReadLinesInto(const QString& path, bool checkDuplicates);
     // The list as it is now; with turns, the message loop turns between two parts of it.
-    void WriteList(const QString& path, bool turns);
+    bool WriteList(const QString& path, bool turns);
     bool RefuseWhileFilling();
 
     App& m_app;

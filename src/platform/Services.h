@@ -12,7 +12,8 @@ namespace qlm {
 // message loop turns meanwhile.
 class Dialogs {
 public:
-    enum class Buttons { Ok, YesNo, YesNoCancel };
+    // OkOrStay is a message before an end that can still be called off: Cancel stays.
+    enum class Buttons { Ok, YesNo, YesNoCancel, OkOrStay };
     enum class Answer { Ok, Yes, No, Cancel };
 
     virtual ~Dialogs() = default;

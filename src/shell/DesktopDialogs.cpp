@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "shell/DesktopDialogs.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRegularExpression>
 
 namespace qlm {
@@ -64,6 +66,13 @@ Dialogs::Answer DesktopDialogs::RunMessage(const QString& text, const QString& t
     if (buttons == Buttons::Ok) {
         box.setIcon(QMessageBox::Information);
         box.setStandardButtons(QMessageBox::Ok);
+    } else if (buttons == Buttons::OkOrStay) {
+        // What can't be taken back is never the default.
+        box.setIcon(QMessageBox::Warning);
+        box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+        box.button(QMessageBox::Ok)->setText(u"&Close Anyway"_s);
+        box.button(QMessageBox::Cancel)->setText(u"&Stay Open"_s);
+        box.setDefaultButton(QMessageBox::Cancel);
     } else {
         box.setIcon(QMessageBox::Question);
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
@@ -88,6 +97,13 @@ Dialogs::Answer DesktopDialogs::RunMessage(const QString& text, const QString& t
     default:
         return Answer::Ok;
     }
+}
+
+void DesktopDialogs::DismissBoxes() {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (auto* box = qobject_cast<QDialog*>(window);
+            box && box->isModal() && box->isVisible() && !IsFormOpen(box->objectName()))
+            box->reject();
 }
 
 } // namespace qlm

@@ -18,6 +18,9 @@ public:
     // "txt": the suggested name's, else that of the filter's first pattern; none for "*.*".
     static QString UsualSuffix(const QString& suggestedName, const QString& filter);
 
+    // Answers every box and file dialog that is open as Escape does: they would hold up the program's end.
+    void DismissBoxes();
+
 protected:
     void RunModal(const QString& form, QDialog& dialog) override;
     Answer RunMessage(const QString& text, const QString& title, Buttons buttons) override;

@@ -151,7 +151,10 @@ void frmMain::picCollapse_Click() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    m_app.mainForm->Form_Unload();
+    if (!m_app.mainForm->Form_Unload()) {
+        event->ignore();
+        return;
+    }
     m_dialogs.MainClosed();
     event->accept();
 }

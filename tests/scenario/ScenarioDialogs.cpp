@@ -23,11 +23,10 @@ ScenarioDialogs::ScenarioDialogs(std::function<Play&()> play) : m_play(std::move
 
 Dialogs::Answer ScenarioDialogs::RunMessage(const QString& text, const QString& title, Buttons buttons) {
     const Box box{AsWritten(text), title};
-    if (buttons == Buttons::Ok) {
-        messages.push_back(box);
+    const bool isMessage = buttons == Buttons::Ok || buttons == Buttons::OkOrStay;
+    (isMessage ? messages : questions).push_back(box);
+    if (buttons == Buttons::Ok)
         return Answer::Ok;
-    }
-    questions.push_back(box);
     for (auto answer = answers.begin(); answer != answers.end(); ++answer) {
         if (!box.text.contains(answer->words))
             continue;
@@ -35,6 +34,8 @@ Dialogs::Answer ScenarioDialogs::RunMessage(const QString& text, const QString& 
         answers.erase(answer);
         return chosen;
     }
+    if (isMessage)
+        return Answer::Ok;
     Fail(u"a question has no answer: \"%1\""_s.arg(box.text));
 }
 

@@ -7,7 +7,7 @@ Dialogs::Answer RecordingDialogs::ShowMessage(const QString& text, const QString
     messages.push_back({text, title, buttons});
     if (onMessage)
         onMessage();
-    if (buttons == Buttons::Ok)
+    if (buttons == Buttons::Ok || (buttons == Buttons::OkOrStay && answers.empty()))
         return Answer::Ok;
     if (answers.empty()) {
         unanswered += text;

@@ -191,6 +191,21 @@ TEST_F(MainWindowTest, UnloadingSavesClosesTheFormsAndEnds) {
     EXPECT_TRUE(platform->Shell().hasQuit);
 }
 
+TEST_F(MainWindowTest, TheBadgeTellsWhetherThePracticeSiteRuns) {
+    StartOn(world.deploymentText + u"Proxy=practice\n"_s);
+    app->mainForm->ShowPracticeSite(false);
+    app->mainForm->Form_Load();
+    EXPECT_EQ(app->controls.Text("lblPracticeSite"_L1), u"Practice site: not running"_s);
+    app->mainForm->ShowPracticeSite(true);
+    EXPECT_EQ(app->controls.Text("lblPracticeSite"_L1), u"Practice site"_s);
+}
+
+TEST_F(MainWindowTest, WithoutAPracticeSiteThereIsNoBadge) {
+    app->mainForm->Form_Load();
+    app->mainForm->ShowPracticeSite(false);
+    EXPECT_EQ(app->controls.Text("lblPracticeSite"_L1), QString());
+}
+
 TEST_F(MainWindowTest, UnloadingWithoutSavingSavesNothing) {
     app->mainForm->Form_Load();
     app->state.blnNoSaveOnExit = true;

@@ -34,7 +34,8 @@ protected:
     }
     Answer RunMessage(const QString& text, const QString& title, Buttons buttons) override {
         messages.append(title + u": "_s + text);
-        return buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+        const bool isMessage = buttons == Buttons::Ok || buttons == Buttons::OkOrStay;
+        return isMessage ? Answer::Ok : Answer::No;
     }
 };
 
