@@ -15,6 +15,11 @@ bool IsKnownMethod(const QString& method) {
     return method == u"GET" || method == u"HEAD" || method == u"POST";
 }
 
+// No page can send a header of this kind, so that none that a browser shows can steer the site.
+bool MaySteer(const Request& request) {
+    return request.headers.contains(u"sec-practice-control"_s);
+}
+
 Visit Arrive(World& world, const Request& request, Role role) {
     Visit visit{.world = world,
                 .request = request,
@@ -48,6 +53,8 @@ Response PracticeSite::Answer(const Request& request) {
     const RouteMatch match = FindRoute(visit);
     visit.captures = match.captures;
     // Whoever steers the site must always get through, and leave no mark.
+    if (*role == Role::Control && !MaySteer(request))
+        return PlainText(u"The controls are for programs, not for pages.\n"_s, 403);
     if (*role == Role::Control)
         return match.handler(visit);
     if (!match.picture)

@@ -52,7 +52,8 @@ struct World;
 ///                                    cached, birthday, certificate
 ///     journal visits|shown|times on|off  logout-all          clear-faults          reset
 ///
-/// Over the wire they stand at the control host: POST /control, GET /journal, POST /journal/take.
+/// Over the wire they stand at the control host: POST /control, GET /journal, POST /journal/take, each with
+/// the header "Sec-Practice-Control", which no page can send.
 class PracticeSite {
 public:
     explicit PracticeSite(

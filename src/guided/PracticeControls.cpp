@@ -29,6 +29,8 @@ QByteArray PracticeControls::Fetch(const QString& path, const QByteArray* body) 
     m_network.setProxy(QNetworkProxy(QNetworkProxy::HttpProxy, u"127.0.0.1"_s, m_port));
     QNetworkRequest request(QUrl(u"http://control.myspace.example.com"_s + path));
     request.setHeader(QNetworkRequest::ContentTypeHeader, u"text/plain"_s);
+    // What tells a program from a page.
+    request.setRawHeader("Sec-Practice-Control", "1");
     const std::unique_ptr<QNetworkReply> reply(body ? m_network.post(request, *body)
                                                     : m_network.get(request));
     QEventLoop loop;

@@ -28,7 +28,9 @@ constexpr std::array engineFlags = {
     "--disable-background-timer-throttling",
     "--disable-backgrounding-occluded-windows",
     "--disable-renderer-backgrounding",
-    "--disable-features=BackForwardCache,TranslateUI,OptimizationHints,MediaRouter",
+    // A page's calls to others would go past the proxy, from every address of the machine.
+    "--force-webrtc-ip-handling-policy=disable_non_proxied_udp",
+    "--disable-features=WebTransport,BackForwardCache,TranslateUI,OptimizationHints,MediaRouter",
 };
 
 struct Setting {

@@ -95,8 +95,21 @@ TEST(Control, TakingTheJournalGivesEachLineOnce) {
     EXPECT_EQ(client.site.Journal().size(), 1);
 }
 
+TEST(Control, APageIsRefused) {
+    SiteClient client;
+    client.SignIn();
+    for (const QString& path : {u"/control"_s, u"/journal"_s, u"/journal/take"_s, u"/nothing"_s}) {
+        EXPECT_EQ(client.Get(controlUrl + path).status, 403) << path.toStdString();
+        EXPECT_EQ(client.Post(controlUrl + path, "logout-all").status, 403) << path.toStdString();
+        EXPECT_EQ(client.Send(u"HEAD"_s, controlUrl + path).status, 403) << path.toStdString();
+    }
+    EXPECT_EQ(client.site.Journal().size(), 1);
+    EXPECT_TRUE(Holds(client.Text(SiteClient::root + u"/home"_s), u"Sign Out"_s));
+}
+
 TEST(Control, WorksOverItsHost) {
     SiteClient client;
+    client.steers = true;
     EXPECT_EQ(client.Post(controlUrl + u"/control"_s, "share sent 100\nfriends 900001 3\n").status, 200);
     EXPECT_TRUE(Holds(client.Text(SiteClient::root + u"/900001/friends"_s), u"of 3"_s));
     const Response wrong = client.Post(controlUrl + u"/control"_s, "dance");

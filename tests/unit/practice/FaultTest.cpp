@@ -112,6 +112,7 @@ TEST_F(FaultAtAPage, TheFaultSetLastWinsAndADollarMeansExactlyThisAddress) {
 }
 
 TEST_F(FaultAtAPage, TheControlHostIsNeverFaulted) {
+    client.steers = true;
     client.Control(u"fault control.myspace.example.com error"_s);
     EXPECT_EQ(client.Get(u"control.myspace.example.com/journal"_s).status, 200);
 }

@@ -72,7 +72,7 @@ protected:
     void Control(const std::string& line) {
         httplib::Client client("control.myspace.example.com");
         client.set_proxy("127.0.0.1", port);
-        const auto answer = client.Post("/control", line, "text/plain");
+        const auto answer = client.Post("/control", {{"Sec-Practice-Control", "1"}}, line, "text/plain");
         ASSERT_TRUE(answer);
         ASSERT_EQ(answer->status, 200) << answer->body;
     }

@@ -32,6 +32,8 @@ public:
         request.body = body;
         if (!cookie.isEmpty())
             request.headers.insert(u"cookie"_s, cookie);
+        if (steers)
+            request.headers.insert(u"sec-practice-control"_s, u"1"_s);
         const Response response = site.Answer(request);
         for (const auto& [name, value] : response.headers)
             if (name == u"Set-Cookie")
@@ -59,6 +61,7 @@ public:
     QDateTime now{QDate(2009, 6, 1), QTime(10, 0), QTimeZone::utc()};
     PracticeSite site;
     QString cookie;
+    bool steers = false; // as a program does that may use the controls
 
     static inline const QString root = u"http://www.myspace.example.com"_s;
     static inline const QString requestPage = root + u"/my/friends/addtofriends/"_s;
