@@ -1,18 +1,21 @@
 // SPDX-License-Identifier: MIT
 // Wires the product together: engine, platform, logic and windows.
+#include "CommandLine.h"
 #include "core/App.h"
+#include "core/MainForm.h"
+#include "core/ProfileLock.h"
 #include "core/StartUp.h"
 #include "guided/GuidedRun.h"
 #include "guided/PracticeControls.h"
 #include "guided/ResumedRun.h"
 #include "platform/qt/EngineProfile.h"
 #include "platform/qt/QtPlatform.h"
+#include "platform/qt/SessionEnd.h"
 #include "shell/DesktopDialogs.h"
 #include "shell/Look.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
+#include <QMessageBox>
 #include <QNetworkProxy>
 #include <QScopeGuard>
 #include <QTimer>
@@ -32,34 +35,12 @@ private:
     QtPlatform& m_platform;
 };
 
-// What the command line asks for. The usual program knows none.
-struct Guidance {
-    QString folder; // behind "--guided"; empty for the usual program
-    bool isResumed; // "--resume": goes on with what an earlier run has left there
-
-    bool IsWanted() const { return !folder.isEmpty(); }
-};
-
-Guidance GuidanceIn(const QStringList& arguments) {
-    const qsizetype option = arguments.indexOf(u"--guided"_s);
-    return {option < 0 ? QString() : arguments.value(option + 1, u"guided"_s),
-            arguments.contains(u"--resume"_s)};
-}
-
-// A guided run must neither see nor change what the user has: it works in a folder of its own, emptied first.
-// A resumed one leaves the folder as it is and takes a deployment.ini from there.
-QtPlatformOptions OptionsFor(const Guidance& guidance) {
-    const QString installed = QCoreApplication::applicationDirPath();
-    if (!guidance.IsWanted())
-        return {installed, {}, {}};
-    const QDir folder(QDir(guidance.folder).absoluteFilePath(u"profile"_s));
-    if (!guidance.isResumed)
-        QDir(folder).removeRecursively();
-    QDir().mkpath(folder.path());
-    QFile::copy(installed + u"/timedelay.htm"_s, folder.filePath(u"timedelay.htm"_s));
-    const QString own = folder.filePath(u"deployment.ini"_s);
-    return {folder.path(), folder.filePath(u"local"_s),
-            guidance.isResumed && QFile::exists(own) ? own : installed + u"/deployment.ini"_s};
+void TellSecondStart(const Guidance& guidance, const QString& folder) {
+    const QString message = SecondStartMessage(folder);
+    if (guidance.IsWanted())
+        std::fprintf(stderr, "%s\n", qUtf8Printable(message));
+    else
+        QMessageBox::information(nullptr, QApplication::applicationName(), message);
 }
 
 std::unique_ptr<WindowDriver> NewDriver(App& app, PracticeControls& controls, const Guidance& guidance) {
@@ -84,6 +65,23 @@ int RunProgram(QApplication& application, QtPlatform& platform, DesktopDialogs& 
     dialogs.onMainWindow = [&platform](QWidget& window) { platform.Attention().SetWindow(&window); };
     dialogs.Attach(app, views);
     const auto detach = qScopeGuard([&dialogs] { dialogs.Detach(); });
+
+    platform.onPracticeSite = [&app, &platform] {
+        app.mainForm->ShowPracticeSite(platform.PracticeSiteRuns());
+    };
+    app.mainForm->ShowPracticeSite(platform.PracticeSiteRuns());
+    SessionEnd session;
+    // Before the main window is there, nothing is restored that could be saved.
+    session.onSave = [&app, &dialogs] {
+        if (dialogs.IsFormOpen(u"frmMain"_s))
+            app.mainForm->SaveAll();
+    };
+    session.onEnd = [&app, &platform, &dialogs] {
+        platform.Pump().Queue().Post([&app, &dialogs] {
+            dialogs.DismissBoxes();
+            app.mainForm->UnloadUnasked();
+        });
+    };
 
     PracticeControls controls(QNetworkProxy::applicationProxy().port());
     const std::unique_ptr<WindowDriver> driver = NewDriver(app, controls, guidance);
@@ -114,6 +112,11 @@ int main(int argc, char** argv) {
     const Guidance guidance = GuidanceIn(QApplication::arguments());
     if (guidance.IsWanted())
         qInstallMessageHandler(TellProblems);
+    ProfileLock lock;
+    if (const QString folder = lock.Take(FoldersToLock(guidance)); !folder.isEmpty()) {
+        TellSecondStart(guidance, folder);
+        return 1;
+    }
     DesktopDialogs dialogs;
     QtPlatform platform(OptionsFor(guidance), dialogs);
     return RunProgram(application, platform, dialogs, guidance);

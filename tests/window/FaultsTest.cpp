@@ -10,6 +10,7 @@
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace qlm {
 namespace {
@@ -154,6 +155,67 @@ TEST_F(Faults, ALogThatCannotGrowIsReportedAndNoLineOfItIsLost) {
     const QStringList lines = folders.Log();
     EXPECT_EQ(lines.mid(lines.size() - 2), others);
     EXPECT_EQ(lines.count(ids[0]), 1);
+}
+
+TEST_F(Faults, ASecondProgramOnTheFolderIsToldAndEndsAndAKilledOneLeavesNoLock) {
+    folders.SetDelay(2);
+    ProgramProcess first(folders.Arguments());
+    ASSERT_TRUE(WaitUntil([&] { return !TargetsOf(site.Journal(), u"asked"_s).isEmpty(); }));
+    ProgramProcess second(folders.Arguments());
+    ExpectEnd(second, 1);
+    EXPECT_TRUE(output.contains(u"Quillmere is already running"_s)) << output.toStdString();
+    EXPECT_EQ(TargetsOf(site.Journal(), u"signed-in"_s).size(), 1);
+    EXPECT_TRUE(first.IsRunning());
+    first.Kill();
+    ExpectWholeRun();
+    EXPECT_EQ(folders.Log(), ids);
+}
+
+TEST_F(Faults, ToldToEndTheProgramSavesAndEndsAsByItsCloseButton) {
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
+        folders.SetDelay(60);
+        folders.SaveList(ids);
+        QFile::remove(folders.File(u"FriendsLog.txt"_s));
+        QFile::remove(folders.File(u"FriendsReport.txt"_s));
+        site.Tell(u"seed 1"_s);
+        site.Tell(u"share sent 100"_s);
+        site.TakeJournal();
+        ProgramProcess program(folders.Arguments());
+        ASSERT_TRUE(WaitUntil([&] { return folders.LogBytes().contains(ids[0].toLatin1()); }));
+        ASSERT_TRUE(QFile::remove(folders.File(u"Gathered.txt"_s)));
+        ::kill(static_cast<pid_t>(program.ProcessId()), signal);
+        // The guided run that was cut off calls itself failed.
+        ExpectEnd(program, 1);
+        EXPECT_EQ(folders.Read(folders.File(u"Gathered.txt"_s)), ids.join(u"\r\n"_s).toLatin1() + "\r\n");
+        EXPECT_TRUE(folders.Read(folders.File(u"FriendsReport.txt"_s)).contains("The program was closed"));
+    }
+}
+
+TEST_F(Faults, ToldToEndTheProgramAsksNobodyAboutAListThatCannotBeSaved) {
+    folders.SetDelay(60);
+    ProgramProcess program(folders.Arguments());
+    ASSERT_TRUE(WaitUntil([&] { return folders.LogBytes().contains(ids[0].toLatin1()); }));
+    ASSERT_TRUE(QDir().mkpath(folders.File(u"Gathered.txt.new/in the way"_s)));
+    ::kill(static_cast<pid_t>(program.ProcessId()), SIGTERM);
+    ExpectEnd(program, 1);
+    EXPECT_FALSE(output.contains(u"could not be saved"_s)) << output.toStdString();
+    EXPECT_TRUE(folders.Read(folders.DataFile(u"Error.log"_s)).contains("Proc: SaveScannedList"));
+}
+
+TEST_F(Faults, ALogThatIsAPipeIsToldAndHoldsNothingUp) {
+    const QString log = folders.File(u"FriendsLog.txt"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(log).constData(), 0600), 0);
+    ExpectWholeRun();
+    const QString errors = QString::fromLatin1(folders.Read(folders.DataFile(u"Error.log"_s)));
+    EXPECT_TRUE(errors.contains(u"it is not an ordinary file"_s)) << errors.toStdString();
+}
+
+TEST_F(Faults, ALogOfOneLineOfTwoHundredMegabytesHoldsNothingUp) {
+    folders.Write(folders.File(u"FriendsLog.txt"_s), ids[0].toLatin1() + "\r\n" + QByteArray(200 << 20, '7') +
+                                                         "\r\n" + ids[1].toLatin1() + "\r\n");
+    ProgramProcess program(folders.Arguments());
+    ExpectEnd(program, 0);
+    EXPECT_EQ(TargetsOf(site.Journal(), u"asked"_s), ids.mid(2));
 }
 
 } // namespace qlm

@@ -19,6 +19,7 @@ public:
     bool IsRunning() const { return m_process.state() == QProcess::Running; }
     // False when it still runs after the time.
     bool WaitForEnd(int limitMs = GenerousMs);
+    qint64 ProcessId() const { return m_process.processId(); }
     // SIGKILL: nothing is saved, nothing is closed.
     void Kill();
     bool HasCrashed() const { return m_process.exitStatus() == QProcess::CrashExit; }

@@ -2,13 +2,17 @@
 #include "platform/qt/QtPlatform.h"
 
 #include "core/Deployment.h"
+#include "core/Descriptor.h"
+#include "core/FileSystem.h"
 #include "platform/qt/EngineProfile.h"
+#include "platform/qt/LoopbackGuard.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QNetworkProxy>
 #include <QStandardPaths>
+#include <QWebEngineProfile>
 
 namespace qlm {
 
@@ -28,12 +32,16 @@ QString LocalDataFolder(const QString& chosen) {
 
 } // namespace
 
+QString QtPlatform::DataFolder(const QString& localDataFolder) {
+    return LocalDataFolder(localDataFolder) + u"Quillmere"_s;
+}
+
 QtPlatform::QtPlatform(const QtPlatformOptions& options, qlm::Dialogs& dialogs)
     : m_installationFolder(WithoutTrailingSeparator(options.installationFolder)),
       m_localDataFolder(LocalDataFolder(options.localDataFolder)),
       m_dialogs(dialogs),
       m_pump(options.clockRate),
-      m_settings(m_localDataFolder + u"Quillmere"_s),
+      m_settings(DataFolder(options.localDataFolder)),
       m_http(m_pump),
       m_shell(m_pump) {
     ReadDeployment(options.deploymentFile.isEmpty() ? m_installationFolder + u"/deployment.ini"_s
@@ -46,11 +54,13 @@ QtPlatform::~QtPlatform() {
 }
 
 void QtPlatform::ReadDeployment(const QString& fileName) {
-    QFile file(fileName);
-    if (file.open(QIODevice::ReadOnly))
-        m_deploymentText = QString::fromUtf8(file.readAll());
-    else
-        m_startProblem = u"%1 could not be read: %2"_s.arg(fileName, file.errorString());
+    try {
+        const QByteArray bytes = FileSystem().ReadBytes(fileName);
+        MarkLength(bytes, fileName);
+        m_deploymentText = QString::fromUtf8(bytes);
+    } catch (const FileError& error) {
+        m_startProblem = u"%1 could not be read: %2"_s.arg(fileName, QString::fromUtf8(error.what()));
+    }
 }
 
 void QtPlatform::SetProxy() {
@@ -64,6 +74,12 @@ void QtPlatform::SetProxy() {
         m_practice = std::make_unique<PracticeServer>(QCoreApplication::applicationDirPath() +
                                                       u"/quillmere-practice-site"_s);
         m_startProblem += m_practice->Problem();
+        m_practice->onChange = [this] {
+            m_pump.Queue().Post([this] {
+                if (onPracticeSite)
+                    onPracticeSite();
+            });
+        };
         host = u"127.0.0.1"_s;
         // Without the site nothing is to be found under the names either: a proxy that refuses says so at
         // once.
@@ -73,8 +89,10 @@ void QtPlatform::SetProxy() {
 }
 
 QtBrowser& QtPlatform::Browser(BrowserName name) {
-    if (!m_profile)
+    if (!m_profile) {
         m_profile = CreateEngineProfile(&m_profileOwner);
+        m_profile->setUrlRequestInterceptor(new LoopbackGuard(m_profile));
+    }
     std::unique_ptr<QtBrowser>& browser = m_browsers[name];
     if (!browser)
         browser = std::make_unique<QtBrowser>(m_pump, *m_profile);

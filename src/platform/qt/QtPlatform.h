@@ -8,6 +8,7 @@
 #include "platform/qt/QtHttp.h"
 #include "platform/qt/QtSettings.h"
 
+#include <functional>
 #include <map>
 
 namespace qlm {
@@ -47,10 +48,17 @@ public:
     QString SpecialFolderPath(int id) const override;
     QString DeploymentText() const override { return m_deploymentText; }
 
+    // Where the program keeps its data in that folder of local application data; empty for the user's own.
+    static QString DataFolder(const QString& localDataFolder);
     // The widget that shows the page, for the window to put in its place. Taking it over is allowed.
     QWidget* ViewOf(BrowserName name) { return Browser(name).View(); }
     // What went wrong before there was a window to tell it; empty when nothing did.
     QString StartProblem() const { return m_startProblem; }
+    // False while the practice site, where the deployment has one, is not there to answer.
+    bool PracticeSiteRuns() const { return !m_practice || m_practice->IsRunning(); }
+    qint64 PracticeSiteProcess() const { return m_practice ? m_practice->ProcessId() : 0; }
+    // Told from the pump whenever that changes.
+    std::function<void()> onPracticeSite;
 
 private:
     void ReadDeployment(const QString& fileName);

@@ -57,6 +57,10 @@ void MakeDurable(const QString& path) {
 
 QtSettings::QtSettings(const QString& folder) : m_fileName(QDir(folder).filePath(u"quillmere.ini"_s)) {
     QDir().mkpath(folder);
+    if (!CanBeOpened()) {
+        KeepElsewhere();
+        return;
+    }
     Protect();
     m_file = std::make_unique<QSettings>(m_fileName, QSettings::IniFormat);
     QFile file(m_fileName);
@@ -67,6 +71,29 @@ QtSettings::QtSettings(const QString& folder) : m_fileName(QDir(folder).filePath
         KeepDamagedFile();
     else if (!m_file->isWritable())
         m_problem = u"The settings in %1 can be read but not saved."_s.arg(m_fileName);
+}
+
+// One program works on the folder, so another's lock on the file is a left-over: waiting for its end, which
+// the file's reader does, would be for nothing. Whatever else stands in its place is moved out of the way.
+bool QtSettings::CanBeOpened() const {
+    const QFileInfo file(m_fileName);
+    if (file.exists() && !file.isFile())
+        return false;
+    const QString lock = m_fileName + u".lock"_s;
+    if (!QFileInfo::exists(lock) && !QFileInfo(lock).isSymLink())
+        return true;
+    return QFile::remove(lock) || QDir().rmdir(lock) || QFile::rename(lock, lock + u".old"_s);
+}
+
+// In a folder that goes with the program: it works, with what can be read, and forgets at its end.
+void QtSettings::KeepElsewhere() {
+    m_elsewhere = std::make_unique<QTemporaryDir>();
+    const QString file = m_elsewhere->filePath(u"quillmere.ini"_s);
+    if (QFileInfo(m_fileName).isFile())
+        QFile::copy(m_fileName, file);
+    m_problem = u"The settings in %1 could not be opened. What is changed now is not kept."_s.arg(m_fileName);
+    m_isFailureTold = true;
+    m_file = std::make_unique<QSettings>(file, QSettings::IniFormat);
 }
 
 // There are passwords among the settings.

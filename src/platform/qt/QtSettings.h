@@ -4,6 +4,7 @@
 #include "platform/Services.h"
 
 #include <QSettings>
+#include <QTemporaryDir>
 #include <memory>
 
 namespace qlm {
@@ -27,11 +28,14 @@ public:
     QString FileName() const { return m_fileName; }
 
 private:
+    bool CanBeOpened() const;
+    void KeepElsewhere();
     void Protect();
     void KeepDamagedFile();
 
     QString m_fileName;
     QString m_problem;
+    std::unique_ptr<QTemporaryDir> m_elsewhere; // where they are when the file can't be opened
     bool m_isFailureTold = false;
     std::unique_ptr<QSettings> m_file;
 };

@@ -1,33 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/QtPlatform.h"
+#include "NoDialogs.h"
 #include "PrintText.h"
 
 #include <QFile>
 #include <QNetworkProxy>
 #include <QTemporaryDir>
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-// The platform only hands the dialogs on.
-class NoDialogs final : public Dialogs {
-public:
-    Answer ShowMessage(const QString&, const QString&, Buttons) override { return Answer::Cancel; }
-    QString ChooseFileToOpen(const QString&, const QString&) override { return {}; }
-    QString ChooseFileToSave(const QString&, const QString&, const QString&) override { return {}; }
-    void ShowModal(const QString&) override {}
-    void ShowForm(const QString&) override {}
-    void CloseForm(const QString&) override {}
-    bool IsFormOpen(const QString&) const override { return false; }
-    QStringList OpenForms() const override { return {}; }
-    bool CloseWindowTitled(const QString&) override { return false; }
-};
-
-} // namespace
 
 class QtPlatformTest : public ::testing::Test {
 protected:
@@ -59,6 +44,18 @@ TEST_F(QtPlatformTest, AMissingDeploymentIsTold) {
     EXPECT_TRUE(platform.StartProblem().contains(u"deployment.ini"_s));
 }
 
+TEST_F(QtPlatformTest, ADeploymentThatIsNoOrdinaryFileOrNoPlainTextIsTold) {
+    const QString pipe = folder.filePath(u"pipe"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_TRUE(QtPlatform({folder.path(), folder.path(), pipe}, dialogs)
+                    .StartProblem()
+                    .contains(u"not an ordinary file"_s));
+    EXPECT_TRUE(
+        QtPlatform(Options(QByteArray("\xFF\xFE[\0N\0", 6)), dialogs).StartProblem().contains(u"UTF-16"_s));
+    QtPlatform marked(Options("\xEF\xBB\xBF[Network]\nProxy=127.0.0.1:4712\n"), dialogs);
+    EXPECT_EQ(QNetworkProxy::applicationProxy().port(), 4712);
+}
+
 TEST_F(QtPlatformTest, TheDeploymentsProxyIsUsed) {
     QtPlatform platform(Options("[Network]\nProxy=127.0.0.1:4711\n"), dialogs);
     EXPECT_EQ(QNetworkProxy::applicationProxy().hostName(), u"127.0.0.1"_s);
@@ -76,6 +73,30 @@ TEST_F(QtPlatformTest, EachBrowserIsMadeOnceAndHasItsOwnView) {
 }
 
 #ifdef PRACTICE_SITE
+TEST_F(QtPlatformTest, APracticeSiteThatDiesIsStartedAgainAtItsPort) {
+    QtPlatform platform(Options("[Network]\nProxy=practice\n"), dialogs);
+    QList<bool> told;
+    platform.onPracticeSite = [&] { told += platform.PracticeSiteRuns(); };
+    QtPump& pump = platform.Pump();
+    const auto pumpUntil = [&](qsizetype changes) {
+        for (const qint64 end = pump.NowMs() + 20'000; told.size() < changes && pump.NowMs() < end;) {
+            pump.PumpMessages();
+            pump.Sleep(10);
+        }
+    };
+    for (int death = 1; death <= 3; ++death) {
+        const qint64 process = platform.PracticeSiteProcess();
+        ASSERT_GT(process, 0);
+        ::kill(static_cast<pid_t>(process), SIGKILL);
+        pumpUntil(2 * death);
+        ASSERT_EQ(told.size(), 2 * death);
+        EXPECT_FALSE(told[2 * death - 2]);
+        EXPECT_TRUE(told[2 * death - 1]);
+        EXPECT_NE(platform.PracticeSiteProcess(), process);
+        EXPECT_TRUE(platform.Http().Get(u"http://product.myspace.example.com/online.htm"_s));
+    }
+}
+
 TEST_F(QtPlatformTest, ThePracticeSiteIsStartedAndReachedUnderItsNames) {
     QtPlatform platform(Options("[Network]\nProxy=practice\n"), dialogs);
     ASSERT_EQ(platform.StartProblem(), QString());

@@ -2,10 +2,37 @@
 #include "platform/qt/QtSettings.h"
 #include "PrintText.h"
 
+#include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+
+// Of this test's thread alone: the engine has files of its own.
+thread_local bool hears = false;
+QStringList synced; // names without their path
+
+int Sync(long call, int file) {
+    if (hears)
+        synced += QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/fd/%1").arg(file))).fileName();
+    return static_cast<int>(::syscall(call, file));
+}
+
+} // namespace
+
+// In the place of the system's, which they call.
+extern "C" int fsync(int file) {
+    return Sync(SYS_fsync, file);
+}
+extern "C" int fdatasync(int file) {
+    return Sync(SYS_fdatasync, file);
+}
 
 namespace qlm {
 
@@ -121,6 +148,56 @@ TEST_F(QtSettingsTest, ADamagedFileIsKeptAndWhatWasReadableIsUsed) {
     EXPECT_EQ(again.TakeProblem(), QString());
     EXPECT_EQ(again.GetSetting(u"General"_s, u"Height"_s, {}), u"600"_s);
     EXPECT_EQ(again.GetSetting(u"General"_s, u"Width"_s, {}), u"800"_s);
+}
+
+// The reader of such files would wait half a minute for another's lock, and for ever for a folder's.
+TEST_F(QtSettingsTest, ALockThatIsLeftFromElsewhereHoldsNothingUp) {
+    QElapsedTimer clock;
+    clock.start();
+    {
+        QtSettings settings(path);
+        settings.SaveSetting(u"General"_s, u"Width"_s, u"800"_s);
+        settings.Sync();
+    }
+    QFile lock(fileName + u".lock"_s);
+    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+    lock.write("1\nquillmere\nanother-machine\n");
+    lock.close();
+    {
+        QtSettings settings(path);
+        settings.SaveSetting(u"General"_s, u"Width"_s, u"900"_s);
+        settings.Sync();
+        EXPECT_EQ(settings.TakeProblem(), QString());
+    }
+    ASSERT_TRUE(QDir().mkpath(fileName + u".lock/inside"_s));
+    QtSettings settings(path);
+    settings.SaveSetting(u"General"_s, u"Height"_s, u"600"_s);
+    settings.Sync();
+    EXPECT_EQ(settings.TakeProblem(), QString());
+    EXPECT_EQ(QtSettings(path).GetSetting(u"General"_s, u"Width"_s, {}), u"900"_s);
+    EXPECT_LT(clock.elapsed(), 15'000);
+}
+
+TEST_F(QtSettingsTest, SettingsThatAreAPipeAreToldAndTheProgramWorksWithoutThem) {
+    ASSERT_TRUE(QDir().mkpath(path));
+    ASSERT_EQ(mkfifo(QFile::encodeName(fileName).constData(), 0600), 0);
+    QtSettings settings(path);
+    EXPECT_TRUE(settings.TakeProblem().contains(u"quillmere.ini"_s));
+    settings.SaveSetting(u"General"_s, u"Width"_s, u"800"_s);
+    settings.Sync();
+    EXPECT_EQ(settings.GetSetting(u"General"_s, u"Width"_s, {}), u"800"_s);
+    EXPECT_FALSE(QFileInfo(fileName).isFile());
+}
+
+TEST_F(QtSettingsTest, WhatIsSyncedIsOnTheDiskWithItsNameInTheFolder) {
+    QtSettings settings(path);
+    settings.SaveSetting(u"General"_s, u"Width"_s, u"800"_s);
+    hears = true;
+    settings.Sync();
+    hears = false;
+    ASSERT_EQ(synced.size(), 2) << synced.join(u", "_s).toStdString();
+    EXPECT_TRUE(synced[0].startsWith(u"quillmere.ini"_s));
+    EXPECT_EQ(synced[1], u"Quillmere"_s);
 }
 
 TEST_F(QtSettingsTest, AFolderThatCannotBeMadeIsTold) {
