@@ -3,6 +3,7 @@
 
 #include <QAbstractItemModel>
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QLineEdit>
 #include <QListView>
 
@@ -19,7 +20,19 @@ public:
     QSize sizeHint() const override { return QPushButton::sizeHint() + QSize(2, 0); }
 };
 
+class SecondClickFilter : public QObject {
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject*, QEvent* event) override {
+        return event->type() == QEvent::MouseButtonDblClick;
+    }
+};
+
 } // namespace
+
+void TakeDoubleClickAsOne(QAbstractButton& button) {
+    button.installEventFilter(new SecondClickFilter(&button));
+}
 
 QPushButton* NewButton(QLatin1StringView name, const QString& caption) {
     return Named(new QPushButton(caption), name);

@@ -23,6 +23,10 @@ Widget* Named(Widget* widget, QLatin1StringView name, const QString& accessibleN
     return widget;
 }
 
+// A double click on the button is one click. For buttons that begin something: a second beginning, right
+// after the first, is nobody's wish.
+void TakeDoubleClickAsOne(QAbstractButton& button);
+
 // caption may hold a mnemonic.
 QPushButton* NewButton(QLatin1StringView name, const QString& caption);
 // A button that looks like a link and can be reached by the keyboard.

@@ -31,7 +31,8 @@ constexpr PictureButton Table[] = {
     {"piccmdFrGotoFriends", "GOTOFRIENDS", u"&Friends", u"Navigate to the current profile's friends list"},
     {"piccmdFrGotoComments", "GOTOCOMMENTS", u"&Comments",
      u"Navigate to the current profile's comments list"},
-    {"picScanStart", "SCANSTART", u"&Start Gathering", u"Gather the profile ID's of the page in the browser"},
+    {"picScanStart", "SCANSTART", u"&Start Gathering", u"Gather the profile ID's of the page in the browser",
+     "", true},
     {"picScanStop", "SCANSTOP", u"S&top", u"Stop gathering"},
     {"picFilterOptions", "FILTER", u"Fi&lters...", u"Choose which profiles are kept"},
     {"picRandomize", "RANDOMIZE", u"Shuffle",
@@ -43,16 +44,17 @@ constexpr PictureButton Table[] = {
     {"picRemoveFriends", "REMOVEFRIENDS", u"Remove friends",
      u"After clicking this button, Quillmere will go through all your existing friends and remove those ID's "
      u"from the "
-     u"scanned list above"},
+     u"scanned list above",
+     "", true},
 
     // Friend Requester.
     {"piccmdAddFriends", "SEND", u"&Send Friend Requests",
-     u"Send a friend request to each ID in the gathered list"},
+     u"Send a friend request to each ID in the gathered list", "", true},
     {"piccmdAddFriendsStop", "SENDSTOP", u"S&top", u"Stop sending friend requests"},
     {"piccmdFrClearLog", "LOG", u"&Log...", u"The record of everyone you have sent friend requests to"},
     {"piccmdFrReport", "REPORT", u"&Report...", u"What became of each profile of a run"},
     {"piccmdFRRefreshCategories", "REFRESH", u"Fill the list of categories",
-     u"Fill the list with the categories of your friends"},
+     u"Fill the list with the categories of your friends", "", true},
     {"piccmdFrTimeDelay", "DELAY", u"Time &Delay...", u"Set the pause between two friend requests",
      "mnuTimeDelay_Click"},
 };
@@ -80,6 +82,8 @@ QToolButton* NewPictureButton(QLatin1StringView name, Caption caption) {
         button->setText(words);
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     }
+    if (picture.begins)
+        TakeDoubleClickAsOne(*button);
     if (picture.command[0])
         button->setProperty("command", QString::fromLatin1(picture.command));
     return button;

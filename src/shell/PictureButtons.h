@@ -19,6 +19,7 @@ struct PictureButton {
     const char16_t* caption; // may hold a mnemonic
     const char16_t* toolTip;
     const char* command = ""; // where it isn't name + "_Click"
+    bool begins = false;      // a run or a fetch: a double click is one click
 };
 
 enum class Caption { None, Beside };

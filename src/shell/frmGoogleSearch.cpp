@@ -22,6 +22,7 @@ frmGoogleSearch::frmGoogleSearch(const FormContext& context)
     caption->setBuddy(term);
     QPushButton* search = NewButton("cmdOK"_L1, u"&Search"_s);
     search->setDefault(true);
+    TakeDoubleClickAsOne(*search);
     auto* entry = new QHBoxLayout;
     entry->addWidget(term, 1);
     entry->addWidget(search);

@@ -25,14 +25,16 @@ namespace {
 QGroupBox* LimitFrame() {
     QLineEdit* limit = NewLine("txtFriendRequestsToSend"_L1, u"Number of friend requests to send"_s);
     limit->setPlaceholderText(u"no limit"_s);
-    limit->setToolTip(u"Leave blank to send an unlimited number of requests"_s);
+    limit->setToolTip(
+        u"With 3 here four requests are sent: the run stops at the fourth, which isn't counted. "
+        u"Leave blank to send an unlimited number of requests"_s);
     limit->setMaximumWidth(limit->fontMetrics().averageCharWidth() * 14);
     auto* period = Named(new QComboBox, "cboFRPerDayOrSession"_L1);
     period->setToolTip(u"If you select \"per day\" then QLM takes all your sending activity into account and "
                        "ensures you don't send too much in a 24-hour period"_s);
 
     auto* row = new QHBoxLayout;
-    row->addWidget(NewCaptionOf(*limit, u"S&end at most"_s));
+    row->addWidget(NewCaptionOf(*limit, u"Stop on&e request after"_s));
     row->addWidget(limit);
     row->addWidget(NewCaptionOf(*period, u"requests"_s, u"Limit counts for"_s));
     row->addWidget(period);

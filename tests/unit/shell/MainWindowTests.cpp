@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
@@ -240,6 +241,38 @@ TEST_F(MainWindowTest, TheLimitSaysWhatADayCounts) {
         Named<QComboBox>("cboFRPerDayOrSession")->toolTip(),
         u"If you select \"per day\" then QLM takes all your sending activity into account and ensures you "
         "don't send too much in a 24-hour period"_s);
+}
+
+// A limit of 3 asks four.
+TEST_F(MainWindowTest, TheLimitSaysWhenTheRunStops) {
+    auto* limit = Named<QLineEdit>("txtFriendRequestsToSend");
+    QString caption;
+    for (const QLabel* label : window->findChildren<QLabel*>())
+        if (label->buddy() == limit)
+            caption = QString(label->text()).remove(u'&');
+    EXPECT_EQ(caption, u"Stop one request after"_s);
+    EXPECT_TRUE(limit->toolTip().startsWith(u"With 3 here four requests are sent: "_s));
+}
+
+TEST_F(MainWindowTest, ADoubleClickOnAStartButtonIsOneClick) {
+    auto clicksOf = [this](const QString& name) {
+        int clicks = 0;
+        app->commands.Add(name + u"_Click"_s, [&clicks] { ++clicks; });
+        auto* button = window->findChild<QWidget*>(name);
+        const QPointF at = button->rect().center();
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                        QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+            const auto held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+            QMouseEvent event(type, at, button->mapToGlobal(at), Qt::LeftButton, held, Qt::NoModifier);
+            QApplication::sendEvent(button, &event);
+        }
+        return clicks;
+    };
+    for (const QString& name :
+         {u"piccmdAddFriends"_s, u"picScanStart"_s, u"picRemoveFriends"_s, u"piccmdFRRefreshCategories"_s})
+        EXPECT_EQ(clicksOf(name), 1) << name.toStdString();
+    // Of any other button each click counts.
+    EXPECT_EQ(clicksOf(u"picRandomize"_s), 2);
 }
 
 TEST_F(MainWindowTest, EveryWayOfGatheringIsShown) {
