@@ -237,12 +237,9 @@ void MainForm::picRefresh_Click() {
     });
 }
 
-// The last answer counts, so that whoever has said Yes can take it back.
 void MainForm::mnuExitWhenFinished_Click() {
-    RunState& state = m_app.state;
-    state.blnExitWhenFinished =
-        m_app.AskYesNo(u"Are you sure you want Quillmere to exit when the current operation is finished?"_s);
-    m_app.controls.SetTicked("mnuExitWhenFinished"_L1, state.blnExitWhenFinished);
+    if (m_app.AskYesNo(u"Are you sure you want Quillmere to exit when the current operation is finished?"_s))
+        m_app.state.blnExitWhenFinished = true;
 }
 
 void MainForm::TabStrip1_Click(const QString& caption) {

@@ -39,7 +39,7 @@ constexpr MenuRow Rows[] = {
     {Kind::Tick, "mnuCAPTCHAAlerts", "mnuSkipProfileCAPTCHAs",
      u"S&kip profiles that require CAPTCHA's (except CAPTCHA's required by MySpace)"},
     {Kind::Separator, "mnuOptions", "", u""},
-    {Kind::Tick, "mnuOptions", "mnuExitWhenFinished", u"Exit When &Finished"},
+    {Kind::Item, "mnuOptions", "mnuExitWhenFinished", u"Exit When &Finished"},
     {Kind::Item, "mnuOptions", "mnuExit", u"E&xit", "Ctrl+Q"},
     {Kind::Menu, "", "mnuHelp", u"&Help"},
     {Kind::Tick, "mnuHelp", "mnuDisableBrowserSounds", u"&Disable Browser Sounds"},
