@@ -2,6 +2,7 @@
 #include "campaigns/FriendCategories.h"
 
 #include "browser/PageTests.h"
+#include "campaigns/Pacing.h"
 #include "core/App.h"
 #include "core/SettingsFields.h"
 #include "core/Text.h"
@@ -13,7 +14,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr auto Box = "cboFRCategories"_L1;
-constexpr int SecondsForPage = 60;
 constexpr int MostPages = 100;
 const QString HiddenBrowser = u"webHide"_s;
 const QString TraceFile = u"debugcategories.txt"_s;
@@ -62,7 +62,9 @@ void FriendCategories::piccmdFRRefreshCategories_Click() {
     m_app.controls.SetItems(Box, {});
     m_app.controls.SetText(Box, u"Retrieving, please wait..."_s);
     QStringList names;
+    m_app.pacing->LendCover();
     const QString error = m_app.diagnostics.Trap("RetrieveCategories", [&] { names = Fetch(entry); });
+    m_app.pacing->TakeCoverBack();
     if (!IsCurrent(entry))
         return;
     if (names.isEmpty() || !error.isEmpty()) {
@@ -94,7 +96,7 @@ QStringList FriendCategories::Fetch(int entry) {
     return names;
 }
 
-// False when the page does not come or another fetch has begun.
+// False when another fetch has begun, which is what the user can do about a page that doesn't come.
 bool FriendCategories::OpenPage(int page, int entry) {
     BrowserControl& browser = m_app.webHide();
     browser.SetSilent(true);
@@ -109,8 +111,8 @@ bool FriendCategories::OpenPage(int page, int entry) {
     auto isMissing = [this] {
         return !m_app.pageTests->IsTextInPage(u"Viewable by:"_s, false, HiddenBrowser);
     };
-    m_app.waiting.WaitWhile([&] { return IsCurrent(entry) && isMissing(); }, SecondsForPage);
-    return IsCurrent(entry) && !isMissing();
+    m_app.waiting.WaitWhile([&] { return IsCurrent(entry) && isMissing(); }, 0);
+    return IsCurrent(entry);
 }
 
 // The mark stands in the element's own tag and not in one inside it.

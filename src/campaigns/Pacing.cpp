@@ -5,6 +5,7 @@
 #include "core/StopResume.h"
 #include "core/Text.h"
 
+#include <QScopedValueRollback>
 #include <QUrl>
 #include <cmath>
 
@@ -71,6 +72,7 @@ void Pacing::CountDown(qint64 lengthSeconds) {
     const qint64 startMs = m_app.Pump().NowMs();
     qint64 shown = -1;
     qint64 remaining = lengthSeconds;
+    const QScopedValueRollback counting(m_isCounting, true);
     do {
         m_app.waiting.Turn();
         remaining = lengthSeconds - m_app.waiting.SecondsSince(startMs);
@@ -82,6 +84,8 @@ void Pacing::CountDown(qint64 lengthSeconds) {
 }
 
 void Pacing::ShowCover() {
+    if (m_loans > 0)
+        return;
     const QString name = u"timedelay.htm"_s;
     BrowserControl& cover = m_app.webHide();
     if (!cover.LocationURL().contains(name)) {
@@ -92,6 +96,22 @@ void Pacing::ShowCover() {
 
 void Pacing::HideCover() {
     m_app.webHide().ZOrder(1);
+}
+
+void Pacing::ClearCover() {
+    if (m_loans == 0)
+        m_app.webHide().Navigate(u"about:blank"_s);
+    HideCover();
+}
+
+void Pacing::LendCover() {
+    ++m_loans;
+    HideCover();
+}
+
+void Pacing::TakeCoverBack() {
+    if (--m_loans == 0 && m_isCounting)
+        ShowCover();
 }
 
 } // namespace qlm

@@ -23,6 +23,11 @@ public:
     // webHide shows timedelay.htm and comes to the front; or goes to the back.
     void ShowCover();
     void HideCover();
+    // The same, and webHide becomes empty.
+    void ClearCover();
+    // webHide fetches something: until it is taken back it covers nothing and shows no other page.
+    void LendCover();
+    void TakeCoverBack();
 
 private:
     void WaitCovered();
@@ -30,6 +35,8 @@ private:
 
     App& m_app;
     TimeDelayDialog m_dialog;
+    bool m_isCounting = false;
+    int m_loans = 0;
 };
 
 // A random whole number from lower; by rounding it can reach upper + 1.

@@ -128,5 +128,32 @@ TEST_F(PacingTest, StopEndsTheDelayAndItsHoldStays) {
     EXPECT_FALSE(app->state.blnInDelay);
 }
 
+TEST_F(PacingTest, WhileItIsLentTheCoverCoversNothingAndShowsNoOtherPage) {
+    SetBounds(u"5"_s, u"5"_s);
+    app->pacing->LendCover();
+    app->pacing->ShowCover();
+    EXPECT_EQ(app->webHide().Position(), 1);
+    app->webHide().Navigate(u"http://www.example.com/fetched"_s);
+    app->pacing->ClearCover();
+    EXPECT_EQ(SecondsOfDelay(), 6);
+    EXPECT_FALSE(platform->Browser(BrowserName::webHide).TakeVisited().join(u' ').contains(u"timedelay"_s));
+    app->pacing->TakeCoverBack();
+    EXPECT_EQ(app->webHide().Position(), 1);
+    // Taken back within a delay, it covers again.
+    bool wasLent = false;
+    bool covered = false;
+    platform->Pump().onPump = [&] {
+        if (std::exchange(wasLent, true)) {
+            covered = covered || app->webHide().Position() == 0;
+            return;
+        }
+        app->pacing->LendCover();
+        EXPECT_EQ(app->webHide().Position(), 1);
+        app->pacing->TakeCoverBack();
+    };
+    app->pacing->DoDelay();
+    EXPECT_TRUE(covered);
+}
+
 } // namespace
 } // namespace qlm
