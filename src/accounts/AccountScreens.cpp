@@ -4,6 +4,7 @@
 #include "accounts/AccountFile.h"
 #include "accounts/LoginFlow.h"
 #include "core/App.h"
+#include "core/SettingsFields.h"
 #include "core/Text.h"
 
 namespace qlm {
@@ -196,7 +197,7 @@ void AccountScreens::Continue() {
     settings.SaveSetting(FieldEntries, u"Login - chkTOS"_s, u"1"_s);
     settings.SaveSetting(FieldEntries, u"Login - txtEmail"_s, state.AccountEmail);
     settings.SaveSetting(FieldEntries, u"Login - txtPassword"_s, state.AccountPassword);
-    settings.Sync();
+    m_app.settingsFields->Sync();
     m_app.platform.Dialogs().ShowForm(u"frmMain"_s);
     m_app.platform.Dialogs().CloseForm(u"frmInteken"_s);
 }

@@ -2,7 +2,10 @@
 #include "campaigns/BulletinDots.h"
 
 #include "core/App.h"
+#include "core/SettingsFields.h"
 #include "core/Text.h"
+
+#include <algorithm>
 
 namespace qlm {
 
@@ -14,6 +17,7 @@ const QString MessageKey = u"First Post Message"_s;
 const QString TimeKey = u"First Post DateTime"_s;
 const QString CountKey = u"DotCount"_s;
 const QString TimeFormat = u"yyyy-MM-dd hh:mm:ss"_s;
+constexpr qint32 MostPosts = 1000;
 constexpr qint64 SecondsOfADay = 24 * 60 * 60;
 
 QDateTime WithoutZone(const QDateTime& time) {
@@ -27,7 +31,9 @@ QString GetBulletinDots(App& app) {
     const QString firstMessage = settings.GetSetting(Section, MessageKey, {});
     const QDateTime firstPost =
         WithoutZone(QDateTime::fromString(settings.GetSetting(Section, TimeKey, {}), TimeFormat));
-    qint32 count = ToLong(settings.GetSetting(Section, CountKey, u"0"_s)).value_or(0);
+    // More than anybody posts is no count.
+    const qint32 stored = ToLong(settings.GetSetting(Section, CountKey, u"0"_s)).value_or(0);
+    qint32 count = stored < MostPosts ? std::max(stored, 0) : 0;
     const QDateTime now = WithoutZone(app.Pump().Now());
     const bool expired = !firstPost.isValid() || firstPost.secsTo(now) >= SecondsOfADay;
     if (firstMessage.isEmpty() || expired || message != firstMessage) {
@@ -37,7 +43,7 @@ QString GetBulletinDots(App& app) {
     }
     ++count;
     settings.SaveSetting(Section, CountKey, QString::number(count));
-    settings.Sync();
+    app.settingsFields->Sync();
     return count == 1 ? QString() : QString(count - 1, u'.') + u"\r\n"_s;
 }
 

@@ -5,10 +5,12 @@
 #include "core/App.h"
 #include "core/MainForm.h"
 #include "core/ProductServer.h"
+#include "core/SettingsFields.h"
 #include "core/StopResume.h"
 #include "core/Text.h"
 
 #include <algorithm>
+#include <limits>
 #include <vector>
 
 namespace qlm {
@@ -63,6 +65,20 @@ const DailyCounter& CounterOf(const Campaign& campaign) {
                          [&](const DailyCounter& counter) { return counter.count == campaign.daily; });
 }
 
+constexpr qint32 MostCounted = std::numeric_limits<qint32>::max();
+
+void Raise(qint32& count) {
+    if (count < MostCounted)
+        ++count;
+}
+
+// More than can be counted is as much as can be: it must not let a limit for the day begin anew.
+qint32 ToCount(const QString& stored) {
+    if (!IsNumeric(stored) || stored.trimmed().startsWith(u'-'))
+        return 0;
+    return ToLong(stored).value_or(MostCounted);
+}
+
 // A campaign without targets tells how many there are to be.
 QString SentText(const App& app, const Campaign& campaign, const char* words) {
     const QString text = QString::fromLatin1(words) + QString::number(app.state.*campaign.session);
@@ -85,7 +101,7 @@ void Counters::Restore() {
     log(u"RestAccS5"_s);
     if (today) {
         m_app.platform.Settings().SaveSetting(DaySection(m_app), DayKey, today->toString(u"yyyy-MM-dd"_s));
-        m_app.platform.Settings().Sync();
+        m_app.settingsFields->Sync();
     }
     log(u"RestAccS7 - "_s + stored);
 }
@@ -104,17 +120,32 @@ void Counters::Read() {
     for (const DailyCounter& counter : DailyCounters()) {
         const QString value =
             settings.GetSetting(CountersSection(m_app), QString::fromLatin1(counter.key), u"0"_s);
-        m_app.state.*counter.count = ToLong(value).value_or(0);
+        m_app.state.*counter.count = ToCount(value);
         ShowToday(m_app, counter);
     }
+}
+
+bool Counters::IsPerDay(const Campaign& campaign) const {
+    return !campaign.period.isEmpty() && m_app.controls.Text(campaign.period) == u"per day"_s;
 }
 
 bool Counters::LimitReached(const Campaign& campaign) const {
     const std::optional<qint32> limit = ToLong(m_app.controls.Text(campaign.amount));
     if (!limit || campaign.period.isEmpty())
         return false;
-    const bool perDay = m_app.controls.Text(campaign.period) == u"per day"_s;
-    return m_app.state.*(perDay ? campaign.daily : campaign.session) >= *limit;
+    return m_app.state.*(IsPerDay(campaign) ? campaign.daily : campaign.session) >= *limit;
+}
+
+bool Counters::StopUncounted(const QString& campaign) {
+    const Campaign* limited = FindCampaign(campaign);
+    if (m_isStored || !limited || !IsPerDay(*limited) || !ToLong(m_app.controls.Text(limited->amount)))
+        return false;
+    m_app.stopResume->StopAll(u"UNCOUNTED"_s);
+    if (!m_app.stopResume->DoFinishedExit())
+        m_app.ShowMessage(u"Quillmere can't save how many you have sent today, so it can't keep your limit "
+                          u"per day. The run "
+                          "has been stopped."_s);
+    return true;
 }
 
 bool Counters::StopAtLimit(const QString& campaign) {
@@ -137,12 +168,12 @@ void Counters::ShowSentAtStart(const Campaign& campaign) {
 void Counters::CountOne(const Campaign& campaign) {
     RunState& state = m_app.state;
     const DailyCounter& today = CounterOf(campaign);
-    ++(state.*campaign.daily);
+    Raise(state.*campaign.daily);
     ShowToday(m_app, today);
     m_app.platform.Settings().SaveSetting(CountersSection(m_app), QString::fromLatin1(today.key),
                                           QString::number(state.*campaign.daily));
-    m_app.platform.Settings().Sync();
-    ++(state.*campaign.session);
+    m_isStored = m_app.settingsFields->Sync();
+    Raise(state.*campaign.session);
     m_app.controls.SetText(campaign.sentLabel, SentText(m_app, campaign, campaign.sentSoFar));
 }
 

@@ -29,6 +29,8 @@ public:
     void Count(const QString& campaign);
     // True when the campaign's limit has been reached and its run is over.
     bool StopAtLimit(const QString& campaign);
+    // True when the last count could not be saved and the campaign has a limit for the day: its run is over.
+    bool StopUncounted(const QString& campaign);
 
     // The label of what this run has sent, at its start and behind a send.
     void ShowSentAtStart(const Campaign& campaign);
@@ -37,9 +39,11 @@ private:
     void Clear();
     void Read();
     void CountOne(const Campaign& campaign);
+    bool IsPerDay(const Campaign& campaign) const;
     bool LimitReached(const Campaign& campaign) const;
 
     App& m_app;
+    bool m_isStored = true;
 };
 
 } // namespace qlm

@@ -3,6 +3,7 @@
 
 #include "core/App.h"
 #include "core/Integer16.h"
+#include "core/SettingsFields.h"
 #include "core/Text.h"
 
 namespace qlm {
@@ -128,7 +129,7 @@ void TimeDelayDialog::Save(qint16 from, qint16 to) {
     settings.SaveSetting(u"General"_s, u"TimeDelayTo"_s, QString::number(to));
     for (const DelayField& field : DelayFields())
         settings.SaveSetting(u"Field Entries"_s, field.key, m_app.controls.Text(field.name));
-    settings.Sync();
+    m_app.settingsFields->Sync();
 }
 
 } // namespace qlm

@@ -3,6 +3,7 @@
 
 #include "core/App.h"
 #include "core/Registry.h"
+#include "core/SettingsFields.h"
 
 namespace qlm {
 
@@ -28,7 +29,7 @@ QString BrowserSounds::Sound() const {
 void BrowserSounds::SetSound(const QString& sound) {
     modRegistry(m_app.platform.Settings())
         .WriteString(modRegistry::Root::CurrentUser, SoundPath, SoundValue, sound);
-    m_app.platform.Settings().Sync();
+    m_app.settingsFields->Sync();
 }
 
 void BrowserSounds::Silence() {

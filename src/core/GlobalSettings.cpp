@@ -74,7 +74,7 @@ void GlobalSettings::mnuResetSettings_Click() {
 
 // The exit would write everything back, and a run that goes on behind the message its counts.
 void GlobalSettings::CloseBehindReset(const QString& message, const QString& title) {
-    m_app.platform.Settings().Sync();
+    m_app.settingsFields->Sync();
     m_app.state.blnNoSaveOnExit = true;
     m_app.stopResume->StopAll(u"FU"_s);
     m_app.ShowMessage(message, title);

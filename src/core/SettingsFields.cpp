@@ -23,6 +23,11 @@ QString KeyOf(const ControlRow& row) {
     return QString::fromLatin1(row.key[0] ? row.key : row.name);
 }
 
+const ControlRow& RowOf(QLatin1StringView name) {
+    return *std::find_if(Controls::Table().begin(), Controls::Table().end(),
+                         [name](const ControlRow& row) { return name == QLatin1StringView(row.name); });
+}
+
 bool IsListKind(const QString& kind) {
     static const QSet<QString> lists{u"BookmarksList"_s, u"Log"_s,          u"GatheredList"_s,
                                      u"BulletinsList"_s, u"StatusesList"_s, u"CommentsList"_s,
@@ -86,7 +91,7 @@ void SettingsFields::ChangeGlobalFlags(const QSet<QString>& keys) {
         m_flags.insert(key, keys.contains(key));
         m_app.platform.Settings().SaveSetting(General, key, FromBoolean(keys.contains(key)));
     }
-    m_app.platform.Settings().Sync();
+    Sync();
     for (const char* kind : InputKinds())
         if (before.value(QString::fromLatin1(kind)) != UsesGlobal(QString::fromLatin1(kind)))
             RestoreKind(QLatin1StringView(kind));
@@ -228,8 +233,11 @@ void SettingsFields::SettleFields() {
     if (std::none_of(scanOptions.begin(), scanOptions.end(),
                      [this](QLatin1StringView name) { return m_app.controls.Ticked(name); }))
         m_app.controls.SetTicked("optScanFollowing"_L1, true);
-    if (m_app.controls.Text("cboFRCategories"_L1).isEmpty())
-        m_app.controls.SetText("cboFRCategories"_L1, u"Select a category from the list"_s);
+    // What another account calls its friends means nothing here.
+    const ControlRow& categories = RowOf("cboFRCategories"_L1);
+    if (!IsStored(SectionOf(u"FriendRequest"_s), categories) ||
+        m_app.controls.Text("cboFRCategories"_L1).isEmpty())
+        SetStartingValue(categories);
 }
 
 void SettingsFields::RestoreKind(QLatin1StringView kind) {
@@ -240,17 +248,20 @@ void SettingsFields::RestoreKind(QLatin1StringView kind) {
             rows.push_back(&row);
     // An account that has left the shared settings begins with the starting values until it saves its own.
     const bool own = section != FieldEntries;
-    const SettingsStore& settings = m_app.platform.Settings();
-    const bool nothingStored = std::none_of(rows.begin(), rows.end(), [&](const ControlRow* row) {
-        return settings.GetSetting(section, KeyOf(*row), u"a"_s) ==
-               settings.GetSetting(section, KeyOf(*row), u"b"_s);
-    });
+    const bool nothingStored = std::none_of(rows.begin(), rows.end(),
+                                            [&](const ControlRow* row) { return IsStored(section, *row); });
     for (const ControlRow* row : rows) {
         if (own && nothingStored)
             SetStartingValue(*row);
         else
             RestoreControl(section, *row);
     }
+}
+
+bool SettingsFields::IsStored(const QString& section, const ControlRow& row) const {
+    const SettingsStore& settings = m_app.platform.Settings();
+    return settings.GetSetting(section, KeyOf(row), u"a"_s) ==
+           settings.GetSetting(section, KeyOf(row), u"b"_s);
 }
 
 void SettingsFields::SetStartingValue(const ControlRow& row) {
@@ -275,11 +286,22 @@ bool SettingsFields::SaveListsAndSettings() {
         for (const ControlRow& row : Controls::Table())
             if (QLatin1StringView(row.kind) == "Field Entries"_L1)
                 SaveControl(FieldEntries, row);
-        m_app.platform.Settings().Sync();
+        Sync();
         if (m_app.controls.Ticked("chkSaveScanned"_L1))
             isListSaved = m_app.gatheredList->SaveScannedList(m_app.gatheredList->ScopedPath());
     });
     return isListSaved;
+}
+
+// The store tells of its first failure alone.
+bool SettingsFields::Sync() {
+    m_app.platform.Settings().Sync();
+    const QString problem = m_app.platform.Settings().TakeProblem();
+    if (!problem.isEmpty()) {
+        m_cannotSave = true;
+        m_app.diagnostics.ReportError(u"SaveSetting"_s, std::runtime_error(problem.toStdString()));
+    }
+    return !m_cannotSave;
 }
 
 void SettingsFields::SaveGeneral() {
@@ -298,7 +320,7 @@ void SettingsFields::SaveGeneral() {
         for (const ControlRow& row : Controls::Table())
             if (QLatin1StringView(row.kind) == "General"_L1)
                 SaveControl(General, row);
-        settings.Sync();
+        Sync();
     });
 }
 

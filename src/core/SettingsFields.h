@@ -33,6 +33,8 @@ public:
     // While the account is still the current one: every input and, if wanted, the lists.
     bool SaveListsAndSettings();
     void SaveGeneral();
+    // Makes everything saved so far durable. False from the first failure on, which is reported.
+    bool Sync();
 
     // For a list kind the folder below ProgramFolder, created; for a settings kind the suffix of "Field
     // Entries". Empty without an account or when the kind is shared.
@@ -54,12 +56,14 @@ private:
     void EndSessionChains();
     void RestoreLists();
     void SettleFields();
+    bool IsStored(const QString& section, const ControlRow& row) const;
 
     App& m_app;
     QHash<QString, bool> m_flags; // the blnUseGlobal... flags; true until read
     // The inputs show the account in use. Not so between a change of account and its restoring: what is saved
     // then would be another's.
     bool m_restored = false;
+    bool m_cannotSave = false;
 };
 
 } // namespace qlm

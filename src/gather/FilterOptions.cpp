@@ -161,7 +161,7 @@ void ProfileFilters::frmFilters_cmdOK_Click() {
             m_app.platform.Settings().SaveSetting(section, KeyOf(*row),
                                                   ValueOf(m_app.controls[QLatin1StringView(name)]));
         }
-        m_app.platform.Settings().Sync();
+        m_app.settingsFields->Sync();
         m_app.platform.Dialogs().CloseForm(u"frmFilters"_s);
     });
 }

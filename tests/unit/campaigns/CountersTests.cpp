@@ -270,5 +270,72 @@ TEST_F(CountersTest, OnTheAlternateServerTheDayComesFromItsOwnPage) {
     EXPECT_EQ(app->state.lngDailyFR, 0);
 }
 
+TEST_F(CountersTest, ACounterStaysAtTheMostThatItHolds) {
+    constexpr qint32 most = std::numeric_limits<qint32>::max();
+    for (const QString& stored : {u"2147483647"_s, u"2147483648"_s, u"99999999999999999999"_s}) {
+        StoreDay(u"2009-06-02"_s);
+        StoreCount(u"Daily Friends Count"_s, stored);
+        app->counters->Restore();
+        EXPECT_EQ(app->state.lngDailyFR, most);
+        app->state.lngSessionFR = most;
+        app->counters->Count(u"FR"_s);
+        EXPECT_EQ(app->state.lngDailyFR, most);
+        EXPECT_EQ(app->state.lngSessionFR, most);
+        EXPECT_EQ(Stored(u"Daily Friends Count"_s), u"2147483647"_s);
+        // The limit for the day holds.
+        app->state.CurrentAction = u"FR"_s;
+        app->controls.SetText("txtFriendRequestsToSend"_L1, u"10"_s);
+        app->controls.SetText("cboFRPerDayOrSession"_L1, u"per day"_s);
+        EXPECT_FALSE(app->counters->AddFriendCount());
+    }
+}
+
+TEST_F(CountersTest, WhatIsNoCountIsNone) {
+    StoreDay(u"2009-06-02"_s);
+    for (const QString& stored : {u"-5"_s, u"-99999999999"_s, u"many"_s, u""_s}) {
+        StoreCount(u"Daily Friends Count"_s, stored);
+        app->counters->Restore();
+        EXPECT_EQ(app->state.lngDailyFR, 0);
+    }
+}
+
+class UnsavedCountTest : public CountersTest {
+protected:
+    UnsavedCountTest() {
+        app->controls.SetText("txtFriendRequestsToSend"_L1, u"5"_s);
+        world.settings.problem = u"The settings could not be saved."_s;
+        EXPECT_TRUE(app->counters->AddFriendCount());
+    }
+    int TimesTold() {
+        return static_cast<int>(
+            app->files.ReadLines(app->state.ErrorLogPath).filter(u"could not be saved"_s).size());
+    }
+};
+
+TEST_F(UnsavedCountTest, StopsARunWithALimitPerDay) {
+    app->controls.SetText("cboFRPerDayOrSession"_L1, u"per day"_s);
+    EXPECT_TRUE(app->counters->StopUncounted(u"FR"_s));
+    EXPECT_TRUE(app->state.CurrentAction.isEmpty());
+    EXPECT_EQ(
+        dialogs.Texts(),
+        QStringList{u"Quillmere can't save how many you have sent today, so it can't keep your limit per "
+                    "day. The run has been stopped."_s});
+}
+
+TEST_F(UnsavedCountTest, IsToldOnceAndOtherRunsGoOn) {
+    EXPECT_EQ(TimesTold(), 1);
+    EXPECT_EQ(dialogs.shownForms, QStringList{u"frmError"_s});
+    EXPECT_FALSE(app->counters->StopUncounted(u"FR"_s));
+    app->controls.SetText("cboFRPerDayOrSession"_L1, u"per day"_s);
+    app->controls.SetText("txtFriendRequestsToSend"_L1, {});
+    EXPECT_FALSE(app->counters->StopUncounted(u"FR"_s));
+    EXPECT_TRUE(app->counters->AddFriendCount());
+    EXPECT_EQ(TimesTold(), 1);
+    EXPECT_EQ(app->state.CurrentAction, u"FR"_s);
+    // The store tells of its first failure alone; the counts stay unsaved.
+    app->controls.SetText("txtFriendRequestsToSend"_L1, u"5"_s);
+    EXPECT_TRUE(app->counters->StopUncounted(u"FR"_s));
+}
+
 } // namespace
 } // namespace qlm
