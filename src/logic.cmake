@@ -94,6 +94,7 @@ add_library(quillmere_logic STATIC
     campaigns/FriendCategories.cpp
     campaigns/FriendRequester.cpp
     campaigns/LogDialog.cpp
+    campaigns/OpenNotes.cpp
     campaigns/Pacing.cpp
     campaigns/RefusalTexts.cpp
     campaigns/ReportDialog.cpp

@@ -2,6 +2,7 @@
 #include "browser/GatherPageTest.h"
 #include "browser/PageTests.h"
 #include "browser/StepDispatcher.h"
+#include "campaigns/FriendRequester.h"
 #include "core/App.h"
 #include "core/StopResume.h"
 #include "core/Text.h"
@@ -183,6 +184,12 @@ bool AsksOrSendsWithoutButton(App& app) {
            (app.pageTests->IsRequestSentPage() || app.pageTests->IsCaptchaPage());
 }
 
+// The step that logs it comes 400 ms later, and Stop, Skip or the end of the process may come before.
+bool IsRequestConfirmed(App& app) {
+    return app.state.CurrentAction == u"FR"_s && app.state.intFRStep == 8 &&
+           app.pageTests->IsRequestSentPage();
+}
+
 } // namespace
 
 // On a list page that is whatever the recognition of profile links asks of each link.
@@ -213,9 +220,12 @@ bool FindExpectedElement(App& app) {
     if (state.strLinkType == u"Text"_s)
         for (const TextRider rider : TextRiders())
             found = rider(app, found) || found;
-    if (found)
-        state.blnLinkFound = true;
-    return found;
+    if (!found)
+        return false;
+    state.blnLinkFound = true;
+    if (IsRequestConfirmed(app))
+        app.friendRequester->NoteConfirmation();
+    return true;
 }
 
 } // namespace qlm

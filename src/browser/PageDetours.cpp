@@ -2,6 +2,7 @@
 #include "accounts/LoginFlow.h"
 #include "browser/PageTests.h"
 #include "browser/StepDispatcher.h"
+#include "campaigns/FriendRequester.h"
 #include "campaigns/Pacing.h"
 #include "campaigns/SendRuns.h"
 #include "core/App.h"
@@ -70,6 +71,7 @@ bool LogInAgain(const Page& page) {
 
 bool ConfirmedWhileWaiting(const Page& page) {
     page.Trace(page.Body() + u"FR LF2"_s);
+    page.app.friendRequester->NoteConfirmation();
     page.app.pacing->HideCover();
     page.app.stopResume->ResumeNext();
     return false;

@@ -142,9 +142,9 @@ bool Counters::StopUncounted(const QString& campaign) {
         return false;
     m_app.stopResume->StopAll(u"UNCOUNTED"_s);
     if (!m_app.stopResume->DoFinishedExit())
-        m_app.ShowMessage(u"Quillmere can't save how many you have sent today, so it can't keep your limit "
-                          u"per day. The run "
-                          "has been stopped."_s);
+        m_app.ShowMessage(
+            u"Quillmere can't save how many you have sent today, so it can't keep your limit per day. "
+            "The run has been stopped."_s);
     return true;
 }
 

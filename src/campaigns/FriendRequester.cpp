@@ -5,6 +5,7 @@
 #include "campaigns/SendRuns.h"
 #include "campaigns/StartChecks.h"
 #include "core/App.h"
+#include "core/SettingsFields.h"
 #include "core/StopResume.h"
 #include "core/Text.h"
 #include "gather/ProfileFilters.h"
@@ -38,7 +39,7 @@ FriendRequester::FriendRequester(App& app) : m_app(app), m_categories(app) {
     app.commands.Add(u"frmTempMySpaceErrorFR.cmdOK_Click"_s, [this] {
         const bool notAgain = m_app.controls.Ticked("frmTempMySpaceErrorFR.chkDontShowAgain"_L1);
         m_app.platform.Settings().SaveSetting(u"General"_s, NoticeKey, notAgain ? u"1"_s : u"0"_s);
-        m_app.platform.Settings().Sync();
+        m_app.settingsFields->Sync();
         m_app.platform.Dialogs().CloseForm(u"frmTempMySpaceErrorFR"_s);
     });
     app.commands.Add(u"chkFrSendMessage_MouseDown"_s, [this] {

@@ -25,6 +25,9 @@ public:
     // The site has redirected to its error page although the request went out: tells the user, at most once a
     // run.
     void NoticeErrorRedirect();
+    // The page confirms the request to the current target. The log line comes with the step; whatever cuts in
+    // before it, the note stays.
+    void NoteConfirmation();
 
 private:
     // What a step leaves behind: a page or timer is awaited, or the next step runs at once.
@@ -60,10 +63,13 @@ private:
     Next PutTargetOff(qint32 target);
     void MoveTargetToEnd();
     Next WaitForAnswer(qint32 target);
+    void WaitNoting(qint32 target, int seconds);
+    void NoteWhenConfirmed();
 
     App& m_app;
     FriendCategories m_categories;
     bool m_movedToEnd = false; // the current target comes again, so it hasn't failed
+    qint32 m_confirmed = -1;   // number of the last target whose confirmation was seen
 };
 
 } // namespace qlm

@@ -2,6 +2,7 @@
 #include "campaigns/LogDialog.h"
 
 #include "campaigns/Campaigns.h"
+#include "campaigns/OpenNotes.h"
 #include "campaigns/SentLog.h"
 #include "core/App.h"
 
@@ -45,6 +46,7 @@ void LogDialog::cmdClearLog_Click() {
     if (!m_app.AskYesNo(u"Are you sure you want to clear this file?"_s))
         return;
     m_app.files.DeleteFile(m_path);
+    OpenNotes(m_app.files, m_path).Clear();
     m_app.ShowMessage(u"Log cleared"_s);
 }
 
@@ -75,11 +77,13 @@ void LogDialog::cmdImportLog_Click() {
     const QString chosen = m_app.platform.Dialogs().ChooseFileToOpen(u"Import Log"_s, TextFiles);
     if (chosen.isEmpty())
         return;
-    if (m_app.files.IsIllegible(chosen))
+    if (m_app.files.IsIllegible(chosen)) {
         m_app.ShowMessage(u"This file is written in UTF-16 (\"Unicode\"): nobody in it would be recognised. "
                           "Please save it as plain text (ANSI or UTF-8) first."_s);
-    else
-        m_app.files.CopyFile(chosen, m_path);
+        return;
+    }
+    m_app.files.CopyFile(chosen, m_path);
+    OpenNotes(m_app.files, m_path).Clear();
 }
 
 } // namespace qlm

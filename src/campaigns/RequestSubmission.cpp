@@ -10,6 +10,8 @@
 #include "core/StopResume.h"
 #include "gather/GatheredList.h"
 
+#include <utility>
+
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
@@ -46,7 +48,15 @@ FriendRequester::Next FriendRequester::SubmitFriend() {
     return IsCurrent(target) ? GoOnBehindSubmit(target) : Next::Wait;
 }
 
-// False when the limit has stopped the run instead.
+// Once a target: a disk that refuses is not asked again at each turn of a wait.
+void FriendRequester::NoteConfirmation() {
+    m_app.sendRuns->Report().Confirm();
+    const qint32 target = m_app.state.lngTargetNumber;
+    if (std::exchange(m_confirmed, target) != target)
+        m_app.sentLog->NoteContact();
+}
+
+// False when a limit has stopped the run.
 bool FriendRequester::RequestWasSent() {
     RunState& state = m_app.state;
     m_app.pacing->HideCover();
@@ -55,20 +65,21 @@ bool FriendRequester::RequestWasSent() {
     state.intCaptchaSkips = 0;
     m_app.timers->tmrAutoResume.SetEnabled(false);
     state.blnWaitingForCaptcha = false;
+    NoteConfirmation();
     if (!m_app.counters->AddFriendCount())
         return false;
     state.intFRStep = 9;
     const bool logged = m_app.sentLog->WriteLogEntry();
     m_app.sendRuns->Report().Close(logged ? ReportResult::Sent : ReportResult::SentNotLogged,
                                    logged ? QString() : u"The log could not be written"_s);
-    return true;
+    return !m_app.counters->StopUncounted(m_app.state.CurrentAction);
 }
 
 // Neither a confirmation nor a CAPTCHA: the page may still be building. The older one has a button of its
 // own, which nobody but the user presses.
 FriendRequester::Next FriendRequester::LookAgain(qint32 target) {
     m_app.diagnostics.DebugForAction(m_app.WebBrowser1().Document().BodyHTML());
-    m_app.waiting.WaitSeconds(UnknownPageSeconds);
+    WaitNoting(target, UnknownPageSeconds);
     if (!IsCurrent(target))
         return Next::Wait;
     if (AwaitsProfile()) {
@@ -117,8 +128,7 @@ FriendRequester::Next FriendRequester::PutTargetOff(qint32 target) {
     RunState& state = m_app.state;
     MoveTargetToEnd();
     m_movedToEnd = true;
-    m_app.webHide().Navigate(u"about:blank"_s);
-    m_app.pacing->HideCover();
+    m_app.pacing->ClearCover();
     m_app.ClearPage();
     if (!IsCurrent(target))
         return Next::Wait;
@@ -146,6 +156,22 @@ void FriendRequester::MoveTargetToEnd() {
     m_app.gatheredList->ProcessArrayAndList(u"ADD"_s, 0, state.strCurrentID, caller);
 }
 
+// No page check runs in the waits of the step, and the page may be gone when Stop or Skip ends one.
+void FriendRequester::WaitNoting(qint32 target, int seconds) {
+    m_app.waiting.WaitWhile(
+        [&] {
+            if (IsCurrent(target))
+                NoteWhenConfirmed();
+            return !m_app.state.blnHoldLinkCheck;
+        },
+        seconds + 1);
+}
+
+void FriendRequester::NoteWhenConfirmed() {
+    if (m_confirmed != m_app.state.lngTargetNumber && m_app.pageTests->IsRequestSentPage())
+        NoteConfirmation();
+}
+
 FriendRequester::Next FriendRequester::WaitForAnswer(qint32 target) {
     RunState& state = m_app.state;
     PageTests& page = *m_app.pageTests;
@@ -159,10 +185,15 @@ FriendRequester::Next FriendRequester::WaitForAnswer(qint32 target) {
             return true;
         },
         0);
+    auto isComing = [&] { return m_app.WebBrowser1().ReadyState() != 4 && !page.IsTextInPage(WrongAnswer); };
     m_app.waiting.WaitWhile(
-        [&] { return goesOn() && m_app.WebBrowser1().ReadyState() != 4 && !page.IsTextInPage(WrongAnswer); },
+        [&] {
+            if (goesOn())
+                NoteWhenConfirmed();
+            return goesOn() && isComing();
+        },
         0);
-    m_app.waiting.WaitSeconds(SettledPageSeconds);
+    WaitNoting(target, SettledPageSeconds);
     if (!IsCurrent(target))
         return Next::Wait;
     if (state.blnHoldLinkCheck) {

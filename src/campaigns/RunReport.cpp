@@ -34,6 +34,7 @@ const std::vector<EndRow>& EndRows() {
         {"IAF"_L1, "All targets were gone through", ReportResult::Unfinished, ""},
         {"AFC"_L1, "Your limit was reached", ReportResult::SentNotLogged,
          "The request that met your limit: it is sent, but neither counted nor logged"},
+        {"UNCOUNTED"_L1, "The count of today could not be saved", ReportResult::Unfinished, ""},
         {"LF2"_L1, "The site's daily limit was reached", ReportResult::Failed, ""},
         {"ADDSTOP"_L1, "You pressed Stop", ReportResult::Unfinished, "You pressed Stop"},
         {"MAINSTOP"_L1, "You pressed Stop", ReportResult::Unfinished, "You pressed Stop"},
@@ -151,6 +152,7 @@ void RunReport::Open(const QString& id) {
     Close(ReportResult::Unfinished);
     m_row = {m_row.number + 1, m_app.NowText(), id, ReportResult::Unfinished, 0, {}};
     m_isOpen = true;
+    m_isConfirmed = false;
     m_lines.append(BegunLine(m_row));
     Write(Durability::Quick);
 }
@@ -166,11 +168,16 @@ void RunReport::RemarkPage(int pageClass) {
     Remark(RefusalText(pageClass), pageClass);
 }
 
+void RunReport::Confirm() {
+    m_isConfirmed = m_isOpen;
+}
+
 void RunReport::Close(ReportResult result, const QString& why) {
     if (!m_isOpen)
         return;
     m_isOpen = false;
-    m_row.result = result;
+    const bool wasSent = m_isConfirmed && result != ReportResult::Sent;
+    m_row.result = wasSent ? ReportResult::SentNotLogged : result;
     m_row.time = m_app.NowText();
     if (m_row.why.isEmpty())
         m_row.why = why;

@@ -32,6 +32,8 @@ public:
     // Says beforehand why the open target will end as it will.
     void Remark(const QString& why, int pageClass = 0);
     void RemarkPage(int pageClass);
+    // The site has confirmed the request to the open target: however it ends now, it was sent.
+    void Confirm();
     // The open target's result; words given here stand in for a missing remark. Nothing when none is open.
     void Close(ReportResult result, const QString& why = {});
     // Lines that are still in memory go to the file.
@@ -59,6 +61,7 @@ private:
     qsizetype m_passedOver = 0;
     ReportRow m_row; // the open target, or the last one
     bool m_isOpen = false;
+    bool m_isConfirmed = false;
     QString m_problem;
     bool m_problemTold = false;
 };

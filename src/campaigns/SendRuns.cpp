@@ -91,7 +91,6 @@ void SendRuns::Reset(const Campaign& campaign) {
     state.blnInDelay = false;
     state.intBlankTicks = 0;
     state.intFRLimitHits = 0;
-    state.intCaptchaSkips = 0;
     state.blnMsgAfterFR = false;
     state.blnFRSkipMessage = false;
     state.blnErrorRedirectTold = false;
@@ -105,6 +104,7 @@ void SendRuns::Reset(const Campaign& campaign) {
         state.intCurrentIDIndex = 0;
     // Of friend requests the log is the only guard against asking somebody twice.
     state.blnCheckLog = campaign.checkLogBox.isEmpty() || m_app.controls.Ticked(campaign.checkLogBox);
+    m_app.sentLog->SettleNotes();
     m_app.counters->ShowSentAtStart(campaign);
     ShowCounts();
 }
@@ -167,7 +167,10 @@ bool SendRuns::StayedBehindSkip(const QString& caller) {
     ++state.lngSkippedCount;
     state.intFRLimitHits = 0;
     if (state.CurrentAction == FriendRequests)
-        m_report.PassOver(state.strCurrentID, u"You sent to this one before"_s);
+        m_report.PassOver(state.strCurrentID,
+                          m_app.sentLog->IsNoted(state.strCurrentID)
+                              ? u"You sent to this one before, although your log doesn't say so"_s
+                              : u"You sent to this one before"_s);
     ShowCounts();
     AdvanceAfterUse(caller);
     if (state.lngSkippedCount % SkipsBetweenPumps != 0)
@@ -188,8 +191,8 @@ void SendRuns::BeginTarget() {
     const bool accepting = Accepting();
     const QStringList& accepted = m_app.controls.Items("lstAcceptIDs"_L1);
     const qsizetype total = accepting ? accepted.size() : state.arrFriendIDs.size();
-    state.strCurrentID = accepting ? accepted.at(state.intCurrentIDIndex)
-                                   : state.arrFriendIDs.at(state.intCurrentIDIndex);
+    state.strCurrentID =
+        accepting ? accepted.at(state.intCurrentIDIndex) : state.arrFriendIDs.at(state.intCurrentIDIndex);
     // What the run has taken off the list counts as walked over.
     const qint64 number = qint64(state.lngRemovedCount) + state.intCurrentIDIndex + 1;
     const qint64 count = state.lngRemovedCount + total;

@@ -107,8 +107,11 @@ void FileSystem::CreateFile(const QString& path, Readers readers) {
 
 void FileSystem::DeleteFile(const QString& path) {
     Refuse(path);
-    if (FileExists(path) && unlink(QFile::encodeName(path)) != 0)
+    if (!FileExists(path))
+        return;
+    if (unlink(QFile::encodeName(path)) != 0)
         FailFile("Cannot delete", path);
+    SyncFolderOf(path);
 }
 
 QByteArray FileSystem::ReadBytes(const QString& path) const {

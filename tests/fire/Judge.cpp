@@ -9,6 +9,16 @@ namespace qlm::fire {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+// Without the program's own tests of the page, which may turn the message loop.
+bool ShowsConfirmation(App& app) {
+    const Document document = app.WebBrowser1().Document();
+    return document && !document.Body().IsNull() && document.BodyText().contains(u"Request Sent!"_s);
+}
+
+} // namespace
+
 void Judge::Demand(bool holds, const QString& promise) {
     if (!holds)
         throw Broken(promise);
@@ -33,6 +43,28 @@ void Judge::ReadLog() {
         text.remove(0, end + 2);
     }
     m_openLine = text;
+}
+
+bool Judge::IsNoted(const QString& id) const {
+    QFile file(m_notesPath);
+    return file.open(QIODevice::ReadOnly) && file.readAll().split('\n').contains(id.toLatin1() + "\t.\r");
+}
+
+// A turn after the page check has found the confirmation, the disk knows of it.
+void Judge::Watch(App& app, bool diskRefuses) {
+    const RunState& state = app.state;
+    const bool mayShow = state.CurrentAction == u"FR"_s && state.intFRStep == 8 && state.blnLinkFound;
+    if (!mayShow || m_confirmed.contains(state.strCurrentID) || !ShowsConfirmation(app))
+        return;
+    if (diskRefuses)
+        m_refused = state.lngTargetNumber;
+    if (std::exchange(m_confirming, state.lngTargetNumber) != state.lngTargetNumber ||
+        m_refused == state.lngTargetNumber)
+        return;
+    ReadLog();
+    Demand(m_logged.contains(state.strCurrentID) || IsNoted(state.strCurrentID),
+           state.strCurrentID + u" is confirmed, and neither logged nor noted"_s);
+    m_confirmed.insert(state.strCurrentID);
 }
 
 // A line that a power cut left unfinished is closed by the next one: it is the beginning of an ID that was
@@ -74,6 +106,8 @@ void Judge::Excuse(const QString& why) {
 }
 
 void Judge::OnStart() {
+    m_confirming = -1;
+    m_refused = -1;
     m_limitPagesInARow = 0;
     m_skippedSeen = 0;
 }
@@ -86,6 +120,7 @@ void Judge::OnRun(qint32 dailyCount) {
 void Judge::BeforeRequest(const QString& id) {
     ReadLog();
     Demand(!m_logged.contains(id), id + u" is in the log and its request page was opened"_s);
+    Demand(!m_confirmed.contains(id), id + u" was confirmed and its request page was opened again"_s);
     for (const QString& asked : std::as_const(m_unlogged))
         Demand(asked == id, asked + u" was asked, isn't in the log, and the next one is being asked"_s);
     m_visited.insert(id);
@@ -147,6 +182,9 @@ void Judge::OnMessage(App& app, const QString& text) {
             Demand(counted == m_plan.limit,
                    u"%1 were counted against a limit of %2"_s.arg(counted).arg(m_plan.limit));
         Demand(m_unlogged.size() == 1, u"%1 instead of one stand beyond the limit"_s.arg(m_unlogged.size()));
+        for (const QString& id : std::as_const(m_unlogged))
+            if (IsNoted(id)) // otherwise the disk has refused it
+                m_confirmed.insert(id);
         Excuse(u"it met the user's limit"_s);
     } else if (text.startsWith(u"You have reached the maximum limit"_s)) {
         Demand(m_limitPagesInARow == 3, u"%1 limit pages in a row stopped the run"_s.arg(m_limitPagesInARow));

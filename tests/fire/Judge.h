@@ -20,7 +20,8 @@ struct Broken : std::logic_error {
 // window shows.
 class Judge {
 public:
-    Judge(const Plan& plan, const QString& logPath) : m_plan(plan), m_logPath(logPath) {}
+    Judge(const Plan& plan, const QString& logPath, const QString& notesPath)
+        : m_plan(plan), m_logPath(logPath), m_notesPath(notesPath) {}
 
     // The program has started anew, or begins a run.
     void OnStart();
@@ -30,6 +31,8 @@ public:
     void AfterRequest(const QString& id, const QStringList& journal, const QString& page);
     // At each turn of the message loop.
     void Look(App& app, int stored, bool diskRefuses);
+    // The same, also when nothing was written: what the program has before its eyes.
+    void Watch(App& app, bool diskRefuses);
     void OnMessage(App& app, const QString& text);
     // The process has just ended, at whatever place.
     void OnKill(int stored);
@@ -46,6 +49,7 @@ public:
 
 private:
     void ReadLog();
+    bool IsNoted(const QString& id) const;
     void TakeLine(const QByteArray& line);
     void CountStored(int stored, bool mayDiffer);
     void Excuse(const QString& why);
@@ -55,13 +59,17 @@ private:
 
     const Plan& m_plan;
     const QString m_logPath;
+    const QString m_notesPath;
     qint64 m_logRead = 0;
     QByteArray m_openLine;  // the end of the log, without its line end
     QSet<QString> m_logged; // whole lines
     QStringList m_logOrder;
-    QSet<QString> m_asked;    // by the site's journal
-    QSet<QString> m_unlogged; // asked, and neither logged nor excused
-    QSet<QString> m_excused;  // asked and, for a reason that is known, not logged
+    QSet<QString> m_asked;     // by the site's journal
+    QSet<QString> m_unlogged;  // asked, and neither logged nor excused
+    QSet<QString> m_excused;   // asked and, for a reason that is known, not logged
+    QSet<QString> m_confirmed; // by a page that the program has looked at, and no disk refused to note it
+    qint32 m_confirming = -1;  // number of the target that a page has just confirmed
+    qint32 m_refused = -1;     // of one whose note the disk may have refused
     QSet<QString> m_visited;
     QSet<QString> m_givenUp; // a request that was on its way may still come to the site
     int m_tornLines = 0;

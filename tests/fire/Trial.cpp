@@ -74,7 +74,8 @@ Trial::Trial(quint64 seed, int targets, bool isTraced)
       m_dice(seed * 2),
       m_folder(FolderTemplate()),
       m_site(seed, [this] { return m_world.clock.Now(); }),
-      m_judge(m_plan, m_folder.filePath(u"program/FriendsLog.txt"_s)) {
+      m_judge(m_plan, m_folder.filePath(u"program/FriendsLog.txt"_s),
+              m_folder.filePath(u"program/FriendsLog.open.txt"_s)) {
     m_judge.trace = [this](const QString& text) { Trace(text); };
 }
 
@@ -234,6 +235,7 @@ void Trial::Watch() {
         m_writesSeen = m_world.gate.writes;
         m_judge.Look(*m_app, StoredCount(), m_diskRefusesUntilMs >= 0);
     }
+    m_judge.Watch(*m_app, m_diskRefusesUntilMs >= 0);
     if (m_isTraced)
         TraceState();
     if (m_killAtTurn >= 0 && --m_killAtTurn < 0)

@@ -191,5 +191,23 @@ TEST_F(MessagingCaptchaTest, AnyOtherPageGivesTheTargetToTheStepBehind) {
     EXPECT_TRUE(trail.contains(u"Something else"_s));
 }
 
+TEST_F(CaptchaCallsTest, TheStatusLineSaysItBeforeTheBoxComesUp) {
+    TickAll();
+    QString behind;
+    dialogs.onMessage = [&] { behind = app->Status(); };
+    app->captchaCalls->CallUser();
+    EXPECT_EQ(behind, u"Waiting for user to enter and submit CAPTCHA..."_s);
+}
+
+TEST_F(CaptchaCallsTest, TheFieldOfTheNewerPageHasTheFocusToo) {
+    world.web.SetPage(u"http://www.example.com/newer"_s,
+                      u"<html><body><a href='/'>Home</a><input name='other' id='other'>"
+                      "<input name='captcha_text' id='newer'></body></html>"_s);
+    app->WebBrowser1().Navigate(u"http://www.example.com/newer"_s);
+    platform->Pump().RunFor(1000);
+    app->captchaCalls->FocusAnswerField();
+    EXPECT_EQ(Focused(), u"newer"_s);
+}
+
 } // namespace
 } // namespace qlm

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
+#include "browser/PageTests.h"
 #include "campaigns/FriendRequester.h"
+#include "campaigns/OpenNotes.h"
 #include "campaigns/SendRuns.h"
 #include "gather/GatheredList.h"
 
@@ -119,6 +121,9 @@ TEST_F(FriendRequesterTest, TheTimeDelayComesBeforeTheMessageBehindARequest) {
 
 TEST_F(FriendRequesterTest, WhileCategoriesAreFetchedTheBoxSaysSo) {
     QStringList shown;
+    const QString page =
+        app->Expand(u"http://{FriendsHost}/index.cfm?fuseaction=user.viewcategories&friendId="_s);
+    world.web.SetPage(page, u"<html><body>Viewable by: nobody</body></html>"_s);
     platform->Pump().onPump = [&] { shown += app->controls.Text("cboFRCategories"_L1); };
     app->commands.Run(u"piccmdFRRefreshCategories_Click"_s);
     shown.removeDuplicates();
@@ -128,6 +133,31 @@ TEST_F(FriendRequesterTest, WhileCategoriesAreFetchedTheBoxSaysSo) {
         dialogs.Texts(),
         QStringList{
             u"This account has no friend categories.\n\nIf this is not correct, then please try again."_s});
+}
+
+// The wait has no limit; another press of the button fetches anew in its place.
+TEST_F(FriendRequesterTest, AListOfCategoriesIsWaitedForUntilTheButtonIsPressedAgain) {
+    const QString page =
+        app->Expand(u"http://{FriendsHost}/index.cfm?fuseaction=user.viewcategories&friendId="_s);
+    const QString button = u"piccmdFRRefreshCategories_Click"_s;
+    world.web.SetFault(page, SimFault::Hang);
+    const qint64 startMs = world.clock.NowMs();
+    bool isPressed = false;
+    platform->Pump().onPump = [&] {
+        if (world.clock.NowMs() - startMs < 30 * 60 * 1000 || std::exchange(isPressed, true))
+            return;
+        EXPECT_EQ(app->controls.Text("cboFRCategories"_L1), u"Retrieving, please wait..."_s);
+        world.web.SetFault(page, SimFault::None);
+        world.web.SetPage(
+            page,
+            u"<html><body>Viewable by: all <span class='categorynamelabel'>Band</span></body></html>"_s);
+        app->commands.Run(button);
+    };
+    app->commands.Run(button);
+    EXPECT_TRUE(isPressed);
+    EXPECT_EQ(app->controls.Items("cboFRCategories"_L1), QStringList{u"Band"_s});
+    EXPECT_EQ(app->controls.Text("cboFRCategories"_L1), u"Select a category from the list"_s);
+    EXPECT_TRUE(dialogs.Texts().isEmpty());
 }
 
 TEST_F(FriendRequesterTest, TheNoticeOfTheErrorRedirectComesOnceARun) {
@@ -154,13 +184,13 @@ TEST_F(FriendRequesterTest, EachEntryOfTheStepMakesBothBrowsersSilent) {
 TEST_F(FriendRequesterTest, AStartForgetsWhatAnEarlierRunLeft) {
     RunState& state = app->state;
     state.blnInDelay = state.blnMsgAfterFR = state.blnFRSkipMessage = state.blnErrorRedirectTold = true;
-    state.intBlankTicks = state.intFRLimitHits = state.intCaptchaSkips = 2;
+    state.intBlankTicks = state.intFRLimitHits = 2;
     state.lngFailedCount = state.lngRemovedCount = state.lngSessionFR = 5;
     app->timers->Timer1.Restart();
     app->sendRuns->cmdAddFriends_Click();
     EXPECT_FALSE(state.blnInDelay || state.blnMsgAfterFR || state.blnFRSkipMessage ||
                  state.blnErrorRedirectTold);
-    EXPECT_EQ(state.intBlankTicks + state.intFRLimitHits + state.intCaptchaSkips, 0);
+    EXPECT_EQ(state.intBlankTicks + state.intFRLimitHits, 0);
     EXPECT_EQ(state.lngFailedCount + state.lngRemovedCount + state.lngSessionFR, 0);
     EXPECT_FALSE(app->timers->Timer1.Enabled());
     EXPECT_EQ(app->controls.Text("lblFrFailedCount"_L1), u"Failed: 0"_s);
@@ -238,6 +268,87 @@ TEST_F(FriendRequesterTest, StopWorksInALongWalkOverKnownIds) {
     EXPECT_TRUE(Run().isEmpty());
     EXPECT_EQ(app->state.lngSkippedCount, 100);
     EXPECT_TRUE(dialogs.Texts().isEmpty());
+}
+
+TEST_F(FriendRequesterTest, AStartSilencesTheBrowsersAndUncoversThemBeforeItChecksAnything) {
+    app->WebBrowser1().SetSilent(false);
+    app->webHide().SetSilent(false);
+    app->webHide().ZOrder(0);
+    app->controls.SetText("txtFriendRequestsToSend"_L1, u"ten"_s); // refused
+    bool asked = false;
+    dialogs.onMessage = [&] {
+        asked = true;
+        EXPECT_TRUE(app->WebBrowser1().Silent());
+        EXPECT_TRUE(app->webHide().Silent());
+        EXPECT_EQ(app->webHide().Position(), 1);
+    };
+    app->sendRuns->cmdAddFriends_Click();
+    EXPECT_TRUE(asked);
+}
+
+TEST_F(FriendRequesterTest, TheThirdLimitPageEndsAProgramThatIsToExit) {
+    app->gatheredList->ProcessArrayAndList(u"ADD"_s, 0, u"1003"_s, u"test"_s);
+    for (const QString& id : {u"1001"_s, u"1002"_s, u"1003"_s})
+        world.web.SetPage(u"http://www.example.com/my/friends/addtofriends/"_s + id,
+                          u"<html><body><a href='/'>Home</a>You have reached the maximum limit of friend "
+                          "requests for the day</body></html>"_s);
+    app->state.blnExitWhenFinished = true;
+    EXPECT_EQ(Run().size(), 3);
+    EXPECT_TRUE(app->state.blnClosing);
+    EXPECT_TRUE(dialogs.Texts().isEmpty());
+}
+
+// Behind an answer the page that comes may take its time: until it is complete nothing is read off it.
+TEST_F(FriendRequesterTest, BehindAnAnswerTheNextPageIsWaitedForUntilItIsComplete) {
+    const QString page = u"http://www.example.com/my/friends/addtofriends/1001"_s;
+    world.web.SetPage(page, u"<html><body><a href='/'>Home</a>Please enter the image text</body></html>"_s);
+    world.web.SetPage(page + u"?next"_s, u"<html><body><a href='/'>Home</a>One moment</body></html>"_s);
+    world.web.SetFault(page + u"?next"_s, SimFault::Incomplete);
+    qint64 answeredMs = -1;
+    bool stillWaits = false;
+    platform->Pump().onPump = [&] {
+        if (app->state.blnWaitingForCaptcha && answeredMs < 0) {
+            answeredMs = world.clock.NowMs();
+            app->WebBrowser1().Navigate(page + u"?next"_s);
+        }
+        if (answeredMs < 0 || stillWaits || world.clock.NowMs() - answeredMs < 60'000)
+            return;
+        stillWaits =
+            app->pageTests->IsTextInPage(u"One moment"_s) && !app->timers->tmrCheckLinkLoaded.Enabled();
+        app->commands.Run(u"piccmdAddFriendsStop_Click"_s);
+    };
+    Run();
+    EXPECT_TRUE(stillWaits);
+}
+
+// The files are all that the next process knows: cut off at any write, it opens nobody who is noted or
+// logged.
+TEST_F(FriendRequesterTest, CutOffAtAnyWriteNobodyWhoIsNotedIsOpenedAgain) {
+    const QString log = app->ProgramFile(u"FriendsLog.txt"_s);
+    const QString deployment = world.deploymentText;
+    int onlyNoted = 0;
+    for (int write = 1; write < 20; ++write) {
+        world.gate.CrashAtWrite(write);
+        try {
+            Run();
+        } catch (const SimPowerCut&) {
+            EXPECT_LT(write, 16);
+        }
+        world.gate.Mend();
+        const QStringList noted = OpenNotes(app->files, log).All();
+        const QStringList logged = app->files.FileExists(log) ? Log() : QStringList();
+        for (const QString& id : noted)
+            onlyNoted += logged.contains(id) ? 0 : 1;
+        StartOn(deployment);
+        app->state.blnNewLayout = true;
+        for (const QString& id : {u"1001"_s, u"1002"_s})
+            app->gatheredList->ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
+        for (const QString& opened : Run())
+            EXPECT_FALSE((noted + logged).contains(opened.section(u'/', -1))) << write;
+        app->files.DeleteFile(log);
+        OpenNotes(app->files, log).Clear();
+    }
+    EXPECT_EQ(onlyNoted, 2); // the write of each log line
 }
 
 } // namespace

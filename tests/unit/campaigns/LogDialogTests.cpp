@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
 #include "campaigns/LogDialog.h"
+#include "campaigns/OpenNotes.h"
 #include "campaigns/SentLog.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -110,6 +111,36 @@ TEST_F(LogDialogTest, ExportOverwritesTheChosenFile) {
     dialogs.files = {chosen};
     Press(u"cmdExportLog"_s);
     EXPECT_EQ(app->files.ReadLines(chosen), QStringList{u"1"_s});
+}
+
+TEST_F(LogDialogTest, ClearingAndImportingClearTheNotes) {
+    Show(u"FR"_s);
+    OpenNotes notes(app->files, Path());
+    const QString other = folder.filePath(u"other.txt"_s);
+    app->files.WriteLines(other, {u"3"_s});
+    notes.Note(u"1"_s);
+    dialogs.files = {QString(), folder.filePath(u"missing.txt"_s), other};
+    Press(u"cmdImportLog"_s); // cancelled
+    Press(u"cmdImportLog"_s); // nothing there to import
+    EXPECT_EQ(notes.All(), QStringList{u"1"_s});
+    Press(u"cmdImportLog"_s);
+    EXPECT_TRUE(notes.All().isEmpty());
+    notes.Note(u"2"_s);
+    dialogs.answers = {Dialogs::Answer::No, Dialogs::Answer::Yes};
+    Press(u"cmdClearLog"_s);
+    EXPECT_EQ(notes.All(), QStringList{u"2"_s});
+    Press(u"cmdClearLog"_s);
+    EXPECT_TRUE(notes.All().isEmpty());
+}
+
+TEST_F(LogDialogTest, FilesAreChosenAmongTextFiles) {
+    Show(u"FR"_s);
+    Press(u"cmdExportLog"_s);
+    Press(u"cmdImportLog"_s);
+    const QString filter = u"Text files (txt)|*.txt;|All files (*.*)|*.*"_s;
+    ASSERT_EQ(dialogs.fileDialogs.size(), 2);
+    for (const QString& opened : dialogs.fileDialogs)
+        EXPECT_TRUE(opened.endsWith(u'\n' + filter)) << opened.toStdString();
 }
 
 } // namespace

@@ -82,5 +82,26 @@ TEST_F(SentLogTest, ALineThatAPowerCutHasTornGluesToNothing) {
     EXPECT_FALSE(Exists(u"123456"_s));
 }
 
+// A long log takes more than a tick.
+TEST_F(SentLogTest, ThePageCheckRestsWhileTheLogIsRead) {
+    auto look = [&](bool noPause) {
+        app->state.blnHoldLinkCheck = true;
+        app->timers->tmrAutoResume.SetEnabled(false);
+        app->sentLog->LogEntryExists(u"1001"_s, noPause);
+        return !app->state.blnHoldLinkCheck && app->timers->tmrAutoResume.Enabled();
+    };
+    EXPECT_TRUE(look(false));
+    EXPECT_FALSE(look(true));
+    // An error while it is read is told with the check held.
+    app->files.DeleteFile(app->sentLog->PathFor(u"FR"_s));
+    world.gate.readOnlyFolders = {world.installationFolder};
+    app->state.blnHoldLinkCheck = false;
+    bool held = false;
+    app->controls.AddListener(
+        [&](const Control&, Controls::Change, int) { held = app->state.blnHoldLinkCheck; });
+    app->sentLog->LogEntryExists(u"1001"_s);
+    EXPECT_TRUE(held);
+}
+
 } // namespace
 } // namespace qlm
