@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/Text.h"
 
+#include "core/AnsiText.h"
+
 #include <QRegularExpression>
 #include <QStringList>
 #include <cmath>
@@ -74,7 +76,7 @@ QString CleanupFileName(const QString& name) {
 
 QString UrlEncode(const QString& text) {
     QString encoded;
-    for (const char byte : text.toUtf8()) {
+    for (const char byte : ToAnsi(text)) {
         const bool plain =
             (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z');
         if (plain)

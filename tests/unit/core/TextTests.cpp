@@ -36,6 +36,8 @@ TEST(Text, AStoredTextThatIsNoBooleanIsTrue) {
 TEST(Text, QueryValuesEndAtTheNextAmpersand) {
     EXPECT_EQ(GetQueryStringValue(u"http://a/b?friendID=12&x=y"_s, u"friendid"_s), u"12"_s);
     EXPECT_EQ(GetQueryStringValue(u"http://a/b?x=y"_s, u"z"_s), QString());
+    EXPECT_EQ(GetQueryStringValue(u"http://a/b?friendid=1&myid=2&id=3"_s, u"id"_s), u"3"_s);
+    EXPECT_EQ(GetQueryStringValue(u"http://a/id=4"_s, u"id"_s), QString());
 }
 
 TEST(Text, EndsOfTexts) {
@@ -49,7 +51,8 @@ TEST(Text, EndsOfTexts) {
 }
 
 TEST(Text, AddressesAreEncodedWithCapitalDigits) {
-    EXPECT_EQ(UrlEncode(u"a b&é/9"_s), u"a+b%26%C3%A9%2F9"_s);
+    EXPECT_EQ(UrlEncode(u"a b&é/9"_s), u"a+b%26%E9%2F9"_s);
+    EXPECT_EQ(UrlEncode(u"€\nж😀"_s), u"%80%0A%3F%3F"_s);
 }
 
 TEST(Text, DatesAreReadAsTheProgramAndAsTheServerWriteThem) {
