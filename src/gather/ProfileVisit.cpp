@@ -19,16 +19,15 @@ bool ProfileVisit::Fails(const QString& id) const {
     app.SetStatus(u"Navigating to ID "_s + id +
                   u"'s profile page to see if it matches your filter settings..."_s);
     app.WebBrowser1().Navigate(app.Expand(u"http://{SiteRootHost}/"_s) + id + u"/classic"_s);
-    bool remove = !Arrives();
+    const bool arrived = Arrives();
     if (!goes())
         return false;
-    Diagnostics::IgnoreErrors([&] { remove = app.pageClassifier->ClassifyErrorPage() || remove; });
     app.stopResume->ResumeLinkCheck();
-    return remove || !app.profileFilters->IsFilteredProfile();
+    return !arrived || !app.profileFilters->IsFilteredProfile();
 }
 
-// False when an error page or an advertiser's profile has come instead. One that is just being replaced isn't
-// there yet.
+// False when an error page or an advertiser's profile has come instead; a comment on a profile may say what
+// an error page says. A page that is just being replaced isn't there yet.
 bool ProfileVisit::Arrives() const {
     PageTests& tests = *app.pageTests;
     bool refused = false;
