@@ -128,7 +128,7 @@ void ReportDialog::cmdSaveCSV_Click() {
         return;
     QString problem;
     Diagnostics::Guard([&] { m_app.files.WriteBytes(chosen, ReportAsCsv(run)); },
-                       [&](const QString& error) { problem = error; });
+                       [&](const std::exception& error) { problem = QString::fromUtf8(error.what()); });
     if (!problem.isEmpty())
         m_app.ShowMessage(u"The report could not be saved.\n\n"_s + problem);
 }

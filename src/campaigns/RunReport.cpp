@@ -198,7 +198,8 @@ void RunReport::Write(Durability durability) {
         m_problem.clear();
     };
     if (m_problemTold)
-        Diagnostics::Guard(write, [this](const QString& error) { m_problem = error; });
+        Diagnostics::Guard(
+            write, [this](const std::exception& error) { m_problem = QString::fromUtf8(error.what()); });
     else
         m_problem = m_app.diagnostics.Trap("WriteRunReport", write);
     m_problemTold = m_problemTold || !m_problem.isEmpty();

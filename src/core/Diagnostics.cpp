@@ -54,6 +54,10 @@ QString Diagnostics::CleanText(const QString& text) {
     return cleaned.remove(unwanted);
 }
 
+QString Diagnostics::Numbered(const std::exception& error) {
+    return QString::number(ErrorNumber(error)) + u", "_s + QString::fromUtf8(error.what());
+}
+
 QString Diagnostics::Masked(const QString& text) {
     m_mask.Learn(m_app.state.AccountPassword);
     return m_mask.Masked(text);

@@ -55,14 +55,16 @@ public:
             ReportError(QString::fromLatin1(procedure), error, {}, data());
         }
     }
-    // For procedures that answer their own errors: onError gets the error's text.
+    // For procedures that answer their own errors: onError gets the error.
     template <typename Body, typename Handler> static void Guard(Body&& body, Handler&& onError) {
         try {
             body();
         } catch (const std::exception& error) {
-            onError(QString::fromUtf8(error.what()));
+            onError(error);
         }
     }
+    // The number by which support knows the kind of error, and its text: "440, Automation error".
+    static QString Numbered(const std::exception& error);
     // For routines whose failure doesn't matter: ends the body there, tells nobody.
     template <typename Body> static void IgnoreErrors(Body&& body) {
         try {

@@ -97,7 +97,7 @@ void GatherDriver::GotoBrowse() {
             m_app.WebBrowser1().Navigate(m_app.Expand(u"http://{SiteRootHost}/browse/people"_s));
             m_app.controls.SetTicked("optScanFollowing"_L1, true);
         },
-        [this](const QString&) {
+        [this](const std::exception&) {
             m_app.ShowMessage(
                 u"An Internet Explorer-related error has occurred while trying to navigate to the browse "
                 "page. Restarting Quillmere should fix this problem."_s);

@@ -135,7 +135,7 @@ QString IdResolution::FetchFriendIDInBackground(const QString& href) {
             browser.Navigate(u"about:blank"_s);
             m_app.waiting.Pump();
         },
-        [&](const QString& error) { Trace(u"BACKGROUND3 - ERR: 0, "_s + error); });
+        [&](const std::exception& error) { Trace(u"BACKGROUND3 - ERR: "_s + Diagnostics::Numbered(error)); });
     return id;
 }
 

@@ -52,11 +52,12 @@ void LinkScanner::GatherPageProfiles() {
         if (pass.number == m_lastPass)
             m_app.WebBrowser1().SetRefuseNavigations(false);
     });
-    Diagnostics::Guard([&] { RunPass(pass); }, [&](const QString& error) { HandleError(pass, error); });
+    Diagnostics::Guard([&] { RunPass(pass); },
+                       [&](const std::exception& error) { HandleError(pass, error); });
 }
 
-void LinkScanner::HandleError(const Pass& pass, const QString& error) {
-    Trace(u"GPP ERROR: 0, "_s + error);
+void LinkScanner::HandleError(const Pass& pass, const std::exception& error) {
+    Trace(u"GPP ERROR: "_s + Diagnostics::Numbered(error));
     if (Goes(pass) && !m_app.state.blnHoldLinkCheck)
         m_app.state.blnRetryGatherPage = true;
 }

@@ -4,6 +4,7 @@
 #include "platform/Document.h"
 
 #include <QString>
+#include <exception>
 #include <memory>
 #include <vector>
 
@@ -53,7 +54,7 @@ private:
     void FindNextPage();
     void RemindOfFullGather(const Pass& pass);
     void FilterNewProfiles(Pass& pass);
-    void HandleError(const Pass& pass, const QString& error);
+    void HandleError(const Pass& pass, const std::exception& error);
     void ShowScanStatus();
     void Trace(const QString& text);
 
