@@ -23,8 +23,7 @@ constexpr ListDesign rows[] = {
      .page = u"?p=",
      .everyPage = true,
      .entry = MiniProfile,
-     .head = u"<p class=\"slice\">Listing {from}-{to} of {count}</p><ul><li>"
-             u"<a href=\"/{owner}/friends/page/1\">The new list</a></li></ul>",
+     .head = u"<p class=\"slice\">Listing {from}-{to} of {count}</p>",
      .next = {u"Next"}},
     {.name = u"friends-all",
      .title = u"Friends, a page an address",
@@ -47,8 +46,7 @@ constexpr ListDesign rows[] = {
      .names = Numbered,
      .entry = MiniNumberedEntry,
      .head = u"<p>You can search for Display Name. Display: all friends</p>"
-             u"<p class=\"slice\">Listing {from}-{to} of {count}</p><ul><li>"
-             u"<a href=\"http://www.myspace.example.com/{owner}/friends/page/1\">The new list</a></li></ul>",
+             u"<p class=\"slice\">Listing {from}-{to} of {count}</p>",
      .next = {u"next &gt;"}},
     {.name = u"friends-category",
      .title = u"Friends by category",
@@ -58,8 +56,7 @@ constexpr ListDesign rows[] = {
      .everyPage = true,
      .names = Numbered,
      .entry = MiniNumberedEntry,
-     .head = u"<p>Category: band mates</p><ul><li>"
-             u"<a href=\"http://www.myspace.example.com/{owner}/friends/page/1\">The new list</a></li></ul>",
+     .head = u"<p>Category: band mates</p>",
      .next = {u"Next"}},
     {.name = u"birthdays",
      .title = u"Birthdays",
@@ -69,8 +66,7 @@ constexpr ListDesign rows[] = {
      .page = u"&at=",
      .names = Numbered,
      .entry = MiniNumberedEntry,
-     .head = u"<p>{from} to {to} of {count} birthdays</p><ul><li>"
-             u"<a href=\"http://www.myspace.example.com/100001/friends/page/1\">The new list</a></li></ul>",
+     .head = u"<p>{from} to {to} of {count} birthdays</p>",
      .next = {u"next &gt;", u"javascript:__doPostBack('ctl00$cpMain$BirthdayList$PagerTop','{n}')", nextPost,
               How::Post}},
     {.name = u"browse-old",

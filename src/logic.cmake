@@ -18,6 +18,7 @@ add_library(quillmere_logic STATIC
     core/IniFile.cpp
     core/LineReader.cpp
     core/LineSearch.cpp
+    core/LongWait.cpp
     core/MainForm.cpp
     core/PasswordMask.cpp
     core/ProductServer.cpp
@@ -80,6 +81,7 @@ add_library(quillmere_logic STATIC
     gather/ProfileText.cpp
     gather/ProfileVisit.cpp
     gather/SearchForm.cpp
+    gather/StandingPage.cpp
     gather/WebSearch.cpp
 
     content/ContentLine.cpp

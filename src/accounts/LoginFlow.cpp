@@ -159,16 +159,14 @@ bool LoginFlow::SignOut() {
 
 bool LoginFlow::ClickSignOutLink() {
     bool told = false;
-    m_app.waiting.WaitWhile(
-        [this, &told] {
-            if (!IsLoggingIn(2) || m_app.pageTests->ClickLinkFromHref(u"/signout?"_s, u"WebBrowser1"_s))
-                return false;
-            if (!told)
-                Log(u"ILoginAcc 1.3.2... CLICK AGAIN!!"_s);
-            told = true;
-            return true;
-        },
-        0);
+    m_app.waiting.WaitFor(u"a link that signs out"_s, [this, &told] {
+        if (!IsLoggingIn(2) || m_app.pageTests->ClickLinkFromHref(u"/signout?"_s, u"WebBrowser1"_s))
+            return false;
+        if (!told)
+            Log(u"ILoginAcc 1.3.2... CLICK AGAIN!!"_s);
+        told = true;
+        return true;
+    });
     return IsLoggingIn(2);
 }
 

@@ -66,8 +66,9 @@ void LoginFlow::WaitForCompletePage() {
 // False when the activity has ended or changed meanwhile.
 bool LoginFlow::WaitUntilIdle() {
     const QString action = m_app.state.CurrentAction;
-    m_app.waiting.WaitWhile(
-        [this, &action] { return m_app.WebBrowser1().Busy() && m_app.state.CurrentAction == action; }, 0);
+    m_app.waiting.WaitFor(u"the page to be complete"_s, [this, &action] {
+        return m_app.WebBrowser1().Busy() && m_app.state.CurrentAction == action;
+    });
     return m_app.state.CurrentAction == action;
 }
 
@@ -95,7 +96,8 @@ void LoginFlow::tmrLoginProblem_Timer() {
         Timer& timer = m_app.timers->tmrLoginProblem;
         Log(u"tmrLoginProblem"_s);
         const bool formShown = m_app.pageTests->IsLoggedOutPage();
-        m_app.waiting.WaitWhile([this, &timer] { return m_app.WebBrowser1().Busy() && timer.Enabled(); }, 0);
+        m_app.waiting.WaitFor(u"the page to be complete"_s,
+                              [this, &timer] { return m_app.WebBrowser1().Busy() && timer.Enabled(); });
         if (!timer.Enabled())
             return;
         if (formShown && timer.Interval() != NextProblemLookMs) {

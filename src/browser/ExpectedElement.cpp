@@ -6,6 +6,7 @@
 #include "core/App.h"
 #include "core/StopResume.h"
 #include "core/Text.h"
+#include "gather/GatherDriver.h"
 
 #include <algorithm>
 #include <vector>
@@ -60,7 +61,7 @@ bool IsAnyTrue(App& app, const Questions& questions) {
 
 bool IdIsThere(App& app, const QString& value) {
     if (value == u"ListOfIDs"_s)
-        return IsGatherPageComplete(app);
+        return IsGatherPageComplete(app) || app.gatherDriver->ListOfIDsStands();
     return !app.WebBrowser1().Document().GetElementById(value).IsNull();
 }
 

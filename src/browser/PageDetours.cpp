@@ -59,8 +59,8 @@ bool LogInAgain(const Page& page) {
     page.state.blnLinkFound = true;
     page.Remark("The session was lost; you were signed in again");
     page.app.loginFlow->DoLogin();
-    while (page.app.WebBrowser1().Busy() && isStillAt())
-        page.app.waiting.Pump();
+    page.app.waiting.WaitFor(u"the page to be complete"_s,
+                             [&] { return page.app.WebBrowser1().Busy() && isStillAt(); });
     // A stop meanwhile is the last word; and the page behind the login may have given the target up already.
     if (!isStillAt())
         return false;

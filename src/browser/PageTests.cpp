@@ -38,20 +38,19 @@ void PageTests::WaitForDocument(BrowserControl& browser) {
 }
 
 void PageTests::SpinFor(BrowserControl& browser, bool refreshWithoutBody) {
-    while (browser.Document().IsNull())
-        m_app.waiting.Turn();
+    const QString page = u"a page with a body"_s;
+    m_app.waiting.WaitFor(page, [&] { return browser.Document().IsNull(); });
     qint64 sinceMs = m_app.Pump().NowMs();
-    while (browser.Document().Body().IsNull()) {
-        m_app.waiting.Turn();
-        // The turn may have brought the body, after a long stay in another wait.
-        const bool stillWithout = browser.Document().Body().IsNull();
-        if (refreshWithoutBody && stillWithout && m_app.waiting.SecondsSince(sinceMs) > SecondsWithoutBody) {
+    m_app.waiting.WaitFor(page, [&] {
+        if (!browser.Document().Body().IsNull())
+            return false;
+        if (refreshWithoutBody && m_app.waiting.SecondsSince(sinceMs) > SecondsWithoutBody) {
             browser.Refresh();
             sinceMs = m_app.Pump().NowMs();
         }
-    }
-    while (!browser.Document().HasLinks())
-        m_app.waiting.Turn();
+        return true;
+    });
+    m_app.waiting.WaitFor(page, [&] { return !browser.Document().HasLinks(); });
 }
 
 BrowserControl* PageTests::Select(const QString& browser) {

@@ -130,7 +130,8 @@ void CaptchaCalls::WaitForUser() {
         if (!isStillAt())
             return;
         m_app.stopResume->PauseLinkCheck();
-        m_app.waiting.WaitWhile([&] { return isStillAt() && m_app.WebBrowser1().ReadyState() < 4; }, 0);
+        m_app.waiting.WaitFor(u"the page to be complete"_s,
+                              [&] { return isStillAt() && m_app.WebBrowser1().ReadyState() < 4; });
         if (!isStillAt())
             return;
         m_app.stopResume->ResumeLinkCheck();

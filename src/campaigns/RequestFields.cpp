@@ -75,8 +75,9 @@ void RequestFields::ApplyCategory() {
         };
         m_app.SetStatus(u"Waiting for categories to load on page..."_s);
         m_app.pageTests->ClickLink(u"OuterHTML"_s, u"ShowHideCatsLnk"_s);
-        m_app.waiting.WaitWhile(
-            [&] { return isStillAt() && !m_app.pageTests->IsTextInPage(u"catNameColumn"_s, true); }, 0);
+        m_app.waiting.WaitFor(u"the categories on the page"_s, [&] {
+            return isStillAt() && !m_app.pageTests->IsTextInPage(u"catNameColumn"_s, true);
+        });
         if (!isStillAt())
             return;
         const QString mark = m_app.controls.Text("cboFRCategories"_L1) + u" ("_s;

@@ -176,23 +176,19 @@ FriendRequester::Next FriendRequester::WaitForAnswer(qint32 target) {
     RunState& state = m_app.state;
     PageTests& page = *m_app.pageTests;
     auto goesOn = [this, target, &state] { return IsCurrent(target) && !state.blnHoldLinkCheck; };
-    m_app.waiting.WaitWhile(
-        [&] {
-            if (!goesOn() || !page.IsCaptchaPage())
-                return false;
-            // A word that the site refuses brings another page.
-            m_app.captchaCalls->FocusAnswerField();
-            return true;
-        },
-        0);
+    m_app.waiting.WaitFor(u"you to answer the CAPTCHA"_s, [&] {
+        if (!goesOn() || !page.IsCaptchaPage())
+            return false;
+        // A word that the site refuses brings another page.
+        m_app.captchaCalls->FocusAnswerField();
+        return true;
+    });
     auto isComing = [&] { return m_app.WebBrowser1().ReadyState() != 4 && !page.IsTextInPage(WrongAnswer); };
-    m_app.waiting.WaitWhile(
-        [&] {
-            if (goesOn())
-                NoteWhenConfirmed();
-            return goesOn() && isComing();
-        },
-        0);
+    m_app.waiting.WaitFor(u"the page to be complete"_s, [&] {
+        if (goesOn())
+            NoteWhenConfirmed();
+        return goesOn() && isComing();
+    });
     WaitNoting(target, SettledPageSeconds);
     if (!IsCurrent(target))
         return Next::Wait;

@@ -5,6 +5,7 @@
 #include "browser/StepDispatcher.h"
 #include "core/Activities.h"
 #include "core/App.h"
+#include "core/LongWait.h"
 #include "core/StopResume.h"
 
 namespace qlm {
@@ -13,7 +14,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int BlankTickLimit = 30;
-constexpr int LongWaitSeconds = 120;
 
 QString Flag(bool value) {
     return value ? u"True"_s : u"False"_s;
@@ -30,6 +30,8 @@ ActionTick::ActionTick(App& app) : m_app(app) {
             m_app.platform.Shell().EndProcess();
     });
 }
+
+ActionTick::~ActionTick() = default;
 
 void ActionTick::Timer1_Timer() {
     m_app.diagnostics.Trap("Timer1_Timer", [this] {
@@ -66,6 +68,7 @@ void ActionTick::CheckPage() {
     // The page hasn't really changed yet: the next tick looks again.
     if (lastPageStillThere && !state.blnForceAdvance) {
         state.blnLinkFound = false;
+        TellLongWait();
         return;
     }
     StepIsReady();
@@ -94,7 +97,7 @@ void ActionTick::StepIsReady() {
     state.blnLinkCheckFired = true;
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     state.blnRetryGatherPage = false;
-    m_app.controls.SetText("lblWaitingFor"_L1, {});
+    m_wait.reset();
     if (!state.blnWaitingForCaptcha)
         m_app.timers->tmrAutoResume.Restart();
     m_app.timers->Timer1.Restart();
@@ -110,25 +113,26 @@ void ActionTick::CountBlankTick() {
     }
 }
 
-// No wait of the site has a limit; after two minutes the user is at least told what is being waited for.
+// No wait for a page of the site has a limit.
 void ActionTick::TellLongWait() {
     RunState& state = m_app.state;
     if (state.CurrentAction.isEmpty() || state.strLinkValue.isEmpty())
         return;
-    const QString wait = state.strCurrentID + u' ' + state.strLinkType + u' ' + state.strLinkValue;
-    if (state.strWaitingFor != wait) {
+    const QString awaited = AwaitedInWords();
+    const QString wait = state.strCurrentID + u' ' + state.strLinkType + u' ' + awaited;
+    if (!m_wait || state.strWaitingFor != wait) {
         state.strWaitingFor = wait;
-        state.dtmWaitingSince = m_app.Pump().Now();
-        m_app.controls.SetText("lblWaitingFor"_L1, {});
+        m_wait = std::make_unique<LongWait>(m_app, awaited);
     }
-    if (state.dtmWaitingSince.secsTo(m_app.Pump().Now()) < LongWaitSeconds)
-        return;
-    const QString what = state.strLinkValue == u"ListOfIDs"_s ? u"a full list of profiles"_s
-                         : state.blnWaitingForCaptcha         ? u"you to answer the CAPTCHA"_s
-                                                      : u"\""_s + state.strLinkValue + u"\" on the page"_s;
-    m_app.controls.SetText("lblWaitingFor"_L1,
-                           u"Waiting since "_s + state.dtmWaitingSince.toString(u"hh:mm:ss"_s) + u" for "_s +
-                               what + u". Press Skip or Stop to go on without it."_s);
+    m_wait->Tell();
+}
+
+QString ActionTick::AwaitedInWords() const {
+    const RunState& state = m_app.state;
+    if (state.strLinkValue == u"ListOfIDs"_s)
+        return u"a full list of profiles"_s;
+    return state.blnWaitingForCaptcha ? u"you to answer the CAPTCHA"_s
+                                      : u"\""_s + state.strLinkValue + u"\" on the page"_s;
 }
 
 } // namespace qlm

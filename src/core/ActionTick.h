@@ -2,16 +2,19 @@
 #pragma once
 
 #include <QString>
+#include <memory>
 
 namespace qlm {
 
 class App;
+class LongWait;
 
 // The two ticks that carry every page-driven activity: tmrCheckLinkLoaded decides whether the page is there,
 // Timer1 does the next thing.
 class ActionTick {
 public:
     explicit ActionTick(App& app);
+    ~ActionTick();
 
     // Waits for the document and runs the step routine of the activity. One-shot. Also called directly.
     void Timer1_Timer();
@@ -24,8 +27,10 @@ private:
     void StepIsReady();
     void CountBlankTick();
     void TellLongWait();
+    QString AwaitedInWords() const;
 
     App& m_app;
+    std::unique_ptr<LongWait> m_wait;
 };
 
 } // namespace qlm

@@ -168,9 +168,8 @@ struct RunState {
     QString IssueAlertTab;
     QString IssueAlertText;
 
-    // What a step waits for, for the line that tells of a long wait.
+    // What the tick waits for, for the line that tells of a long wait.
     QString strWaitingFor;
-    QDateTime dtmWaitingSince;
     QString ClosePopupResult;
 };
 

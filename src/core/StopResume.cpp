@@ -7,6 +7,9 @@
 #include "core/MainForm.h"
 #include "core/SettingsFields.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
@@ -122,6 +125,13 @@ void StopResume::SkipProfile() {
         m_app.diagnostics.DebugForAction(u"Skip"_s);
         HandOverInChain();
     }
+}
+
+bool StopResume::SkipHelps() const {
+    const RunState& state = m_app.state;
+    return (state.CurrentAction == u"LOGIN"_s && state.blnChaining) ||
+           std::any_of(std::begin(SkipRows), std::end(SkipRows),
+                       [&state](const SkipRow& row) { return state.CurrentAction == row.action; });
 }
 
 void StopResume::PauseLinkCheck() {

@@ -19,6 +19,8 @@ public:
     void ResumeNext();
     // Abandons the current profile, or cuts a running delay short.
     void SkipProfile();
+    // Whether SkipProfile would take the running activity on.
+    bool SkipHelps() const;
     void PauseLinkCheck();
     void ResumeLinkCheck();
     // At the end of every activity: true when the program was set to exit now and the main window has been

@@ -2,6 +2,9 @@
 #include "core/Waiting.h"
 
 #include "core/App.h"
+#include "core/LongWait.h"
+
+#include <QScopedValueRollback>
 
 namespace qlm {
 
@@ -29,11 +32,22 @@ void Waiting::WaitSeconds(int seconds) {
 bool Waiting::WaitWhile(const std::function<bool()>& condition, int limitSeconds) {
     const qint64 startMs = m_app.platform.Pump().NowMs();
     while (condition()) {
-        if (limitSeconds > 0 && SecondsSince(startMs) >= limitSeconds)
+        if (SecondsSince(startMs) >= limitSeconds)
             return false;
         Turn();
     }
     return true;
+}
+
+void Waiting::WaitFor(const QString& what, const std::function<bool()>& condition) {
+    if (!condition())
+        return;
+    LongWait wait(m_app, what, m_innermost);
+    const QScopedValueRollback<const LongWait*> innermost(m_innermost, &wait);
+    do {
+        wait.Tell();
+        Turn();
+    } while (condition());
 }
 
 } // namespace qlm

@@ -7,6 +7,7 @@
 namespace qlm {
 
 class App;
+class LongWait;
 
 // The waits of the steps: the message loop turns, with sleeps of 10 ms. Every turn may run timers, browser
 // events and the user's clicks; throws ProgramEnding once the program is closing.
@@ -18,14 +19,18 @@ public:
     void Pump();
     // Turns until more than the given whole seconds have gone by or the link check is held.
     void WaitSeconds(int seconds);
-    // Turns while the condition holds, at most so many whole seconds; 0 means no limit. The condition is
-    // asked before each turn. True when it stopped holding, false on the time-out.
+    // Turns while the condition holds, at most so many whole seconds. The condition is asked before each
+    // turn. True when it stopped holding, false on the time-out.
     bool WaitWhile(const std::function<bool()>& condition, int limitSeconds);
+    // Turns while the condition holds, however long that takes; the window tells of a long wait by these
+    // words ("the next page").
+    void WaitFor(const QString& what, const std::function<bool()>& condition);
     // Whole seconds that have passed since that reading of Pump::NowMs().
     qint64 SecondsSince(qint64 startMs) const;
 
 private:
     App& m_app;
+    const LongWait* m_innermost = nullptr;
 };
 
 } // namespace qlm

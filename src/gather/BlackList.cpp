@@ -53,11 +53,10 @@ void BlackList::picRemoveFriends_Click() {
         state.blnHoldLinkCheck = false;
         state.intGatherStep = 3;
         if (state.blnNewLayout) {
-            m_app.gatherDriver->IterateGatherProfiles();
+            m_app.gatherDriver->ScanPageToCome();
             return;
         }
-        state.strLinkType = u"ID"_s;
-        state.strLinkValue = u"ListOfIDs"_s;
+        m_app.gatherDriver->AwaitListOfIDs();
         m_app.timers->tmrCheckLinkLoaded.Restart();
     });
 }

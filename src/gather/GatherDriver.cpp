@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gather/GatherDriver.h"
 
+#include "browser/GatherPageTest.h"
 #include "browser/PageTests.h"
 #include "core/App.h"
 #include "core/StopResume.h"
@@ -19,7 +20,7 @@ constexpr qint16 StepTurn = 4;
 constexpr int SecondsBeforeRetry = 5;
 } // namespace
 
-GatherDriver::GatherDriver(App& app) : m_app(app) {
+GatherDriver::GatherDriver(App& app) : m_app(app), m_standingPage(app) {
     app.commands.Add(u"picScanStart_Click"_s, [this] { picScanStart_Click(); });
     app.commands.Add(u"picScanStop_Click"_s, [this] { picScanStop_Click(); });
     RegisterButtons();
@@ -66,6 +67,7 @@ void GatherDriver::picScanStart_Click() {
         state.blnLinkFound = false;
         state.blnHoldLinkCheck = false;
         state.intGatherStep = StepScan;
+        m_pageIsToCome = false;
         IterateGatherProfiles();
     });
 }
@@ -128,7 +130,7 @@ GatherDriver::Next GatherDriver::RunStep(int entry) {
 GatherDriver::Next GatherDriver::ScanPage(int entry) {
     RunState& state = m_app.state;
     Trace(u"IGP3.1 - Curr: "_s + OptionsTrace());
-    if (!WaitForMailPage(entry))
+    if (!WaitForPageToCome(entry) || !WaitForMailPage(entry))
         return Next::Return;
     state.blnCommentFormShown = false;
     m_app.SetStatus(state.blnComparingIDs ? u"Comparing ID's on the current page to the gathered list..."_s
@@ -159,6 +161,25 @@ GatherDriver::Next GatherDriver::ScanPage(int entry) {
     return Next::GoOn;
 }
 
+void GatherDriver::ScanPageToCome() {
+    m_pageIsToCome = true;
+    IterateGatherProfiles();
+}
+
+bool GatherDriver::WaitForPageToCome(int entry) {
+    const auto isHere = [this] {
+        return m_app.pageTests->LocationURL() != u"about:blank"_s &&
+               (m_app.WebBrowser1().ReadyState() == 4 || IsGatherPageComplete(m_app));
+    };
+    m_app.waiting.WaitFor(u"the page to be complete"_s, [&] {
+        if (!Goes(entry))
+            return false;
+        Diagnostics::IgnoreErrors([&] { m_pageIsToCome = m_pageIsToCome && !isHere(); });
+        return m_pageIsToCome;
+    });
+    return Goes(entry);
+}
+
 bool GatherDriver::WaitForMailPage(int entry) {
     PageTests& page = *m_app.pageTests;
     if (!page.AddressContains(u"http://{MessagingHost}/index.cfm?fuseaction=mail."_s) ||
@@ -168,7 +189,8 @@ bool GatherDriver::WaitForMailPage(int entry) {
     m_app.SetStatus(u"Waiting for the page to finish loading..."_s);
     Trace(u"IGP - waiting for page"_s);
     m_app.stopResume->PauseLinkCheck();
-    m_app.waiting.WaitWhile([&] { return Goes(entry) && m_app.WebBrowser1().ReadyState() < 4; }, 0);
+    m_app.waiting.WaitFor(u"the page to be complete"_s,
+                          [&] { return Goes(entry) && m_app.WebBrowser1().ReadyState() < 4; });
     if (!Goes(entry))
         return false;
     m_app.stopResume->ResumeLinkCheck();
@@ -183,12 +205,17 @@ bool GatherDriver::FilterPassWanted() const {
     return state.optFilterWhenGathering && !noneAsksForAVisit && !state.blnComparingIDs;
 }
 
+void GatherDriver::AwaitListOfIDs() {
+    m_app.state.strLinkType = u"ID"_s;
+    m_app.state.strLinkValue = u"ListOfIDs"_s;
+    m_standingPage.Begin();
+}
+
 // The visits have taken the browser away from the page: back to it, and on when its list stands again.
 GatherDriver::Next GatherDriver::ReturnFromFilterPass() {
     RunState& state = m_app.state;
     Trace(u"IGP3.3"_s);
-    state.strLinkType = u"ID"_s;
-    state.strLinkValue = u"ListOfIDs"_s;
+    AwaitListOfIDs();
     if (m_app.pageTests->LocationURL() != state.strGatherStartURL) {
         const QString url = state.strGatherStartURL;
         m_app.ClearPage();

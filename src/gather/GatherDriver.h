@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "gather/StandingPage.h"
+
 #include <QString>
 #include <functional>
 #include <vector>
@@ -21,6 +23,12 @@ public:
     // pages by itself; otherwise it returns and the tick enters it again. A later entry takes over from one
     // that still waits.
     void IterateGatherProfiles();
+    // The same once the page is there that the browser has just been sent to; what it shows until then is
+    // not scanned.
+    void ScanPageToCome();
+    // What the step after this waits for by the tick: a list page that is full, or that stands.
+    void AwaitListOfIDs();
+    bool ListOfIDsStands() { return m_standingPage.Stands(); }
     // True when the filters ask for a visit to each gathered profile.
     bool FilterPassWanted() const;
     // The label that names the visible slice of the list in WebBrowser1; "" when there is none.
@@ -42,6 +50,7 @@ private:
 
     Next RunStep(int entry);
     Next ScanPage(int entry);
+    bool WaitForPageToCome(int entry);
     bool WaitForMailPage(int entry);
     Next ReturnFromFilterPass();
     Next TurnPage(int entry);
@@ -60,7 +69,7 @@ private:
         void (*wait)(GatherDriver& driver, int entry, const QString& oldURL);
     };
     static const std::vector<PageWait>& PageWaits();
-    void WaitOnPage(const std::function<bool()>& stillWaiting);
+    void WaitOnPage(int entry, const std::function<bool()>& stillWaiting);
     void WaitPageLoad(int entry, const QString& oldURL);
     void WaitForAddress(int entry, const QString& oldURL, const QString& markup, bool checkErrors);
     void WaitForBrowsePage(int entry);
@@ -78,6 +87,8 @@ private:
 
     App& m_app;
     int m_lastEntry = 0;
+    bool m_pageIsToCome = false;
+    StandingPage m_standingPage;
 };
 
 } // namespace qlm

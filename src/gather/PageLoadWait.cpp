@@ -12,15 +12,16 @@ namespace {
 constexpr int ProfilesOnABrowsePage = 36;
 }
 
-// A page that is just being replaced can't be read: then what is waited for isn't there yet.
-void GatherDriver::WaitOnPage(const std::function<bool()>& stillWaiting) {
-    m_app.waiting.WaitWhile(
-        [&] {
-            bool waiting = true;
-            Diagnostics::IgnoreErrors([&] { waiting = stillWaiting(); });
-            return waiting;
-        },
-        0);
+// A page that is just being replaced can't be read: then what is waited for isn't there yet. One that stands
+// is taken as it is: a last page may lack what every other page of its kind has.
+void GatherDriver::WaitOnPage(int entry, const std::function<bool()>& stillWaiting) {
+    m_app.waiting.WaitFor(u"the next page"_s, [&] {
+        if (!Goes(entry))
+            return false;
+        bool waiting = true;
+        Diagnostics::IgnoreErrors([&] { waiting = stillWaiting() && !m_standingPage.Stands(); });
+        return waiting;
+    });
 }
 
 const std::vector<GatherDriver::PageWait>& GatherDriver::PageWaits() {
@@ -39,8 +40,11 @@ const std::vector<GatherDriver::PageWait>& GatherDriver::PageWaits() {
 
 void GatherDriver::WaitPageLoad(int entry, const QString& oldURL) {
     for (const PageWait& row : PageWaits())
-        if (m_app.pageTests->AddressContains(QString::fromUtf16(row.address)))
-            return row.wait(*this, entry, oldURL);
+        if (m_app.pageTests->AddressContains(QString::fromUtf16(row.address))) {
+            row.wait(*this, entry, oldURL);
+            break;
+        }
+    WaitOnPage(entry, [this] { return m_app.pageTests->LocationURL() == u"about:blank"_s; });
 }
 
 // In markup the "&" of an address is written "&amp;".
@@ -56,10 +60,10 @@ void GatherDriver::WaitForAddress(int entry, const QString& oldURL, const QStrin
         return true;
     };
     Trace(u"WAITPAGELOAD1.1"_s);
-    WaitOnPage([&] { return Goes(entry) && m_app.pageTests->LocationURL() == oldURL && mendErrorPage(); });
+    WaitOnPage(entry, [&] { return m_app.pageTests->LocationURL() == oldURL && mendErrorPage(); });
     Trace(u"WAITPAGELOAD1.2"_s);
-    WaitOnPage([&] {
-        return Goes(entry) && !m_app.pageTests->IsTextInPage(markup, true) &&
+    WaitOnPage(entry, [&] {
+        return !m_app.pageTests->IsTextInPage(markup, true) &&
                !m_app.pageTests->IsTextInPage(escaped, true) && mendErrorPage();
     });
 }
@@ -73,20 +77,20 @@ bool GatherDriver::LastPageStands() {
 void GatherDriver::WaitForBrowsePage(int entry) {
     auto building = [this] { return m_app.WebBrowser1().ReadyState() != 4; };
     Trace(u"WAITPAGELOAD2.1"_s);
-    WaitOnPage([&] { return Goes(entry) && building() && LastPageStands(); });
-    WaitOnPage([&] {
-        return Goes(entry) && building() &&
+    WaitOnPage(entry, [&] { return building() && LastPageStands(); });
+    WaitOnPage(entry, [&] {
+        return building() &&
                CountOccurrences(m_app.WebBrowser1().Document().BodyText(), u"Age:"_s) < ProfilesOnABrowsePage;
     });
 }
 
 // A chart builds its rows while it is scrolled; one that stops at the first dozen is loaded again.
 void GatherDriver::WaitForChart(int entry, const QString& oldURL) {
-    WaitOnPage([&] { return Goes(entry) && m_app.pageTests->LocationURL() == oldURL; });
+    WaitOnPage(entry, [&] { return m_app.pageTests->LocationURL() == oldURL; });
     if (Goes(entry))
         m_app.SetStatus(u"Waiting for page to finish loading top 200..."_s);
-    WaitOnPage([&] {
-        if (!Goes(entry) || m_app.pageTests->IsTextInPage(u"artist-200"_s, true))
+    WaitOnPage(entry, [&] {
+        if (m_app.pageTests->IsTextInPage(u"artist-200"_s, true))
             return false;
         m_app.WebBrowser1().Document().ScrollToEnd();
         if (m_app.WebBrowser1().ReadyState() == 4 && !m_app.pageTests->IsTextInPage(u"artist-12"_s, true)) {
@@ -101,9 +105,9 @@ void GatherDriver::WaitForChart(int entry, const QString& oldURL) {
 
 void GatherDriver::WaitForOtherPage(int entry) {
     Trace(u"WAITPAGELOAD3.1"_s);
-    WaitOnPage([&] { return Goes(entry) && LastPageStands(); });
+    WaitOnPage(entry, [&] { return LastPageStands(); });
     Trace(u"NEXTPAGEWAIT3"_s);
-    WaitOnPage([&] { return Goes(entry) && m_app.WebBrowser1().ReadyState() != 4; });
+    WaitOnPage(entry, [&] { return m_app.WebBrowser1().ReadyState() != 4; });
 }
 
 } // namespace qlm

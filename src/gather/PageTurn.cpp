@@ -112,10 +112,9 @@ bool GatherDriver::OpenNextPage(int entry) {
     SetMustNotHaveTexts();
     if (!Goes(entry))
         return false;
-    if (!state.blnNewLayout) {
-        state.strLinkType = u"ID"_s;
-        state.strLinkValue = u"ListOfIDs"_s;
-    }
+    if (!state.blnNewLayout)
+        AwaitListOfIDs();
+    m_standingPage.Leave();
     const QString oldURL = m_app.pageTests->LocationURL();
     m_app.WebBrowser1().Stop();
     m_app.waiting.Pump();

@@ -193,6 +193,13 @@ TEST_F(PageTestsTest, OfTheLinksThatOfferContactTheSecondOneCounts) {
     EXPECT_EQ(Tests().GetHrefFromSecondID(), QString());
 }
 
+TEST_F(PageTestsTest, TheLinksThatOfferContactAreLookedForOnceThePageIsThere) {
+    const QString url = u"http://www.site.example.com/late"_s;
+    world.web.SetPage(url, u"<body><a href='/send'>Send Message</a></body>"_s);
+    app->Pump().Queue().PostAt(app->Pump().NowMs() + 100000, [this, url] { Browser().Navigate(url); });
+    EXPECT_TRUE(Tests().GetHrefFromSecondID().endsWith(u"/send"_s));
+}
+
 TEST_F(PageTestsTest, APageWithoutABodyIsReloadedAfterThirtySeconds) {
     const QString url = u"http://www.site.example.com/empty"_s;
     world.web.SetFault(url, SimFault::NoBody, 2);

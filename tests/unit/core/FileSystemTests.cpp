@@ -187,3 +187,14 @@ TEST_F(FileSystemTest, PathsJoinWithOneSeparatorWhicheverSideBringsIt) {
 TEST_F(FileSystemTest, AMissingFileIsAnErrorForReaders) {
     EXPECT_THROW(m_files.ReadLines(Path(u"none.txt"_s)), FileError);
 }
+
+// A test that was cut off may have left its file, or somebody else something of that name: it goes, and
+// nothing is written through it.
+TEST_F(FileSystemTest, WhatStandsInTheWayOfTheRightsTestIsTakenAwayAndNotWrittenTo) {
+    m_files.WriteLines(Path(u"precious.txt"_s), {u"1001"_s});
+    ASSERT_TRUE(QFile::link(Path(u"precious.txt"_s), Path(u"test.txt"_s)));
+    EXPECT_TRUE(m_files.IsWritable(m_folder.path(), u"test.txt"_s));
+    EXPECT_FALSE(QFileInfo(Path(u"test.txt"_s)).isSymLink());
+    EXPECT_FALSE(QFile::exists(Path(u"test.txt"_s)));
+    EXPECT_EQ(Bytes(Path(u"precious.txt"_s)), "1001\r\n");
+}

@@ -86,6 +86,18 @@ TEST_F(GlobalSettingsTest, TheGatheredListFollowsItsFlagUnlessARunWalksIt) {
     EXPECT_EQ(app->state.arrFriendIDs.ToStringList(), QStringList{u"1001"_s});
 }
 
+TEST_F(GlobalSettingsTest, TheListsInFilesFollowTheirFlags) {
+    Restart();
+    app->files.WriteLines(app->ProgramFile(u"CategoriesList.txt"_s), {u"Shared"_s});
+    Untick("frmGlobalSettings.chkUseGlobalFriendRequesterSettings"_L1);
+    EXPECT_EQ(Inputs().Items("cboFRCategories"_L1), QStringList());
+    Open([this] {
+        Tick("frmGlobalSettings.chkUseGlobalFriendRequesterSettings"_L1, true);
+        Close();
+    });
+    EXPECT_EQ(Inputs().Items("cboFRCategories"_L1), QStringList{u"Shared"_s});
+}
+
 TEST_F(GlobalSettingsTest, ResetAllDeletesTheTwoSectionsAndEndsWithoutWritingThemBack) {
     Share(false);
     Restart();

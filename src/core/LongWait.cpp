@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "core/LongWait.h"
+
+#include "core/App.h"
+#include "core/StopResume.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr int SecondsUntilTold = 120;
+constexpr auto Line = "lblWaitingFor"_L1;
+} // namespace
+
+LongWait::LongWait(App& app, const QString& what, const LongWait* around)
+    : m_app(app), m_what(what), m_sinceMs(app.Pump().NowMs()), m_since(app.Pump().Now()) {
+    if (!around || around->m_what != what)
+        return;
+    m_sinceMs = around->m_sinceMs;
+    m_since = around->m_since;
+}
+
+// Another wait may have the line by now.
+LongWait::~LongWait() {
+    if (!m_shown.isEmpty() && m_app.controls.Text(Line) == m_shown)
+        m_app.controls.SetText(Line, {});
+}
+
+void LongWait::Tell() {
+    // With nothing running there is nothing that a button could end.
+    if (m_app.state.CurrentAction.isEmpty() || m_app.waiting.SecondsSince(m_sinceMs) < SecondsUntilTold)
+        return;
+    m_shown = Sentence();
+    if (m_app.controls.Text(Line) != m_shown)
+        m_app.controls.SetText(Line, m_shown);
+}
+
+QString LongWait::Sentence() const {
+    return u"Waiting since "_s + m_since.toString(u"hh:mm:ss"_s) + u" for "_s + m_what +
+           (m_app.stopResume->SkipHelps() ? u". Press Skip or Stop to go on without it."_s
+                                          : u". Press Stop to go on without it."_s);
+}
+
+} // namespace qlm
