@@ -207,6 +207,9 @@ void LoginFlow::FinishLogin() {
 void LoginFlow::RestartCampaign() {
     if (m_app.controls.Ticked("chkSaveScanned"_L1))
         m_app.gatheredList->FillScannedList(m_app.gatheredList->ScopedPath(), true, false);
+    // A long list takes a while, in which the user may have pressed Stop.
+    if (!IsLoggingIn(4))
+        return;
     m_app.state.CurrentAction.clear();
     for (const ChainedStart& start : ChainedStarts)
         if (m_app.state.ChainedCampaign == start.campaign)
@@ -234,6 +237,7 @@ void LoginFlow::LogInSpecifiedAccount(const QString& email, const QString& passw
         RunState& state = m_app.state;
         if (m_app.controls.Text("lblLoggedInAs"_L1).contains(u'@'))
             m_app.settingsFields->SaveListsAndSettings();
+        state.SwitchingAccount = true;
         state.AccountEmail = email.trimmed().toLower();
         state.AccountPassword = password.trimmed();
         m_app.pacing->HideCover();

@@ -59,7 +59,11 @@ void GatherDriver::RegisterHelp(const QString& label, const QString& form) {
 }
 
 bool GatherDriver::RefuseDuringLogin() {
-    const bool refuse = m_app.state.CurrentAction == u"LOGIN"_s && m_app.state.blnWaitForLoginFirst;
+    return m_app.state.blnWaitForLoginFirst && RefuseDuringAnyLogin();
+}
+
+bool GatherDriver::RefuseDuringAnyLogin() {
+    const bool refuse = m_app.state.CurrentAction == u"LOGIN"_s;
     if (refuse)
         m_app.ShowMessage(u"Please wait for the login process to finish"_s);
     return refuse;
@@ -88,7 +92,7 @@ void GatherDriver::ClosePrompt(const QString& form) {
 void GatherDriver::GotoBrowse() {
     Diagnostics::Guard(
         [this] {
-            if (RefuseDuringLogin())
+            if (RefuseDuringAnyLogin())
                 return;
             m_app.webHide().ZOrder(1);
             m_app.WebBrowser1().Stop();
@@ -106,7 +110,7 @@ void GatherDriver::GotoBrowse() {
 
 void GatherDriver::GotoProfilePage(const char* procedure, const QString& page) {
     m_app.diagnostics.Trap(procedure, [&] {
-        if (RefuseDuringLogin())
+        if (RefuseDuringAnyLogin())
             return;
         const QString id = m_app.idResolution->GetDisplayFriendID(u"WebBrowser1"_s, {});
         if (!IsNumeric(id)) {

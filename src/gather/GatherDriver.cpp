@@ -97,7 +97,7 @@ bool GatherDriver::WarnBeforeStart() {
 
 void GatherDriver::picScanStop_Click() {
     m_app.diagnostics.Trap("picScanStop_Click", [this] {
-        if (RefuseDuringLogin())
+        if (RefuseDuringAnyLogin())
             return;
         m_app.WebBrowser1().SetSilent(true);
         m_app.stopResume->StopAll(u"GATHERSTOP"_s);

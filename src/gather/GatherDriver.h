@@ -36,6 +36,8 @@ public:
 
     // Tells the user, while a login runs that has to be waited for.
     bool RefuseDuringLogin();
+    // During any login, whether the program must wait for it or not.
+    bool RefuseDuringAnyLogin();
     // For a gather that doesn't go over the pages in the browser: takes over from whatever still waits.
     int BeginEntry() { return ++m_lastEntry; }
     // False when the run is over or a later entry has taken over.
