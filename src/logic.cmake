@@ -2,6 +2,7 @@
 add_library(quillmere_logic STATIC
     platform/MessageQueue.cpp
 
+    core/AccountName.cpp
     core/ActionTick.cpp
     core/Activities.cpp
     core/AnsiText.cpp

@@ -2,6 +2,7 @@
 #include "accounts/AccountDetails.h"
 
 #include "accounts/AccountFile.h"
+#include "core/AccountName.h"
 #include "core/App.h"
 
 namespace qlm {
@@ -66,6 +67,11 @@ bool AccountDetails::InputsAreComplete() {
     if (controls.Text(Password) != controls.Text(Confirmation))
         return refuse(u"The confirmed password does not match!"_s, Confirmation);
     MarkAddAccount(m_app, 5);
+    if (const QString problem = AccountNameProblem(controls.Text(Email)); !problem.isEmpty())
+        return refuse(problem, Email);
+    if (const QString problem = AccountProblem(controls.Text(Email), controls.Text(Password));
+        !problem.isEmpty())
+        return refuse(problem, Password);
     return true;
 }
 

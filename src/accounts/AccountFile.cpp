@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "accounts/AccountFile.h"
 
+#include "core/AccountName.h"
 #include "core/AnsiText.h"
 #include "core/App.h"
+
+#include <algorithm>
 
 namespace qlm {
 
@@ -28,8 +31,24 @@ QString EmailOf(const QString& plainLine) {
     return plainLine.left(plainLine.indexOf(u';'));
 }
 
+// More than any e-mail and password have. What is longer is no account, and would hold up the screens.
+constexpr qsizetype LongestPlainLine = 2000;
+
+bool IsTooLong(const QString& stored) {
+    return stored.size() > 2 * LongestPlainLine;
+}
+
 bool SameEmail(const QString& left, const QString& right) {
     return left.toLower() == right.toLower();
+}
+
+bool IsOf(const QString& email, const QString& stored) {
+    return !IsTooLong(stored) && SameEmail(EmailOf(DecodeAccountLine(stored)), email);
+}
+
+// A line as it reads, written anew; one that is no account stays as it is.
+QString Recoded(const QString& stored) {
+    return IsTooLong(stored) ? stored : EncodeAccountLine(DecodeAccountLine(stored));
 }
 
 } // namespace
@@ -46,6 +65,18 @@ QString DecodeAccountLine(const QString& digits) {
     return FromAnsi(bytes);
 }
 
+QString AccountProblem(const QString& email, const QString& password) {
+    if (const QString problem = AccountNameProblem(email); !problem.isEmpty())
+        return problem;
+    if (!FitsAnsi(password))
+        return u"The password holds letters that the account list cannot keep. It keeps Western European "
+               u"letters, "
+               "digits and signs."_s;
+    if (email.size() + password.size() >= LongestPlainLine)
+        return u"The password is too long."_s;
+    return {};
+}
+
 void MarkAddAccount(App& app, int number) {
     app.diagnostics.Debug(u"debuginitial.txt"_s, u"AddAcc"_s + QString::number(number));
 }
@@ -60,11 +91,16 @@ void AccountFile::Ensure() {
     m_app.files.CloseToOthers(Path());
 }
 
-QStringList AccountFile::Lines() {
+QStringList AccountFile::Stored() {
     Ensure();
+    return LinesOfText(m_app.files.ReadBytes(Path()));
+}
+
+QStringList AccountFile::Lines() {
     QStringList lines;
-    for (const QString& digits : m_app.files.ReadLines(Path()))
-        lines.append(DecodeAccountLine(digits));
+    for (const QString& stored : Stored())
+        if (!IsTooLong(stored))
+            lines.append(DecodeAccountLine(stored));
     return lines;
 }
 
@@ -97,20 +133,19 @@ AccountFile::Listing AccountFile::Emails(const QString& path, bool encrypted, bo
     else
         m_app.files.EnsureFile(path);
     Listing listing;
-    for (const QString& line : m_app.files.ReadLines(path)) {
+    for (const QString& line : LinesOfText(m_app.files.ReadBytes(path))) {
         listing.hadLines = true;
-        if (!skipBlank || !line.trimmed().isEmpty())
+        if (IsTooLong(line))
+            ++listing.tooLong;
+        else if (!skipBlank || !line.trimmed().isEmpty())
             listing.emails.append(EmailOf(encrypted ? DecodeAccountLine(line) : line));
     }
     return listing;
 }
 
 // The temporary file stays behind, as the copy that a failed rewrite can be mended from.
-void AccountFile::Rewrite(const QStringList& plainLines, const QString& temporaryPath) {
-    QStringList encoded;
-    for (const QString& line : plainLines)
-        encoded.append(EncodeAccountLine(line));
-    m_app.files.WriteLines(temporaryPath, encoded, Readers::OwnerAlone);
+void AccountFile::Rewrite(const QStringList& stored, const QString& temporaryPath) {
+    m_app.files.WriteLines(temporaryPath, stored, Readers::OwnerAlone);
     m_app.files.CopyFile(temporaryPath, Path(), Readers::OwnerAlone);
 }
 
@@ -132,8 +167,12 @@ void AccountFile::Add(const QString& email, const QString& password) {
     MarkAddAccount(m_app, 10);
     const QString line = (email + u';' + password).toLower();
     MarkAddAccount(m_app, 11);
-    // Not appended in place: half a line would be an account that nobody has.
+    // Not appended in place: half a line would be an account that nobody has. What stands there stays as it
+    // is, unless it is written in a way in which nothing can be added to it.
+    const QStringList lines = Stored();
     QByteArray bytes = m_app.files.ReadBytes(Path());
+    if (lines != m_app.files.ReadLines(Path()))
+        bytes = lines.join(u"\r\n"_s).toLatin1();
     if (!bytes.isEmpty() && !bytes.endsWith('\n'))
         bytes += "\r\n";
     m_app.files.WriteBytes(Path(), bytes + EncodeAccountLine(line).toLatin1() + "\r\n", Readers::OwnerAlone);
@@ -145,21 +184,19 @@ void AccountFile::Edit(const QString& oldEmail, const QString& email, const QStr
     MarkAddAccount(m_app, 8);
     m_app.files.EnsureFile(temporary, Readers::OwnerAlone);
     MarkAddAccount(m_app, 9);
-    QStringList lines = Lines();
+    QStringList lines = Stored();
     MarkAddAccount(m_app, 13);
     for (QString& line : lines)
-        if (SameEmail(EmailOf(line), oldEmail))
-            line = email + u';' + password;
+        line = IsOf(oldEmail, line) ? EncodeAccountLine(email + u';' + password) : Recoded(line);
     MarkAddAccount(m_app, 14);
     Rewrite(lines, temporary);
     MarkAddAccount(m_app, 15);
 }
 
 void AccountFile::Delete(const QString& email) {
-    QStringList kept;
-    for (const QString& line : Lines())
-        if (!SameEmail(EmailOf(line), email))
-            kept.append(line);
+    QStringList kept = Stored();
+    kept.removeIf([&email](const QString& stored) { return IsOf(email, stored); });
+    std::transform(kept.begin(), kept.end(), kept.begin(), Recoded);
     Rewrite(kept, m_app.ProgramFile(u"scalemodelight_Temp.txt"_s));
 }
 
@@ -174,9 +211,22 @@ void AccountFile::Export(const QString& path, const QStringList& emails) {
     m_app.files.WriteLines(path, lines, Readers::OwnerAlone);
 }
 
+QString AccountFile::ImportProblem(const QString& path) const {
+    int number = 0;
+    for (const QString& line : LinesOfText(m_app.files.ReadBytes(path))) {
+        ++number;
+        const QString email = EmailOf(line).trimmed();
+        const QString problem = AccountProblem(email, line.mid(EmailOf(line).size() + 1));
+        if (!problem.isEmpty())
+            return u"Line %1 cannot be imported, and the list stays as it was.\n\n%2"_s.arg(number).arg(
+                problem);
+    }
+    return {};
+}
+
 void AccountFile::Import(const QString& path) {
     QStringList encoded;
-    for (const QString& line : m_app.files.ReadLines(path))
+    for (const QString& line : LinesOfText(m_app.files.ReadBytes(path)))
         encoded.append(EncodeAccountLine(line));
     m_app.files.WriteLines(Path(), encoded, Readers::OwnerAlone);
 }

@@ -13,6 +13,9 @@ class App;
 QString EncodeAccountLine(const QString& plain);
 QString DecodeAccountLine(const QString& digits);
 
+// Why the account can't be kept, in words for the user; empty when it can.
+QString AccountProblem(const QString& email, const QString& password);
+
 // The store of accounts, "scalemodelight.txt" in ProgramFolder, readable by its owner alone. Nothing is
 // cached: every operation opens, reads and closes the file, and creates it empty when it is missing. At
 // whatever write an operation is cut off, the old or the new list stands whole. Throws FileError.
@@ -21,6 +24,7 @@ public:
     struct Listing {
         QStringList emails;
         bool hadLines = false; // also when all of them were left out
+        int tooLong = 0;       // lines that are no accounts; they are left out, and stay in the file
     };
 
     explicit AccountFile(App& app) : m_app(app) {}
@@ -45,13 +49,17 @@ public:
     void Clear();
     // Plain text, the format that Import takes.
     void Export(const QString& path, const QStringList& emails);
+    // Why that plain file can't be imported, in words for the user; empty when it can.
+    QString ImportProblem(const QString& path) const;
     // Replaces the whole list by the lines of a plain file, as they stand.
     void Import(const QString& path);
 
 private:
     void Ensure();
+    // The lines as they are stored.
+    QStringList Stored();
     QStringList Lines();
-    void Rewrite(const QStringList& plainLines, const QString& temporaryPath);
+    void Rewrite(const QStringList& stored, const QString& temporaryPath);
 
     App& m_app;
 };

@@ -64,7 +64,8 @@ void AccountScreens::FillAccountsList(const AccountScreen& screen, const QString
     m_app.diagnostics.Trap(screen.fillName, [&] {
         Controls& controls = m_app.controls;
         controls.SetItems(screen.list, {});
-        const auto [emails, hadLines] = m_app.accountFile->Emails(path, encrypted, !screen.isLoginScreen);
+        const auto [emails, hadLines, tooLong] =
+            m_app.accountFile->Emails(path, encrypted, !screen.isLoginScreen);
         if (hadLines) {
             controls.SetItems(screen.list, emails);
             controls.SetSelected(screen.list, 0);
@@ -73,6 +74,10 @@ void AccountScreens::FillAccountsList(const AccountScreen& screen, const QString
         }
         for (const QLatin1StringView button : screen.accountButtons)
             controls.SetEnabled(button, hadLines);
+        if (tooLong > 0 && !std::exchange(m_tooLongTold, true))
+            m_app.ShowMessage(
+                u"The account list holds a line that is too long to be an account. It is passed over and "
+                "stays in the file."_s);
     });
 }
 
@@ -266,6 +271,10 @@ void AccountScreens::cmdImport_Click() {
         const QString path = m_app.platform.Dialogs().ChooseFileToOpen(u"Import Accounts"_s, TextFiles);
         if (path.isEmpty())
             return;
+        if (const QString problem = m_app.accountFile->ImportProblem(path); !problem.isEmpty()) {
+            m_app.ShowMessage(problem, u"Import Accounts"_s);
+            return;
+        }
         FillAccountsList(SwitchScreen(), path, false);
         m_app.accountFile->Import(path);
     });

@@ -57,6 +57,7 @@ private:
     // The choice on frmSwitchAccount; an empty e-mail means that there is none.
     QString m_switchEmail;
     QString m_switchPassword;
+    bool m_tooLongTold = false;
 };
 
 } // namespace qlm

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "core/AnsiText.h"
 
+#include <QStringConverter>
+
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -43,6 +48,21 @@ QString FromAnsi(QByteArrayView bytes) {
         text[i] = QChar(code >= 0x80 && code < 0xA0 ? UpperControls[code - 0x80U] : char16_t(code));
     }
     return text;
+}
+
+bool FitsAnsi(const QString& text) {
+    return FromAnsi(ToAnsi(text)) == text;
+}
+
+QStringList LinesOfText(const QByteArray& bytes) {
+    const std::optional<QStringConverter::Encoding> marked = QStringConverter::encodingForData(bytes);
+    QString text = marked ? QString(QStringDecoder(*marked).decode(bytes)) : FromAnsi(bytes);
+    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+    if (text.endsWith(u'\n'))
+        text.chop(1);
+    else if (text.isEmpty())
+        return {};
+    return text.split(u'\n');
 }
 
 } // namespace qlm

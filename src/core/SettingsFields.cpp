@@ -4,6 +4,7 @@
 #include "campaigns/Counters.h"
 #include "campaigns/FriendRequester.h"
 #include "content/ContentLists.h"
+#include "core/AccountName.h"
 #include "core/App.h"
 #include "core/BrowserSounds.h"
 #include "core/MainForm.h"
@@ -106,9 +107,10 @@ void SettingsFields::ChangeGlobalFlags(const QSet<QString>& keys) {
 QString SettingsFields::AccountDataPath(const QString& kind) {
     if (m_app.state.AccountEmail.isEmpty() || UsesGlobal(kind))
         return {};
+    const QString account = AccountFolderName(m_app.state.AccountEmail);
     if (!IsListKind(kind))
-        return u"\\"_s + m_app.state.AccountEmail;
-    const QString folder = u"\\ACCOUNTS\\"_s + m_app.state.AccountEmail;
+        return u"\\"_s + account;
+    const QString folder = u"\\ACCOUNTS\\"_s + account;
     m_app.files.CreateFolder(FileSystem::Join(m_app.state.ProgramFolder, folder));
     return folder;
 }

@@ -114,6 +114,58 @@ TEST_F(AccountFileTest, ImportReplacesTheListByTheLinesAsTheyStand) {
     EXPECT_EQ(File().Emails(File().Path(), true, true).emails.size(), 2);
 }
 
+TEST_F(AccountFileTest, AMarkAtItsBeginningAndOtherLineEndsAreNoPartOfAnAccount) {
+    const QByteArray first = EncodeAccountLine(u"a@example.com;1"_s).toLatin1();
+    const QByteArray second = EncodeAccountLine(u"b@example.com;2"_s).toLatin1();
+    QByteArray wide("\xFF\xFE");
+    for (const char byte : first + "\r\n" + second + "\r\n")
+        wide += QByteArray(1, byte) + '\0';
+    for (const QByteArray& bytes :
+         {"\xEF\xBB\xBF" + first + "\r\n" + second + "\r\n", wide, first + '\r' + second}) {
+        app->files.WriteBytes(File().Path(), bytes);
+        EXPECT_EQ(File().Emails(File().Path(), true, false).emails,
+                  (QStringList{u"a@example.com"_s, u"b@example.com"_s}));
+        EXPECT_EQ(File().GetPasswordFromEmail(u"a@example.com"_s), u"1"_s);
+        File().Add(u"c@example.com"_s, u"3"_s);
+        File().Edit(u"b@example.com"_s, u"b@example.com"_s, u"4"_s);
+        EXPECT_EQ(Stored(), (QStringList{u"a@example.com;1"_s, u"b@example.com;4"_s, u"c@example.com;3"_s}));
+    }
+}
+
+TEST_F(AccountFileTest, ALineThatIsNoAccountIsPassedOverAndStays) {
+    const QString mad(20 * 1024 * 1024, u'4');
+    const QString account = EncodeAccountLine(u"a@example.com;1"_s);
+    app->files.WriteLines(File().Path(), {mad, account, u"no digits"_s}, Readers::OwnerAlone);
+    const AccountFile::Listing listing = File().Emails(File().Path(), true, false);
+    EXPECT_EQ(listing.emails.size(), 2);
+    EXPECT_EQ(listing.emails.value(0), u"a@example.com"_s);
+    EXPECT_EQ(listing.tooLong, 1);
+    EXPECT_EQ(File().GetPasswordFromEmail(u"a@example.com"_s), u"1"_s);
+    File().Edit(u"a@example.com"_s, u"b@example.com"_s, u"2"_s);
+    File().Add(u"c@example.com"_s, u"3"_s);
+    File().Delete(u"b@example.com"_s);
+    const QStringList stored = app->files.ReadLines(File().Path());
+    EXPECT_TRUE(stored == (QStringList{mad, EncodeAccountLine(DecodeAccountLine(u"no digits"_s)),
+                                       EncodeAccountLine(u"c@example.com;3"_s)}));
+}
+
+TEST_F(AccountFileTest, AnImportThatCannotBeKeptSaysWhichLineAndWhy) {
+    const QString path = folder.filePath(u"import.txt"_s);
+    auto problem = [&](const QByteArray& bytes) {
+        app->files.WriteBytes(path, bytes);
+        return File().ImportProblem(path);
+    };
+    EXPECT_EQ(problem("One@Example.com;Pw;x\r\n\r\nno password\r\n"), QString());
+    EXPECT_EQ(problem("\xEF\xBB\xBFz\xC3\xB6"
+                      "e@example.com;n\xC3\xA4\n"),
+              QString());
+    EXPECT_TRUE(problem("a@b.c;1\n\xEF\xBB\xBFz@b.c;2\n../x;3\n").startsWith(u"Line 3 "_s));
+    EXPECT_TRUE(problem("\xEF\xBB\xBF"
+                        "a@b.c;\xD0\xBF\n")
+                    .contains(u"The password holds letters"_s));
+    EXPECT_TRUE(problem(QByteArray("a@b.c;") + QByteArray(3000, 'x')).contains(u"too long"_s));
+}
+
 TEST_F(AccountFileTest, ExportWritesWhatImportTakes) {
     Store({u"a@example.com;1;2"_s, u"b@example.com;3"_s});
     const QString path = folder.filePath(u"export.txt"_s);
