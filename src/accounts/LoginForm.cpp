@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "accounts/LoginForm.h"
 
+#include "core/Deployment.h"
 #include "core/Text.h"
 
 namespace qlm {
@@ -32,33 +33,49 @@ bool IsLoginInput(const Element& input) {
     return false;
 }
 
+// What belongs to no form stays in the page.
+bool StaysOnTheSite(const Deployment& site, const Element& control) {
+    const QString address = control.Read(ElementText::SentTo);
+    return address.isEmpty() || site.IsSitePage(address);
+}
+
 } // namespace
 
-void FillLoginForm(const Document& document, const QString& email, const QString& password) {
+bool FillLoginForm(const Deployment& site, const Document& document, const QString& email,
+                   const QString& password) {
+    if (!site.IsSitePage(document.Address()))
+        return false;
+    auto fill = [&site](const Element& field, const QString& text) {
+        if (field.TagName() == u"input"_s && StaysOnTheSite(site, field))
+            field.SetInnerText(text);
+    };
     for (const Element& input : document.GetElementsByTagName(u"input"_s)) {
         const QString id = input.Id();
         if (Has(id, u"Email_Textbox"_s))
-            input.SetInnerText(email);
+            fill(input, email);
         if (Has(id, u"Password_Textbox"_s))
-            input.SetInnerText(password);
+            fill(input, password);
     }
     for (const Element& field : document.GetElementsByName(u"email"_s))
-        field.SetInnerText(email);
+        fill(field, email);
     for (const Element& field : document.GetElementsByName(u"password"_s))
-        field.SetInnerText(password);
+        fill(field, password);
     if (const Element remember = document.GetElementById(u"rememberTray"_s))
         remember.SetAttribute(u"checked"_s, u"checked"_s);
+    return true;
 }
 
-LoginButton FindLoginButton(const Document& document) {
+LoginButton FindLoginButton(const Deployment& site, const Document& document) {
     for (const Element& input : document.GetElementsByTagName(u"input"_s))
-        if (IsLoginInput(input))
+        if (IsLoginInput(input) && StaysOnTheSite(site, input))
             return {input, false};
     for (const Element& link : document.GetElementsByTagName(u"a"_s))
         if (Has(link.Id(), u"loginBtn"_s))
             return {link, true};
-    const std::vector<Element> named = document.GetElementsByName(u"loginbtn"_s);
-    return named.empty() ? LoginButton() : LoginButton{named.front(), true};
+    for (const Element& named : document.GetElementsByName(u"loginbtn"_s))
+        if (StaysOnTheSite(site, named))
+            return {named, true};
+    return {};
 }
 
 } // namespace qlm

@@ -35,14 +35,19 @@ void LoginFlow::FillAndSubmit() {
         m_app.platform.Settings().GetSetting(zone, u"1601"_s, u"x"_s));
 
     const Document document = m_app.WebBrowser1().Document();
-    FillLoginForm(document, state.AccountEmail, state.AccountPassword);
-    if (const LoginButton button = FindLoginButton(document); button.element)
-        Press(button.element, button.stopFirst);
+    const bool isFilled =
+        FillLoginForm(m_app.deployment, document, state.AccountEmail, state.AccountPassword);
+    if (isFilled)
+        if (const LoginButton button = FindLoginButton(m_app.deployment, document); button.element)
+            Press(button.element, button.stopFirst);
     if (state.CurrentAction != action)
         return;
     state.blnLinkFound = false;
     m_app.timers->tmrCheckLinkLoaded.Restart();
-    m_app.SetStatus(u"Login details submitted, waiting for login to complete..."_s);
+    m_app.SetStatus(
+        isFilled
+            ? u"Login details submitted, waiting for login to complete..."_s
+            : u"This page is not the site's: nothing was typed into it. Waiting for a page of the site..."_s);
 }
 
 void LoginFlow::WaitForCompletePage() {

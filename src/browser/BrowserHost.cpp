@@ -71,6 +71,7 @@ void BrowserHost::Attach() {
 
 bool BrowserHost::WebBrowser1_BeforeNavigate2(const NavigationRequest& request) {
     RunState& state = m_app.state;
+    LearnTypedPasswords(request);
     if (m_app.WebBrowser1().RefusesNavigations())
         return true;
     if (request.url == u"javascript:void()"_s &&

@@ -28,6 +28,7 @@ private:
     Element FindProfileLink(const QString& url);
     void AddClickedProfile(const Element& link);
     // TypedLogin.cpp
+    void LearnTypedPasswords(const NavigationRequest& request);
     void ReadTypedLogin(const NavigationRequest& request);
 
     App& m_app;

@@ -69,6 +69,14 @@ bool LogInAgain(const Page& page) {
     return false;
 }
 
+// A stranger's page that looks like the site's own: whoever asks there for a password gets none.
+bool LeaveTheTrap(const Page& page) {
+    page.Remark("A page that is not the site's asked for your password; nothing was typed into it");
+    page.state.blnSkipCurrentID = true;
+    page.app.stopResume->SkipProfile();
+    return false;
+}
+
 bool ConfirmedWhileWaiting(const Page& page) {
     page.Trace(page.Body() + u"FR LF2"_s);
     page.app.friendRequester->NoteConfirmation();
@@ -218,6 +226,11 @@ const std::vector<DetourRow>& Detours() {
                     p.app.pageTests->LocationURL().endsWith(u".com/"_s, Qt::CaseInsensitive);
          },
          LogInAgain},
+        {[](const Page& p) {
+             return !p.Is("LOGIN") && p.app.pageTests->AsksForPassword() &&
+                    p.app.pageTests->LocationURL().endsWith(u".com/"_s, Qt::CaseInsensitive);
+         },
+         LeaveTheTrap},
         {[](const Page& p) { return p.Requesting(9) && p.app.pageTests->IsRequestSentPage(); },
          ConfirmedWhileWaiting},
         {[](const Page& p) { return p.Requesting(9) && p.app.pageTests->IsHomePageURL(); }, RedirectedHome},

@@ -30,6 +30,10 @@ public:
     static Question HrefQuestion(const QString& href, bool partial);
     static std::vector<Question> ImageQuestions(const QString& name);
     bool IsHomePageURL();
+    // The words of a page that asks for a password, whoever's page it is.
+    bool AsksForPassword();
+    static bool AsksForPassword(const QString& pageText);
+    // The site's own page with its login form.
     bool IsLoggedOutPage();
     // Only while logging in.
     bool IsNotEnglishPage();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "browser/PageTests.h"
 #include "core/App.h"
+#include "core/Text.h"
 
 #include <algorithm>
 #include <vector>
@@ -41,8 +42,18 @@ bool Shows(PageTests& tests, KnownPage page) {
 
 } // namespace
 
-bool PageTests::IsLoggedOutPage() {
+bool PageTests::AsksForPassword() {
     return Shows(*this, KnownPage::LoggedOut);
+}
+
+bool PageTests::AsksForPassword(const QString& pageText) {
+    return std::any_of(PageWords().begin(), PageWords().end(), [&](const PageWord& word) {
+        return word.page == KnownPage::LoggedOut && Has(pageText, QString::fromUtf16(word.text));
+    });
+}
+
+bool PageTests::IsLoggedOutPage() {
+    return AsksForPassword() && m_app.deployment.IsSitePage(m_app.WebBrowser1().Document().Address());
 }
 
 bool PageTests::IsCaptchaPage() {

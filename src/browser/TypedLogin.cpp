@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The user may log in by hand, in the page: what he typed becomes the account in use.
+#include "accounts/AccountFile.h"
 #include "browser/BrowserHost.h"
+#include "browser/PageTests.h"
 #include "core/App.h"
+#include "core/StopResume.h"
 #include "core/Text.h"
 
 namespace qlm {
@@ -28,23 +31,20 @@ struct TypedLogin {
     }
 };
 
-// Not by the page tests: those wait for a page that is still building, and this one is about to be left.
-bool ShowsLoginForm(const Document& document) {
-    const QString text = document.BodyText();
-    return Has(text, u"forgot your password?"_s) || Has(text, u"forgot password?"_s);
-}
-
-// A form that is sent brings its inputs along, and they tell whether its page, which may be gone by now, was
-// a login page; of a link that sends the form by script the page tells both.
-TypedLogin TypedInto(const NavigationRequest& request, BrowserControl& browser) {
+// A form that is sent brings along what its page showed and where it stood, since the page may be gone by
+// now; of a link that sends the form by script the page tells it, not through the tests that wait for a page.
+TypedLogin TypedInto(const NavigationRequest& request, const Deployment& site, BrowserControl& browser) {
     TypedLogin typed;
     if (request.isForm) {
-        for (const NavigationRequest::Input& input : request.inputs)
-            typed.Take(input.id, input.value);
+        if (site.IsSitePage(request.pageAddress) && site.IsSitePage(request.url) &&
+            PageTests::AsksForPassword(request.pageText))
+            for (const NavigationRequest::Input& input : request.inputs)
+                typed.Take(input.id, input.value);
         return typed;
     }
     const Document document = browser.Document();
-    if (request.topLevel && ShowsLoginForm(document))
+    if (request.topLevel && site.IsSitePage(document.Address()) &&
+        PageTests::AsksForPassword(document.BodyText()))
         for (const Element& input : document.GetElementsByTagName(u"input"_s))
             typed.Take(input.Id(), input.Value());
     return typed;
@@ -56,22 +56,36 @@ QString Stars(const QString& text) {
 
 } // namespace
 
+// Whatever form it was typed into: the address that follows may hold it.
+void BrowserHost::LearnTypedPasswords(const NavigationRequest& request) {
+    for (const NavigationRequest::Input& input : request.inputs)
+        if (input.type == u"password"_s || Has(input.id, u"Password_Textbox"_s))
+            m_app.diagnostics.LearnPassword(input.value, input.name);
+}
+
 void BrowserHost::ReadTypedLogin(const NavigationRequest& request) {
-    const TypedLogin typed = TypedInto(request, m_app.WebBrowser1());
+    const TypedLogin typed = TypedInto(request, m_app.deployment, m_app.WebBrowser1());
     if (!typed.isLoginForm)
         return;
     Diagnostics& diagnostics = m_app.diagnostics;
     SettingsStore& settings = m_app.platform.Settings();
-    diagnostics.LearnPassword(typed.password);
+    diagnostics.LearnPassword(typed.password, {});
     diagnostics.Debug(u"debuginitial.txt"_s,
                       u"Navigate 2.3 - "_s + Stars(typed.email) + u", "_s + Stars(typed.password));
+    RunState& state = m_app.state;
+    const bool anotherAccount =
+        !typed.email.isEmpty() && typed.email.compare(state.AccountEmail, Qt::CaseInsensitive) != 0;
+    if (const QString problem = AccountProblem(typed.email, typed.password); !problem.isEmpty()) {
+        // The site signs somebody in whom the program cannot name: nothing of its account may go on there.
+        if (anotherAccount)
+            m_app.stopResume->StopAll(u"TYPED"_s);
+        m_app.ShowMessage(problem);
+        return;
+    }
     if (!typed.password.isEmpty())
         settings.SaveSetting(FieldEntries, u"Login - txtPassword"_s, typed.password);
 
-    RunState& state = m_app.state;
     diagnostics.Debug(u"debuginitial.txt"_s, u"Navigate 3.1 (e) - "_s + Stars(typed.email));
-    const bool anotherAccount =
-        !typed.email.isEmpty() && typed.email.compare(state.AccountEmail, Qt::CaseInsensitive) != 0;
     if (!anotherAccount || (state.intLoginStep != 0 && state.intLoginStep != 4))
         return;
     state.AccountEmail = typed.email.toLower();

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "core/Deployment.h"
 
+#include <QRegularExpression>
+
+#include <algorithm>
+
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
@@ -36,6 +40,13 @@ const QStringList& RequiredRoles() {
     return roles;
 }
 
+// Hosts that are no part of the site: others' pages are searched, shown and redirected to there.
+const QStringList& StrangersRoles() {
+    static const QStringList roles{u"WebSearchHost"_s, u"LinkRedirectHost"_s, u"CreativeHost"_s,
+                                   u"ProductServer"_s, u"ProductServerAlternate"_s};
+    return roles;
+}
+
 } // namespace
 
 Deployment::Deployment(const QString& iniText) {
@@ -64,6 +75,17 @@ QString Deployment::Expand(const QString& text) const {
     if (m_expanded.size() < 2000)
         m_expanded.insert(text, expanded);
     return expanded;
+}
+
+// Browsers write a page's address in one way: small letters, no usual port. What is written in another way (a
+// name before the host, a port, a dot behind it) may lead elsewhere than it seems and is nobody's.
+bool Deployment::IsSitePage(const QString& address) const {
+    static const QRegularExpression plain(u"^https?://([a-z0-9.-]+)(?:[/?#]|$)"_s);
+    const QString host = plain.match(address).captured(1);
+    const QStringList& roles = RequiredRoles();
+    return !host.isEmpty() && std::any_of(roles.begin(), roles.end(), [&](const QString& role) {
+        return !StrangersRoles().contains(role) && Role(role).toLower() == host;
+    });
 }
 
 QStringList Deployment::MissingRoles() const {

@@ -19,6 +19,9 @@ public:
     QString Role(const QString& name) const { return m_values.value(name); }
     // A value of any section by its key: "FounderName", "FounderAddress", "Proxy", "SupportAddress".
     QString Value(const QString& key) const { return m_values.value(key); }
+    // True for the address of a page of the site itself, on one of the deployment's hosts. Passwords are
+    // typed into such pages alone and read from them alone, and sent to no other address.
+    bool IsSitePage(const QString& address) const;
     // Roles that must be there and are not.
     QStringList MissingRoles() const;
     // True when the proxy is the bundled practice site.

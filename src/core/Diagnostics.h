@@ -80,16 +80,17 @@ public:
 
     static QString CleanText(const QString& text);
 
-    // A password that is not the account's: one that was typed into a page.
-    void LearnPassword(const QString& password) { m_mask.Learn(password); }
+    // A password that was typed into a field of a page.
+    void LearnPassword(const QString& password, const QString& field) { m_mask.Learn(password, field); }
     // An address as it may be shown.
     QString WithoutPasswords(const QString& address);
+    // A page's text or markup as it may be kept.
+    QString Masked(const QString& text);
 
     // Told of each line behind its writing; a test stops the program there.
     std::function<void(const QString& line)> onLine;
 
 private:
-    QString Masked(const QString& text);
     void TellUser(const QString& error);
 
     App& m_app;

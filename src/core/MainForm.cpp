@@ -202,7 +202,9 @@ void MainForm::picGO_Click() {
             return;
         }
         m_app.webHide().ZOrder(1);
-        m_app.WebBrowser1().Navigate(address);
+        // What the bar shows of a page with a password in its address stands for that page.
+        const QString shown = m_app.WebBrowser1().LocationURL();
+        m_app.WebBrowser1().Navigate(address == m_app.diagnostics.WithoutPasswords(shown) ? shown : address);
     });
 }
 

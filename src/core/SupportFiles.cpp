@@ -50,7 +50,7 @@ void SupportFiles::AskForPageSource() {
 }
 
 void SupportFiles::SavePageSource(const QString& path) {
-    m_app.files.WriteBytes(path, ToAnsi(m_app.WebBrowser1().Document().BodyHTML()));
+    m_app.files.WriteBytes(path, ToAnsi(m_app.diagnostics.Masked(m_app.WebBrowser1().Document().BodyHTML())));
 }
 
 QString SupportFiles::TempFolder() const {

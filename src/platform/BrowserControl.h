@@ -16,16 +16,20 @@ struct NavigationRequest {
         QString id;
         QString name;
         QString value;
+        QString type; // lower case
     };
 
     QString url;
     QString headers;
     QString targetFrameName;
     bool topLevel = true;
-    // A form is being sent: what its page's input elements held at that moment, in page order. Such a
-    // navigation is on its way already and the answer of the handler doesn't hold it.
+    // A form is being sent: what its page's input elements held at that moment, in page order, and the page's
+    // address and visible text. Such a navigation is on its way already and the answer of the handler doesn't
+    // hold it; the page may be gone.
     bool isForm = false;
     std::vector<Input> inputs;
+    QString pageAddress;
+    QString pageText;
 };
 
 // What a browser tells its host. Every event is queued by the platform and arrives from PumpMessages(), never

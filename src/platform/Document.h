@@ -33,7 +33,10 @@ enum class ElementText {
     ClassName,
     TagName, // lower case
     Type,    // lower case
-    Text     // of a script: its source
+    Text,    // of a script: its source
+    // Of a form's field or button: where the form would be sent, with that button if it is one, resolved;
+    // empty for what belongs to no form.
+    SentTo
 };
 
 // Collections of a document, each in document order.
@@ -88,8 +91,9 @@ public:
     // A hint: these nodes are about to be read together, each of them in the same way, within this turn.
     virtual void Expect(const std::vector<int>&) {}
 
-    virtual int Body() = 0;      // 0 while there is none
-    virtual bool HasLinks() = 0; // the links collection exists, empty or not
+    virtual QString Address() = 0; // where it came from, as the browser shows it
+    virtual int Body() = 0;        // 0 while there is none
+    virtual bool HasLinks() = 0;   // the links collection exists, empty or not
     virtual QString
     BodyText(ElementText which) = 0; // InnerText, InnerHTML or OuterHTML of the body, cached a turn
     virtual std::vector<int> Collect(ElementSet set, const QString& argument) = 0;
@@ -187,6 +191,8 @@ public:
     bool Any(const Question& question) const { return Need().Any(question); }
     Element Body() const { return IsNull() ? Element() : Element(m_backend, m_backend->Body()); }
     bool IsPresent() const { return m_backend && m_backend->IsPresent(); }
+    // Of the very document whose elements are read and written, whatever has come meanwhile.
+    QString Address() const { return Need().Address(); }
     // A hint: these elements are about to be read together, each of them in the same way, within this turn.
     void Expect(const std::vector<Element>& elements) const {
         std::vector<int> nodes;

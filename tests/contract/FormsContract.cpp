@@ -93,9 +93,9 @@ TEST_F(FormsContract, AFormWithoutAnActionGoesToItsOwnPage) {
 
 TEST_F(FormsContract, TheEventOfAFormTellsWhatWasTyped) {
     ServeBody(u"sent"_s, u"signed in"_s);
-    Show(
-        u"<input id=outside value=o><form method=post action='/sent'><input id=x_Email_Textbox name=mail>"
-        "<input id=x_Password_Textbox name=pass type=password><input type=submit id=go value=Login></form>"_s);
+    Show(u"<input id=outside value=o><form method=post action='/sent'><input id=x_Email_Textbox name=mail>"
+         "<input id=x_Password_Textbox name=pass type=password><input type=submit id=go value=Login></form>"
+         "<p>Forgot your password?</p>"_s);
     seen.questions.clear();
     seen.order.clear();
     ById(u"x_Email_Textbox"_s).SetInnerText(u"a@example.com"_s);
@@ -112,9 +112,45 @@ TEST_F(FormsContract, TheEventOfAFormTellsWhatWasTyped) {
     EXPECT_EQ(question.inputs[1].id, u"x_Email_Textbox"_s);
     EXPECT_EQ(question.inputs[1].name, u"mail"_s);
     EXPECT_EQ(question.inputs[1].value, u"a@example.com"_s);
+    EXPECT_EQ(question.inputs[1].type, u"text"_s);
     EXPECT_EQ(question.inputs[2].value, u"secret"_s);
+    EXPECT_EQ(question.inputs[2].type, u"password"_s);
+    EXPECT_EQ(question.pageAddress, At(u"page"_s));
+    EXPECT_TRUE(question.pageText.contains(u"Forgot your password?"_s)) << question.pageText.toStdString();
+    EXPECT_FALSE(question.pageText.contains(u"<p"_s));
     EXPECT_EQ(question.headers, u"Content-Type: application/x-www-form-urlencoded\r\n"_s);
     EXPECT_EQ(seen.order, (QStringList{u"before"_s, u"arrived"_s, u"completed"_s}));
+}
+
+TEST_F(FormsContract, AFieldTellsWhereItsFormGoes) {
+    Show(
+        u"<input id=free><form action='/in?a=1#b'><input id=own><input name=action value=/elsewhere>"
+        "<button id=button>x</button><input type=submit id=other "
+        "formaction='http://stranger.example.com/take'>"
+        "</form><form id=empty><textarea id=text></textarea></form>"
+        "<form id=away action='http://stranger.example.com'></form><input id=lent form=away><p id=p>x</p>"_s);
+    EXPECT_EQ(browser.Document().Address(), At(u"page"_s));
+    auto sentTo = [this](const QString& id) { return ById(id).Read(ElementText::SentTo); };
+    EXPECT_EQ(sentTo(u"free"_s), QString());
+    EXPECT_EQ(sentTo(u"p"_s), QString());
+    EXPECT_EQ(sentTo(u"own"_s), At(u"in?a=1#b"_s));
+    EXPECT_EQ(sentTo(u"button"_s), At(u"in?a=1#b"_s));
+    EXPECT_EQ(sentTo(u"other"_s), u"http://stranger.example.com/take"_s);
+    EXPECT_EQ(sentTo(u"text"_s), At(u"page"_s));
+    EXPECT_EQ(sentTo(u"lent"_s), u"http://stranger.example.com/"_s);
+}
+
+TEST_F(FormsContract, AButtonsOwnAddressTakesTheFormsPlace) {
+    ServeBody(u"sent?a=1"_s, u"thank you"_s);
+    Show(
+        u"<form action='/elsewhere'><input name=a value=1><input type=submit id=go formaction='/sent'></form>"_s);
+    ById(u"go"_s).Click();
+    ASSERT_TRUE(WaitForText(u"thank you"_s));
+}
+
+TEST_F(FormsContract, APagesBaseCountsForWhereAFormGoes) {
+    Show(u"<base href='http://stranger.example.com/x/'><form action='in'><input id=own></form>"_s);
+    EXPECT_EQ(ById(u"own"_s).Read(ElementText::SentTo), u"http://stranger.example.com/x/in"_s);
 }
 
 // Who has pressed a button and waits while the browser is busy waits for what the form leads to.

@@ -17,6 +17,11 @@ void BlankDocument::Check() const {
         throw BrowserError();
 }
 
+QString BlankDocument::Address() {
+    Check();
+    return u"about:blank"_s;
+}
+
 int BlankDocument::Body() {
     Check();
     return bodyNode;

@@ -18,6 +18,7 @@ public:
         : m_isPresent(std::move(isPresent)), m_write(std::move(write)) {}
 
     bool IsPresent() const override { return m_isPresent(this); }
+    QString Address() override;
     int Body() override;
     bool HasLinks() override;
     QString BodyText(ElementText which) override;

@@ -219,10 +219,13 @@ bool BrowserPage::TakeMessage(const QString& text) {
     const std::optional<PageMessage::Kind> kind = KindOf(parts.at(0).toString());
     if (!kind || !m_observer)
         return true;
-    PageMessage message{*kind, parts.at(1).toString(), parts.at(2).toString(), parts.at(3).toString(), {}};
-    for (qsizetype i = 4; i < parts.size(); ++i) {
+    PageMessage message{
+        *kind, parts.at(1).toString(), parts.at(2).toString(), parts.at(3).toString(), parts.at(4).toString(),
+        {}};
+    for (qsizetype i = 5; i < parts.size(); ++i) {
         const QJsonArray input = parts.at(i).toArray();
-        message.inputs.push_back({input.at(0).toString(), input.at(1).toString(), input.at(2).toString()});
+        message.inputs.push_back(
+            {input.at(0).toString(), input.at(1).toString(), input.at(2).toString(), input.at(3).toString()});
     }
     m_observer->OnMessage(message);
     return true;

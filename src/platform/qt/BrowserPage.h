@@ -16,8 +16,9 @@ struct PageMessage {
     Kind kind = Kind::Arrived;
     QString document; // empty for a frame
     QString url;
-    // Inputs: how the form is sent, and id, name and value of each, in page order.
+    // Inputs: how the form is sent, its page's text, and id, name, value and type of each, in page order.
     QString method; // lower case
+    QString text;
     std::vector<QStringList> inputs;
 };
 

@@ -85,7 +85,8 @@ void PageCache::EnterTurn(quint64 turn) {
 }
 
 void PageCache::TakeLook(const QVariantMap& told) {
-    m_look = PageLook{told.value(u"body"_s).toInt(), told.value(u"text"_s).toString()};
+    m_look = PageLook{told.value(u"body"_s).toInt(), told.value(u"text"_s).toString(),
+                      told.value(u"url"_s).toString()};
     if (told.contains(u"html"_s))
         m_tree = PageTree(told);
     m_isTreeSure = true;

@@ -53,6 +53,7 @@ private:
 struct PageLook {
     int body = 0; // 0 while there is none
     QString text;
+    QString address;
 };
 
 // Everything that is known of one document in the present turn. Nodes that were found together are expected

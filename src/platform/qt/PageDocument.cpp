@@ -21,8 +21,8 @@ constexpr int lineageLevels = 5;
 
 // The bridge's names, in the order of ElementText.
 constexpr std::array propertyNames = {
-    "InnerText", "InnerHTML", "OuterHTML", "Id",    "Name",      "Value",   "Href", "HostName",
-    "NameProp",  "Src",       "Alt",       "Title", "ClassName", "TagName", "Type", "Text",
+    "InnerText", "InnerHTML", "OuterHTML", "Id",        "Name",    "Value", "Href", "HostName", "NameProp",
+    "Src",       "Alt",       "Title",     "ClassName", "TagName", "Type",  "Text", "SentTo",
 };
 
 // The bridge's names, in the order of ElementSet.
@@ -148,6 +148,10 @@ const PageLook& PageDocument::NeedLook() {
     if (!Look())
         throw BrowserError();
     return *Cache().Look();
+}
+
+QString PageDocument::Address() {
+    return NeedLook().address;
 }
 
 // A page that is busy with itself has no body yet, as far as the waits are concerned.

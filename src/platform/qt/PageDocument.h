@@ -30,6 +30,7 @@ public:
     void Foresee(const Foresight& foresight) override;
     bool IsPresent() const override { return m_owner.IsPresent(this); }
     void Expect(const std::vector<int>& nodes) override;
+    QString Address() override;
     int Body() override;
     bool HasLinks() override;
     QString BodyText(ElementText which) override;

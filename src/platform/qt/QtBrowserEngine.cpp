@@ -54,7 +54,9 @@ void QtBrowser::OnMessage(const PageMessage& message) {
         if (message.method == u"post"_s)
             m_form.headers = u"Content-Type: application/x-www-form-urlencoded\r\n"_s;
         for (const QStringList& input : message.inputs)
-            m_form.inputs.push_back({input.at(0), input.at(1), input.at(2)});
+            m_form.inputs.push_back({input.at(0), input.at(1), input.at(2), input.at(3)});
+        m_form.pageAddress = message.url;
+        m_form.pageText = message.text;
         m_formLimit.start(formLimitMs);
         return;
     }

@@ -25,8 +25,8 @@ bool IsOwnWindow(const QString& target) {
 std::vector<NavigationRequest::Input> InputsOf(const SimTree& tree) {
     std::vector<NavigationRequest::Input> inputs;
     for (const int input : tree.Elements(tree.Root(), u"input"))
-        inputs.push_back(
-            {tree.Attribute(input, u"id"), tree.Attribute(input, u"name"), ValueOf(tree, input)});
+        inputs.push_back({tree.Attribute(input, u"id"), tree.Attribute(input, u"name"), ValueOf(tree, input),
+                          TypeOf(tree, input)});
     return inputs;
 }
 
@@ -124,7 +124,7 @@ void SimBrowser::FormSubmitted(int form) {
 
 void SimBrowser::SendForm(int form, int pressed) {
     SimTree& tree = Tree();
-    const QString action = ResolveAddress(m_document->BaseURL(), tree.Attribute(form, u"action"));
+    const QString action = m_document->AddressOfForm(form, pressed);
     if (SchemeOf(action) == u"javascript")
         return RunScript(action);
     if (RefusesNavigations())
@@ -137,6 +137,8 @@ void SimBrowser::SendForm(int form, int pressed) {
     NavigationRequest question;
     question.isForm = true;
     question.inputs = InputsOf(tree);
+    question.pageAddress = m_location;
+    question.pageText = m_document->BodyText(ElementText::InnerText);
     if (tree.Attribute(form, u"method").compare(u"post", Qt::CaseInsensitive) == 0) {
         load.request.method = u"POST"_s;
         load.request.url = action;

@@ -80,6 +80,11 @@ QString SimDocument::Title() const {
     return titles.empty() ? QString() : m_tree.TextContent(titles.front()).simplified();
 }
 
+QString SimDocument::Address() {
+    Present();
+    return m_url;
+}
+
 int SimDocument::Body() {
     Present();
     return m_tree.Body();
@@ -160,6 +165,13 @@ QString SimDocument::ReadAddress(int node, ElementText which) {
     return which == ElementText::NameProp ? FileNameOf(address) : address;
 }
 
+QString SimDocument::AddressOfForm(int form, int pressed) {
+    const bool isButtonsOwn =
+        pressed && IsButton(m_tree, pressed) && m_tree.HasAttribute(pressed, u"formaction");
+    return ResolveAddress(BaseURL(), isButtonsOwn ? m_tree.Attribute(pressed, u"formaction")
+                                                  : m_tree.Attribute(form, u"action"));
+}
+
 QString SimDocument::Read(int node, ElementText which) {
     Present();
     switch (which) {
@@ -192,6 +204,9 @@ QString SimDocument::Read(int node, ElementText which) {
         return TypeOf(m_tree, node);
     case ElementText::Text:
         return m_tree.At(node).Is(u"script") ? m_tree.TextContent(node) : QString();
+    case ElementText::SentTo:
+        return CanSend(m_tree, node) && FormOf(m_tree, node) ? AddressOfForm(FormOf(m_tree, node), node)
+                                                             : QString();
     }
     return {};
 }

@@ -33,7 +33,10 @@ public:
     // What relative addresses are relative to.
     const QString& BaseURL();
     QString Title() const;
+    // Where the form goes to when that button of its, or none (0), sends it.
+    QString AddressOfForm(int form, int pressed);
 
+    QString Address() override;
     int Body() override;
     bool HasLinks() override;
     QString BodyText(ElementText which) override;

@@ -42,17 +42,6 @@ std::vector<int> ChosenOptions(const SimTree& tree, int select) {
     return chosen;
 }
 
-bool IsButton(const SimTree& tree, int node) {
-    const QString type = TypeOf(tree, node);
-    return tree.At(node).Is(u"button") || type == u"submit" || type == u"image" || type == u"button" ||
-           type == u"reset";
-}
-
-bool CanSend(const SimTree& tree, int node) {
-    const SimNode& control = tree.At(node);
-    return control.Is(u"input") || control.Is(u"textarea") || control.Is(u"select") || control.Is(u"button");
-}
-
 void AddControl(const SimTree& tree, int node, int pressed, std::vector<SimField>& fields) {
     const QString name = tree.Attribute(node, u"name");
     const QString type = TypeOf(tree, node);
@@ -75,6 +64,17 @@ void AddControl(const SimTree& tree, int node, int pressed, std::vector<SimField
 }
 
 } // namespace
+
+bool IsButton(const SimTree& tree, int node) {
+    const QString type = TypeOf(tree, node);
+    return tree.At(node).Is(u"button") || type == u"submit" || type == u"image" || type == u"button" ||
+           type == u"reset";
+}
+
+bool CanSend(const SimTree& tree, int node) {
+    const SimNode& control = tree.At(node);
+    return control.Is(u"input") || control.Is(u"textarea") || control.Is(u"select") || control.Is(u"button");
+}
 
 QString TypeOf(const SimTree& tree, int node) {
     const SimNode& control = tree.At(node);

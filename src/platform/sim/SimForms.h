@@ -16,6 +16,9 @@ QString ValueOf(const SimTree& tree, int node);
 void SetValueOf(SimTree& tree, int node, const QString& value);
 
 QString TypeOf(const SimTree& tree, int node);
+bool IsButton(const SimTree& tree, int node);
+// Has a value that a form sends.
+bool CanSend(const SimTree& tree, int node);
 bool IsDisabled(const SimTree& tree, int node);
 bool IsChecked(const SimTree& tree, int node);
 // A click on a check box or an option button.

@@ -14,7 +14,7 @@ protected:
     // The value of the button that would be pressed; "none" without one.
     QString Pressed(const QString& form) {
         Show(u"<a href=\"/\">Home</a>"_s + form);
-        const LoginButton button = FindLoginButton(Browser().Document());
+        const LoginButton button = FindLoginButton(app->deployment, Browser().Document());
         stopsFirst = button.stopFirst;
         return button.element ? button.element.GetAttribute(u"title"_s) : u"none"_s;
     }
@@ -56,7 +56,7 @@ TEST_F(LoginFormTest, EveryFieldOfEitherKindIsFilled) {
          "<input id=\"other\" value=\"kept\"><input name=\"email\" id=\"e\"><input name=\"email\" id=\"e2\">"
          "<input name=\"password\" id=\"p\"><input type=\"checkbox\" id=\"rememberTray\">"_s);
     const Document page = Browser().Document();
-    FillLoginForm(page, u"tam@example.com"_s, u"se cret"_s);
+    FillLoginForm(app->deployment, page, u"tam@example.com"_s, u"se cret"_s);
     auto value = [&page](const QString& id) { return page.GetElementById(id).Value(); };
     EXPECT_EQ(value(u"a_EMAIL_textbox1"_s), u"tam@example.com"_s);
     EXPECT_EQ(value(u"a_password_Textbox2"_s), u"se cret"_s);
@@ -67,9 +67,50 @@ TEST_F(LoginFormTest, EveryFieldOfEitherKindIsFilled) {
     EXPECT_EQ(page.GetElementById(u"rememberTray"_s).GetAttribute(u"checked"_s), u"checked"_s);
 }
 
+TEST_F(LoginFormTest, NothingGoesIntoAFormThatLeadsToAStranger) {
+    const QString fields = u"<input id=\"a_Email_Textbox\"><input name=\"password\" id=\"p\">"
+                           "<input type=\"submit\" title=\"it\" name=\"loginbutton\"></form>"_s;
+    for (const QString& form :
+         {u"<form action=\"http://stranger.com/take\">"_s, u"<form action=\"//stranger.com/take\">"_s,
+          u"<form action=\"http://www.site.example.com@stranger.com/\">"_s,
+          u"<form action=\"javascript:take()\">"_s, u"<form action=\"http://links.site.example.com/to\">"_s,
+          u"<base href=\"http://stranger.com/\"><form>"_s,
+          u"<base href=\"http://stranger.com/\"><form action=\"take\">"_s}) {
+        EXPECT_EQ(Pressed(form + fields), u"none"_s) << form.toStdString();
+        const Document page = Browser().Document();
+        EXPECT_TRUE(FillLoginForm(app->deployment, page, u"tam@example.com"_s, u"secret"_s));
+        EXPECT_EQ(page.GetElementById(u"a_Email_Textbox"_s).Value(), QString()) << form.toStdString();
+        EXPECT_EQ(page.GetElementById(u"p"_s).Value(), QString()) << form.toStdString();
+    }
+    EXPECT_EQ(
+        Pressed(
+            u"<form action=\"/in\"><input type=submit title=\"away\" name=\"dlb\" "
+            "formaction=\"http://stranger.com/\"><input type=submit title=\"home\" name=\"dlb\"></form>"_s),
+        u"home"_s);
+    EXPECT_EQ(Pressed(u"<form id=\"f\" action=\"http://stranger.com/\"></form>"
+                      "<button name=\"loginbtn\" form=\"f\" title=\"away\">x</button>"_s),
+              u"none"_s);
+}
+
+TEST_F(LoginFormTest, NothingIsTypedIntoAStrangersPage) {
+    Show(u"{SiteRootHost}.stranger.com/"_s,
+         u"<form action=\"http://www.site.example.com/in\">"
+         "<input name=\"email\" id=\"e\"><input name=\"password\" id=\"p\"></form>"_s);
+    const Document page = Browser().Document();
+    EXPECT_FALSE(FillLoginForm(app->deployment, page, u"tam@example.com"_s, u"secret"_s));
+    EXPECT_EQ(page.GetElementById(u"e"_s).Value() + page.GetElementById(u"p"_s).Value(), QString());
+}
+
+TEST_F(LoginFormTest, ThePasswordIsWrittenIntoNothingButAField) {
+    Show(u"<a href=\"/\">Home</a><div name=\"password\" id=\"p\">x</div>"_s);
+    const Document page = Browser().Document();
+    EXPECT_TRUE(FillLoginForm(app->deployment, page, u"tam@example.com"_s, u"secret"_s));
+    EXPECT_EQ(page.GetElementById(u"p"_s).InnerText(), u"x"_s);
+}
+
 TEST_F(LoginFormTest, APageWithoutFieldsStaysAsItIs) {
     Show(u"<a href=\"/\">Home</a><p>Nothing here</p>"_s);
-    FillLoginForm(Browser().Document(), u"tam@example.com"_s, u"secret"_s);
+    FillLoginForm(app->deployment, Browser().Document(), u"tam@example.com"_s, u"secret"_s);
     EXPECT_EQ(Pressed({}), u"none"_s);
 }
 

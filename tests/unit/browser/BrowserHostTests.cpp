@@ -17,12 +17,17 @@ protected:
         request.headers = headers;
         return Browser().events.beforeNavigate2(request);
     }
-    void SendLogin(const QString& email, const QString& password) {
+    void SendLogin(const QString& email, const QString& password) { Send(LoginRequest(email, password)); }
+    void Send(const NavigationRequest& request) { EXPECT_FALSE(Browser().events.beforeNavigate2(request)); }
+    NavigationRequest LoginRequest(const QString& email, const QString& password) {
         NavigationRequest request;
         request.url = u"http://login.site.example.com/go"_s;
         request.isForm = true;
-        request.inputs = {{u"x_Email_Textbox"_s, {}, email}, {u"x_Password_Textbox"_s, {}, password}};
-        EXPECT_FALSE(Browser().events.beforeNavigate2(request));
+        request.inputs = {{u"x_Email_Textbox"_s, {}, email, u"text"_s},
+                          {u"x_Password_Textbox"_s, {}, password, u"password"_s}};
+        request.pageAddress = u"http://home.site.example.com/"_s;
+        request.pageText = u"Sign in. Forgot Password?"_s;
+        return request;
     }
     void GatherByClick() { app->controls.SetTicked("optImportClickedProfiles"_L1, true); }
     void Complete(bool topLevel, const QString& url) { Browser().events.documentComplete(topLevel, url); }
@@ -210,11 +215,34 @@ TEST_F(BrowserHostTest, AFormWithoutTheFieldsOfALoginTellsNothing) {
     NavigationRequest search;
     search.url = u"http://www.site.example.com/search"_s;
     search.isForm = true;
-    search.inputs = {{u"q"_s, u"q"_s, u"zoe"_s}};
+    search.inputs = {{u"q"_s, u"q"_s, u"zoe"_s, u"text"_s}};
     EXPECT_FALSE(Browser().events.beforeNavigate2(search));
     EXPECT_FALSE(SaidBeginningWith(u"Navigate 2.3"_s));
     SendLogin({}, {});
     EXPECT_TRUE(Said(u"Navigate 2.3 - , "_s));
+}
+
+TEST_F(BrowserHostTest, OnlyALoginFormOfTheSitesOwnTellsAnAccount) {
+    State().CurrentAction = u"LOGIN"_s;
+    State().intLoginStep = 4;
+    Show(u"Forgot your password?<a href='/'>x</a>"_s);
+    NavigationRequest request = LoginRequest(u"zoe@example.com"_s, u"word"_s);
+    request.pageText = u"Sign up"_s;
+    Send(request);
+    request = LoginRequest(u"zoe@example.com"_s, u"word"_s);
+    request.pageAddress = u"http://home.site.example.com.stranger.com/"_s;
+    Send(request);
+    request = LoginRequest(u"zoe@example.com"_s, u"word"_s);
+    request.url = u"http://stranger.com/take"_s;
+    Send(request);
+    // A frame's form that leaves through the whole window brings nothing of itself along.
+    request = LoginRequest(u"zoe@example.com"_s, u"word"_s);
+    request.pageAddress.clear();
+    request.pageText.clear();
+    Send(request);
+    EXPECT_NE(State().AccountEmail, u"zoe@example.com"_s);
+    EXPECT_EQ(Stored(u"txtPassword"_s), u"none"_s);
+    EXPECT_FALSE(SaidBeginningWith(u"Navigate 2.3"_s));
 }
 
 // A link may send the form by script: then the page itself tells what stands in it.
@@ -223,6 +251,9 @@ TEST_F(BrowserHostTest, ALoginThatALinkSendsIsReadOffThePage) {
     const QString form = u"<input id=a_Email_Textbox value=' Zoe@Example.com '>"
                          "<input id=a_Password_Textbox value=' word '>"_s;
     Show(form);
+    EXPECT_FALSE(Cancels(u"http://login.site.example.com/go"_s));
+    EXPECT_FALSE(SaidBeginningWith(u"Navigate 2.3"_s));
+    Show(u"{SiteRootHost}.stranger.com/"_s, form + u"Forgot your password?"_s);
     EXPECT_FALSE(Cancels(u"http://login.site.example.com/go"_s));
     EXPECT_FALSE(SaidBeginningWith(u"Navigate 2.3"_s));
     Show(form + u"Forgot your password?"_s);

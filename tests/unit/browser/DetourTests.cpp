@@ -89,6 +89,17 @@ TEST_F(DetourTest, ALoginFormElsewhereIsNoLostSession) {
     EXPECT_TRUE(TakesNone());
 }
 
+TEST_F(DetourTest, AStrangersPageThatAsksForThePasswordIsLeftWithoutIt) {
+    Show(u"{SiteRootHost}.stranger.com/"_s, u"<p>Forgot Password?</p><input name=password id=p>"_s);
+    State().CurrentAction = u"MSG"_s;
+    State().intMsgStep = 7;
+    State().AccountPassword = u"secret"_s;
+    EXPECT_TRUE(TakesUnfound());
+    EXPECT_FALSE(SaidBeginningWith(u"Submit Nonencrypted Form Data"_s));
+    EXPECT_TRUE(State().blnSkipRequested);
+    EXPECT_EQ(State().intMsgStep, 8);
+}
+
 TEST_F(DetourTest, AStopWhileLoggingInAgainIsTheLastWord) {
     Show(Root, u"<p>Forgot Password?</p>"_s);
     State().CurrentAction = u"MSG"_s;

@@ -128,6 +128,19 @@ TEST_F(PageTestsTest, PagesAreKnownByTheirWords) {
     }
 }
 
+TEST_F(PageTestsTest, ALoginFormIsOneOnThePagesOfTheSiteAlone) {
+    for (const QString& address : {u"{HomeHost}/x"_s, u"{BrowseUsersHost}/"_s, u"{SiteDomain}/"_s}) {
+        Show(address, u"Forgot your password?"_s);
+        EXPECT_TRUE(Tests().IsLoggedOutPage()) << address.toStdString();
+    }
+    for (const QString& address : {u"stranger.com/"_s, u"{SiteRootHost}.com/"_s, u"x{SiteRootHost}/"_s,
+                                   u"{SiteRootHost}:81/"_s, u"{CreativeHost}/"_s, u"{LinkRedirectHost}/"_s}) {
+        Show(address, u"Forgot your password?"_s);
+        EXPECT_FALSE(Tests().IsLoggedOutPage()) << address.toStdString();
+        EXPECT_TRUE(Tests().AsksForPassword()) << address.toStdString();
+    }
+}
+
 TEST_F(PageTestsTest, OccurrencesAreCountedFromEachFindsSecondCharacter) {
     EXPECT_EQ(CountOccurrences(u"aaaa"_s, u"aa"_s), 3);
     EXPECT_EQ(CountOccurrences(u"One one ONE"_s, u"one"_s), 3);

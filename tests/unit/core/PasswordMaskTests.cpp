@@ -18,9 +18,26 @@ QString Masked(const QString& password, const QString& text) {
     return mask.Masked(text);
 }
 
-TEST(PasswordMask, HidesALearnedPasswordWhereverItStands) {
-    EXPECT_EQ(Masked(u"Tr0ub4dor"_s, u"<input value=\"Tr0ub4dor\">xTr0ub4dory"_s),
-              u"<input value=\"****\">x****y"_s);
+TEST(PasswordMask, HidesALearnedPasswordWhereItIsAWholeValue) {
+    EXPECT_EQ(Masked(u"Tr0ub4dor"_s, u"<input value=\"Tr0ub4dor\">xTr0ub4dory, Tr0ub4dor."_s),
+              u"<input value=\"****\">xTr0ub4dory, ****."_s);
+    EXPECT_EQ(
+        Masked(u"word"_s, u"a='word' b=word c=\"words\" {\"p\":\"word\"} &quot;word&quot; \\\"word\\\""_s),
+        u"a='****' b=**** c=\"words\" {\"p\":\"****\"} &quot;****&quot; \\\"****\\\""_s);
+    EXPECT_EQ(Masked(u"word"_s, u"<textarea>word</textarea><b>word</b>"_s),
+              u"<textarea>****</textarea><b>word</b>"_s);
+    EXPECT_EQ(Masked(u"word"_s, u"http://x/?a=word&b=word#c http://x/?a=word"_s),
+              u"http://x/?a=****&b=****#c http://x/?a=****"_s);
+}
+
+// What is missing would tell what it was.
+TEST(PasswordMask, LeavesAWordThatIsAPartOfSomethingElse) {
+    for (const QString& line :
+         {u"checking: ... Found = True"_s, u"URL: http://www.myspace.example.com/?a=user.viewfriends"_s,
+          u"<a class=\"my word\" href=\"/word/x\">a word of it</a>"_s})
+        for (const QString& password :
+             {u"checking"_s, u"Found"_s, u"myspace"_s, u"viewfriends"_s, u"word"_s, u"http"_s})
+            EXPECT_EQ(Masked(password, line), line) << password.toStdString();
 }
 
 TEST(PasswordMask, KeepsTextThatHoldsNoPassword) {
@@ -43,7 +60,7 @@ class PasswordWriting : public testing::TestWithParam<Writing> {};
 
 TEST_P(PasswordWriting, IsHidden) {
     const QString written = QString::fromUtf16(GetParam().written);
-    EXPECT_EQ(Masked(QString::fromUtf16(GetParam().password), u"<"_s + written + u">"_s), u"<****>"_s)
+    EXPECT_EQ(Masked(QString::fromUtf16(GetParam().password), u"=\""_s + written + u"\">"_s), u"=\"****\">"_s)
         << written.toStdString();
 }
 
@@ -59,16 +76,15 @@ INSTANTIATE_TEST_SUITE_P(
                     Writing{u"a'b\"cd", u"a\\'b\\\"cd"}, Writing{u"one.*two(", u"one.*two("},
                     Writing{u"\U0001F511key", u"%F0%9F%94%91key"}));
 
-TEST(PasswordMask, AShortPasswordIsHiddenOnlyWhereItStandsAlone) {
-    EXPECT_EQ(Masked(u"word"_s, u"password? words a=word&b word"_s), u"password? words a=****&b ****"_s);
-    EXPECT_EQ(Masked(u"word"_s, u"next=%3Fa%3Dword%26b"_s), u"next=%3Fa%3D****%26b"_s);
+TEST(PasswordMask, AnAddressInsideAnAddressIsOneToo) {
+    EXPECT_EQ(Masked(u"word"_s, u"next=%3Fa%3Dword%26b%3Dwords"_s), u"next=%3Fa%3D****%26b%3Dwords"_s);
 }
 
 TEST(PasswordMask, RemembersEveryPasswordTheLongestFirst) {
     PasswordMask mask;
     mask.Learn(u"secret"_s);
     mask.Learn(u"secret-too"_s);
-    EXPECT_EQ(mask.Masked(u"secret, secret-too"_s), u"****, ****"_s);
+    EXPECT_EQ(mask.Masked(u"a=secret&b=secret-too&c=\"secret\""_s), u"a=****&b=****&c=\"****\""_s);
 }
 
 TEST(PasswordMask, AnAddressHidesWhatItGivesForAPasswordNobodyKnows) {
@@ -81,11 +97,17 @@ TEST(PasswordMask, AnAddressHidesWhatItGivesForAPasswordNobodyKnows) {
               u"?fuseaction=user.retrievepassword&x=1"_s);
 }
 
-TEST(PasswordMask, AnAddressKeepsItsPlace) {
+TEST(PasswordMask, AnAddressIsShownButForTheValueOfALoginFormsField) {
     PasswordMask mask;
-    mask.Learn(u"myspace"_s);
-    EXPECT_EQ(mask.MaskedAddress(u"http://www.myspace.example.com/in?p=myspace"_s),
-              u"http://www.myspace.example.com/in?p=****"_s);
+    mask.Learn(u"my space"_s, u"ctl00$Main$word"_s);
+    const QString other = u"http://www.myspace.example.com/in?p=my+space&q=1"_s;
+    EXPECT_EQ(mask.MaskedAddress(other), other);
+    EXPECT_EQ(mask.MaskedAddress(u"http://x/in?ctl00%24Main%24word=my+space&x=my%20space#my space"_s),
+              u"http://x/in?ctl00%24Main%24word=****&x=my%20space#my space"_s);
+    EXPECT_EQ(mask.MaskedAddress(u"http://x/in?ctl00%24Main%24word=2"_s),
+              u"http://x/in?ctl00%24Main%24word=2"_s);
+    EXPECT_EQ(mask.MaskedAddress(u"http://x/in?a=1&Password=what+ever&b=2"_s),
+              u"http://x/in?a=1&Password=****&b=2"_s);
     EXPECT_EQ(mask.MaskedAddress(u"about:blank"_s), u"about:blank"_s);
 }
 

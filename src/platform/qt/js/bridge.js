@@ -38,6 +38,14 @@
     const hasAttribute = method(Element.prototype, 'hasAttribute');
     const descendants = method(Element.prototype, 'getElementsByTagName');
     const query = method(Document.prototype, 'querySelectorAll');
+    const actionOf = getter(HTMLFormElement.prototype, 'action');
+    // Kinds of elements that send forms or stand in them: how each tells its form and an address of its own.
+    const formOwners = [HTMLInputElement, HTMLButtonElement, HTMLTextAreaElement, HTMLSelectElement].map(
+        kind => [
+            kind.prototype,
+            getter(kind.prototype, 'form'),
+            'formAction' in kind.prototype ? getter(kind.prototype, 'formAction') : null
+        ]);
 
     const id = Array.from(crypto.getRandomValues(new Uint32Array(3)), n => n.toString(36)).join('-');
     const nodes = [null];
@@ -81,6 +89,14 @@
         return path.slice(path.lastIndexOf('/') + 1);
     }
 
+    function sentTo(element) {
+        const owner = formOwners.find(([prototype]) => prototype.isPrototypeOf(element));
+        const form = owner && owner[1](element);
+        if (!form)
+            return '';
+        return owner[2] && hasAttribute(element, 'formaction') ? owner[2](element) : actionOf(form);
+    }
+
     const readers = {
         InnerText: e => text(holdsValue(e) ? e.value : 'innerText' in e ? visibleText(e) : e.textContent),
         InnerHTML: innerMarkup,
@@ -97,7 +113,8 @@
         ClassName: e => plain(e.className),
         TagName: e => tagOf(e).toLowerCase(),
         Type: e => text(e.type).toLowerCase(),
-        Text: e => text(e.text)
+        Text: e => text(e.text),
+        SentTo: sentTo
     };
 
     function openingTag(element) {

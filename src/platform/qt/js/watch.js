@@ -33,10 +33,15 @@
 
     // Every form that is sent, by a click, by Enter or by a script, collects its fields first. The page waits
     // here until the program has them, so that they are never later than the navigation that follows.
-    const describe = input => [input.id, input.name, input.value];
+    const describe = input => [input.id, input.name, input.value, input.type];
     const methodOf = Object.getOwnPropertyDescriptor(HTMLFormElement.prototype, 'method').get;
+    const textOf = Object.getOwnPropertyDescriptor(HTMLElement.prototype, 'innerText').get;
+    // As much as is read of any page.
+    const longest = 6 * 1024 * 1024;
     window.addEventListener('formdata', event => {
         const inputs = Array.from(Document.prototype.getElementsByTagName.call(document, 'input'), describe);
-        prompt(message('inputs', [methodOf.call(event.target)].concat(inputs)));
+        const body = bodyOf.call(document);
+        const text = body ? textOf.call(body).slice(0, longest) : '';
+        prompt(message('inputs', [methodOf.call(event.target), text].concat(inputs)));
     }, true);
 })
