@@ -58,8 +58,10 @@ void LoginFlow::IterateLoginAccount() {
             continue;
     });
     // The machine has kept its state: with the page looked at again, the step is repeated.
-    if (!error.isEmpty() && m_app.state.CurrentAction == u"LOGIN"_s)
-        m_app.timers->tmrCheckLinkLoaded.Restart();
+    if (error.isEmpty() || m_app.state.CurrentAction != u"LOGIN"_s)
+        return;
+    m_app.state.blnLinkFound = false;
+    m_app.timers->tmrCheckLinkLoaded.Restart();
 }
 
 // True when the machine is to run again at once.
@@ -183,12 +185,14 @@ void LoginFlow::OpenLoginPage() {
 }
 
 void LoginFlow::FinishLogin() {
+    const RunMark mark = m_app.waiting.Mark();
     if (!WaitUntilIdle() || !IsLoggingIn(4))
         return;
     Log(u"ILoginAcc 4 - "_s + m_app.WebBrowser1().Document().BodyHTML());
     StopProblemTimer();
     m_app.SetStatus(u"Login successful, retrieving your Profile ID..."_s);
     ReadProfileID();
+    m_app.waiting.LeaveUnlessCurrent(mark);
     if (!IsLoggingIn(4))
         return;
     Log(m_app.state.MyProfileID);
@@ -241,12 +245,12 @@ void LoginFlow::LogInSpecifiedAccount(const QString& email, const QString& passw
         state.AccountEmail = email.trimmed().toLower();
         state.AccountPassword = password.trimmed();
         m_app.pacing->HideCover();
+        m_app.waiting.OutdateSteps();
         m_app.timers->Timer1.SetEnabled(false);
         // What a login that came to no end has restored belongs to another account.
         state.AccountsLoadedOnce = false;
         state.CurrentAction = u"LOGIN"_s;
         state.blnHoldLinkCheck = false;
-        state.intBlankTicks = 0;
         state.intLoginStep = 1;
         IterateLoginAccount();
     });

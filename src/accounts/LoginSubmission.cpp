@@ -24,11 +24,11 @@ void LoginFlow::DoLogin() {
 
 void LoginFlow::FillAndSubmit() {
     RunState& state = m_app.state;
-    const QString action = state.CurrentAction;
+    const RunMark mark = m_app.waiting.Mark();
     m_app.WebBrowser1().SetSilent(true);
     m_app.SetStatus(u"Waiting for the page to load completely..."_s);
     WaitForCompletePage();
-    if (!WaitUntilIdle() || state.CurrentAction != action)
+    if (!m_app.waiting.IsCurrent(mark) || !WaitUntilIdle())
         return;
     const QString zone = u"Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\Zones\\3"_s;
     Log(u"Submit Nonencrypted Form Data - "_s +
@@ -40,7 +40,7 @@ void LoginFlow::FillAndSubmit() {
     if (isFilled)
         if (const LoginButton button = FindLoginButton(m_app.deployment, document); button.element)
             Press(button.element, button.stopFirst);
-    if (state.CurrentAction != action)
+    if (!m_app.waiting.IsCurrent(mark))
         return;
     state.blnLinkFound = false;
     m_app.timers->tmrCheckLinkLoaded.Restart();
@@ -51,13 +51,13 @@ void LoginFlow::FillAndSubmit() {
 }
 
 void LoginFlow::WaitForCompletePage() {
-    const QString action = m_app.state.CurrentAction;
+    const RunMark mark = m_app.waiting.Mark();
     qint64 lastLogged = 0;
     m_app.waiting.WaitWhile(
-        [this, &action, &lastLogged] {
+        [this, &mark, &lastLogged] {
             const int ready = m_app.WebBrowser1().ReadyState();
             const qint64 second = m_app.Pump().Now().toSecsSinceEpoch();
-            if (ready == 4 || m_app.state.CurrentAction != action)
+            if (ready == 4 || !m_app.waiting.IsCurrent(mark))
                 return false;
             if (second % 5 == 0 && second != lastLogged) {
                 Log(u"waiting for readystate: "_s + QString::number(ready));
@@ -68,13 +68,13 @@ void LoginFlow::WaitForCompletePage() {
         CompletePageSeconds);
 }
 
-// False when the activity has ended or changed meanwhile.
+// False when another run has taken over meanwhile, or none.
 bool LoginFlow::WaitUntilIdle() {
-    const QString action = m_app.state.CurrentAction;
-    m_app.waiting.WaitFor(u"the page to be complete"_s, [this, &action] {
-        return m_app.WebBrowser1().Busy() && m_app.state.CurrentAction == action;
+    const RunMark mark = m_app.waiting.Mark();
+    m_app.waiting.WaitFor(u"the page to be complete"_s, [this, &mark] {
+        return m_app.WebBrowser1().Busy() && m_app.waiting.IsCurrent(mark);
     });
-    return m_app.state.CurrentAction == action;
+    return m_app.waiting.IsCurrent(mark);
 }
 
 void LoginFlow::Press(const Element& button, bool stopFirst) {

@@ -72,7 +72,7 @@ void BrowserHost::Attach() {
 bool BrowserHost::WebBrowser1_BeforeNavigate2(const NavigationRequest& request) {
     RunState& state = m_app.state;
     LearnTypedPasswords(request);
-    if (m_app.WebBrowser1().RefusesNavigations())
+    if (m_app.WebBrowser1().RefusesNavigations() && !request.isProgram)
         return true;
     if (request.url == u"javascript:void()"_s &&
         m_app.pageTests->AddressContains(u"{MessagingHost}/index.cfm?fuseaction=mail"_s))

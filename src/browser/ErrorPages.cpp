@@ -100,8 +100,9 @@ void LeaveAccount(App& app) {
 
 void LoadSiteAgain(App& app) {
     TraceClass(app, u"Maint2: "_s);
+    const RunMark mark = app.waiting.Mark();
     app.ClearPage();
-    if (app.state.CurrentAction != u"LOGIN"_s)
+    if (!app.waiting.IsCurrent(mark))
         return;
     app.WebBrowser1().Navigate(app.Expand(u"{SiteRootHost}"_s));
     app.waiting.Pump();

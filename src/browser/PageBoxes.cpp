@@ -25,7 +25,11 @@ void PageBoxes::ClosePopup(const QString& title) {
 bool PageBoxes::hGlobalDoc_oncontextmenu() {
     const QString& action = m_app.state.CurrentAction;
     const bool sending = action == u"COM"_s || action == u"FR"_s || action == u"MSG"_s;
-    return !sending || m_app.pageTests->IsCaptchaPage();
+    if (!sending)
+        return true;
+    // A page that is still to come asks for none, and must not be waited for in the answer to a click.
+    const Document document = m_app.WebBrowser1().Document();
+    return document && !document.Body().IsNull() && m_app.pageTests->IsCaptchaPage();
 }
 
 } // namespace qlm

@@ -8,6 +8,7 @@
 #include "core/App.h"
 #include "core/SettingsFields.h"
 #include "core/StopResume.h"
+#include "gather/GatherDriver.h"
 
 #include <vector>
 
@@ -36,8 +37,9 @@ struct Page {
 };
 
 void LoadHomePage(const Page& page) {
+    const RunMark mark = page.app.waiting.Mark();
     page.app.ClearPage();
-    if (!page.Is("LOGIN"))
+    if (!page.app.waiting.IsCurrent(mark))
         return;
     page.app.WebBrowser1().Navigate(page.app.Expand(u"{HomeHost}/index.cfm?fuseaction=home"_s));
     page.app.waiting.Pump();
@@ -51,19 +53,20 @@ bool GiveUpRequest(const Page& page, const QString& trace, bool skipCurrentID) {
 }
 
 bool LogInAgain(const Page& page) {
-    const QString action = page.state.CurrentAction;
-    const qint32 target = page.state.lngTargetNumber;
-    auto isStillAt = [&page, &action, target] {
-        return page.state.CurrentAction == action && page.state.lngTargetNumber == target;
-    };
+    const RunMark mark = page.app.waiting.Mark();
     page.state.blnLinkFound = true;
     page.Remark("The session was lost; you were signed in again");
     page.app.loginFlow->DoLogin();
-    page.app.waiting.WaitFor(u"the page to be complete"_s,
-                             [&] { return page.app.WebBrowser1().Busy() && isStillAt(); });
+    page.app.waiting.WaitFor(u"the page to be complete"_s, [&] {
+        return page.app.WebBrowser1().Busy() && page.app.waiting.IsCurrent(mark);
+    });
     // A stop meanwhile is the last word; and the page behind the login may have given the target up already.
-    if (!isStillAt())
+    if (!page.app.waiting.IsCurrent(mark))
         return false;
+    if (page.Is("SCANNING")) {
+        page.app.gatherDriver->ReturnToList();
+        return false;
+    }
     page.state.blnSkipCurrentID = true;
     page.app.stopResume->SkipProfile();
     return false;
@@ -123,13 +126,16 @@ bool CommentPageUnknown(const Page& page) {
 
 bool ReloadForum(const Page& page) {
     const QString address = page.app.pageTests->LocationURL();
+    const RunMark mark = page.app.waiting.Mark();
     page.app.ClearPage();
-    if (page.Is("SCANNING"))
+    if (page.app.waiting.IsCurrent(mark))
         page.app.WebBrowser1().Navigate(address);
     return false;
 }
 
 bool RefuseLanguage(const Page& page) {
+    // The tick goes on behind the box and would bring the same one up again.
+    page.app.stopResume->PauseLinkCheck();
     page.app.loginFlow->ShowLanguageMessage();
     page.app.stopResume->StopAll(u"LF1"_s);
     page.app.stopResume->DoFinishedExit();
@@ -180,6 +186,8 @@ bool ExplainCertificate(const Page& page) {
         u"Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings"_s, u"CertificateRevocation"_s,
         u"x"_s);
     page.Trace(u"Security Certificate Error - "_s + value);
+    const RunMark mark = page.app.waiting.Mark();
+    page.app.stopResume->PauseLinkCheck();
     page.app.ShowMessage(u"A current bug in Internet Explorer or MySpace may be causing the error you see on "
                          u"this page. There are two "
                          "ways to solve this problem:\n\n1) Please check your computer's date is "
@@ -192,6 +200,8 @@ bool ExplainCertificate(const Page& page) {
                          "Explorer windows and restart "
                          "Quillmere"_s,
                          u"Login error"_s);
+    if (page.app.waiting.IsCurrent(mark))
+        page.app.stopResume->ResumeLinkCheck();
     return false;
 }
 

@@ -3,6 +3,7 @@
 
 #include "core/App.h"
 
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <limits>
 
@@ -30,27 +31,44 @@ qint16 CountOccurrences(const QString& text, const QString& needle) {
 }
 
 void PageTests::WaitForDocument() {
-    SpinFor(m_app.WebBrowser1(), true);
+    SpinForWebBrowser1();
 }
 
 void PageTests::WaitForDocument(BrowserControl& browser) {
-    SpinFor(browser, false);
+    SpinFor(browser, [] {});
 }
 
-void PageTests::SpinFor(BrowserControl& browser, bool refreshWithoutBody) {
+// A stop doesn't end the wait, but whoever waited for a run that is gone has nothing to do with the page that
+// has come.
+void PageTests::SpinForWebBrowser1() {
+    const RunMark mark = m_app.waiting.Mark();
+    const QScopedValueRollback spins(m_spins, m_spins + 1);
+    qint64 sinceMs = m_app.Pump().NowMs();
+    SpinFor(m_app.WebBrowser1(), [&] {
+        BrowserControl& browser = m_app.WebBrowser1();
+        const bool isUsersLoad = !m_app.waiting.IsCurrent(mark) && browser.Busy();
+        if (isUsersLoad || m_app.waiting.SecondsSince(sinceMs) <= SecondsWithoutBody)
+            return;
+        browser.Refresh();
+        sinceMs = m_app.Pump().NowMs();
+    });
+    m_app.waiting.LeaveUnlessCurrent(mark);
+}
+
+void PageTests::SpinFor(BrowserControl& browser, const std::function<void()>& stillWithoutBody) {
     const QString page = u"a page with a body"_s;
     m_app.waiting.WaitFor(page, [&] { return browser.Document().IsNull(); });
-    qint64 sinceMs = m_app.Pump().NowMs();
     m_app.waiting.WaitFor(page, [&] {
         if (!browser.Document().Body().IsNull())
             return false;
-        if (refreshWithoutBody && m_app.waiting.SecondsSince(sinceMs) > SecondsWithoutBody) {
-            browser.Refresh();
-            sinceMs = m_app.Pump().NowMs();
-        }
+        stillWithoutBody();
         return true;
     });
     m_app.waiting.WaitFor(page, [&] { return !browser.Document().HasLinks(); });
+}
+
+bool PageTests::IsAwaitingBody() {
+    return m_spins > 0 && m_app.WebBrowser1().Document().Body().IsNull();
 }
 
 BrowserControl* PageTests::Select(const QString& browser) {
@@ -78,7 +96,10 @@ bool PageTests::IsTextInPage(const QString& text, bool asHTML, const QString& br
     if (!control)
         return false;
     control->SetSilent(true);
-    SpinFor(*control, control == &m_app.WebBrowser1());
+    if (control == &m_app.WebBrowser1())
+        SpinForWebBrowser1();
+    else
+        WaitForDocument(*control);
     const Document document = control->Document();
     return Lowered(asHTML ? document.BodyHTML() : document.BodyText()).contains(text.toLower());
 }

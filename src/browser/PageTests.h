@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <array>
+#include <functional>
 
 namespace qlm {
 
@@ -17,8 +18,11 @@ public:
     explicit PageTests(App& app) : m_app(app) {}
 
     // Blocks, pumping, until WebBrowser1 has a document with a body and links; refreshes a page without a
-    // body every 30 seconds.
+    // body every 30 seconds. Throws RunEnded when the run or the target is another one by then.
     void WaitForDocument();
+    // Somebody on the stack waits for WebBrowser1's body, and it isn't there yet: one more wait would only make
+    // the stack deeper.
+    bool IsAwaitingBody();
     // The same spins on another control, without the refresh.
     void WaitForDocument(BrowserControl& browser);
 
@@ -61,7 +65,8 @@ public:
     BrowserControl* Select(const QString& browser);
 
 private:
-    void SpinFor(BrowserControl& browser, bool refreshWithoutBody);
+    void SpinForWebBrowser1();
+    void SpinFor(BrowserControl& browser, const std::function<void()>& stillWithoutBody);
 
     struct LoweredText {
         QString original;
@@ -71,6 +76,7 @@ private:
     App& m_app;
     std::array<LoweredText, 3> m_lowered;
     size_t m_nextLowered = 0;
+    int m_spins = 0; // waits for WebBrowser1's document on the stack
 };
 
 // Finds of needle in text, each search beginning one character behind the last find's start. 16 bit.

@@ -19,6 +19,8 @@ constexpr qint16 ErrorRedirectClass = 32;
 bool StepDispatcher::CheckLinkFound() {
     try {
         return RunStages();
+    } catch (const RunEnded&) {
+        throw;
     } catch (const std::exception&) {
         // The page was replaced or the browser is busy: the next tick tries again.
         return false;
@@ -73,11 +75,11 @@ Verdict StepDispatcher::ErrorPage() {
     const bool awaitingConfirmation = state.CurrentAction == u"FR"_s && state.intFRStep == 9;
     if (awaitingConfirmation && state.intPageClass != ErrorRedirectClass)
         return std::nullopt;
-    const QString action = state.CurrentAction;
-    if (action != u"LOGIN"_s)
+    const RunMark mark = m_app.waiting.Mark();
+    if (state.CurrentAction != u"LOGIN"_s)
         m_app.ClearPage();
-    // A stop while the page was cleared leaves nothing to handle.
-    if (state.CurrentAction == action)
+    // The refusal is that of the page that showed it, and of nobody whom a Skip or a start has taken up since.
+    if (m_app.waiting.IsCurrent(mark))
         HandleErrorPage(m_app);
     return false;
 }

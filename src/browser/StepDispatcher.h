@@ -21,7 +21,7 @@ public:
     explicit StepDispatcher(App& app) : m_app(app) {}
 
     // Changes step variables and may resume, skip, stop or log in. Its own errors are ignored: the next tick
-    // tries again.
+    // tries again. Throws RunEnded when the run or the target is another one behind one of its waits.
     bool CheckLinkFound();
 
     // The comment form that had been sent already stands on the page again.

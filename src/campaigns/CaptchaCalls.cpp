@@ -42,7 +42,7 @@ void CaptchaCalls::mnuSkipProfileCAPTCHAs_Click() {
 }
 
 void CaptchaCalls::CallUser() {
-    const QString action = m_app.state.CurrentAction;
+    const RunMark mark = m_app.waiting.Mark();
     m_app.timers->tmrAutoResume.SetEnabled(false);
     m_app.pacing->HideCover();
     Attention& attention = m_app.platform.Attention();
@@ -53,7 +53,7 @@ void CaptchaCalls::CallUser() {
     m_app.SetStatus(WaitingForUser);
     if (m_app.controls.Ticked("mnuCaptchaPopup"_L1))
         m_app.ShowMessage(u"Please enter the CAPTCHA code to continue"_s);
-    if (m_app.state.CurrentAction != action)
+    if (!m_app.waiting.IsCurrent(mark))
         return;
     if (m_app.controls.Ticked("mnuCaptchaRestoreIfMinimized"_L1))
         attention.RestoreWindow();

@@ -42,7 +42,7 @@ void Pacing::UpdateTimeDelayLabel() {
 
 void Pacing::DoDelay() {
     RunState& state = m_app.state;
-    const QString action = state.CurrentAction;
+    const RunMark mark = m_app.waiting.Mark();
     m_app.diagnostics.Trap("DoDelay", [this, &state] {
         state.blnInDelay = true;
         m_app.diagnostics.DebugForAction(u"Delay start - "_s + QString::number(state.lngTimeDelayFrom) +
@@ -50,10 +50,11 @@ void Pacing::DoDelay() {
         if (state.lngTimeDelayFrom != 0 || state.lngTimeDelayTo != 0)
             WaitCovered();
     });
-    // The hold that a stop has set is the last word.
-    if (state.CurrentAction == action)
-        m_app.stopResume->ResumeLinkCheck();
     UpdateTimeDelayLabel();
+    // The hold that a stop has set is the last word, and the next run's delay is its own.
+    if (!m_app.waiting.IsCurrent(mark))
+        return;
+    m_app.stopResume->ResumeLinkCheck();
     m_app.diagnostics.DebugForAction(u"Delay finished"_s);
     state.blnInDelay = false;
 }
@@ -67,8 +68,7 @@ void Pacing::WaitCovered() {
 }
 
 void Pacing::CountDown(qint64 lengthSeconds) {
-    const RunState& state = m_app.state;
-    const QString action = state.CurrentAction;
+    const RunMark mark = m_app.waiting.Mark();
     const qint64 startMs = m_app.Pump().NowMs();
     qint64 shown = -1;
     qint64 remaining = lengthSeconds;
@@ -80,7 +80,7 @@ void Pacing::CountDown(qint64 lengthSeconds) {
             m_app.controls.SetText("lblTimeDelay"_L1, u"Time Delay: "_s + LeadingZero(remaining / 60) + u':' +
                                                           LeadingZero(remaining % 60));
         shown = remaining;
-    } while (remaining >= 1 && state.blnInDelay && state.CurrentAction == action);
+    } while (remaining >= 1 && m_app.state.blnInDelay && m_app.waiting.IsCurrent(mark));
 }
 
 void Pacing::ShowCover() {

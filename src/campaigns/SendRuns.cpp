@@ -65,8 +65,11 @@ void SendRuns::Start(const QString& word) {
         if (campaign.stopsRunningOne)
             m_app.stopResume->StopAll(QString::fromLatin1(campaign.stopReason));
         Reset(campaign);
+        const RunMark start = m_app.waiting.Mark();
         if (word == FriendRequests)
             m_report.BeginRun();
+        // A disk that refuses the report brings a box up, and whatever happens behind it.
+        m_app.waiting.LeaveUnlessCurrent(start);
         if (activity.step)
             m_app.state.*activity.step = campaign.firstStep;
         if (activity.stepRoutine)
@@ -76,6 +79,7 @@ void SendRuns::Start(const QString& word) {
 
 void SendRuns::Reset(const Campaign& campaign) {
     RunState& state = m_app.state;
+    m_app.waiting.OutdateSteps();
     state.CurrentAction = campaign.word;
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     m_app.timers->Timer1.SetEnabled(false);
@@ -89,7 +93,6 @@ void SendRuns::Reset(const Campaign& campaign) {
     state.blnHoldLinkCheck = false;
     // A delay of an earlier run that still spins below this click is over.
     state.blnInDelay = false;
-    state.intBlankTicks = 0;
     state.intFRLimitHits = 0;
     state.blnMsgAfterFR = false;
     state.blnFRSkipMessage = false;

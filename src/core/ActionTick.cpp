@@ -46,14 +46,24 @@ void ActionTick::Timer1_Timer() {
 }
 
 void ActionTick::tmrCheckLinkLoaded_Timer() {
-    m_app.diagnostics.Trap("tmrCheckLinkLoaded_Timer", [this] { CheckPage(); });
+    const QString error = m_app.diagnostics.Trap("tmrCheckLinkLoaded_Timer", [this] { CheckPage(); });
+    if (error.isEmpty() || m_app.state.CurrentAction.isEmpty())
+        return;
+    // What had been found is looked for anew.
+    m_app.state.blnLinkFound = false;
+    m_app.timers->tmrCheckLinkLoaded.Restart();
 }
 
 void ActionTick::CheckPage() {
     RunState& state = m_app.state;
-    if (m_app.WebBrowser1().Document().IsNull() || state.blnHoldLinkCheck)
+    if (m_app.WebBrowser1().Document().IsNull() || state.blnHoldLinkCheck ||
+        m_app.pageTests->IsAwaitingBody())
         return;
+    const qint32 run = state.lngRunNumber;
     const bool found = m_app.stepDispatcher->CheckLinkFound();
+    // The check has ended the run itself, or another one has been begun in one of its waits.
+    if (state.lngRunNumber != run)
+        return;
     LogCheck(found);
     if (state.CurrentAction.isEmpty())
         return;

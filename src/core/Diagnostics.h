@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/PasswordMask.h"
+#include "core/Waiting.h"
 #include "platform/MessageQueue.h"
 
 #include <QString>
@@ -33,12 +34,14 @@ public:
                      const QString& data = {});
 
     // Runs the body of a procedure; an exception is reported under the procedure's name and ends it there.
-    // Answers the error's text, empty when the body ran through.
+    // Answers the error's text, empty when the body ran through or its run has ended.
     template <typename Body> QString Trap(const char* procedure, Body&& body) {
         try {
             body();
         } catch (const ProgramEnding&) {
             throw;
+        } catch (const RunEnded&) {
+            return {};
         } catch (const std::exception& error) {
             ReportError(QString::fromLatin1(procedure), error);
             return QString::fromUtf8(error.what());
@@ -46,14 +49,18 @@ public:
         return {};
     }
     // As above; data() gives what the report says beside the error.
-    template <typename Body, typename Data> void Trap(const char* procedure, Body&& body, Data&& data) {
+    template <typename Body, typename Data> QString Trap(const char* procedure, Body&& body, Data&& data) {
         try {
             body();
         } catch (const ProgramEnding&) {
             throw;
+        } catch (const RunEnded&) {
+            return {};
         } catch (const std::exception& error) {
             ReportError(QString::fromLatin1(procedure), error, {}, data());
+            return QString::fromUtf8(error.what());
         }
+        return {};
     }
     // For procedures that answer their own errors: onError gets the error.
     template <typename Body, typename Handler> static void Guard(Body&& body, Handler&& onError) {

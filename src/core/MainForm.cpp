@@ -94,6 +94,7 @@ void MainForm::Form_Load() {
         m_app.controls.SetText("lblLoggedInAs"_L1, {});
         ShowPracticeSite(m_practiceSiteRuns);
         state.intLoginStep = 10;
+        m_app.waiting.OutdateSteps();
         state.CurrentAction = u"LOGIN"_s;
         m_app.timers->tmrCheckLinkLoaded.Restart();
         m_app.actionTick->Timer1_Timer();

@@ -36,6 +36,8 @@ constexpr SkipRow SkipRows[] = {
 };
 
 void SkipTo(App& app, const SkipRow& row) {
+    // A tick that is due for the page being left would take a step of the next profile.
+    app.timers->Timer1.SetEnabled(false);
     const Activity* activity = FindActivity(row.action);
     if (row.step != 0)
         app.state.*activity->step = row.step;
@@ -51,7 +53,7 @@ void StopResume::StopAll(const QString& reason) {
     if (activity && activity->stopMark[0])
         m_app.diagnostics.DebugForAction(StopMark(*activity, reason, m_app.NowText()));
 
-    m_app.sendRuns->Report().EndRun(reason);
+    m_app.waiting.OutdateSteps();
     for (const Activity& each : Activities())
         if (each.step)
             state.*each.step = 0;
@@ -90,6 +92,9 @@ void StopResume::StopAll(const QString& reason) {
     state.strCurrentID.clear();
     state.blnBulletinWaiting = false;
     state.blnStatusWaiting = false;
+
+    // Writes to the disk, which may fail and bring a window up: nothing runs any more by then.
+    m_app.sendRuns->Report().EndRun(reason);
 }
 
 void StopResume::ResumeNext() {
@@ -113,8 +118,6 @@ void StopResume::SkipProfile() {
         return;
     }
     state.blnSkipRequested = true;
-    // A tick that is due for the page being left would take a step of the next profile.
-    m_app.timers->Timer1.SetEnabled(false);
     for (const SkipRow& row : SkipRows)
         if (state.CurrentAction == row.action) {
             SkipTo(m_app, row);

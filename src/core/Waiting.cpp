@@ -23,9 +23,29 @@ qint64 Waiting::SecondsSince(qint64 startMs) const {
     return (m_app.platform.Pump().NowMs() - startMs) / 1000;
 }
 
+RunMark Waiting::Mark() const {
+    return {m_app.state.lngRunNumber, m_app.state.lngTargetNumber};
+}
+
+bool Waiting::IsCurrent(const RunMark& mark) const {
+    return mark.run == m_app.state.lngRunNumber && mark.target == m_app.state.lngTargetNumber;
+}
+
+void Waiting::LeaveUnlessCurrent(const RunMark& mark) const {
+    if (!IsCurrent(mark))
+        throw RunEnded();
+}
+
+void Waiting::OutdateSteps() {
+    ++m_app.state.lngRunNumber;
+    m_app.state.intBlankTicks = 0;
+    m_app.WebBrowser1().EndRefusals();
+}
+
 void Waiting::WaitSeconds(int seconds) {
+    const RunMark mark = Mark();
     const qint64 startMs = m_app.platform.Pump().NowMs();
-    while (SecondsSince(startMs) <= seconds && !m_app.state.blnHoldLinkCheck)
+    while (SecondsSince(startMs) <= seconds && !m_app.state.blnHoldLinkCheck && IsCurrent(mark))
         Turn();
 }
 

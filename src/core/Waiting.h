@@ -2,12 +2,26 @@
 #pragma once
 
 #include <QString>
+#include <exception>
 #include <functional>
 
 namespace qlm {
 
 class App;
 class LongWait;
+
+// What a step has to find unchanged behind a wait: no stop and no start, and no other target, meanwhile.
+struct RunMark {
+    qint32 run = 0;
+    qint32 target = 0;
+};
+
+// Thrown by a step that finds its run or its target gone, so that nothing more is done for it. It is no
+// error: traps end there and tell nobody.
+class RunEnded : public std::exception {
+public:
+    const char* what() const noexcept override { return "the run has ended"; }
+};
 
 // The waits of the steps: the message loop turns, with sleeps of 10 ms. Every turn may run timers, browser
 // events and the user's clicks; throws ProgramEnding once the program is closing.
@@ -17,7 +31,14 @@ public:
 
     void Turn();
     void Pump();
-    // Turns until more than the given whole seconds have gone by or the link check is held.
+    // Taken before a wait; behind it IsCurrent() tells whether the step may go on.
+    RunMark Mark() const;
+    bool IsCurrent(const RunMark& mark) const;
+    void LeaveUnlessCurrent(const RunMark& mark) const; // throws RunEnded
+    // Whatever waits is obsolete from here on: its mark is none any more, and the page may move again.
+    void OutdateSteps();
+    // Turns until more than the given whole seconds have gone by, the link check is held, or the step is
+    // obsolete.
     void WaitSeconds(int seconds);
     // Turns while the condition holds, at most so many whole seconds. The condition is asked before each
     // turn. True when it stopped holding, false on the time-out.

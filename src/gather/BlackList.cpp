@@ -43,9 +43,10 @@ void BlackList::picRemoveFriends_Click() {
         m_app.stopResume->StopAll(u"REMFR"_s);
         m_app.SetStatus(u"Waiting for friends page to load..."_s);
         m_app.ClearPage();
-        m_app.WebBrowser1().Navigate(
+        state.strGatherStartURL =
             m_app.Expand(u"http://{FriendsHost}/index.cfm?fuseaction=user.viewfriends&friendID="_s) +
-            state.MyProfileID);
+            state.MyProfileID;
+        m_app.WebBrowser1().Navigate(state.strGatherStartURL);
         m_app.controls.SetTicked("optScanFollowing"_L1, true);
         state.blnComparingIDs = true;
         m_app.gatheredList->SetScannedLabel();

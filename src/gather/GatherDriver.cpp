@@ -105,14 +105,43 @@ void GatherDriver::picScanStop_Click() {
 }
 
 void GatherDriver::IterateGatherProfiles() {
-    m_app.diagnostics.Trap(
+    const int entry = BeginEntry();
+    m_returnedToList = false;
+    const QString error = m_app.diagnostics.Trap(
         "IterateGatherProfiles",
-        [this] {
-            const int entry = BeginEntry();
+        [this, entry] {
             while (RunStep(entry) == Next::GoOn && Goes(entry)) {
             }
         },
         [this] { return m_app.pageTests->LocationURL(); });
+    if (!error.isEmpty() && Goes(entry))
+        AwaitList();
+}
+
+void GatherDriver::AwaitList() {
+    AwaitListOfIDs();
+    m_app.state.blnLinkFound = false;
+    m_app.timers->tmrCheckLinkLoaded.Restart();
+}
+
+void GatherDriver::ReturnToList() {
+    const bool again = std::exchange(m_returnedToList, true);
+    // What still waits below was waiting for the page that the login has taken away.
+    m_app.waiting.OutdateSteps();
+    m_app.timers->Timer1.SetEnabled(false);
+    if (again) {
+        m_app.stopResume->StopAll(u"LF2"_s);
+        if (!m_app.stopResume->DoFinishedExit())
+            m_app.ShowMessage(
+                u"The site asks for your login again and again. The gathering process has been stopped."_s);
+        return;
+    }
+    RunState& state = m_app.state;
+    state.strLastPageText.clear();
+    state.strLastPageHref.clear();
+    state.blnLastPageAsHTML = false;
+    m_app.WebBrowser1().Navigate(state.strGatherStartURL);
+    AwaitList();
 }
 
 GatherDriver::Next GatherDriver::RunStep(int entry) {
@@ -215,17 +244,15 @@ void GatherDriver::AwaitListOfIDs() {
 GatherDriver::Next GatherDriver::ReturnFromFilterPass() {
     RunState& state = m_app.state;
     Trace(u"IGP3.3"_s);
-    AwaitListOfIDs();
     if (m_app.pageTests->LocationURL() != state.strGatherStartURL) {
         const QString url = state.strGatherStartURL;
+        const RunMark mark = m_app.waiting.Mark();
         m_app.ClearPage();
-        if (state.CurrentAction != u"SCANNING"_s)
-            return Next::Return;
+        m_app.waiting.LeaveUnlessCurrent(mark);
         m_app.WebBrowser1().Navigate(url);
         m_app.SetStatus(u"Filtering finished... going back to where you were gathering from."_s);
     }
-    m_app.timers->tmrCheckLinkLoaded.Restart();
-    state.blnLinkFound = false;
+    AwaitList();
     return Next::Return;
 }
 

@@ -29,6 +29,9 @@ public:
     // What the step after this waits for by the tick: a list page that is full, or that stands.
     void AwaitListOfIDs();
     bool ListOfIDsStands() { return m_standingPage.Stands(); }
+    // The session was lost in front of a list, and the login has led away from it: back to the list that was
+    // read last. When that happens again before a list has come, the gather is stopped.
+    void ReturnToList();
     // True when the filters ask for a visit to each gathered profile.
     bool FilterPassWanted() const;
     // The label that names the visible slice of the list in WebBrowser1; "" when there is none.
@@ -55,6 +58,7 @@ private:
     bool WaitForPageToCome(int entry);
     bool WaitForMailPage(int entry);
     Next ReturnFromFilterPass();
+    void AwaitList();
     Next TurnPage(int entry);
     void GrowInPlace(int entry);
     void FinishGathering();
@@ -91,6 +95,7 @@ private:
     int m_lastEntry = 0;
     bool m_pageIsToCome = false;
     StandingPage m_standingPage;
+    bool m_returnedToList = false; // and no step has run since
 };
 
 } // namespace qlm

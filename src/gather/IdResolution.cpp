@@ -105,6 +105,8 @@ QString IdResolution::FetchWithNotice(JudgedLink& link) {
 
 QString IdResolution::FetchFriendIDInBackground(const QString& href) {
     BrowserControl& browser = m_app.webHide();
+    const RunMark mark = m_app.waiting.Mark();
+    auto goes = [this, &mark] { return m_app.waiting.IsCurrent(mark); };
     QString id;
     auto scriptCount = [&browser] {
         const Document document = browser.Document();
@@ -116,20 +118,23 @@ QString IdResolution::FetchFriendIDInBackground(const QString& href) {
             browser.Navigate(u"about:blank"_s);
             m_app.waiting.Pump();
             browser.Navigate(href);
-            m_app.waiting.WaitWhile([&] { return scriptCount() == 0; }, SecondsForScripts);
+            m_app.waiting.WaitWhile([&] { return goes() && scriptCount() == 0; }, SecondsForScripts);
             m_app.waiting.WaitWhile(
                 [&] {
-                    id = GetFriendIDFromDocument(HiddenBrowser, {});
-                    return !IsNumeric(id);
+                    id = goes() ? GetFriendIDFromDocument(HiddenBrowser, {}) : QString();
+                    return goes() && !IsNumeric(id);
                 },
                 SecondsForID);
             if (IsNumeric(id)) {
                 Trace(u"BACKGROUND1 - "_s + href + u" ("_s + id + u')');
                 m_app.state.lstAlreadyFullGatheredPageIDs.append(href);
-            } else if (m_app.controls.Ticked("optImportClickedProfiles"_L1)) {
+            } else if (goes() && m_app.controls.Ticked("optImportClickedProfiles"_L1)) {
                 Trace(u"CLICK GATHER FAILED ("_s + QString::number(scriptCount()) + u" scripts) - "_s +
                       browser.Document().BodyHTML());
             }
+            // In front it is the cover of a run that has begun since.
+            if (!goes() && browser.Position() == 0)
+                return;
             browser.Stop();
             m_app.waiting.Pump();
             browser.Navigate(u"about:blank"_s);

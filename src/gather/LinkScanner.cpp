@@ -13,7 +13,6 @@
 #include "gather/ProfileLinkRules.h"
 #include "gather/ProfileLinks.h"
 
-#include <QScopeGuard>
 #include <QSet>
 
 namespace qlm {
@@ -48,17 +47,15 @@ bool LinkScanner::Goes(const Pass& pass) const {
 void LinkScanner::GatherPageProfiles() {
     Pass pass;
     pass.number = ++m_lastPass;
-    const auto guard = qScopeGuard([&] {
-        if (pass.number == m_lastPass)
-            m_app.WebBrowser1().SetRefuseNavigations(false);
-    });
     Diagnostics::Guard([&] { RunPass(pass); },
                        [&](const std::exception& error) { HandleError(pass, error); });
 }
 
 void LinkScanner::HandleError(const Pass& pass, const std::exception& error) {
+    if (!Goes(pass))
+        return;
     Trace(u"GPP ERROR: "_s + Diagnostics::Numbered(error));
-    if (Goes(pass) && !m_app.state.blnHoldLinkCheck)
+    if (!m_app.state.blnHoldLinkCheck)
         m_app.state.blnRetryGatherPage = true;
 }
 
@@ -81,7 +78,7 @@ void LinkScanner::RunPass(Pass& pass) {
     state.strGatherStartURL = m_app.pageTests->LocationURL();
     state.arrSeenLinks = {};
     Trace(u"GPP1.2"_s);
-    PrepareFullGather();
+    PrepareFullGather(pass);
     ShowScanStatus();
     m_app.waiting.Pump();
     if (Goes(pass))
@@ -92,7 +89,7 @@ void LinkScanner::RunPass(Pass& pass) {
     if (!Goes(pass))
         return;
     RemindOfFullGather(pass);
-    m_app.WebBrowser1().SetRefuseNavigations(false);
+    pass.guard.reset();
     Trace(u"GPP13 - NEXT PAGE LINK: "_s + state.strNextPageLink);
     if (Goes(pass) && m_app.gatherDriver->FilterPassWanted())
         FilterNewProfiles(pass);
@@ -123,7 +120,7 @@ void LinkScanner::WaitForFirstPage(const Pass& pass) {
 }
 
 // While profiles are fetched in the hidden browser the page must stay where it is.
-void LinkScanner::PrepareFullGather() {
+void LinkScanner::PrepareFullGather(Pass& pass) {
     if (!m_app.controls.Ticked("optFullGather"_L1))
         return;
     if (m_app.state.lstAlreadyFullGatheredPageIDs.size() > RememberedPages) {
@@ -132,7 +129,9 @@ void LinkScanner::PrepareFullGather() {
     }
     m_app.WebBrowser1().Stop();
     m_app.waiting.Pump();
-    m_app.WebBrowser1().SetRefuseNavigations(true);
+    if (!Goes(pass))
+        return;
+    pass.guard.emplace(m_app.WebBrowser1());
     Trace(u"GPP1.3"_s);
 }
 

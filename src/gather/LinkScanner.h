@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "browser/NavigationGuard.h"
 #include "platform/Document.h"
 
 #include <QString>
 #include <exception>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace qlm {
@@ -33,12 +35,13 @@ private:
         qint32 lngArrayCount = 0;
         qint32 lngRepeats = 0;
         bool blnFoundButKnown = false;
+        std::optional<NavigationGuard> guard; // in a full gather
     };
 
     void RunPass(Pass& pass);
     bool Goes(const Pass& pass) const;
     void WaitForFirstPage(const Pass& pass);
-    void PrepareFullGather();
+    void PrepareFullGather(Pass& pass);
     Document ChooseDocument();
     void ScanLinks(Pass& pass);
     // A link and what has been found out about it before its turn comes.

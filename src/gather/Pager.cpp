@@ -37,9 +37,11 @@ QString Pager::CaptionToClick() {
 
 // False when the run is over.
 bool Pager::TurnOn(const Document& document) {
+    const RunMark mark = m_app.waiting.Mark();
     m_app.waiting.Turn();
     if (m_app.state.CurrentAction != u"SCANNING"_s)
         return false;
+    m_app.waiting.LeaveUnlessCurrent(mark);
     if (!document.IsPresent())
         throw BrowserError();
     return true;

@@ -4,6 +4,7 @@
 #include "platform/Document.h"
 
 #include <functional>
+#include <set>
 
 namespace qlm {
 
@@ -23,6 +24,7 @@ struct NavigationRequest {
     QString headers;
     QString targetFrameName;
     bool topLevel = true;
+    bool isProgram = false; // by Navigate(), Refresh() or a move in the history, not by the page
     // A form is being sent: what its page's input elements held at that moment, in page order, and the page's
     // address and visible text. Such a navigation is on its way already and the answer of the handler doesn't
     // hold it; the page may be gone.
@@ -83,9 +85,15 @@ public:
     // Calls into the engine so far, for the measures.
     virtual qint64 EngineCalls() const { return 0; }
 
-    // While set, every navigation that the page or the user begins is refused at once and not reported.
-    void SetRefuseNavigations(bool refuse) { m_refuseNavigations = refuse; }
-    bool RefusesNavigations() const { return m_refuseNavigations; }
+    // While somebody refuses them, navigations that the page or the user begins are refused at once and not
+    // reported. Each holder ends his own refusal; whose refusal was ended by EndRefusals() ends nothing more.
+    quint64 BeginRefusal() {
+        m_refusals.insert(++m_lastRefusal);
+        return m_lastRefusal;
+    }
+    void EndRefusal(quint64 number) { m_refusals.erase(number); }
+    void EndRefusals() { m_refusals.clear(); }
+    bool RefusesNavigations() const { return !m_refusals.empty(); }
 
     // Suppresses script and certificate boxes. A box that is suppressed is answered with its safe default.
     void SetSilent(bool silent) { m_silent = silent; }
@@ -112,7 +120,8 @@ public:
 private:
     bool m_silent = false;
     bool m_visible = true;
-    bool m_refuseNavigations = false;
+    std::set<quint64> m_refusals;
+    quint64 m_lastRefusal = 0;
     int m_position = 1;
 };
 

@@ -140,12 +140,12 @@ TEST_F(EventsContract, RefusedNavigationsAreNotReported) {
     ServeBody(u"target"_s, u"the target"_s);
     Show(u"<a id=go href='/target'>go</a><form id=f action='/target'><input name=a></form>"_s);
     seen.questions.clear();
-    browser.SetRefuseNavigations(true);
+    browser.BeginRefusal();
     ById(u"go"_s).Click();
     PumpFor(settleMs);
     ById(u"f"_s).Submit();
     PumpFor(settleMs);
-    browser.SetRefuseNavigations(false);
+    browser.EndRefusals();
     PumpFor(settleMs);
     EXPECT_TRUE(seen.questions.empty());
     EXPECT_EQ(browser.LocationURL(), At(u"page"_s));

@@ -67,7 +67,9 @@ void QtBrowser::Ask(Asker asker, const NavigationRequest& request, std::function
     Post([this, self = QPointer(this), wish, asker, request, go = std::move(go)] {
         if (wish != m_wish)
             return;
-        const bool isCancelled = events.beforeNavigate2 && events.beforeNavigate2(request);
+        NavigationRequest question = request;
+        question.isProgram = asker == Asker::Program;
+        const bool isCancelled = events.beforeNavigate2 && events.beforeNavigate2(question);
         if (!self || wish != m_wish)
             return;
         m_asking.reset();
@@ -101,7 +103,9 @@ void QtBrowser::NavigateToBlank() {
 void QtBrowser::RunScriptAddress(const QString& url) {
     const auto document = m_document;
     Post([this, url, document] {
-        const bool isCancelled = events.beforeNavigate2 && events.beforeNavigate2(RequestFor(url));
+        NavigationRequest question = RequestFor(url);
+        question.isProgram = true;
+        const bool isCancelled = events.beforeNavigate2 && events.beforeNavigate2(question);
         if (isCancelled || m_isBlank || !m_document || document != m_document)
             return;
         const QString scheme = u"javascript:"_s;

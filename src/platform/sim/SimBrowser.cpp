@@ -45,6 +45,7 @@ void SimBrowser::Navigate(const QString& url) {
     load.request.url = address;
     NavigationRequest question;
     question.url = address;
+    question.isProgram = true;
     if (address != u"about:blank")
         return Ask(load, question);
     Tell(question);
@@ -79,6 +80,7 @@ void SimBrowser::Reload(int historyIndex) {
     load.historyIndex = historyIndex;
     NavigationRequest question;
     question.url = load.request.url;
+    question.isProgram = true;
     Ask(load, question);
 }
 

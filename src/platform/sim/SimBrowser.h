@@ -93,6 +93,7 @@ private:
     // SimActs.cpp: what clicks, forms and stand-ins do.
     void ElementClicked(int node) override;
     void FormSubmitted(int form) override;
+    void ScriptWritten(int script) override;
     void ScrolledToEnd() override;
     void Touched() override { m_pump.Queue().EndTurn(); }
     void ClickControl(int node);

@@ -244,6 +244,8 @@ void SimDocument::SetInnerText(int node, const QString& text) {
     else
         m_tree.SetText(node, text);
     host.Touched();
+    if (m_tree.At(node).Is(u"script"))
+        host.ScriptWritten(node);
 }
 
 void SimDocument::SetInnerHTML(int node, const QString& html) {

@@ -15,6 +15,7 @@ public:
     virtual ~SimDocumentHost() = default;
     virtual void ElementClicked(int node) = 0;
     virtual void FormSubmitted(int form) = 0;
+    virtual void ScriptWritten(int script) = 0;
     virtual void ScrolledToEnd() = 0;
     // Something was written or clicked: the turn is over.
     virtual void Touched() = 0;

@@ -115,7 +115,7 @@ TEST_F(EngineNavigation, RefusedNavigationsAreNotReported) {
     Serve(u"/a"_s, "<body>alpha <a id=l href=/b>go</a><form id=f action=/b></form>");
     ASSERT_TRUE(Open(u"/a"_s));
     asked.clear();
-    browser->SetRefuseNavigations(true);
+    browser->BeginRefusal();
     ById(u"l"_s).Click();
     ById(u"f"_s).Submit();
     PumpFor(200);

@@ -82,7 +82,7 @@ TEST_F(BrowserHostTest, GroupPagesAreRefusedOnTheWayBackOnly) {
 
 TEST_F(BrowserHostTest, TheGuardRefusesEverything) {
     Show(u"x"_s);
-    Browser().SetRefuseNavigations(true);
+    Browser().BeginRefusal();
     State().blnUserNavigated = true;
     EXPECT_TRUE(Cancels(u"http://{SiteRootHost}/ann"_s));
     EXPECT_FALSE(State().blnUserNavigated);
@@ -428,6 +428,19 @@ TEST_F(CommentFormTest, OtherNavigationsOfTheFormDoNotCount) {
     Show(u"{CommentHost}/index.cfm?fuseaction=user.viewprofile_commentform&x=1"_s, u"x"_s);
     Cancels(u"http://{SiteRootHost}/comment"_s);
     EXPECT_FALSE(app->timers->tmrHelper.Enabled());
+}
+
+TEST_F(BrowserHostTest, TheGuardHoldsTheProgramsOwnLoadsBackNever) {
+    Show(u"x"_s);
+    Browser().BeginRefusal();
+    world.web.SetPage(u"http://www.site.example.com/there"_s, u"<html><body>There</body></html>"_s);
+    Browser().Navigate(u"http://www.site.example.com/there"_s);
+    platform->Pump().RunFor(500);
+    EXPECT_EQ(Address(), u"http://www.site.example.com/there"_s);
+    Browser().TakeVisited();
+    Browser().Refresh();
+    platform->Pump().RunFor(500);
+    EXPECT_EQ(Browser().TakeVisited(), QStringList{u"http://www.site.example.com/there"_s});
 }
 
 } // namespace

@@ -110,6 +110,27 @@ TEST_F(DetourTest, AStopWhileLoggingInAgainIsTheLastWord) {
     EXPECT_FALSE(State().blnSkipRequested);
 }
 
+// While the form's page is waited for, nothing that it may show passes for what the step awaits.
+TEST_F(DetourTest, WhileALostSessionIsRenewedNothingCountsAsFound) {
+    Show(Root, u"<p>Forgot Password?</p>"_s, SimFault::Incomplete);
+    State().CurrentAction = u"MSG"_s;
+    bool found = false;
+    platform->Pump().onPump = [&] { found = State().blnLinkFound; };
+    EXPECT_TRUE(TakesUnfound());
+    EXPECT_TRUE(found);
+}
+
+TEST_F(DetourTest, ATargetIsSkippedWhenTheLoginIsThrough) {
+    Show(Root, u"<p>Forgot Password?</p><form action='/in'><input id=x_Email_Textbox name=e>"
+               "<input id=x_Password_Textbox name=p><input type=submit id=loginBtn name=b value='Log in'></form>"_s);
+    world.web.defaultLatencyMs = 5000;
+    State().CurrentAction = u"MSG"_s;
+    State().intMsgStep = 7;
+    EXPECT_TRUE(TakesUnfound());
+    EXPECT_FALSE(Browser().Busy());
+    EXPECT_TRUE(State().blnSkipRequested);
+}
+
 TEST_F(DetourTest, ALostSessionComesBeforeAConfirmation) {
     Show(Root, u"<p>Forgot Password? Request Sent!</p>"_s);
     BeginRequests(9);
@@ -336,6 +357,14 @@ TEST_F(DetourTest, AWayBackToTheSiteBeginsTheLoginAnew) {
     EXPECT_TRUE(TakesNone());
 }
 
+TEST_F(DetourTest, AWayBackToTheSiteSavesWhatTheUserHasTyped) {
+    Show(u"return to myspace"_s);
+    LogIn(4);
+    app->controls.SetText("txtFriendRequestsToSend"_L1, u"25"_s);
+    EXPECT_TRUE(TakesUnfound());
+    EXPECT_EQ(app->platform.Settings().GetSetting(u"Field Entries"_s, u"txtFriendRequestsToSend"_s, {}), u"25"_s);
+}
+
 // Row 14
 TEST_F(DetourTest, AConfirmedLoginGoesToTheHomePage) {
     Show(u"Welcome! You are logged in."_s);
@@ -408,6 +437,15 @@ TEST_F(DetourTest, ADailyLimitStopsTheRun) {
     State().blnDailyLimitHit = true;
     State().blnLinkFound = true;
     EXPECT_TRUE(TakesNone());
+}
+
+TEST_F(DetourTest, ADailyLimitEndsTheProgramWhenItIsToExit) {
+    Show(u"x"_s);
+    LogIn(3);
+    State().blnDailyLimitHit = true;
+    State().blnExitWhenFinished = true;
+    EXPECT_TRUE(TakesUnfound());
+    EXPECT_TRUE(State().blnClosing);
 }
 
 TEST_F(DetourTest, InAChainADailyLimitHandsOver) {

@@ -46,5 +46,14 @@ TEST_F(PageBoxesTest, WhileSendingThePagesMenuIsForCaptchasAlone) {
         EXPECT_TRUE(comesUp(action)) << action.toStdString();
 }
 
+TEST_F(PageBoxesTest, APageThatIsStillToComeHasNoMenuInARun) {
+    app->browserHost->Attach();
+    Show(u"{SiteRootHost}/page"_s, u"x"_s, SimFault::NoBody);
+    State().CurrentAction = u"FR"_s;
+    const qint64 startMs = app->Pump().NowMs();
+    EXPECT_FALSE(Browser().events.contextMenu());
+    EXPECT_EQ(app->Pump().NowMs(), startMs);
+}
+
 } // namespace
 } // namespace qlm

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "BrowserTest.h"
+#include "browser/PageClassifier.h"
+#include "platform/sim/SimDocument.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -253,6 +255,101 @@ TEST_F(PageTestsTest, TheOtherBrowsersAreNeverReloadedForABody) {
         EXPECT_GE(app->Pump().NowMs() - startMs, 100000);
         EXPECT_EQ(browser.TakeVisited(), (QStringList{url, full}));
     }
+}
+
+TEST_F(PageTestsTest, AnAdvertiserIsKnownByTheBodysOwnTagToo) {
+    world.web.SetPage(u"http://www.site.example.com/ad"_s, u"<html><body class='AdvertiserProfile'>x</body></html>"_s);
+    Browser().Navigate(u"http://www.site.example.com/ad"_s);
+    platform->Pump().RunFor(500);
+    EXPECT_TRUE(Tests().IsAdvertiserProfile());
+}
+
+// Each looks at the page that comes, not at the one that has no body yet.
+TEST_F(PageTestsTest, WhoReadsThePageWaitsForItsBody) {
+    const QString page = u"{SiteRootHost}/page"_s;
+    const QString friends = u"<a innertext='add to friends' href='http://www.site.example.com/1'>Add to friends</a>"
+                            "<a innertext='send message' href='http://www.site.example.com/2'>Send message</a>"_s;
+    auto comeLater = [&](const QString& body) {
+        Show(page, u"x"_s, SimFault::NoBody);
+        ASSERT_TRUE(Browser().Document().Body().IsNull());
+        world.web.SetPage(u"http://www.site.example.com/page"_s, u"<html><body>"_s + body + u"</body></html>"_s);
+    };
+    comeLater(u"server is too busy"_s);
+    EXPECT_TRUE(app->pageClassifier->ClassifyErrorPage());
+    EXPECT_EQ(State().intPageClass, 10);
+    comeLater(friends);
+    EXPECT_EQ(Tests().GetHrefFromSecondID(), u"http://www.site.example.com/2"_s);
+    comeLater(u"<p class=advertiserProfile>Buy this</p>"_s);
+    EXPECT_TRUE(Tests().IsAdvertiserProfile());
+}
+
+TEST_F(PageTestsTest, AWaitForABodyIsNoneAnyMoreBehindAStop) {
+    Show(u"{SiteRootHost}/page"_s, u"x"_s, SimFault::NoBody);
+    app->Pump().Queue().Post([this] { app->stopResume->StopAll(u"MAINSTOP"_s); });
+    world.web.SetPage(u"http://www.site.example.com/page"_s, u"<html><body>wanted</body></html>"_s);
+    EXPECT_THROW(Tests().IsTextInPage(u"wanted"_s), RunEnded);
+    EXPECT_TRUE(Tests().IsTextInPage(u"wanted"_s));
+}
+
+TEST_F(PageTestsTest, AWaitForABodyIsNoneAnyMoreBehindAnotherTarget) {
+    Show(u"{SiteRootHost}/page"_s, u"x"_s, SimFault::NoBody);
+    app->Pump().Queue().Post([this] { ++State().lngTargetNumber; });
+    world.web.SetPage(u"http://www.site.example.com/page"_s, u"<html><body>wanted</body></html>"_s);
+    EXPECT_THROW(Tests().WaitForDocument(), RunEnded);
+}
+
+// The user has stopped the run and gone on to a page that takes its time.
+TEST_F(PageTestsTest, AnAbandonedWaitDoesNotCutTheUsersLoadOff) {
+    Show(u"{SiteRootHost}/page"_s, u"x"_s, SimFault::NoBody);
+    SimAnswer slow;
+    slow.html = u"<html><body>slow</body></html>"_s;
+    slow.latencyMs = 50000;
+    world.web.SetAnswer(u"http://www.site.example.com/slow"_s, slow);
+    Browser().TakeVisited();
+    app->Pump().Queue().Post([this] {
+        app->stopResume->StopAll(u"MAINSTOP"_s);
+        Browser().Navigate(u"http://www.site.example.com/slow"_s);
+    });
+    EXPECT_THROW(Tests().WaitForDocument(), RunEnded);
+    EXPECT_EQ(Address(), u"http://www.site.example.com/slow"_s);
+    EXPECT_EQ(Browser().TakeVisited(), QStringList{u"http://www.site.example.com/slow"_s});
+}
+
+// A page of which the links come last.
+class LateLinks : public SimDocument {
+public:
+    using SimDocument::SimDocument;
+    bool HasLinks() override { return hasLinks; }
+    bool hasLinks = false;
+};
+
+class LateLinksBrowser : public BrowserControl, public SimDocumentHost {
+public:
+    void Navigate(const QString&) override {}
+    void Stop() override {}
+    void GoBack() override {}
+    void GoForward() override {}
+    void Refresh() override {}
+    qlm::Document Document() override { return qlm::Document(page); }
+    QString LocationURL() override { return {}; }
+    int ReadyState() override { return 4; }
+    bool Busy() override { return false; }
+    std::shared_ptr<LateLinks> page = std::make_shared<LateLinks>(*this, u"<html><body>x</body></html>"_s, QString());
+
+private:
+    void ElementClicked(int) override {}
+    void FormSubmitted(int) override {}
+    void ScriptWritten(int) override {}
+    void ScrolledToEnd() override {}
+    void Touched() override {}
+};
+
+TEST_F(PageTestsTest, APageWithoutItsLinksIsWaitedFor) {
+    LateLinksBrowser late;
+    int turns = 0;
+    platform->Pump().onPump = [&] { late.page->hasLinks = ++turns == 5; };
+    Tests().WaitForDocument(late);
+    EXPECT_EQ(turns, 5);
 }
 
 } // namespace

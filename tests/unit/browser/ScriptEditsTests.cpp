@@ -85,5 +85,25 @@ TEST_F(ScriptEditsTest, ADenyLinkAsksNothing) {
     EXPECT_EQ(Scripts(), (QStringList{u"confirm('BLADIEBLABLA this?');"_s, u"confirm('Are you sure?');"_s}));
 }
 
+// A script whose text is written runs again.
+TEST_F(ScriptEditsTest, AnEditedScriptThatRunsAgainLeadsNowhere) {
+    Show(u"<script data-on-write='goto /elsewhere'>"_s + Onload + u"</script>"_s);
+    Browser().TakeVisited();
+    ChangeJavascriptMessaging(*app);
+    platform->Pump().RunFor(500);
+    EXPECT_EQ(Scripts(), QStringList{Onload + NoPrompt});
+    EXPECT_TRUE(Browser().TakeVisited().isEmpty());
+    EXPECT_TRUE(Address().endsWith(u"/page"_s));
+}
+
+TEST_F(ScriptEditsTest, AScriptThatAnEditHasBroughtIsEditedToo) {
+    Show(u"<div id=end></div><script data-on-write='append #end <script>"_s + Compose +
+         u"</script>'>"_s + Onload + u"</script><script>"_s + Compose + u"</script>"_s);
+    ChangeJavascriptMessaging(*app);
+    for (const QString& script : Scripts())
+        EXPECT_TRUE(script.endsWith(NoPrompt)) << script.toStdString();
+    EXPECT_EQ(Scripts().size(), 3);
+}
+
 } // namespace
 } // namespace qlm

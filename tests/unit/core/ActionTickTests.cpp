@@ -203,5 +203,79 @@ TEST_F(ActionTickTest, TheWatchdogOnlyLeavesATrail) {
     EXPECT_TRUE(QFile::exists(app->DataFile(u"debugautoresume.txt"_s)));
 }
 
+// A login whose page isn't there yet: its step runs when the page has come.
+TEST_F(ActionTickTest, TheActionTickWaitsForTheDocument) {
+    Show(u"{SiteRootHost}/page"_s, u"x"_s, SimFault::NoBody);
+    world.web.SetPage(u"http://www.site.example.com/page"_s, u"<html><body>x</body></html>"_s);
+    State().CurrentAction = u"FR"_s;
+    State().intFRStep = 6; // the end of a run
+    bool hadBody = false;
+    app->controls.AddListener([&](const Control&, Controls::Change, int) {
+        hadBody = hadBody || !Browser().Document().Body().IsNull();
+    });
+    bool endedWithoutBody = false;
+    platform->Pump().onPump = [&] {
+        endedWithoutBody = endedWithoutBody ||
+                           (State().CurrentAction.isEmpty() && Browser().Document().Body().IsNull());
+    };
+    app->actionTick->Timer1_Timer();
+    EXPECT_EQ(State().CurrentAction, QString());
+    EXPECT_FALSE(Browser().Document().Body().IsNull());
+    EXPECT_FALSE(endedWithoutBody);
+}
+
+TEST_F(ActionTickTest, AStepOfARunThatWasStoppedMeanwhileIsNotTaken) {
+    Show(u"{SiteRootHost}/page"_s, u"x"_s, SimFault::NoBody);
+    world.web.SetPage(u"http://www.site.example.com/page"_s, u"<html><body>x</body></html>"_s);
+    State().CurrentAction = u"FR"_s;
+    State().intFRStep = 6;
+    app->Pump().Queue().Post([this] {
+        app->stopResume->StopAll(u"MAINSTOP"_s);
+        // The next run has come as far as its own last step.
+        State().CurrentAction = u"FR"_s;
+        State().intFRStep = 6;
+    });
+    app->actionTick->Timer1_Timer();
+    EXPECT_EQ(State().CurrentAction, u"FR"_s);
+    EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(ActionTickTest, AnErrorBehindTheFindIsLookedForAnew) {
+    Begin(u"SCANNING"_s, u"wanted"_s);
+    const auto keep = app->diagnostics.onLine;
+    app->diagnostics.onLine = [](const QString& line) {
+        if (line.startsWith(u"checking..."_s))
+            throw BrowserError();
+    };
+    Tick();
+    EXPECT_FALSE(State().blnLinkFound);
+    EXPECT_TRUE(The().tmrCheckLinkLoaded.Enabled());
+    EXPECT_FALSE(The().Timer1.Enabled());
+    app->diagnostics.onLine = keep;
+    Tick();
+    EXPECT_TRUE(The().Timer1.Enabled());
+}
+
+// Each reload of the page tells of its completion, and each such event would wait one level deeper.
+TEST_F(ActionTickTest, APageWithoutABodyIsWaitedForOnce) {
+    app->browserHost->Attach();
+    Begin(u"BUL"_s, u"x"_s);
+    Show(u"{SiteRootHost}/page"_s, u"x"_s, SimFault::NoBody);
+    int deepest = 0;
+    int depth = 0;
+    const auto complete = Browser().events.documentComplete;
+    Browser().events.documentComplete = [&](bool topLevel, const QString& url) {
+        deepest = std::max(deepest, ++depth);
+        complete(topLevel, url);
+        --depth;
+    };
+    app->Pump().Queue().PostAt(app->Pump().Queue().NowMs() + 600000, [this] {
+        world.web.SetPage(u"http://www.site.example.com/page"_s, u"<html><body>wanted</body></html>"_s);
+    });
+    Tick();
+    EXPECT_EQ(deepest, 1);
+    EXPECT_TRUE(The().Timer1.Enabled());
+}
+
 } // namespace
 } // namespace qlm

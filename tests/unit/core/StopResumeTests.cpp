@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "../browser/BrowserTest.h"
+#include "browser/NavigationGuard.h"
 #include "core/MainForm.h"
 #include "core/SettingsFields.h"
 
@@ -266,6 +267,61 @@ TEST_F(StopResumeTest, ExitWhenFinishedIsAskedForAndTaken) {
     EXPECT_TRUE(State().blnExitWhenFinished);
     EXPECT_TRUE(app->stopResume->DoFinishedExit());
     EXPECT_TRUE(platform->Shell().hasQuit);
+}
+
+TEST_F(StopResumeTest, SkipSendsTheCoverBack) {
+    app->webHide().ZOrder(0);
+    app->commands.Run(u"picSkip_Click"_s);
+    EXPECT_EQ(app->webHide().Position(), 1);
+}
+
+// What Skip has no row for goes on, also when its next step is due.
+TEST_F(StopResumeTest, SkipTakesNoStepAwayFromWhatItDoesNotSkip) {
+    for (const QString& action : {u"LOGIN"_s, u"SCANNING"_s, u"ACC"_s}) {
+        State().CurrentAction = action;
+        app->timers->Timer1.Restart();
+        app->stopResume->SkipProfile();
+        EXPECT_TRUE(app->timers->Timer1.Enabled()) << action.toStdString();
+    }
+    State().CurrentAction = u"MSG"_s;
+    app->stopResume->SkipProfile();
+    EXPECT_FALSE(app->timers->Timer1.Enabled());
+}
+
+// Whatever is begun: the empty page of the one before is none of its own.
+TEST_F(StopResumeTest, AStartCountsItsBlankTicksAnew) {
+    Show(u"<p>Nobody</p>"_s);
+    for (const QString& start : {u"picScanStart_Click"_s, u"picRemoveFriends_Click"_s}) {
+        State().intBlankTicks = 30;
+        app->commands.Run(start);
+        EXPECT_EQ(State().intBlankTicks, 0) << start.toStdString();
+        app->stopResume->StopAll(u"TAG"_s);
+    }
+}
+
+TEST_F(StopResumeTest, AStopOutdatesWhateverWaits) {
+    const RunMark mark = app->waiting.Mark();
+    EXPECT_TRUE(app->waiting.IsCurrent(mark));
+    app->stopResume->StopAll(u"TAG"_s);
+    EXPECT_FALSE(app->waiting.IsCurrent(mark));
+    EXPECT_THROW(app->waiting.LeaveUnlessCurrent(mark), RunEnded);
+    // It is no error: the trap tells nobody, and nothing counts as failed.
+    EXPECT_EQ(app->diagnostics.Trap("Test", [&] { app->waiting.LeaveUnlessCurrent(mark); }), QString());
+    EXPECT_TRUE(dialogs.shownForms.isEmpty());
+}
+
+TEST_F(StopResumeTest, AStopLetsThePageMoveAndEndsNobodyElsesRefusal) {
+    std::optional<NavigationGuard> first(Browser());
+    app->stopResume->StopAll(u"TAG"_s);
+    EXPECT_FALSE(Browser().RefusesNavigations());
+    std::optional<NavigationGuard> second(Browser());
+    first.reset();
+    EXPECT_TRUE(Browser().RefusesNavigations());
+    std::optional<NavigationGuard> third(Browser());
+    second.reset();
+    EXPECT_TRUE(Browser().RefusesNavigations());
+    third.reset();
+    EXPECT_FALSE(Browser().RefusesNavigations());
 }
 
 } // namespace
