@@ -175,6 +175,17 @@ TEST_F(BrowserSoundsTest, TheSoundIsKeptAndComesBack) {
     EXPECT_EQ(Sound(), u"click.wav"_s);
 }
 
+// The click belongs to the whole desktop: it must not stay silent because the power went.
+TEST_F(BrowserSoundsTest, SilenceAndTheRestoredSoundAreMadeDurable) {
+    SetSound(u"click.wav"_s);
+    const int before = world.settings.syncs;
+    Click();
+    const int silenced = world.settings.syncs;
+    EXPECT_GT(silenced, before);
+    app->browserSounds->Restore();
+    EXPECT_GT(world.settings.syncs, silenced);
+}
+
 TEST_F(BrowserSoundsTest, TheEndPutsItBackOnlyWhenItWasTaken) {
     SetSound(u"click.wav"_s);
     Click();

@@ -88,11 +88,12 @@ TEST_F(GatherDriverTest, TheFirstSearchForTheNextPage) {
     EXPECT_EQ(found(u"/7/friends"_s, next), QString());
 }
 
-// What each kind of page is waited for, by its address; a wait that doesn't end is stopped after a minute.
+// What each kind of page is waited for, by its address; a wait that hasn't ended is stopped before its page
+// has stood so long that it would be taken as it is.
 TEST_F(GatherDriverTest, TheWaitForTheNextPage) {
     app->state.blnLoggingEnabled = true;
     int turn = 0;
-    auto waits = [&](const QString& path, const QString& body) {
+    auto waits = [&](const QString& path, const QString& body, int stopSeconds = 15) {
         const QString next = u"http://www.example.com"_s + path;
         Show(next + u"?start="_s + QString::number(++turn), u"<p>Start</p>"_s);
         world.web.SetPage(next, u"<html><body>"_s + body + u"</body></html>"_s);
@@ -102,7 +103,7 @@ TEST_F(GatherDriverTest, TheWaitForTheNextPage) {
             if (const auto match = word.match(line); match.hasMatch())
                 words.append(match.captured(1));
         };
-        const qint64 limitMs = platform->Pump().NowMs() + 60 * 1000;
+        const qint64 limitMs = platform->Pump().NowMs() + stopSeconds * qint64(1000);
         platform->Pump().onPump = [&] {
             if (platform->Pump().NowMs() > limitMs)
                 app->state.CurrentAction.clear();
@@ -120,6 +121,7 @@ TEST_F(GatherDriverTest, TheWaitForTheNextPage) {
     for (const QString& path : {u"/7/friends/2"_s, u"/friends/browse/2"_s}) {
         EXPECT_EQ(waits(path, ofFriends), u"1.1,1.2, - END"_s);
         EXPECT_EQ(waits(path, ofSearch), u"1.1,1.2"_s);
+        EXPECT_EQ(waits(path, ofSearch, 30), u"1.1,1.2, - END"_s);
     }
     for (const QString& path : {u"/browse/people"_s, u"/browse/search/"_s})
         EXPECT_EQ(waits(path, {}), u"2.1, - END"_s);
@@ -128,6 +130,7 @@ TEST_F(GatherDriverTest, TheWaitForTheNextPage) {
         EXPECT_EQ(waits(path, ofFriends), u"1.1,1.2"_s);
     }
     EXPECT_EQ(waits(u"/music/charts/5"_s, u"<i class=artist-12></i>"_s), QString());
+    EXPECT_EQ(waits(u"/music/charts/5"_s, u"<i class=artist-12></i>"_s, 30), u" - END"_s);
     EXPECT_EQ(waits(u"/music/charts/5"_s, u"<i class=artist-200></i>"_s), u" - END"_s);
     EXPECT_EQ(waits(u"/any"_s, {}), u"3.1,3, - END"_s);
 }
