@@ -84,11 +84,18 @@ void HintOnRows(QListView& list, QLabel& hint, std::function<bool()> isWanted) {
 
 QDialogButtonBox* NewButtonRow(std::initializer_list<QPushButton*> buttons) {
     auto* row = new QDialogButtonBox;
-    for (QPushButton* button : buttons) {
-        const bool leaves = button->objectName() == "cmdCancel"_L1 || button->objectName() == "cmdClose"_L1;
-        row->addButton(button, leaves ? QDialogButtonBox::RejectRole : QDialogButtonBox::AcceptRole);
+    auto leaves = [](const QPushButton* button) {
+        return button->objectName() == "cmdCancel"_L1 || button->objectName() == "cmdClose"_L1;
+    };
+    // In the order in which they stand, or Tab misses one that was put behind a later one.
+    for (QPushButton* button : buttons)
+        if (!leaves(button))
+            row->addButton(button, QDialogButtonBox::AcceptRole);
+    for (QPushButton* button : buttons)
+        if (leaves(button))
+            row->addButton(button, QDialogButtonBox::RejectRole);
+    for (QPushButton* button : buttons)
         button->setDefault(button == *buttons.begin());
-    }
     return row;
 }
 

@@ -29,12 +29,12 @@ QString Described(const QWidget& widget) {
 
 class AccessibilityTest : public WindowTest {
 protected:
-    // What can have the input focus now.
+    // What can have the input focus now, and doesn't hand it on.
     static QList<QWidget*> Focusable(QWidget& window) {
         QList<QWidget*> found;
         for (auto* widget : window.findChildren<QWidget*>())
-            if (widget->focusPolicy() != Qt::NoFocus && widget->isVisible() && widget->isEnabled() &&
-                widget->window() == &window)
+            if (widget->focusPolicy() != Qt::NoFocus && !widget->focusProxy() && widget->isVisible() &&
+                widget->isEnabled() && widget->window() == &window)
                 found.append(widget);
         return found;
     }
