@@ -114,6 +114,7 @@ public:
     virtual void Click(int node) = 0;
     virtual void Submit(int node) = 0;
     virtual void Focus(int node) = 0;
+    virtual void FireChange(int node) = 0;
     virtual void ScrollIntoView(int node) = 0;
     virtual void ScrollToEnd() = 0;
 };
@@ -164,6 +165,8 @@ public:
     void Click() const { Need().Click(m_node); }
     void Submit() const { Need().Submit(m_node); }
     void Focus() const { Need().Focus(m_node); }
+    // The page hears what it hears when a user has changed the element: "onchange".
+    void FireChange() const { Need().FireChange(m_node); }
     void ScrollIntoView() const { Need().ScrollIntoView(m_node); }
 
 private:

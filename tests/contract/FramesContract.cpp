@@ -48,6 +48,27 @@ TEST_F(FramesContract, ALinkMayLeadIntoAFrame) {
     EXPECT_EQ(seen.completed.size(), 1);
 }
 
+TEST_F(FramesContract, AFrameMayBringItsPageAlong) {
+    Show(u"<p>outside</p><iframe name=box srcdoc=\"<p id=deep>inside</p><a href='/x'>x</a>\"></iframe>"_s);
+    PumpFor(settleMs);
+    EXPECT_EQ(seen.completed, QStringList{At(u"page"_s)});
+    EXPECT_EQ(Text().trimmed(), u"outside"_s);
+    EXPECT_TRUE(browser.Document().Links().empty());
+    EXPECT_TRUE(ById(u"deep"_s).IsNull());
+}
+
+TEST_F(FramesContract, AFormMayBeSentIntoAFrame) {
+    ServeBody(u"sent"_s, u"taken"_s);
+    Show(u"<p>outside</p><form id=f method=post action='/sent' target=box><input name=word value=7></form>"
+         "<iframe name=box srcdoc='before'></iframe>"_s);
+    ById(u"f"_s).Submit();
+    ASSERT_TRUE(WaitUntil([this] { return seen.frames.contains(At(u"sent"_s)); }));
+    EXPECT_EQ(browser.LocationURL(), At(u"page"_s));
+    EXPECT_EQ(seen.completed.size(), 1);
+    EXPECT_EQ(world->Requests().back().body, "word=7");
+    EXPECT_TRUE(Text().contains(u"outside"_s));
+}
+
 TEST_F(FramesContract, AnEmbeddedLoadIsNoLinkOfTheUsers) {
     ServeBody(u"frame"_s, u"inside"_s);
     Show(u"<iframe src='/frame'></iframe>"_s);

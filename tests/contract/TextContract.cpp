@@ -104,6 +104,71 @@ TEST_F(TextContract, ElementsReadAsTheyShow) {
         EXPECT_EQ(CaseElement(i).InnerText(), cases[i].expected) << cases[i].html.toStdString();
 }
 
+TEST_F(TextContract, WhatAStyleElementSaysCounts) {
+    const std::vector<Case> cases{
+        {u"a<span class=h>x</span>b"_s, u"ab"_s},
+        {u"a<span class='other h'>x</span>b"_s, u"ab"_s},
+        {u"a<span id=gone>x</span>b"_s, u"ab"_s},
+        {u"a<u>x</u>b"_s, u"ab"_s},
+        {u"a<u class=s>x</u>b"_s, u"axb"_s},
+        {u"a<u style='display:inline'>x</u>b"_s, u"axb"_s},
+        {u"a<i class=strong style='display:inline'>x</i>b"_s, u"ab"_s},
+        {u"a<span class=out><b><i class=in>x</i></b></span><i class=in>y</i>"_s, u"ay"_s},
+        {u"a<span class=line>b</span>c"_s, u"a\nb\nc"_s},
+        {u"<span class=up>aB <b>c</b></span>d"_s, u"AB Cd"_s},
+        {u"<span class=low>aB</span>C"_s, u"abC"_s},
+        {u"<span class=cap>more people <b>dot</b>ty</span>"_s, u"More People Dotty"_s},
+        {u"<span class=up>a<b class=own>b</b></span>"_s, u"Ab"_s},
+        {u"<span class=unseen>x<b class=seen>y</b></span>"_s, u"y"_s},
+        {u"<span class=kept>a  b</span>"_s, u"a  b"_s},
+        {u"a<span class=printed>x</span>b"_s, u"axb"_s},
+    };
+    QString body = u"<style>/* .x{} */ .h, #gone { display: none } u{display:none} u.s{display:inline}"
+                   ".strong{display:none !important} .out .in{display:none} .line{display:block}"
+                   "@media print { .printed { display: none } }"
+                   ".up{text-transform:uppercase}.low{text-transform:lowercase}"
+                   ".cap{text-transform:capitalize}.own{text-transform:none}"
+                   ".unseen{visibility:hidden}.seen{visibility:visible}.kept{white-space:pre}</style>"_s;
+    for (size_t i = 0; i < cases.size(); ++i)
+        body += u"<div id=case%1>%2</div>"_s.arg(QString::number(i), cases[i].html);
+    Show(body);
+    for (size_t i = 0; i < cases.size(); ++i)
+        EXPECT_EQ(CaseElement(i).InnerText(), cases[i].expected) << cases[i].html.toStdString();
+}
+
+TEST_F(TextContract, AStyleCountsForTheTextOfWhatStandsInside) {
+    Show(u"<style>.up{text-transform:uppercase}.cap{text-transform:capitalize}</style>"
+         "<div class=up>aB <b id=upper>c <i id=deep style='text-transform:none'>d</i></b></div>"
+         "<div id=block class=cap>more people <b id=name>dot</b></div><pre><b id=pre>a  b</b></pre>"
+         "<div style='visibility:hidden'><b id=unseen>x</b></div>"_s);
+    EXPECT_EQ(ById(u"upper"_s).InnerText(), u"C d"_s);
+    EXPECT_EQ(ById(u"deep"_s).InnerText(), u"d"_s);
+    EXPECT_EQ(ById(u"block"_s).InnerText(), u"More People Dot"_s);
+    EXPECT_EQ(ById(u"name"_s).InnerText(), u"Dot"_s);
+    EXPECT_EQ(ById(u"pre"_s).InnerText(), u"a  b"_s);
+    EXPECT_EQ(ById(u"unseen"_s).InnerText(), QString());
+}
+
+// Scripts run, so that what stands there is text and no markup.
+TEST_F(TextContract, WhatStandsInANoScriptIsNoMarkup) {
+    Serve(u"page"_s, u"<html><head><noscript><a href=/head>x</a></noscript><title>t</title></head><body>"
+                     "<!-- <noscript> --><p id=p>a<noscript id=n><a href=/body>x</a></noscript>b"
+                     "<script>var s = '<noscript>';</script></p><a href=/after>y</a></body></html>"_s);
+    const Document document = Go(u"page"_s);
+    ASSERT_EQ(document.Links().size(), 1u);
+    EXPECT_EQ(document.Links()[0].Href(), At(u"after"_s));
+    EXPECT_EQ(ById(u"p"_s).InnerText(), u"ab"_s);
+    EXPECT_EQ(ById(u"n"_s).TagName(), u"noscript"_s);
+    EXPECT_EQ(ById(u"n"_s).OuterHTML(), u"<noscript id=\"n\"><a href=/body>x</a></noscript>"_s);
+}
+
+TEST_F(TextContract, ALinkInADrawingIsNoneOfThePages) {
+    const Document document = Show(u"<svg><a id=s href=/svg><text>x</text></a></svg><a href=/a>a</a>"_s);
+    ASSERT_EQ(document.Links().size(), 1u);
+    EXPECT_EQ(document.Links()[0].Href(), At(u"a"_s));
+    EXPECT_EQ(document.GetElementsByTagName(u"a"_s).size(), 2u);
+}
+
 TEST_F(TextContract, WhatIsHiddenReadsAsItsPlainText) {
     Show(u"<div style='display:none'> a <p id=p>b</p></div><div id=d hidden>c <b>d</b></div>"
          "<script id=s>var a = '<b>';</script><select><option id=o> one </option></select>"_s);
@@ -150,6 +215,26 @@ TEST_F(TextContract, AddressesResolveAgainstThePage) {
         {u"/caf\u00e9"_s, At(u"caf%C3%A9"_s)},
         {u"mailto:a@b"_s, u"mailto:a@b"_s},
         {u"javascript:f('x')"_s, u"javascript:f('x')"_s},
+        {u"/x?a\n&b=1"_s, At(u"x?a&b=1"_s)},
+        {u"\t/x\ty"_s, At(u"xy"_s)},
+        {u"http:\\\\site.example.com\\x\\y?a\\b"_s, At(u"x/y?a\\b"_s)},
+        {u"http://site.example.com:80/x"_s, At(u"x"_s)},
+        {u"http://site.example.com:8080/x"_s, u"http://site.example.com:8080/x"_s},
+        {u"https://site.example.com:443/x"_s, u"https://site.example.com/x"_s},
+        {u"http:x"_s, At(u"a/b/x"_s)},
+        {u"http:/x"_s, At(u"x"_s)},
+        {u"https:x.example.com/y"_s, u"https://x.example.com/y"_s},
+        {u"HTTP:///site.example.com/x"_s, At(u"x"_s)},
+        {u"http://SITE%2Eexample.com/x"_s, At(u"x"_s)},
+        {u"http://site.example.com./x"_s, u"http://site.example.com./x"_s},
+        {u"http://u:p@site.example.com/x"_s, u"http://u:p@site.example.com/x"_s},
+        {u"ftp://site.example.com/x"_s, u"ftp://site.example.com/x"_s},
+        {u"/%39/%2e%2E/x"_s, At(u"x"_s)},
+        {u"//site.example.com//x"_s, At(u"/x"_s)},
+        {u"/%39012%41%7e%5f%2d%2e%21%28%2f%3a"_s, At(u"9012A~_-.%21%28%2f%3a"_s)},
+        {u"/x?a='b'&c=<d>"_s, At(u"x?a=%27b%27&c=%3Cd%3E"_s)},
+        {u"/x{y}?{z}#{w}`"_s, At(u"x%7By%7D?{z}#{w}%60"_s)},
+        {u"http://host.example.com?x"_s, u"http://host.example.com/?x"_s},
     };
     QString body;
     for (size_t i = 0; i < cases.size(); ++i)

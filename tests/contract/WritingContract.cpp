@@ -81,6 +81,17 @@ TEST_F(WritingContract, FocusMovesTheActiveElement) {
     EXPECT_EQ(browser.Document().ActiveElement().Href(), At(u"x"_s));
 }
 
+TEST_F(WritingContract, APageHearsThatAFieldWasChangedWhenItIsFired) {
+    Show(u"<select id=who onchange=\"document.getElementById('out').innerText='changed'\""
+         " data-on-change='set #out innertext changed'><option value=0>All<option value=1>Just Me</select>"
+         "<p id=out>not yet</p>"_s);
+    ById(u"who"_s).SetValue(u"1"_s);
+    EXPECT_EQ(ById(u"out"_s).InnerText(), u"not yet"_s);
+    ById(u"who"_s).FireChange();
+    EXPECT_TRUE(WaitForText(u"changed"_s));
+    EXPECT_EQ(ById(u"who"_s).Value(), u"1"_s);
+}
+
 TEST_F(WritingContract, ScrollingLeavesThePageAsItIs) {
     Show(u"<div style='height: 3000px'>tall</div><p id=low>low</p>"_s);
     ById(u"low"_s).ScrollIntoView();

@@ -121,6 +121,10 @@ void BlankDocument::Focus(int) {
     Check();
 }
 
+void BlankDocument::FireChange(int) {
+    Check();
+}
+
 void BlankDocument::ScrollIntoView(int) {
     Check();
 }

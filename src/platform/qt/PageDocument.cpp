@@ -391,6 +391,10 @@ void PageDocument::Focus(int node) {
     Act(u"focus"_s, {node});
 }
 
+void PageDocument::FireChange(int node) {
+    Act(u"fireChange"_s, {node});
+}
+
 void PageDocument::ScrollIntoView(int node) {
     Act(u"scrollIntoView"_s, {node});
 }

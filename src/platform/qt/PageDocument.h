@@ -52,6 +52,7 @@ public:
     void Click(int node) override;
     void Submit(int node) override;
     void Focus(int node) override;
+    void FireChange(int node) override;
     void ScrollIntoView(int node) override;
     void ScrollToEnd() override;
 

@@ -73,23 +73,11 @@ void SimBrowser::ClickControl(int node) {
     }
 }
 
-bool SimBrowser::IsFrameName(const QString& name) const {
-    const SimTree& tree = m_document->Tree();
-    bool found = false;
-    tree.Walk(tree.Root(), [&](int element) {
-        const SimNode& node = tree.At(element);
-        found =
-            found || ((node.Is(u"iframe") || node.Is(u"frame")) && tree.Attribute(element, u"name") == name);
-        return !found;
-    });
-    return found;
-}
-
 void SimBrowser::OpenElsewhere(const QString& url, const QString& target) {
     if (IsFrameName(target)) {
         SimRequest request;
         request.url = url;
-        return LoadFrame(request, false);
+        return LoadFrame(request, target, false);
     }
     Post([this, url] {
         const auto ask = events.newWindow2;
@@ -150,8 +138,8 @@ void SimBrowser::SendForm(int form, int pressed) {
     }
     question.url = load.request.url;
     const QString target = tree.Attribute(form, u"target");
-    if (IsFrameName(target) && !target.isEmpty())
-        return LoadFrame(load.request, false);
+    if (IsFrameName(target))
+        return LoadFrame(load.request, target, false);
     if (!IsOwnWindow(target))
         return OpenElsewhere(load.request.url, target);
     Tell(question);
@@ -164,6 +152,14 @@ void SimBrowser::ScriptWritten(int script) {
 
 void SimBrowser::ScrolledToEnd() {
     RunAllWith(u"data-on-scroll"_s);
+}
+
+void SimBrowser::ValueWritten(int node) {
+    RunStandIns(Tree().Attribute(node, u"data-on-input"));
+}
+
+void SimBrowser::ChangeFired(int node) {
+    RunStandIns(Tree().Attribute(node, u"data-on-change"));
 }
 
 void SimBrowser::RunAllWith(const QString& attribute) {
@@ -226,6 +222,8 @@ void SimBrowser::CarryOut(const StandIn& act) {
         tree.RemoveAttribute(node, u"hidden");
         if (StyleValue(tree.Attribute(node, u"style"), u"display") == u"none")
             tree.SetAttribute(node, u"style"_s, {});
+        if (tree.Style(node, u"display"_s) == u"none")
+            tree.SetAttribute(node, u"style"_s, u"display: initial;"_s);
         break;
     case StandIn::Verb::Hide:
         tree.SetAttribute(node, u"style"_s, u"display: none;"_s);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sim/SimAddress.h"
 
+#include <QRegularExpression>
 #include <QStringList>
+#include <QUrl>
 #include <cctype>
 
 namespace qlm {
@@ -11,7 +13,14 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 bool IsWebScheme(const QString& scheme) {
-    return scheme == u"http" || scheme == u"https" || scheme == u"file";
+    return scheme == u"http" || scheme == u"https" || scheme == u"ftp" || scheme == u"file";
+}
+
+QString DefaultPort(const QString& scheme) {
+    return scheme == u"http"    ? u":80"_s
+           : scheme == u"https" ? u":443"_s
+           : scheme == u"ftp"   ? u":21"_s
+                                : u""_s;
 }
 
 qsizetype EndOfHost(const QString& address, qsizetype start) {
@@ -28,17 +37,60 @@ qsizetype EndOfPath(const QString& reference) {
     return reference.size();
 }
 
-QString Encoded(const QString& text) {
+// Blanks around it don't count, nor do line ends and tabs anywhere; a path may be written with "\\".
+QString Tidied(const QString& address) {
+    qsizetype begin = 0;
+    qsizetype end = address.size();
+    while (begin < end && address[begin] <= u' ')
+        ++begin;
+    while (end > begin && address[end - 1] <= u' ')
+        --end;
+    QString text = address.mid(begin, end - begin);
+    text.remove(u'\t').remove(u'\n').remove(u'\r');
+    const QString scheme = SchemeOf(text);
+    if (!scheme.isEmpty() && !IsWebScheme(scheme))
+        return text;
+    const qsizetype pathEnd = EndOfPath(text);
+    return text.left(pathEnd).replace(u'\\', u'/') + text.mid(pathEnd);
+}
+
+QString Encoded(const QString& text, QByteArrayView also) {
     QString encoded;
     encoded.reserve(text.size());
     for (const char byte : text.toUtf8()) {
         const auto code = static_cast<unsigned char>(byte);
-        if (code <= 0x20 || code >= 0x7f || byte == '"' || byte == '<' || byte == '>')
+        if (code <= 0x20 || code >= 0x7f || also.contains(byte))
             encoded += u'%' + QString::number(code, 16).rightJustified(2, u'0').toUpper();
         else
             encoded += QLatin1Char(byte);
     }
     return encoded;
+}
+
+// In a path a letter, a digit and some signs may be written encoded; the browser shows them as they are.
+QString WithPlainSigns(const QString& path) {
+    static const QRegularExpression encoded(u"%([46][1-9a-f]|[57][0-9a]|3[0-9]|2[de]|5f|7e)"_s,
+                                            QRegularExpression::CaseInsensitiveOption);
+    QString plain;
+    qsizetype at = 0;
+    for (auto found = encoded.globalMatch(path); found.hasNext();) {
+        const QRegularExpressionMatch sign = found.next();
+        plain += path.mid(at, sign.capturedStart() - at) + QChar(sign.captured(1).toInt(nullptr, 16));
+        at = sign.capturedEnd();
+    }
+    return plain + path.mid(at);
+}
+
+QString EncodedFragment(const QString& fragment) {
+    return Encoded(fragment, "\"<>`");
+}
+
+// A query with what follows it.
+QString EncodedQuery(const QString& rest) {
+    const qsizetype hash = rest.indexOf(u'#');
+    if (hash < 0)
+        return Encoded(rest, "\"<>'");
+    return Encoded(rest.left(hash), "\"<>'") + EncodedFragment(rest.mid(hash));
 }
 
 QString WithoutDotParts(const QString& path) {
@@ -59,6 +111,34 @@ QString WithoutDotParts(const QString& path) {
     return u'/' + parts.join(u'/');
 }
 
+// What stands behind the host: path, query, fragment.
+QString WrittenRest(const QString& rest) {
+    const qsizetype pathEnd = EndOfPath(rest);
+    const QString path = WithPlainSigns(rest.left(pathEnd));
+    return Encoded(WithoutDotParts(path.startsWith(u'/') ? path : u'/' + path), "\"<>`{}") +
+           EncodedQuery(rest.mid(pathEnd));
+}
+
+QString WrittenHost(const QString& scheme, const QString& authority) {
+    const qsizetype at = authority.lastIndexOf(u'@');
+    QString host = QUrl::fromPercentEncoding(authority.mid(at + 1).toUtf8()).toLower();
+    if (const QString port = DefaultPort(scheme); !port.isEmpty() && host.endsWith(port))
+        host.chop(port.size());
+    return authority.left(at + 1) + host;
+}
+
+// "scheme:" is followed by as many slashes as anybody likes; a file has no host.
+QString WrittenAddress(const QString& scheme, const QString& behindColon) {
+    if (scheme == u"file")
+        return u"file://"_s + WrittenRest(behindColon.startsWith(u"//") ? behindColon.mid(2) : behindColon);
+    qsizetype start = 0;
+    while (start < behindColon.size() && behindColon[start] == u'/')
+        ++start;
+    const qsizetype end = EndOfHost(behindColon, start);
+    return scheme + u"://"_s + WrittenHost(scheme, behindColon.mid(start, end - start)) +
+           WrittenRest(behindColon.mid(end));
+}
+
 } // namespace
 
 QString SchemeOf(const QString& address) {
@@ -75,23 +155,16 @@ QString SchemeOf(const QString& address) {
 }
 
 QString CanonicalAddress(const QString& address) {
-    QString text = address.trimmed();
+    const QString text = Tidied(address);
     const QString scheme = SchemeOf(text);
+    const QString behindColon = text.mid(scheme.size() + 1);
     // "host:8080/page" is a host with a port and no scheme.
-    const bool isPort = text.size() > scheme.size() + 1 && text[scheme.size() + 1].isDigit();
+    const bool isPort = !behindColon.isEmpty() && behindColon[0].isDigit();
     if (scheme.isEmpty() || isPort)
-        return text.isEmpty() ? text : CanonicalAddress(u"http://"_s + text);
+        return text.isEmpty() ? text : WrittenAddress(u"http"_s, text);
     if (scheme == u"about")
         return text.toLower();
-    if (!IsWebScheme(scheme) || !text.mid(scheme.size()).startsWith(u"://"))
-        return text;
-    const qsizetype hostStart = scheme.size() + 3;
-    const qsizetype hostEnd = EndOfHost(text, hostStart);
-    const QString host = text.mid(hostStart, hostEnd - hostStart).toLower();
-    QString rest = text.mid(hostEnd);
-    if (!rest.startsWith(u'/'))
-        rest.prepend(u'/');
-    return scheme + u"://"_s + host + Encoded(rest);
+    return IsWebScheme(scheme) ? WrittenAddress(scheme, behindColon) : text;
 }
 
 QString WithoutFragment(const QString& address) {
@@ -119,26 +192,33 @@ QString FileNameOf(const QString& address) {
 }
 
 QString ResolveAddress(const QString& base, const QString& reference) {
-    const QString text = reference.trimmed();
-    if (!SchemeOf(text).isEmpty())
-        return CanonicalAddress(text);
+    QString text = Tidied(reference);
     const QString page = WithoutFragment(base);
     const qsizetype hostStart = page.indexOf(u"://");
+    const QString ownScheme = hostStart < 0 ? QString() : SchemeOf(page);
+    if (const QString scheme = SchemeOf(text); !scheme.isEmpty()) {
+        const QString behindColon = text.mid(scheme.size() + 1);
+        if (!IsWebScheme(scheme))
+            return text;
+        // "http:page" is relative on a page of the same scheme.
+        if (scheme != ownScheme || behindColon.startsWith(u"//"))
+            return WrittenAddress(scheme, behindColon);
+        text = behindColon;
+    }
     if (hostStart < 0)
         return text.isEmpty() ? page : text;
     if (text.startsWith(u"//"))
-        return CanonicalAddress(SchemeOf(page) + u':' + text);
+        return WrittenAddress(ownScheme, text);
     if (text.isEmpty())
         return page;
     if (text.startsWith(u'#'))
-        return page + Encoded(text);
+        return page + EncodedFragment(text);
     const QString site = page.left(EndOfHost(page, hostStart + 3));
     const QString path = PathOf(page);
     if (text.startsWith(u'?'))
-        return CanonicalAddress(site + path + text);
-    const qsizetype pathEnd = EndOfPath(text);
+        return site + path + EncodedQuery(text);
     const QString folder = text.startsWith(u'/') ? QString() : path.section(u'/', 0, -2) + u'/';
-    return CanonicalAddress(site + WithoutDotParts(folder + text.left(pathEnd)) + text.mid(pathEnd));
+    return site + WrittenRest(folder + text);
 }
 
 QString EncodeFormText(const QString& text) {

@@ -12,6 +12,7 @@ SimBrowser::SimBrowser(SimWeb& web, SimPump& pump) : m_web(web), m_pump(pump) {}
 SimBrowser::~SimBrowser() {
     if (m_document)
         m_document->Retire();
+    DropFrames();
 }
 
 quint64 SimBrowser::PostLater(int delayMs, std::function<void()> event) {

@@ -55,6 +55,8 @@ public:
     const std::vector<Posted>& PostedForms() const { return m_posted; }
     // Windows that opened of their own, and scripts that "javascript:" addresses ran.
     QStringList windows;
+    // The document in the frame of that name; null while there is none.
+    qlm::Document FrameDocument(const QString& name);
     QStringList scripts;
     // Whether the page's own menu came up at the last right-click; unset until the program was asked.
     std::optional<bool> contextMenuShown;
@@ -81,26 +83,34 @@ private:
     void Arrive(const Load& load, const SimWeb::Arrival& arrival);
     void Commit(const std::shared_ptr<SimDocument>& document, const Load& load);
     void AnnounceArrival();
-    void BeginEmbedded();
-    void AskForEmbedded(const QString& url, const QString& frame, bool isFrame);
-    void LoadFrame(const SimRequest& request, bool holdsPage);
     void CompleteWhenFramesAre();
     void Complete();
     void StartPageClock(const std::vector<SimAnswer::Swap>& swaps);
     void Reload(int historyIndex);
     bool IsMoveInPage(const QString& url) const;
 
+    // SimFrames.cpp: the frames of a page.
+    void BeginEmbedded();
+    void ShowEmbeddedText(const QString& name, const QString& html);
+    void AskForEmbedded(const QString& url, const QString& frame, bool isFrame);
+    void LoadFrame(const SimRequest& request, const QString& name, bool holdsPage);
+    void ShowInFrame(const QString& name, const QString& html, const QString& url);
+    void FrameCompletes(const QString& url, bool holdsPage);
+    void DropFrames();
+    bool IsFrameName(const QString& name) const;
+
     // SimActs.cpp: what clicks, forms and stand-ins do.
     void ElementClicked(int node) override;
     void FormSubmitted(int form) override;
     void ScriptWritten(int script) override;
     void ScrolledToEnd() override;
+    void ValueWritten(int node) override;
+    void ChangeFired(int node) override;
     void Touched() override { m_pump.Queue().EndTurn(); }
     void ClickControl(int node);
     void FollowAddress(const QString& url, const QString& target);
     void SendForm(int form, int pressed);
     void OpenElsewhere(const QString& url, const QString& target);
-    bool IsFrameName(const QString& name) const;
     void RunScript(const QString& script);
     void RunStandIns(const QString& text);
     void CarryOut(const StandIn& act);
@@ -112,7 +122,19 @@ private:
     SimPump& m_pump;
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 
+    // Nobody clicks in a frame: neither the program nor a scenario has a way into one.
+    class FrameHost : public SimDocumentHost {
+        void ElementClicked(int) override {}
+        void FormSubmitted(int) override {}
+        void ScrolledToEnd() override {}
+        void ValueWritten(int) override {}
+        void ChangeFired(int) override {}
+        void Touched() override {}
+    };
+
     std::shared_ptr<SimDocument> m_document;
+    FrameHost m_frameHost;
+    std::map<QString, std::shared_ptr<SimDocument>> m_frames;
     QString m_location;
     bool m_isComplete = false;
 

@@ -6,6 +6,8 @@
 
 namespace qlm {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 struct TagDisplay {
@@ -100,11 +102,11 @@ Display DisplayOf(const SimTree& tree, int number) {
     const SimNode& node = tree.At(number);
     const auto row = std::ranges::lower_bound(tagDisplays, QStringView(node.tag), {}, &TagDisplay::tag);
     const Display own = row != tagDisplays.end() && row->tag == node.tag ? row->display : Display::Inline;
-    if (own == Display::None || node.attributes.empty())
+    if (own == Display::None || (node.attributes.empty() && tree.Styles().IsEmpty()))
         return own;
     if (tree.HasAttribute(number, u"hidden"))
         return Display::None;
-    const QString style = StyleValue(tree.Attribute(number, u"style"), u"display");
+    const QString style = tree.Style(number, u"display"_s);
     if (style == u"none")
         return Display::None;
     if (style == u"block" && own == Display::Inline)

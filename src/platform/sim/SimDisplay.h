@@ -8,7 +8,7 @@ namespace qlm {
 // How an element takes its place among the text around it.
 enum class Display { None, Inline, Block, Row, Cell, Replaced, Break };
 
-// By its tag, the hidden attribute and its inline style; style sheets are not looked at.
+// By its tag, the hidden attribute, its own style and the page's style elements.
 Display DisplayOf(const SimTree& tree, int node);
 
 // Neither the element nor an ancestor is hidden, and it is of a kind that shows.

@@ -130,7 +130,8 @@ std::vector<int> SimDocument::Gather(ElementSet set, const QString& argument) co
     std::vector<int> found;
     m_tree.Walk(m_tree.Root(), [&](int element) {
         const SimNode& node = m_tree.At(element);
-        const bool isLink = (node.Is(u"a") || node.Is(u"area")) && m_tree.HasAttribute(element, u"href");
+        const bool isLink =
+            (node.Is(u"a") || node.Is(u"area")) && !node.isForeign && m_tree.HasAttribute(element, u"href");
         if (set == ElementSet::Links ? isLink
                                      : m_tree.Attribute(element, u"name") == argument && !argument.isEmpty())
             found.push_back(element);
@@ -240,12 +241,12 @@ std::vector<int> SimDocument::Descendants(int node, const QString& tag) {
 void SimDocument::SetInnerText(int node, const QString& text) {
     SimDocumentHost& host = Present();
     if (HoldsValue(m_tree.At(node)))
-        SetValueOf(m_tree, node, text);
-    else
-        m_tree.SetText(node, text);
+        return SetValue(node, text);
+    m_tree.SetText(node, text);
     host.Touched();
     if (m_tree.At(node).Is(u"script"))
         host.ScriptWritten(node);
+    host.ValueWritten(node);
 }
 
 void SimDocument::SetInnerHTML(int node, const QString& html) {
@@ -258,6 +259,7 @@ void SimDocument::SetValue(int node, const QString& value) {
     SimDocumentHost& host = Present();
     SetValueOf(m_tree, node, value);
     host.Touched();
+    host.ValueWritten(node);
 }
 
 void SimDocument::SetAttribute(int node, const QString& name, const QString& value) {
@@ -286,6 +288,12 @@ void SimDocument::Focus(int node) {
     if (CanHaveFocus(m_tree, node))
         m_focus = node;
     host.Touched();
+}
+
+void SimDocument::FireChange(int node) {
+    SimDocumentHost& host = Present();
+    host.Touched();
+    host.ChangeFired(node);
 }
 
 void SimDocument::ScrollIntoView(int node) {

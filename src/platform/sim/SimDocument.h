@@ -17,6 +17,9 @@ public:
     virtual void FormSubmitted(int form) = 0;
     virtual void ScriptWritten(int script) = 0;
     virtual void ScrolledToEnd() = 0;
+    // A value was written to the element, by the program or the user.
+    virtual void ValueWritten(int node) = 0;
+    virtual void ChangeFired(int node) = 0;
     // Something was written or clicked: the turn is over.
     virtual void Touched() = 0;
 };
@@ -56,6 +59,7 @@ public:
     void Click(int node) override;
     void Submit(int node) override;
     void Focus(int node) override;
+    void FireChange(int node) override;
     void ScrollIntoView(int node) override;
     void ScrollToEnd() override;
 

@@ -109,8 +109,7 @@ void SimBrowser::Start(const Load& load) {
 
 void SimBrowser::Arrive(const Load& load, const SimWeb::Arrival& arrival) {
     const SimAnswer& answer = arrival.answer;
-    const bool hasFailed = answer.fault == SimFault::Reset || (answer.status >= 400 && answer.html.isEmpty());
-    const QString html = hasFailed ? ErrorPageHTML(arrival.url) : answer.html;
+    const QString html = answer.HasFailed() ? ErrorPageHTML(arrival.url) : answer.html;
     const std::shared_ptr<SimDocument> document = NewDocument(html, arrival.url);
     if (answer.fault == SimFault::NoBody)
         document->Tree().DropBody();
@@ -136,6 +135,7 @@ void SimBrowser::Commit(const std::shared_ptr<SimDocument>& document, const Load
     Touched();
     if (m_document)
         m_document->Retire();
+    DropFrames();
     m_document = document;
     m_location = load.request.url;
     const bool isSamePage =
@@ -152,67 +152,6 @@ void SimBrowser::AnnounceArrival() {
         events.navigateComplete2(m_location);
     if (events.titleChange && m_document)
         events.titleChange(m_document->Title());
-}
-
-// Frames load on their own and hold the page's completion; other embedded parts only ask.
-void SimBrowser::BeginEmbedded() {
-    Tree().Walk(Tree().Root(), [this](int element) {
-        const SimNode& node = Tree().At(element);
-        const bool isFrame = node.Is(u"iframe") || node.Is(u"frame");
-        if (!isFrame && !node.Is(u"embed") && !node.Is(u"object"))
-            return true;
-        const QString source = Tree().Attribute(element, node.Is(u"object") ? u"data" : u"src");
-        const QString url = ResolveAddress(m_document->BaseURL(), source);
-        if (!source.isEmpty() && SchemeOf(url).startsWith(u"http")) {
-            m_framesLeft += isFrame;
-            AskForEmbedded(url, Tree().Attribute(element, u"name"), isFrame);
-        }
-        return true;
-    });
-}
-
-void SimBrowser::AskForEmbedded(const QString& url, const QString& frame, bool isFrame) {
-    NavigationRequest question;
-    question.url = url;
-    question.headers = u"Referer: "_s + (isFrame ? m_location : url) + u"\r\n"_s;
-    question.targetFrameName = frame;
-    question.topLevel = false;
-    Post([this, question, isFrame, round = m_loadRound] {
-        if (round != m_loadRound)
-            return;
-        const auto ask = events.beforeNavigate2;
-        const bool isCancelled = ask && ask(question);
-        if (round != m_loadRound || !isFrame)
-            return;
-        if (isCancelled) {
-            --m_framesLeft;
-            return CompleteWhenFramesAre();
-        }
-        SimRequest request;
-        request.url = question.url;
-        LoadFrame(request, true);
-    });
-}
-
-void SimBrowser::LoadFrame(const SimRequest& request, bool holdsPage) {
-    SimRequest asked = request;
-    asked.topLevel = false;
-    asked.referrer = m_location;
-    const SimWeb::Arrival arrival = m_web.Fetch(asked);
-    if (arrival.answer.fault == SimFault::Hang) {
-        m_neverEnds = m_neverEnds || holdsPage;
-        return;
-    }
-    PostLater(arrival.latencyMs, [this, arrival, holdsPage, document = m_document, round = m_loadRound] {
-        if (document != m_document)
-            return;
-        if (events.documentComplete)
-            events.documentComplete(false, arrival.url);
-        if (!holdsPage || round != m_loadRound)
-            return;
-        --m_framesLeft;
-        CompleteWhenFramesAre();
-    });
 }
 
 void SimBrowser::CompleteWhenFramesAre() {

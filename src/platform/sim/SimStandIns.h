@@ -19,6 +19,8 @@ namespace qlm {
 //
 // Where the attributes stand:
 //   data-on-click    on what is clicked; on a link or a button in place of what the click does otherwise
+//   data-on-change   on a field: carried out when its "onchange" is fired
+//   data-on-input    carried out when a value or a text was written to the element
 //   data-on-load     carried out once the page is complete
 //   data-on-scroll   carried out when the window was scrolled to its end
 //   data-on-write    on a script: carried out when its text is written, as it is run again then

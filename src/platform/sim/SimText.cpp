@@ -34,6 +34,15 @@ public:
 
     QString Take() const { return m_text; }
 
+    // What the element and those around it say of the text inside.
+    void BeginIn(int number) {
+        if (!m_tree.At(number).IsElement())
+            return;
+        BeginIn(m_tree.At(number).parent);
+        m_keepWhiteSpace = m_keepWhiteSpace || KeepsWhiteSpace(m_tree.At(number));
+        TakeStyle(number);
+    }
+
     void Collect(int number) {
         const SimNode& node = m_tree.At(number);
         if (node.kind == SimNode::Kind::Text)
@@ -65,18 +74,45 @@ private:
         const bool keptBefore = m_keepWhiteSpace;
         const bool hiddenBefore = m_isInvisible;
         m_keepWhiteSpace = m_keepWhiteSpace || KeepsWhiteSpace(node);
-        if (!node.attributes.empty()) {
-            const QString style = m_tree.Attribute(number, u"style");
-            const QString visibility = StyleValue(style, u"visibility");
-            if (!visibility.isEmpty())
-                m_isInvisible = visibility != u"visible";
-            const QString whiteSpace = StyleValue(style, u"white-space");
-            if (!whiteSpace.isEmpty())
-                m_keepWhiteSpace = whiteSpace.startsWith(u"pre");
-        }
+        const LetterCase caseBefore = m_letterCase;
+        if (!node.attributes.empty() || !m_tree.Styles().IsEmpty())
+            TakeStyle(number);
         Children(number);
         m_keepWhiteSpace = keptBefore;
         m_isInvisible = hiddenBefore;
+        m_letterCase = caseBefore;
+    }
+
+    void TakeStyle(int number) {
+        const QString visibility = m_tree.Style(number, u"visibility"_s);
+        if (!visibility.isEmpty())
+            m_isInvisible = visibility != u"visible";
+        const QString whiteSpace = m_tree.Style(number, u"white-space"_s);
+        if (!whiteSpace.isEmpty())
+            m_keepWhiteSpace = whiteSpace.startsWith(u"pre");
+        const QString letterCase = m_tree.Style(number, u"text-transform"_s);
+        if (!letterCase.isEmpty())
+            m_letterCase = letterCase == u"uppercase"    ? LetterCase::Upper
+                           : letterCase == u"lowercase"  ? LetterCase::Lower
+                           : letterCase == u"capitalize" ? LetterCase::Capitals
+                                                         : LetterCase::Own;
+    }
+
+    QString InCase(const QString& text) const {
+        if (m_letterCase == LetterCase::Upper)
+            return text.toUpper();
+        if (m_letterCase == LetterCase::Lower)
+            return text.toLower();
+        QString written = text;
+        if (m_letterCase == LetterCase::Capitals)
+            for (qsizetype i = 0; i < text.size(); ++i)
+                if (i == 0 ? !IsInsideWord() : !text[i - 1].isLetterOrNumber())
+                    written[i] = text[i].toUpper();
+        return written;
+    }
+
+    bool IsInsideWord() const {
+        return !m_atLineStart && !m_spaceWaits && !m_text.isEmpty() && m_text.back().isLetterOrNumber();
     }
 
     void Block(int number, const SimNode& node) {
@@ -134,7 +170,7 @@ private:
     void Text(const QString& text) {
         if (m_isInvisible)
             return;
-        for (const QChar c : text) {
+        for (const QChar c : InCase(text)) {
             if (m_keepWhiteSpace) {
                 Emit(c);
                 m_atLineStart = c == u'\n';
@@ -176,8 +212,11 @@ private:
         m_text += c;
     }
 
+    enum class LetterCase { Own, Upper, Lower, Capitals };
+
     const SimTree& m_tree;
     QString m_text;
+    LetterCase m_letterCase = LetterCase::Own;
     int m_requiredLines = 0;
     bool m_atLineStart = true;
     bool m_spaceWaits = false;
@@ -192,6 +231,7 @@ QString InnerText(const SimTree& tree, int node) {
     if (!IsShown(tree, node) || tree.At(node).Is(u"option"))
         return tree.TextContent(node);
     Collector collector(tree);
+    collector.BeginIn(node);
     collector.Children(node);
     return collector.Take();
 }

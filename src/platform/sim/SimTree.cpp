@@ -181,14 +181,12 @@ QString SimTree::TextContent(int node) const {
     return content;
 }
 
-QString StyleValue(const QString& style, QStringView property) {
-    QString value;
-    for (const QString& declaration : style.split(u';')) {
-        const QString name = declaration.section(u':', 0, 0).trimmed();
-        if (name.compare(property, Qt::CaseInsensitive) == 0)
-            value = declaration.section(u':', 1).remove(u"!important"_s).trimmed().toLower();
+const SimStyles& SimTree::Styles() const {
+    if (!m_styles || m_stylesChanges != m_changes) {
+        m_styles = std::make_shared<SimStyles>(*this);
+        m_stylesChanges = m_changes;
     }
-    return value;
+    return *m_styles;
 }
 
 } // namespace qlm

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/sim/SimStyles.h"
+
 #include <QString>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -17,6 +20,7 @@ struct SimNode {
     int parent = 0;
     std::vector<int> children;
     QString tag;                                         // lower case
+    bool isForeign = false;                              // of a drawing or a formula
     QString text;                                        // of a text, a comment or a doctype
     std::vector<std::pair<QString, QString>> attributes; // names in lower case
     // What was typed or set since; the attribute alone says what the page came with.
@@ -63,6 +67,9 @@ public:
     int Closest(int node, const std::function<bool(const SimNode&)>& test) const;
     // Text of all text nodes below, as it stands.
     QString TextContent(int node) const;
+    // Of an element: what its style attribute and the page's style elements say of a property, in lower case.
+    QString Style(int node, const QString& property) const { return Styles().Value(*this, node, property); }
+    const SimStyles& Styles() const;
 
 private:
     friend class SimTreeBuilder;
@@ -71,9 +78,8 @@ private:
 
     std::vector<SimNode> m_nodes;
     quint64 m_changes = 1;
+    mutable std::shared_ptr<const SimStyles> m_styles;
+    mutable quint64 m_stylesChanges = 0;
 };
-
-// Of an inline style: the value of one property, lower case; empty when it is not set.
-QString StyleValue(const QString& style, QStringView property);
 
 } // namespace qlm

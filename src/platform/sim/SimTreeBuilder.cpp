@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sim/SimTreeBuilder.h"
 
+#include "platform/sim/SimNoScript.h"
+
 #include <gumbo.h>
 
 #include <memory>
@@ -50,7 +52,7 @@ const GumboNode* ChildAt(const GumboVector& children, unsigned int index) {
 } // namespace
 
 void SimTreeBuilder::BuildPage(const QString& html) {
-    const Output output(html.toUtf8(), GUMBO_TAG_LAST);
+    const Output output(WithNoScriptAsText(html).toUtf8(), GUMBO_TAG_LAST);
     const GumboNode* document = output.parsed->document;
     if (document->v.document.has_doctype) {
         SimNode doctype;
@@ -67,7 +69,7 @@ void SimTreeBuilder::BuildFragment(const QString& html, int parent) {
     GumboTag context = gumbo_tag_enum(m_tree.At(parent).tag.toUtf8().constData());
     if (context == GUMBO_TAG_UNKNOWN || context == GUMBO_TAG_LAST)
         context = GUMBO_TAG_DIV;
-    const Output output(html.toUtf8(), context);
+    const Output output(WithNoScriptAsText(html).toUtf8(), context);
     AddTree(output.parsed->root, parent);
 }
 
@@ -99,10 +101,14 @@ int SimTreeBuilder::AddOne(const GumboNode* source, int parent) {
     if (source->type == GUMBO_NODE_ELEMENT || source->type == GUMBO_NODE_TEMPLATE) {
         const GumboElement& element = source->v.element;
         node.tag = TagName(element);
+        node.isForeign = element.tag_namespace != GUMBO_NAMESPACE_HTML;
         for (unsigned int i = 0; i < element.attributes.length; ++i) {
             const auto* attribute = static_cast<const GumboAttribute*>(element.attributes.data[i]);
-            node.attributes.emplace_back(QString::fromUtf8(attribute->name).toLower(),
-                                         QString::fromUtf8(attribute->value));
+            if (QLatin1StringView(attribute->name) == QLatin1StringView(NoScriptMark))
+                node.tag = QStringLiteral("noscript");
+            else
+                node.attributes.emplace_back(QString::fromUtf8(attribute->name).toLower(),
+                                             QString::fromUtf8(attribute->value));
         }
     } else {
         node.kind = source->type == GUMBO_NODE_COMMENT ? SimNode::Kind::Comment : SimNode::Kind::Text;

@@ -45,6 +45,9 @@ struct SimAnswer {
     SimFault fault = SimFault::None;
     QStringList setCookies;
     std::vector<Swap> swaps;
+
+    // The browser shows a page of its own in place of it.
+    bool HasFailed() const { return fault == SimFault::Reset || (status >= 400 && html.isEmpty()); }
 };
 
 // The simulated network that all simulated browsers of a test share. Addresses are compared whole, after a

@@ -195,6 +195,51 @@ TEST_F(SimBrowserTests, ScrollingToTheEndWakesItsStandIns) {
     EXPECT_EQ(Text(), u"one\n\nmore"_s);
 }
 
+TEST_F(SimBrowserTests, AWrittenValueWakesTheFieldsStandIns) {
+    Show(
+        u"<input id=word data-on-input='set #out innertext written'><p id=out>not yet</p><input id=other>"_s);
+    ById(u"other"_s).SetValue(u"x"_s);
+    EXPECT_EQ(ById(u"out"_s).InnerText(), u"not yet"_s);
+    ById(u"word"_s).SetValue(u"x"_s);
+    EXPECT_EQ(ById(u"out"_s).InnerText(), u"written"_s);
+    ById(u"out"_s).SetInnerText(u"again"_s);
+    browser.PageType(u"#word"_s, u"typed"_s);
+    EXPECT_EQ(ById(u"out"_s).InnerText(), u"written"_s);
+}
+
+TEST_F(SimBrowserTests, AFrameHasADocumentOfItsOwn) {
+    web.SetPage(u"http://site.example.com/in"_s, u"<p>loaded</p>"_s);
+    web.SetPage(u"http://site.example.com/sent"_s, u"<p>taken</p>"_s);
+    Show(
+        u"<iframe name=own srcdoc=\"<p>own</p><a href='/x'>x</a>\"></iframe><iframe name=other "
+        u"src='/in'></iframe>"
+        "<form id=f action='/sent' target=own><input name=a value=1></form><a href='/in' target=own>go</a>"_s);
+    const Document own = browser.FrameDocument(u"own"_s);
+    EXPECT_EQ(own.BodyText(), u"own\n\nx"_s);
+    EXPECT_EQ(own.Links().front().Href(), u"http://site.example.com/x"_s);
+    EXPECT_EQ(browser.FrameDocument(u"other"_s).BodyText(), u"loaded"_s);
+    EXPECT_TRUE(browser.FrameDocument(u"none"_s).IsNull());
+    web.SetPage(u"http://site.example.com/sent?a=1"_s, u"<p>taken</p>"_s);
+    ById(u"f"_s).Submit();
+    Settle();
+    EXPECT_EQ(browser.FrameDocument(u"own"_s).BodyText(), u"taken"_s);
+    EXPECT_FALSE(own.IsPresent());
+    EXPECT_EQ(browser.LocationURL(), page);
+    ASSERT_EQ(browser.PostedForms().size(), 1u);
+    browser.FollowLink(u"go"_s);
+    Settle();
+    EXPECT_EQ(browser.FrameDocument(u"own"_s).BodyText(), u"loaded"_s);
+    Open(u"about:blank"_s);
+    EXPECT_TRUE(browser.FrameDocument(u"own"_s).IsNull());
+}
+
+TEST_F(SimBrowserTests, WhatAStyleHidesCanBeShown) {
+    Show(u"<style>.h{display:none}</style><p id=p class=h data-on-load='after 1s show #p'>x</p>"_s);
+    EXPECT_EQ(Text(), QString());
+    Settle(1000);
+    EXPECT_EQ(Text(), u"x"_s);
+}
+
 TEST_F(SimBrowserTests, AMetaRefreshMovesOn) {
     web.SetPage(u"http://site.example.com/next"_s, u"next"_s);
     Show(u"<head><meta http-equiv=Refresh content='3; URL=/next'></head><body>wait</body>"_s);

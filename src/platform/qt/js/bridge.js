@@ -346,6 +346,7 @@
         click: known => click(node(known)),
         submit: known => submit(node(known)),
         focus: known => node(known).focus(),
+        fireChange: known => void node(known).dispatchEvent(new Event('change', {bubbles: true})),
         scrollIntoView: known => node(known).scrollIntoView(),
         scrollToEnd: () => window.scrollTo(0, bodyOf(document) ? bodyOf(document).scrollHeight : 0),
         // The page leaves as if it had decided so itself: the next page gets its address as referrer.
