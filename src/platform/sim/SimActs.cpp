@@ -146,10 +146,6 @@ void SimBrowser::SendForm(int form, int pressed) {
     Start(load);
 }
 
-void SimBrowser::ScriptWritten(int script) {
-    RunStandIns(Tree().Attribute(script, u"data-on-write"));
-}
-
 void SimBrowser::ScrolledToEnd() {
     RunAllWith(u"data-on-scroll"_s);
 }

@@ -102,7 +102,6 @@ private:
     // SimActs.cpp: what clicks, forms and stand-ins do.
     void ElementClicked(int node) override;
     void FormSubmitted(int form) override;
-    void ScriptWritten(int script) override;
     void ScrolledToEnd() override;
     void ValueWritten(int node) override;
     void ChangeFired(int node) override;

@@ -244,8 +244,6 @@ void SimDocument::SetInnerText(int node, const QString& text) {
         return SetValue(node, text);
     m_tree.SetText(node, text);
     host.Touched();
-    if (m_tree.At(node).Is(u"script"))
-        host.ScriptWritten(node);
     host.ValueWritten(node);
 }
 

@@ -15,7 +15,6 @@ public:
     virtual ~SimDocumentHost() = default;
     virtual void ElementClicked(int node) = 0;
     virtual void FormSubmitted(int form) = 0;
-    virtual void ScriptWritten(int script) = 0;
     virtual void ScrolledToEnd() = 0;
     // A value was written to the element, by the program or the user.
     virtual void ValueWritten(int node) = 0;

@@ -341,6 +341,24 @@ TEST_F(DetourTest, AForeignSiteEndsTheLogin) {
     EXPECT_FALSE(State().blnLoginCacheRetry);
 }
 
+// Row 1
+TEST_F(DetourTest, ALostSessionIsWaitedForAndCountsAsFound) {
+    Show(Root, u"<p>Forgot Password?</p>"_s);
+    State().CurrentAction = u"MSG"_s;
+    State().intMsgStep = 7;
+    SimAnswer slow;
+    slow.html = u"<body>behind the login</body>"_s;
+    slow.latencyMs = 5000;
+    world.web.SetAnswer(u"http://www.site.example.com/slow"_s, slow);
+    Browser().Navigate(u"http://www.site.example.com/slow"_s);
+    State().blnLinkFound = false;
+    bool foundMeanwhile = false;
+    app->Pump().Queue().PostAt(app->Pump().NowMs() + 1000, [&] { foundMeanwhile = State().blnLinkFound; });
+    EXPECT_TRUE(TakesUnfound());
+    EXPECT_TRUE(foundMeanwhile);
+    EXPECT_FALSE(Browser().Busy());
+}
+
 // Row 13
 TEST_F(DetourTest, AWayBackToTheSiteBeginsTheLoginAnew) {
     // It comes before the row behind it.

@@ -181,5 +181,16 @@ TEST_F(PageClassTest, FourActivitiesNoteTheClass) {
     }
 }
 
+TEST_F(PageClassTest, APageIsJudgedWhenItHasADocument) {
+    const QString url = u"http://www.site.example.com/empty"_s;
+    world.web.SetPage(url, u"<body>"_s + TextOf(1) + u"</body>"_s);
+    world.web.SetFault(url, SimFault::NoBody, 1);
+    Browser().Navigate(url);
+    platform->Pump().RunFor(500);
+    State().CurrentAction = u"FR"_s;
+    app->pageClassifier->ClassifyErrorPage();
+    EXPECT_EQ(State().intPageClass, 1);
+}
+
 } // namespace
 } // namespace qlm

@@ -90,6 +90,16 @@ TEST_F(CaptchaCallsTest, APageWithoutAFieldTakesTheFocusToo) {
     EXPECT_EQ(taken, 1);
 }
 
+TEST_F(CaptchaCallsTest, TheOtherNameOfTheFieldGetsTheFocusToo) {
+    world.web.SetPage(u"http://www.example.com/words"_s,
+                      u"<html><body><a href='/'>Home</a><input name='other'>"
+                      "<input name='x_captcha_text' id='words'></body></html>"_s);
+    app->WebBrowser1().Navigate(u"http://www.example.com/words"_s);
+    platform->Pump().RunFor(1000);
+    app->captchaCalls->FocusAnswerField();
+    EXPECT_EQ(Focused(), u"words"_s);
+}
+
 class MessagingCaptchaTest : public CaptchaCallsTest {
 protected:
     MessagingCaptchaTest() {

@@ -103,6 +103,15 @@ TEST_F(LogDialogTest, AnImportThatNobodyWouldBeRecognisedInIsRefused) {
     EXPECT_TRUE(dialogs.messages[0].text.contains(u"UTF-16"_s));
 }
 
+TEST_F(LogDialogTest, TheFileDialogsOfferTextFiles) {
+    Show(u"FR"_s);
+    dialogs.files = {QString(), QString()};
+    Press(u"cmdExportLog"_s);
+    Press(u"cmdImportLog"_s);
+    const QString filter = u"Text files (txt)|*.txt;|All files (*.*)|*.*"_s;
+    EXPECT_EQ(dialogs.fileDialogs, (QStringList{u"Export Log\n\n"_s + filter, u"Import Log\n\n"_s + filter}));
+}
+
 TEST_F(LogDialogTest, ExportOverwritesTheChosenFile) {
     Show(u"FR"_s);
     app->files.WriteLines(Path(), {u"1"_s});

@@ -297,5 +297,18 @@ TEST_F(StartChecksTest, ALogInUtf16RefusesTheStartAndOneWithAMarkOrBareReturnsDo
     EXPECT_TRUE(app->sentLog->LogEntryExists(u"11"_s));
 }
 
+// A refused start has silenced the browsers and lifted the cover already.
+TEST_F(StartChecksTest, ARefusedStartShowsAQuietBrowser) {
+    app->controls.SetItems("lstFriendIDs"_L1, {});
+    app->WebBrowser1().SetSilent(false);
+    app->webHide().SetSilent(false);
+    app->webHide().ZOrder(0);
+    app->commands.Run(u"piccmdAddFriends_Click"_s);
+    EXPECT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_TRUE(app->WebBrowser1().Silent());
+    EXPECT_TRUE(app->webHide().Silent());
+    EXPECT_EQ(app->webHide().Position(), 1);
+}
+
 } // namespace
 } // namespace qlm

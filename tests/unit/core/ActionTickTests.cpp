@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "../browser/BrowserTest.h"
 #include "core/ActionTick.h"
+#include "gather/GatheredList.h"
 
 #include <QFile>
 
@@ -194,6 +195,20 @@ TEST_F(ActionTickTest, TheTimersHaveTheirIntervalsAndTwoRunFromTheStart) {
         EXPECT_EQ(row.timer.Interval(), row.intervalMs) << row.name;
         EXPECT_EQ(row.timer.Enabled(), row.runs) << row.name;
     }
+}
+
+TEST_F(ActionTickTest, AStepIsTakenOnAPageThatHasADocument) {
+    const QString page = u"http://www.site.example.com/empty"_s;
+    world.web.SetPage(page, u"<body>there</body>"_s);
+    world.web.SetFault(page, SimFault::NoBody, 1);
+    Browser().Navigate(page);
+    platform->Pump().RunFor(500);
+    app->gatheredList->ProcessArrayAndList(u"ADD"_s, 0, u"1001"_s, u"test"_s);
+    State().CurrentAction = u"FR"_s;
+    State().intFRStep = 5;
+    app->actionTick->Timer1_Timer();
+    EXPECT_EQ(Browser().TakeVisited(),
+              (QStringList{page, page, u"http://www.site.example.com/my/friends/addtofriends/1001"_s}));
 }
 
 TEST_F(ActionTickTest, TheWatchdogOnlyLeavesATrail) {

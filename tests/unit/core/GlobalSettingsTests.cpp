@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SettingsTest.h"
+#include "content/ContentLists.h"
 #include "gather/GatheredList.h"
 
 namespace qlm {
@@ -42,6 +43,33 @@ TEST_F(GlobalSettingsTest, TheBoxesShowTheFlagsAndCloseStoresThem) {
         EXPECT_EQ(app->settingsFields->GlobalFlagSet(flag), isLogs);
     }
     EXPECT_FALSE(dialogs.IsFormOpen(u"frmGlobalSettings"_s));
+}
+
+// What is behind a power cut must be what the user has chosen.
+TEST_F(GlobalSettingsTest, CloseAndResetAreWrittenToTheDiskAtOnce) {
+    Restart();
+    Open([this] {
+        Tick("frmGlobalSettings.chkUseGlobalLogs"_L1, false);
+        const int before = world.settings.syncs;
+        Close();
+        // The inputs before the change, and the change.
+        EXPECT_EQ(world.settings.syncs, before + 2);
+    });
+    dialogs.answers = {Dialogs::Answer::Yes};
+    const int before = world.settings.syncs;
+    app->commands.Run(u"mnuResetSettings_Click"_s);
+    EXPECT_GT(world.settings.syncs, before);
+}
+
+TEST_F(GlobalSettingsTest, AnAccountThatLeavesTheSharedListsReadsItsOwn) {
+    Restart();
+    const QString shared = app->contentLists->PathOf(ContentKind::Message);
+    app->files.WriteLines(shared, {u"Subject=shared&Message=m"_s});
+    app->contentLists->FillMainLists();
+    ASSERT_EQ(Inputs().Items("picMessanger.lstSendList"_L1).size(), 1);
+    Untick("frmGlobalSettings.chkUseGlobalAutoMessengerSettings"_L1);
+    EXPECT_NE(app->contentLists->PathOf(ContentKind::Message), shared);
+    EXPECT_TRUE(Inputs().Items("picMessanger.lstSendList"_L1).isEmpty());
 }
 
 TEST_F(GlobalSettingsTest, LeavingTheFormWithoutCloseChangesNothing) {

@@ -411,5 +411,28 @@ TEST_F(WindowPlaceTest, AWindowThatWasOnlyEverMaximisedIsSoAgain) {
     EXPECT_EQ(set->width, 300);
 }
 
+TEST_F(SettingsTest, WhatIsSavedIsWrittenToTheDiskAtOnce) {
+    Restart();
+    const auto syncs = [this](const std::function<void()>& act) {
+        const int before = world.settings.syncs;
+        act();
+        return world.settings.syncs - before;
+    };
+    EXPECT_EQ(syncs([this] { app->settingsFields->SaveListsAndSettings(); }), 1);
+    EXPECT_EQ(syncs([this] { app->settingsFields->SaveGeneral(); }), 1);
+}
+
+TEST_F(SettingsTest, ASoundThatIsTakenAndGivenBackIsOnTheDiskAtOnce) {
+    const QString path = u"AppEvents\\Schemes\\Apps\\Explorer\\Navigating"_s;
+    world.settings.SaveSetting(path, u".Current"_s, u"click.wav"_s);
+    Restart();
+    for (const QString& sound : {QString(), u"click.wav"_s}) {
+        const int before = world.settings.syncs;
+        app->commands.Run(u"mnuDisableBrowserSounds_Click"_s);
+        EXPECT_EQ(world.settings.GetSetting(path, u".Current"_s, u"none"_s), sound);
+        EXPECT_GT(world.settings.syncs, before);
+    }
+}
+
 } // namespace
 } // namespace qlm

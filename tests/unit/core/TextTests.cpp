@@ -38,6 +38,9 @@ TEST(Text, QueryValuesEndAtTheNextAmpersand) {
     EXPECT_EQ(GetQueryStringValue(u"http://a/b?x=y"_s, u"z"_s), QString());
     EXPECT_EQ(GetQueryStringValue(u"http://a/b?friendid=1&myid=2&id=3"_s, u"id"_s), u"3"_s);
     EXPECT_EQ(GetQueryStringValue(u"http://a/id=4"_s, u"id"_s), QString());
+    // A key that ends like another is another.
+    EXPECT_EQ(GetQueryStringValue(u"http://a/b?oldfriendID=1&friendID=2"_s, u"friendid"_s), u"2"_s);
+    EXPECT_EQ(GetQueryStringValue(u"http://a/b?oldfriendID=1"_s, u"friendid"_s), QString());
 }
 
 TEST(Text, EndsOfTexts) {
