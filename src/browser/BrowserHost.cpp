@@ -132,7 +132,11 @@ Element BrowserHost::FindProfileLink(const QString& url) {
 }
 
 void BrowserHost::AddClickedProfile(const Element& link) {
+    const RunMark mark = m_app.waiting.Mark();
     const QString id = m_app.idResolution->GetFriendIDFromLink(link);
+    // A run that was begun while the profile was fetched has nothing to do with it.
+    if (!m_app.waiting.IsCurrent(mark))
+        return;
     m_app.diagnostics.Debug(GatherTrail, u"CLICK-GATHER5 - "_s + id);
     if (!IsNumeric(id)) {
         m_app.ShowMessage(

@@ -23,7 +23,6 @@ namespace qlm {
 //   data-on-input    carried out when a value or a text was written to the element
 //   data-on-load     carried out once the page is complete
 //   data-on-scroll   carried out when the window was scrolled to its end
-//   data-on-write    on a script: carried out when its text is written, as it is run again then
 //   data-on-script   a part of a script's text: data-do of the same element is carried out when a
 //                    "javascript:" address that holds it is run
 struct StandIn {

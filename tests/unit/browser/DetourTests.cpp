@@ -110,16 +110,6 @@ TEST_F(DetourTest, AStopWhileLoggingInAgainIsTheLastWord) {
     EXPECT_FALSE(State().blnSkipRequested);
 }
 
-// While the form's page is waited for, nothing that it may show passes for what the step awaits.
-TEST_F(DetourTest, WhileALostSessionIsRenewedNothingCountsAsFound) {
-    Show(Root, u"<p>Forgot Password?</p>"_s, SimFault::Incomplete);
-    State().CurrentAction = u"MSG"_s;
-    bool found = false;
-    platform->Pump().onPump = [&] { found = State().blnLinkFound; };
-    EXPECT_TRUE(TakesUnfound());
-    EXPECT_TRUE(found);
-}
-
 TEST_F(DetourTest, ATargetIsSkippedWhenTheLoginIsThrough) {
     Show(Root, u"<p>Forgot Password?</p><form action='/in'><input id=x_Email_Textbox name=e>"
                "<input id=x_Password_Textbox name=p><input type=submit id=loginBtn name=b value='Log in'></form>"_s);
@@ -373,14 +363,6 @@ TEST_F(DetourTest, AWayBackToTheSiteBeginsTheLoginAnew) {
     Show(u"return to myspace"_s);
     LogIn(3);
     EXPECT_TRUE(TakesNone());
-}
-
-TEST_F(DetourTest, AWayBackToTheSiteSavesWhatTheUserHasTyped) {
-    Show(u"return to myspace"_s);
-    LogIn(4);
-    app->controls.SetText("txtFriendRequestsToSend"_L1, u"25"_s);
-    EXPECT_TRUE(TakesUnfound());
-    EXPECT_EQ(app->platform.Settings().GetSetting(u"Field Entries"_s, u"txtFriendRequestsToSend"_s, {}), u"25"_s);
 }
 
 // Row 14

@@ -339,7 +339,8 @@ public:
 private:
     void ElementClicked(int) override {}
     void FormSubmitted(int) override {}
-    void ScriptWritten(int) override {}
+    void ValueWritten(int) override {}
+    void ChangeFired(int) override {}
     void ScrolledToEnd() override {}
     void Touched() override {}
 };

@@ -271,26 +271,5 @@ TEST_F(ActionTickTest, AnErrorBehindTheFindIsLookedForAnew) {
     EXPECT_TRUE(The().Timer1.Enabled());
 }
 
-// Each reload of the page tells of its completion, and each such event would wait one level deeper.
-TEST_F(ActionTickTest, APageWithoutABodyIsWaitedForOnce) {
-    app->browserHost->Attach();
-    Begin(u"BUL"_s, u"x"_s);
-    Show(u"{SiteRootHost}/page"_s, u"x"_s, SimFault::NoBody);
-    int deepest = 0;
-    int depth = 0;
-    const auto complete = Browser().events.documentComplete;
-    Browser().events.documentComplete = [&](bool topLevel, const QString& url) {
-        deepest = std::max(deepest, ++depth);
-        complete(topLevel, url);
-        --depth;
-    };
-    app->Pump().Queue().PostAt(app->Pump().Queue().NowMs() + 600000, [this] {
-        world.web.SetPage(u"http://www.site.example.com/page"_s, u"<html><body>wanted</body></html>"_s);
-    });
-    Tick();
-    EXPECT_EQ(deepest, 1);
-    EXPECT_TRUE(The().Timer1.Enabled());
-}
-
 } // namespace
 } // namespace qlm

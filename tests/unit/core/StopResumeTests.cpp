@@ -288,17 +288,6 @@ TEST_F(StopResumeTest, SkipTakesNoStepAwayFromWhatItDoesNotSkip) {
     EXPECT_FALSE(app->timers->Timer1.Enabled());
 }
 
-// Whatever is begun: the empty page of the one before is none of its own.
-TEST_F(StopResumeTest, AStartCountsItsBlankTicksAnew) {
-    Show(u"<p>Nobody</p>"_s);
-    for (const QString& start : {u"picScanStart_Click"_s, u"picRemoveFriends_Click"_s}) {
-        State().intBlankTicks = 30;
-        app->commands.Run(start);
-        EXPECT_EQ(State().intBlankTicks, 0) << start.toStdString();
-        app->stopResume->StopAll(u"TAG"_s);
-    }
-}
-
 TEST_F(StopResumeTest, AStopOutdatesWhateverWaits) {
     const RunMark mark = app->waiting.Mark();
     EXPECT_TRUE(app->waiting.IsCurrent(mark));
