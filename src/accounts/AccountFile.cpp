@@ -46,6 +46,14 @@ bool IsOf(const QString& email, const QString& stored) {
     return !IsTooLong(stored) && SameEmail(EmailOf(DecodeAccountLine(stored)), email);
 }
 
+// The lines of a file without a mark at its beginning and with the usual ends.
+QStringList PlainLines(const QByteArray& bytes) {
+    QStringList lines = FromAnsi(bytes).replace(u"\r\n"_s, u"\n"_s).split(u'\n');
+    if (lines.last().isEmpty())
+        lines.removeLast();
+    return lines;
+}
+
 // A line as it reads, written anew; one that is no account stays as it is.
 QString Recoded(const QString& stored) {
     return IsTooLong(stored) ? stored : EncodeAccountLine(DecodeAccountLine(stored));
@@ -169,9 +177,8 @@ void AccountFile::Add(const QString& email, const QString& password) {
     MarkAddAccount(m_app, 11);
     // Not appended in place: half a line would be an account that nobody has. What stands there stays as it
     // is, unless it is written in a way in which nothing can be added to it.
-    const QStringList lines = Stored();
     QByteArray bytes = m_app.files.ReadBytes(Path());
-    if (lines != m_app.files.ReadLines(Path()))
+    if (const QStringList lines = LinesOfText(bytes); lines != PlainLines(bytes))
         bytes = lines.join(u"\r\n"_s).toLatin1();
     if (!bytes.isEmpty() && !bytes.endsWith('\n'))
         bytes += "\r\n";

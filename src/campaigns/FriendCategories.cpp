@@ -111,7 +111,9 @@ bool FriendCategories::OpenPage(int page, int entry) {
     auto isMissing = [this] {
         return !m_app.pageTests->IsTextInPage(u"Viewable by:"_s, false, HiddenBrowser);
     };
-    m_app.waiting.WaitWhile([&] { return IsCurrent(entry) && isMissing(); }, 0);
+    m_app.waiting.WaitFor(
+        u"the list of categories"_s, [&] { return IsCurrent(entry) && isMissing(); },
+        u"Press the button beside the box to ask for it again."_s);
     return IsCurrent(entry);
 }
 

@@ -13,8 +13,8 @@ constexpr int SecondsUntilTold = 120;
 constexpr auto Line = "lblWaitingFor"_L1;
 } // namespace
 
-LongWait::LongWait(App& app, const QString& what, const LongWait* around)
-    : m_app(app), m_what(what), m_sinceMs(app.Pump().NowMs()), m_since(app.Pump().Now()) {
+LongWait::LongWait(App& app, const QString& what, const LongWait* around, const QString& help)
+    : m_app(app), m_what(what), m_help(help), m_sinceMs(app.Pump().NowMs()), m_since(app.Pump().Now()) {
     if (!around || around->m_what != what)
         return;
     m_sinceMs = around->m_sinceMs;
@@ -29,7 +29,7 @@ LongWait::~LongWait() {
 
 void LongWait::Tell() {
     // With nothing running there is nothing that a button could end.
-    if (m_app.state.CurrentAction.isEmpty() || m_app.waiting.SecondsSince(m_sinceMs) < SecondsUntilTold)
+    if ((m_app.state.CurrentAction.isEmpty() && m_help.isEmpty()) || m_app.waiting.SecondsSince(m_sinceMs) < SecondsUntilTold)
         return;
     m_shown = Sentence();
     if (m_app.controls.Text(Line) != m_shown)
@@ -37,9 +37,10 @@ void LongWait::Tell() {
 }
 
 QString LongWait::Sentence() const {
-    return u"Waiting since "_s + m_since.toString(u"hh:mm:ss"_s) + u" for "_s + m_what +
-           (m_app.stopResume->SkipHelps() ? u". Press Skip or Stop to go on without it."_s
-                                          : u". Press Stop to go on without it."_s);
+    const QString help = !m_help.isEmpty()              ? m_help
+                         : m_app.stopResume->SkipHelps() ? u"Press Skip or Stop to go on without it."_s
+                                                         : u"Press Stop to go on without it."_s;
+    return u"Waiting since "_s + m_since.toString(u"hh:mm:ss"_s) + u" for "_s + m_what + u". "_s + help;
 }
 
 } // namespace qlm

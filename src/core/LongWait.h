@@ -13,8 +13,8 @@ class App;
 class LongWait {
 public:
     // Begins now; inside another wait for the same thing it has begun with that one. In the sentence the
-    // words stand behind "for".
-    LongWait(App& app, const QString& what, const LongWait* around = nullptr);
+    // words stand behind "for"; help is a sentence on what ends a wait that is no run's.
+    LongWait(App& app, const QString& what, const LongWait* around = nullptr, const QString& help = {});
     ~LongWait();
     LongWait(const LongWait&) = delete;
     LongWait& operator=(const LongWait&) = delete;
@@ -27,6 +27,7 @@ private:
 
     App& m_app;
     const QString m_what;
+    const QString m_help;
     qint64 m_sinceMs;
     QDateTime m_since; // the time of day to show
     QString m_shown;

@@ -59,10 +59,10 @@ bool Waiting::WaitWhile(const std::function<bool()>& condition, int limitSeconds
     return true;
 }
 
-void Waiting::WaitFor(const QString& what, const std::function<bool()>& condition) {
+void Waiting::WaitFor(const QString& what, const std::function<bool()>& condition, const QString& help) {
     if (!condition())
         return;
-    LongWait wait(m_app, what, m_innermost);
+    LongWait wait(m_app, what, m_innermost, help);
     const QScopedValueRollback<const LongWait*> innermost(m_innermost, &wait);
     do {
         wait.Tell();

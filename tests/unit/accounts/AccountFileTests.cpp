@@ -144,7 +144,7 @@ TEST_F(AccountFileTest, ALineThatIsNoAccountIsPassedOverAndStays) {
     File().Edit(u"a@example.com"_s, u"b@example.com"_s, u"2"_s);
     File().Add(u"c@example.com"_s, u"3"_s);
     File().Delete(u"b@example.com"_s);
-    const QStringList stored = app->files.ReadLines(File().Path());
+    const QStringList stored = LinesOfText(app->files.ReadBytes(File().Path()));
     EXPECT_TRUE(stored == (QStringList{mad, EncodeAccountLine(DecodeAccountLine(u"no digits"_s)),
                                        EncodeAccountLine(u"c@example.com;3"_s)}));
 }

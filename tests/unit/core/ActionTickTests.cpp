@@ -197,20 +197,6 @@ TEST_F(ActionTickTest, TheTimersHaveTheirIntervalsAndTwoRunFromTheStart) {
     }
 }
 
-TEST_F(ActionTickTest, AStepIsTakenOnAPageThatHasADocument) {
-    const QString page = u"http://www.site.example.com/empty"_s;
-    world.web.SetPage(page, u"<body>there</body>"_s);
-    world.web.SetFault(page, SimFault::NoBody, 1);
-    Browser().Navigate(page);
-    platform->Pump().RunFor(500);
-    app->gatheredList->ProcessArrayAndList(u"ADD"_s, 0, u"1001"_s, u"test"_s);
-    State().CurrentAction = u"FR"_s;
-    State().intFRStep = 5;
-    app->actionTick->Timer1_Timer();
-    EXPECT_EQ(Browser().TakeVisited(),
-              (QStringList{page, page, u"http://www.site.example.com/my/friends/addtofriends/1001"_s}));
-}
-
 TEST_F(ActionTickTest, TheWatchdogOnlyLeavesATrail) {
     The().tmrAutoResume.Restart();
     platform->Pump().RunFor(41000);

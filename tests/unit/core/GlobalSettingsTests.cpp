@@ -61,17 +61,6 @@ TEST_F(GlobalSettingsTest, CloseAndResetAreWrittenToTheDiskAtOnce) {
     EXPECT_GT(world.settings.syncs, before);
 }
 
-TEST_F(GlobalSettingsTest, AnAccountThatLeavesTheSharedListsReadsItsOwn) {
-    Restart();
-    const QString shared = app->contentLists->PathOf(ContentKind::Message);
-    app->files.WriteLines(shared, {u"Subject=shared&Message=m"_s});
-    app->contentLists->FillMainLists();
-    ASSERT_EQ(Inputs().Items("picMessanger.lstSendList"_L1).size(), 1);
-    Untick("frmGlobalSettings.chkUseGlobalAutoMessengerSettings"_L1);
-    EXPECT_NE(app->contentLists->PathOf(ContentKind::Message), shared);
-    EXPECT_TRUE(Inputs().Items("picMessanger.lstSendList"_L1).isEmpty());
-}
-
 TEST_F(GlobalSettingsTest, LeavingTheFormWithoutCloseChangesNothing) {
     Restart();
     Open([this] { Tick("frmGlobalSettings.chkUseGlobalLogs"_L1, false); });

@@ -235,8 +235,6 @@ TEST_F(MainWindowTest, LaterErrorsHaveALineOnlyWhenThereIsOne) {
 }
 
 TEST_F(MainWindowTest, TheLimitSaysWhatADayCounts) {
-    EXPECT_EQ(Named<QLineEdit>("txtFriendRequestsToSend")->toolTip(),
-              u"Leave blank to send an unlimited number of requests"_s);
     EXPECT_EQ(
         Named<QComboBox>("cboFRPerDayOrSession")->toolTip(),
         u"If you select \"per day\" then QLM takes all your sending activity into account and ensures you "
