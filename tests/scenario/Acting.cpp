@@ -40,12 +40,21 @@ void Type(Stage& stage, Arguments& arguments) {
     TypeInto(widget, arguments.Take("the text"));
 }
 
+// tick NAME, or tick LIST row N
+void TakeTick(Stage& stage, Arguments& arguments, bool ticked) {
+    QWidget* widget = VisibleWidget(stage, arguments);
+    if (arguments.TakeWord("row"_L1))
+        SetRowTick(widget, arguments.TakeNumber("the row"), ticked);
+    else
+        SetTick(widget, ticked);
+}
+
 void Tick(Stage& stage, Arguments& arguments) {
-    SetTick(VisibleWidget(stage, arguments), true);
+    TakeTick(stage, arguments, true);
 }
 
 void Untick(Stage& stage, Arguments& arguments) {
-    SetTick(VisibleWidget(stage, arguments), false);
+    TakeTick(stage, arguments, false);
 }
 
 void Select(Stage& stage, Arguments& arguments) {
@@ -86,6 +95,28 @@ void Menu(Stage& stage, Arguments& arguments) {
     Fail(u"there is no menu item %1"_s.arg(name));
 }
 
+// The cross of the window's frame.
+void CloseForm(Stage& stage, Arguments& arguments) {
+    const QString name = arguments.Take("the form");
+    for (QWidget* form : stage.ReachableForms())
+        if (form == stage.dialogs.FormWidget(name)) {
+            form->close();
+            return;
+        }
+    Fail(u"%1 is not open, or a modal form lies on it; open: %2"_s.arg(
+        name, stage.dialogs.OpenForms().join(u", "_s)));
+}
+
+void Minimize(Stage& stage, Arguments&) {
+    stage.Minimize();
+}
+
+void Foreground(Stage& stage, Arguments& arguments) {
+    if (!arguments.TakeWord("other"_L1))
+        Fail(u"foreground other"_s);
+    stage.LeaveForeground();
+}
+
 void Answer(Stage& stage, Arguments& arguments) {
     const QString words = arguments.Take("words of the question");
     const QString answer = arguments.Take("the answer");
@@ -114,21 +145,24 @@ void On(Stage& stage, Arguments& arguments) {
 
 const CommandRows& ActingCommands() {
     static const CommandRows rows{
-        {"start", Start},
-        {"click", Click},
-        {"double-click", DoubleClick},
-        {"type", Type},
-        {"tick", Tick},
-        {"untick", Untick},
-        {"choose", Tick},
-        {"select", Select},
-        {"row", Row},
-        {"key", Key},
-        {"tab", Tab},
-        {"menu", Menu},
-        {"answer", Answer},
-        {"choose-file", ChooseFile},
-        {"on", On},
+        {"start", "", Start},
+        {"click", "control", Click},
+        {"double-click", "control", DoubleClick},
+        {"type", "control word", Type},
+        {"tick", "control row? number?", Tick},
+        {"untick", "control row? number?", Untick},
+        {"choose", "control", Tick},
+        {"select", "control word", Select},
+        {"row", "control number", Row},
+        {"key", "control word", Key},
+        {"tab", "word", Tab},
+        {"menu", "item", Menu},
+        {"close", "form", CloseForm},
+        {"minimize", "", Minimize},
+        {"foreground", "other", Foreground},
+        {"answer", "word Yes|No|Cancel", Answer},
+        {"choose-file", "word", ChooseFile},
+        {"on", "form", On},
     };
     return rows;
 }

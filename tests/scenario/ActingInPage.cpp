@@ -60,8 +60,9 @@ void RightClick(Stage& stage, Arguments&) {
 
 const CommandRows& ActingInPageCommands() {
     static const CommandRows rows{
-        {"browse", Browse},      {"follow", Follow},          {"page-click", PageClick},
-        {"page-type", PageType}, {"status-text", StatusText}, {"right-click", RightClick},
+        {"browse", "word", Browse},          {"follow", "word", Follow},
+        {"page-click", "word", PageClick},   {"page-type", "word word", PageType},
+        {"status-text", "word", StatusText}, {"right-click", "", RightClick},
     };
     return rows;
 }

@@ -25,6 +25,7 @@ struct ScenarioFailure {
     // Where the text itself can't be tied to a running command: a file that does not parse.
     QString file;
     int line = 0;
+    QString source = {}; // the line as it stands there
 };
 
 } // namespace qlm::scenario

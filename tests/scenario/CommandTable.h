@@ -12,8 +12,13 @@ class Stage;
 
 // One row a command. name holds one or more leading words ("click", "expect no message"); the longest that
 // fits wins.
+//
+// arguments says what follows, one word each: control, item (of a menu), form, field (of the run state),
+// browser, number, duration, command, word (any), or the words themselves, as "front|back". What ends in "?"
+// may be missing; "*" is whatever is left.
 struct CommandRow {
     const char* name;
+    const char* arguments;
     void (*run)(Stage& stage, Arguments& arguments);
 };
 
@@ -29,6 +34,13 @@ const CommandRows& ExpectingWindowCommands();
 const CommandRows& ExpectingControlCommands();
 const CommandRows& ExpectingSiteCommands();
 const CommandRows& ExpectingStoreCommands();
+
+// The row whose name the words begin with, and how many words that are; null when there is none.
+struct FoundCommand {
+    const CommandRow* row = nullptr;
+    int words = 0;
+};
+FoundCommand FindCommand(const QStringList& words);
 
 // Runs the command; throws ScenarioFailure when there is none of that name.
 void RunCommand(Stage& stage, Arguments& arguments);

@@ -3,6 +3,7 @@
 #include "Arguments.h"
 #include "CommandTable.h"
 #include "Expect.h"
+#include "KnownNames.h"
 #include "Stage.h"
 #include "Widgets.h"
 
@@ -20,7 +21,7 @@ void ExpectTick(const QString& name, bool expected, bool seen) {
 
 QAction* MenuItem(Stage& stage, const QString& name) {
     if (name.startsWith(u"mnu"))
-        for (QWidget* form : stage.ReachableForms())
+        for (QWidget* form : stage.OpenForms())
             if (QAction* action = FindAction(form, name))
                 return action;
     return nullptr;
@@ -29,7 +30,7 @@ QAction* MenuItem(Stage& stage, const QString& name) {
 // The row of the table of controls for an input that no window shows; null when there is none.
 const qlm::Control* WithoutWidget(Stage& stage, const QString& name) {
     const QByteArray latin = name.toLatin1();
-    if (stage.WidgetOrNull(name) || !stage.TheApp().controls.Has(QLatin1StringView(latin)))
+    if (stage.SeenWidgetOrNull(name) || !stage.TheApp().controls.Has(QLatin1StringView(latin)))
         return nullptr;
     return &stage.TheApp().controls[QLatin1StringView(latin)];
 }
@@ -56,7 +57,20 @@ void ExpectTableRow(const qlm::Control& control, Arguments& arguments) {
         ExpectText(name, arguments.Take("the text"), control.text);
 }
 
-// expect control NAME "text" | ticked | unticked | row N "text"
+void ExpectRow(const QString& name, const QWidget* list, Arguments& arguments) {
+    const int row = arguments.TakeNumber("the row");
+    const QString what = u"row %1 of %2"_s.arg(row).arg(name);
+    if (row < 0 || row >= RowCount(list))
+        Fail(u"%1 has no row %2, only %3 rows"_s.arg(name).arg(row).arg(RowCount(list)));
+    if (arguments.TakeWord("ticked"_L1))
+        ExpectTick(what, true, IsRowTicked(list, row));
+    else if (arguments.TakeWord("unticked"_L1))
+        ExpectTick(what, false, IsRowTicked(list, row));
+    else
+        ExpectText(what, arguments.Take("the text"), RowText(list, row));
+}
+
+// expect control NAME "text" | ticked | unticked | row N "text" | row N ticked | row N unticked
 void Control(Stage& stage, Arguments& arguments) {
     const QString name = arguments.Take("the control");
     if (const QAction* item = MenuItem(stage, name)) {
@@ -67,14 +81,13 @@ void Control(Stage& stage, Arguments& arguments) {
         ExpectTableRow(*control, arguments);
         return;
     }
-    const QWidget* widget = stage.Widget(name);
+    const QWidget* widget = stage.SeenWidget(name);
     if (arguments.TakeWord("ticked"_L1))
         ExpectTick(name, true, IsTicked(widget));
     else if (arguments.TakeWord("unticked"_L1))
         ExpectTick(name, false, IsTicked(widget));
     else if (arguments.TakeWord("row"_L1)) {
-        const int row = arguments.TakeNumber("the row");
-        ExpectText(u"row %1 of %2"_s.arg(row).arg(name), arguments.Take("the text"), RowText(widget, row));
+        ExpectRow(name, widget, arguments);
     } else
         ExpectText(name, arguments.Take("the text"), ShownText(widget));
 }
@@ -83,25 +96,25 @@ void Rows(Stage& stage, Arguments& arguments) {
     const QString name = arguments.Take("the list");
     const int expected = arguments.TakeNumber("the number of rows");
     const qlm::Control* control = WithoutWidget(stage, name);
-    const qsizetype seen = control ? control->items.size() : RowCount(stage.Widget(name));
+    const qsizetype seen = control ? control->items.size() : RowCount(stage.SeenWidget(name));
     ExpectText(u"the number of rows of "_s + name, QString::number(expected), QString::number(seen));
 }
 
 void Selected(Stage& stage, Arguments& arguments) {
     const QString name = arguments.Take("the list");
     const QString expected = arguments.Take("the row");
-    const int row = SelectedRow(stage.Widget(name));
+    const int row = SelectedRow(stage.SeenWidget(name));
     ExpectText(u"the selected row of "_s + name, expected, row < 0 ? u"none"_s : QString::number(row));
 }
 
 void ToolTip(Stage& stage, Arguments& arguments) {
     const QString name = arguments.Take("the control");
-    ExpectText(u"the tool tip of "_s + name, arguments.Take("the text"), stage.Widget(name)->toolTip());
+    ExpectText(u"the tool tip of "_s + name, arguments.Take("the text"), stage.SeenWidget(name)->toolTip());
 }
 
 void ExpectEnabled(Stage& stage, const QString& name, bool expected) {
     const QAction* item = MenuItem(stage, name);
-    const bool enabled = item ? item->isEnabled() : stage.Widget(name)->isEnabled();
+    const bool enabled = item ? item->isEnabled() : stage.SeenWidget(name)->isEnabled();
     ExpectText(name, expected ? u"enabled"_s : u"disabled"_s, enabled ? u"enabled"_s : u"disabled"_s);
 }
 
@@ -116,7 +129,7 @@ void Disabled(Stage& stage, Arguments& arguments) {
 void Visible(Stage& stage, Arguments& arguments) {
     const QString name = arguments.Take("the control");
     const QAction* item = MenuItem(stage, name);
-    if (item ? !item->isVisible() : !Shows(stage.Widget(name)))
+    if (item ? !item->isVisible() : !Shows(stage.SeenWidget(name)))
         Fail(u"%1 is hidden"_s.arg(name));
 }
 
@@ -124,21 +137,29 @@ void Hidden(Stage& stage, Arguments& arguments) {
     const QString name = arguments.Take("the control");
     // A control of a window that isn't open is hidden too.
     const QAction* item = MenuItem(stage, name);
-    const QWidget* widget = item ? nullptr : stage.WidgetOrNull(name);
+    const QWidget* widget = item ? nullptr : stage.SeenWidgetOrNull(name);
     if ((item && item->isVisible()) || (widget && Shows(widget)))
         Fail(u"%1 is visible"_s.arg(name));
-    const QByteArray latin = name.toLatin1();
-    if (!item && !widget && !stage.TheApp().controls.Has(QLatin1StringView(latin)))
+    if (!item && !widget && !KnownNames::All().IsControl(name))
         Fail(u"there is no control %1"_s.arg(name));
+}
+
+void NoMenu(Stage& stage, Arguments& arguments) {
+    const QString caption = arguments.Take("the caption");
+    for (QWidget* form : stage.OpenForms())
+        if (const QAction* action = FindAction(form, caption); action && action->isVisible())
+            Fail(u"there is a menu item %1"_s.arg(caption));
 }
 
 } // namespace
 
 const CommandRows& ExpectingControlCommands() {
     static const CommandRows rows{
-        {"expect control", Control}, {"expect rows", Rows},       {"expect selected", Selected},
-        {"expect tooltip", ToolTip}, {"expect enabled", Enabled}, {"expect disabled", Disabled},
-        {"expect visible", Visible}, {"expect hidden", Hidden},
+        {"expect control", "control word *", Control}, {"expect no menu", "word", NoMenu},
+        {"expect rows", "control number", Rows},       {"expect selected", "control word", Selected},
+        {"expect tooltip", "control word", ToolTip},   {"expect enabled", "control", Enabled},
+        {"expect disabled", "control", Disabled},      {"expect visible", "control", Visible},
+        {"expect hidden", "control", Hidden},
     };
     return rows;
 }

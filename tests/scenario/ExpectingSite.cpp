@@ -6,6 +6,8 @@
 #include "Stage.h"
 #include "platform/sim/SimAddress.h"
 
+#include <algorithm>
+
 namespace qlm::scenario {
 
 using namespace Qt::Literals::StringLiterals;
@@ -38,12 +40,17 @@ void Visited(Stage& stage, Arguments& arguments) {
     ExpectLines(u"the list of visited addresses"_s, Canonical(expected), Canonical(seen));
 }
 
+// A hidden field keeps what was written into it; who looks at it sees lines all the same.
+QString WithPlainLineEnds(QString text) {
+    return text.replace(u"\r\n"_s, u"\n"_s);
+}
+
 // One form, its fields in page order.
-QString FormText(const SimBrowser::Posted& form) {
+QStringList FormLines(const SimBrowser::Posted& form) {
     QStringList parts{CanonicalAddress(form.url)};
     for (const SimField& field : form.fields)
-        parts << field.name + u'=' + field.value;
-    return parts.join(u"\n"_s);
+        parts << field.name + u'=' + WithPlainLineEnds(field.value);
+    return parts;
 }
 
 void Posted(Stage& stage, Arguments& arguments) {
@@ -53,12 +60,12 @@ void Posted(Stage& stage, Arguments& arguments) {
     const std::optional<SimBrowser::Posted> form = stage.TakePosted(browser);
     if (!form)
         Fail(u"no form was sent; %1"_s.arg(stage.Describe()));
-    ExpectLines(u"the form"_s, expected, FormText(*form).split(u'\n'));
+    ExpectLines(u"the form"_s, expected, FormLines(*form));
 }
 
 void NoPosted(Stage& stage, Arguments& arguments) {
     if (const std::optional<SimBrowser::Posted> form = stage.TakePosted(TakeBrowser(arguments)))
-        Fail(u"a form was sent: %1"_s.arg(FormText(*form).replace(u'\n', u' ')));
+        Fail(u"a form was sent: %1"_s.arg(FormLines(*form).join(u' ')));
 }
 
 void Value(Stage& stage, Arguments& arguments) {
@@ -68,7 +75,7 @@ void Value(Stage& stage, Arguments& arguments) {
     const Element element = stage.Browser(BrowserName::WebBrowser1).Document().GetElementById(id);
     if (!element)
         Fail(u"the page has no element #%1"_s.arg(id));
-    ExpectText(u"the value of #"_s + id, arguments.Take("the text"), element.Value());
+    ExpectText(u"the value of #"_s + id, arguments.Take("the text"), WithPlainLineEnds(element.Value()));
 }
 
 QString PageText(Stage& stage, BrowserName name) {
@@ -98,6 +105,14 @@ void PageFocus(Stage& stage, Arguments& arguments) {
     ExpectText(u"the element with the focus"_s, expected, focused ? u'#' + focused.Id() : u"none"_s);
 }
 
+// expect ran [webTemp] "text"
+void Ran(Stage& stage, Arguments& arguments) {
+    const QStringList scripts = stage.TheMachine().ScriptsRun(TakeBrowser(arguments));
+    const QString text = arguments.Take("the text");
+    if (!std::ranges::any_of(scripts, [&](const QString& script) { return script.contains(text); }))
+        Fail(u"no script that was run holds the text; the last: %1"_s.arg(scripts.value(scripts.size() - 1)));
+}
+
 void Journal(Stage& stage, Arguments& arguments) {
     if (!stage.site)
         Fail(u"the practice site is not in use"_s);
@@ -108,9 +123,11 @@ void Journal(Stage& stage, Arguments& arguments) {
 
 const CommandRows& ExpectingSiteCommands() {
     static const CommandRows rows{
-        {"expect visited", Visited},      {"expect posted", Posted},   {"expect no posted", NoPosted},
-        {"expect value", Value},          {"expect page", Page},       {"expect no page", NoPage},
-        {"expect page-focus", PageFocus}, {"expect journal", Journal},
+        {"expect visited", "browser? *", Visited},  {"expect posted", "browser? word *", Posted},
+        {"expect no posted", "browser?", NoPosted}, {"expect value", "word word", Value},
+        {"expect page", "browser? word", Page},     {"expect no page", "browser? word", NoPage},
+        {"expect page-focus", "word", PageFocus},   {"expect ran", "browser? word", Ran},
+        {"expect journal", "word", Journal},
     };
     return rows;
 }

@@ -90,13 +90,13 @@ void NoSetting(Stage& stage, Arguments& arguments) {
 
 const CommandRows& ExpectingStoreCommands() {
     static const CommandRows rows{
-        {"expect file", File},
-        {"expect no file", NoFile},
-        {"expect bytes", Bytes},
-        {"expect debug", Debug},
-        {"expect no debug", NoDebug},
-        {"expect setting", Setting},
-        {"expect no setting", NoSetting},
+        {"expect file", "word word", File},
+        {"expect no file", "word", NoFile},
+        {"expect bytes", "word word *", Bytes},
+        {"expect debug", "word word", Debug},
+        {"expect no debug", "word word", NoDebug},
+        {"expect setting", "word word word", Setting},
+        {"expect no setting", "word word", NoSetting},
     };
     return rows;
 }

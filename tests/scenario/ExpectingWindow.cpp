@@ -15,13 +15,23 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-void Message(Stage& stage, Arguments& arguments) {
-    const QString text = arguments.Take("the text");
+ScenarioDialogs::Box NextMessage(Stage& stage) {
     auto& messages = stage.dialogs.messages;
     if (messages.empty())
         Fail(u"no message box has come up; %1"_s.arg(stage.Describe()));
-    const ScenarioDialogs::Box box = messages.front();
+    ScenarioDialogs::Box box = messages.front();
     messages.erase(messages.begin());
+    return box;
+}
+
+void MessageBegins(Stage& stage, Arguments& arguments) {
+    const QString text = arguments.Take("the text");
+    ExpectText(u"the beginning of the message"_s, text, NextMessage(stage).text.left(text.size()));
+}
+
+void Message(Stage& stage, Arguments& arguments) {
+    const QString text = arguments.Take("the text");
+    const ScenarioDialogs::Box box = NextMessage(stage);
     ExpectText(u"the message"_s, text, box.text);
     if (arguments.TakeWord("titled"_L1))
         ExpectText(u"the message's title"_s, arguments.Take("the title"), box.title);
@@ -95,7 +105,7 @@ void Opened(Stage& stage, Arguments& arguments) {
 
 void Focus(Stage& stage, Arguments& arguments) {
     const QString name = arguments.Take("the widget");
-    const QWidget* wanted = stage.Widget(name);
+    const QWidget* wanted = stage.SeenWidget(name);
     const QWidget* focused = wanted->window()->focusWidget();
     if (focused != wanted)
         Fail(u"the focus is on %1, not on %2"_s.arg(focused ? focused->objectName() : u"nothing"_s, name));
@@ -104,7 +114,7 @@ void Focus(Stage& stage, Arguments& arguments) {
 void Status(Stage& stage, Arguments& arguments) {
     const QString text = arguments.Take("the status");
     ExpectText(u"the status"_s, text, stage.TheApp().Status());
-    if (const QWidget* line = stage.WidgetOrNull(u"myfraCurrentAction"_s))
+    if (const QWidget* line = stage.SeenWidgetOrNull(u"myfraCurrentAction"_s))
         ExpectText(u"the status line of the window"_s, text, ShownText(line));
 }
 
@@ -130,6 +140,11 @@ void List(Stage& stage, Arguments& arguments) {
                stage.TheApp().state.arrFriendIDs.ToStringList().join(u' '));
 }
 
+void Foreground(Stage& stage, Arguments&) {
+    if (!stage.IsForeground())
+        Fail(u"another program's window is in front"_s);
+}
+
 void Elapsed(Stage& stage, Arguments& arguments) {
     const qint64 from = arguments.TakeDurationMs("the least");
     const qint64 to = arguments.IsEmpty() ? from : arguments.TakeDurationMs("the most");
@@ -147,22 +162,24 @@ void ContextMenu(Stage& stage, Arguments& arguments) {
 
 const CommandRows& ExpectingWindowCommands() {
     static const CommandRows rows{
-        {"expect message", Message},
-        {"expect no message", NoMessage},
-        {"expect question", Question},
-        {"expect form", Form},
-        {"expect no form", NoForm},
-        {"expect cover", Cover},
-        {"expect attention", ExpectAttention},
-        {"expect opened", Opened},
-        {"expect focus", Focus},
-        {"expect status", Status},
-        {"expect action", Action},
-        {"expect step", State},
-        {"expect state", State},
-        {"expect list", List},
-        {"expect elapsed", Elapsed},
-        {"expect context-menu", ContextMenu},
+        {"expect message", "word titled? word?", Message},
+        {"expect message begins", "word", MessageBegins},
+        {"expect foreground", "", Foreground},
+        {"expect no message", "", NoMessage},
+        {"expect question", "word titled? word?", Question},
+        {"expect form", "form", Form},
+        {"expect no form", "form", NoForm},
+        {"expect cover", "front|back", Cover},
+        {"expect attention", "sound|flash|restore|none", ExpectAttention},
+        {"expect opened", "folder|file|address|none word?", Opened},
+        {"expect focus", "control", Focus},
+        {"expect status", "word", Status},
+        {"expect action", "word", Action},
+        {"expect step", "field word", State},
+        {"expect state", "field word", State},
+        {"expect list", "*", List},
+        {"expect elapsed", "duration duration?", Elapsed},
+        {"expect context-menu", "shown|none", ContextMenu},
     };
     return rows;
 }

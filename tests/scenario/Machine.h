@@ -35,6 +35,7 @@ public:
     virtual bool IsContextMenuShown() = 0;
 
     // As SimBrowser tells them.
+    virtual QStringList ScriptsRun(BrowserName name) = 0;
     virtual QStringList TakeVisited(BrowserName name) = 0;
     virtual std::vector<SimBrowser::Posted> TakePosted(BrowserName name) = 0;
 };

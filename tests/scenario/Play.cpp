@@ -155,6 +155,7 @@ bool Play::GoalHolds(bool atRest) {
 
 void Play::OnPump() {
     ++m_turns;
+    m_stage.KeepZone();
     const bool isOwnTurn = std::exchange(m_ownTurn, false);
     PlayPutOff();
     if (isOwnTurn)

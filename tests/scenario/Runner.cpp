@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Runner.h"
 
+#include "Check.h"
+#include "KnownNames.h"
 #include "Parser.h"
 #include "Play.h"
 #include "Stage.h"
@@ -25,6 +27,7 @@ struct Options {
     QStringList files;
     QString filter;
     bool list = false;
+    bool check = false;
     bool trace = false;
     bool figures = false;
     int speed = 20;
@@ -33,8 +36,9 @@ struct Options {
 
 constexpr auto EngineWord = "--browser=webengine"_L1;
 
-const char Usage[] = "quillmere-scenario [--list] [--filter TEXT] [--trace] [--trail LINES] [--figures]\n"
-                     "                   [--browser=sim|webengine] [--speed N] FILE...\n";
+const char Usage[] =
+    "quillmere-scenario [--list] [--check] [--filter TEXT] [--trace] [--trail LINES] [--figures]\n"
+    "                   [--browser=sim|webengine] [--speed N] FILE...\n";
 
 // How much was played, and what that took on this machine.
 struct Figures {
@@ -56,6 +60,8 @@ std::optional<Options> ReadOptions(QStringList arguments) {
         const QString word = arguments.takeFirst();
         if (word == u"--list")
             options.list = true;
+        else if (word == u"--check")
+            options.check = true;
         else if (word == u"--trace")
             options.trace = true;
         else if (word == u"--figures")
@@ -106,6 +112,10 @@ Outcome RunOne(const QString& file, const Options& options, const Playing& playi
             Say(u"REFUSED "_s + NameOf(file) + u"\n  "_s + refusal);
             return Outcome::Refused;
         }
+        if (const std::vector<ScenarioFailure> problems = ProblemsOf(script, nullptr); !problems.empty()) {
+            Report(file, problems.front(), problems.front().source, {});
+            return Outcome::Failed;
+        }
         Stage stage([&](SimWorld& world, Dialogs& dialogs) {
             return playing.makeMachine(world, dialogs, options.speed);
         });
@@ -128,6 +138,20 @@ Outcome RunOne(const QString& file, const Options& options, const Playing& playi
     }
     Say(u"ok "_s + NameOf(file));
     return Outcome::Passed;
+}
+
+// Reads the file and looks its words up, and runs nothing.
+Outcome CheckOne(const QString& file) {
+    try {
+        const std::vector<ScenarioFailure> problems = ProblemsOf(ParseScenarioFile(file), &KnownNames::All());
+        for (const ScenarioFailure& problem : problems)
+            Say(u"%1:%2: %3"_s.arg(problem.file).arg(problem.line).arg(problem.text));
+        Say((problems.empty() ? u"ok "_s : u"FAIL "_s) + NameOf(file));
+        return problems.empty() ? Outcome::Passed : Outcome::Failed;
+    } catch (const ScenarioFailure& failure) {
+        Report(file, failure, {}, {});
+        return Outcome::Failed;
+    }
 }
 
 void ReportFigures(const Figures& figures) {
@@ -171,6 +195,8 @@ int RunScenarios(int argc, char* argv[], const Playing& playing) {
         std::fputs(Usage, stderr);
         return 2;
     }
+    if (!options->list)
+        KnownNames::All();
     std::map<Outcome, int> count;
     Figures figures;
     for (const QString& file : options->files) {
@@ -180,7 +206,7 @@ int RunScenarios(int argc, char* argv[], const Playing& playing) {
             Say(NameOf(file));
             continue;
         }
-        ++count[RunOne(file, *options, playing, figures)];
+        ++count[options->check ? CheckOne(file) : RunOne(file, *options, playing, figures)];
         std::fflush(stdout);
     }
     if (options->figures)

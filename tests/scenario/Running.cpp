@@ -111,19 +111,19 @@ void CrashAtWrite(Stage& stage, Arguments& arguments) {
 
 const CommandRows& RunningCommands() {
     static const CommandRows rows{
-        {"run", Run},
-        {"run until status", RunUntilStatus},
-        {"run until action", RunUntilAction},
-        {"run until message", RunUntilMessage},
-        {"run until url", RunUntilUrl},
-        {"wait", Wait},
-        {"mark", Mark},
-        {"stop-at", StopAt},
-        {"after", After},
-        {"restart", Restart},
-        {"restart:close", Close},
-        {"kill", Kill},
-        {"crash-at-write", CrashAtWrite},
+        {"run", "limit? duration?", Run},
+        {"run until status", "word limit? duration?", RunUntilStatus},
+        {"run until action", "word limit? duration?", RunUntilAction},
+        {"run until message", "limit? duration?", RunUntilMessage},
+        {"run until url", "word limit? duration?", RunUntilUrl},
+        {"wait", "duration", Wait},
+        {"mark", "", Mark},
+        {"stop-at", "word", StopAt},
+        {"after", "duration command", After},
+        {"restart", "", Restart},
+        {"restart:close", "", Close},
+        {"kill", "", Kill},
+        {"crash-at-write", "number", CrashAtWrite},
     };
     return rows;
 }

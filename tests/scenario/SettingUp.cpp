@@ -38,7 +38,12 @@ void Clock(Stage& stage, Arguments& arguments) {
     const QDateTime now = QDateTime::fromString(date + u' ' + time, u"yyyy-MM-dd hh:mm:ss"_s);
     if (!now.isValid())
         Fail(u"no date and time: %1 %2"_s.arg(date, time));
-    stage.world.clock.SetNow(now);
+    stage.SetClock(now);
+}
+
+// The machine's own time zone, with its changes of the clock.
+void Zone(Stage& stage, Arguments& arguments) {
+    stage.SetZone(arguments.Take("the zone"));
 }
 
 void RandomNumbers(Stage& stage, Arguments& arguments) {
@@ -62,6 +67,21 @@ void Setting(Stage& stage, Arguments& arguments) {
 void File(Stage& stage, Arguments& arguments) {
     const QString path = stage.Path(arguments.Take("the path"));
     WriteFile(path, AsLines(arguments.TakeLines()), QIODevice::WriteOnly);
+}
+
+void DeleteFile(Stage& stage, Arguments& arguments) {
+    const QString path = stage.Path(arguments.Take("the path"));
+    if (!QFile::remove(path))
+        Fail(u"cannot delete %1"_s.arg(path));
+}
+
+void Bytes(Stage& stage, Arguments& arguments) {
+    const QString path = stage.Path(arguments.Take("the path"));
+    const QByteArray hex = arguments.TakeAll().join(QString()).toLatin1().toUpper();
+    const QByteArray bytes = QByteArray::fromHex(hex);
+    if (bytes.toHex().toUpper() != hex)
+        Fail(u"no bytes: "_s + QString::fromLatin1(hex));
+    WriteFile(path, bytes, QIODevice::WriteOnly);
 }
 
 void Account(Stage& stage, Arguments& arguments) {
@@ -111,10 +131,19 @@ void Let(Stage& stage, Arguments& arguments) {
 
 const CommandRows& SettingUpCommands() {
     static const CommandRows rows{
-        {"clock", Clock}, {"random", RandomNumbers}, {"setting", Setting},
-        {"file", File},   {"account", Account},      {"logged-in", LoggedIn},
-        {"list", List},   {"state", State},          {"readonly", ReadOnly},
-        {"let", Let},
+        {"clock", "word word", Clock},
+        {"zone", "word", Zone},
+        {"delete-file", "word", DeleteFile},
+        {"bytes", "word word *", Bytes},
+        {"random", "word *", RandomNumbers},
+        {"setting", "word word word", Setting},
+        {"file", "word word", File},
+        {"account", "word word", Account},
+        {"logged-in", "word word", LoggedIn},
+        {"list", "*", List},
+        {"state", "field word?", State},
+        {"readonly", "word", ReadOnly},
+        {"let", "word = *", Let},
     };
     return rows;
 }

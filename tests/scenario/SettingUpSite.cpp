@@ -95,8 +95,12 @@ void SiteControl(Stage& stage, Arguments& arguments) {
 
 const CommandRows& SettingUpSiteCommands() {
     static const CommandRows rows{
-        {"page", Page}, {"redirect", Redirect},          {"fault", Fault},
-        {"http", Http}, {"site practice", PracticeSite}, {"site control", SiteControl},
+        {"page", "word word *", Page},
+        {"redirect", "word word", Redirect},
+        {"fault", "word hang|reset|nobody|incomplete|none times? number?", Fault},
+        {"http", "word word", Http},
+        {"site practice", "seed? number?", PracticeSite},
+        {"site control", "word *", SiteControl},
     };
     return rows;
 }

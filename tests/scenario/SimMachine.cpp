@@ -24,6 +24,7 @@ public:
     void ShowStatus(const QString& text) override { Shown().ShowStatus(text); }
     bool IsContextMenuShown() override { return Shown().contextMenuShown.value_or(false); }
 
+    QStringList ScriptsRun(BrowserName name) override { return m_platform.Browser(name).scripts; }
     QStringList TakeVisited(BrowserName name) override { return m_platform.Browser(name).TakeVisited(); }
     std::vector<SimBrowser::Posted> TakePosted(BrowserName name) override {
         return m_platform.Browser(name).TakePosted();

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <algorithm>
 
 namespace qlm::scenario {
 
@@ -24,6 +25,19 @@ QString DeploymentText() {
     if (!file.open(QIODevice::ReadOnly))
         Fail(u"cannot read %1"_s.arg(file.fileName()));
     return QString::fromUtf8(file.readAll());
+}
+
+QWidget* WidgetOn(const std::vector<QWidget*>& forms, const QString& name) {
+    for (QWidget* form : forms)
+        if (QWidget* widget = FindWidget(form, name))
+            return widget;
+    return nullptr;
+}
+
+QWidget* Need(QWidget* widget, const QString& name, const ScenarioDialogs& dialogs) {
+    if (!widget)
+        Fail(u"no open form has %1; open: %2"_s.arg(name, dialogs.OpenForms().join(u", "_s)));
+    return widget;
 }
 
 } // namespace
@@ -43,11 +57,13 @@ Stage::Stage(MachineMaker makeMachine)
 
 Stage::~Stage() {
     DropProgram();
+    RestoreZone();
 }
 
 void Stage::StartMachine() {
     m_machine = m_makeMachine(world, dialogs);
     m_machine->SetOnPump([this] { play->OnPump(); });
+    m_machine->Services().Attention().onRestore = [this] { RestoreMain(); };
 }
 
 QWidget* Stage::ViewOf(BrowserName name) {
@@ -169,32 +185,36 @@ QString Stage::Path(const QString& text) {
     return QDir::cleanPath(QDir::isAbsolutePath(path) ? path : m_folder.filePath(path));
 }
 
-std::vector<QWidget*> Stage::ReachableForms() {
+std::vector<QWidget*> Stage::OpenForms() {
     std::vector<QWidget*> forms;
     const QStringList open = dialogs.OpenForms();
-    for (auto name = open.rbegin(); name != open.rend(); ++name) {
-        QWidget* form = dialogs.FormWidget(*name);
-        forms.push_back(form);
-        if (form->isModal())
-            break;
-    }
+    for (auto name = open.rbegin(); name != open.rend(); ++name)
+        forms.push_back(dialogs.FormWidget(*name));
     return forms;
 }
 
-QWidget* Stage::WidgetOrNull(const QString& name) {
-    for (QWidget* form : ReachableForms())
-        if (QWidget* widget = FindWidget(form, name))
-            return widget;
-    return nullptr;
+std::vector<QWidget*> Stage::ReachableForms() {
+    std::vector<QWidget*> forms = OpenForms();
+    const auto modal = std::ranges::find_if(forms, &QWidget::isModal);
+    if (modal != forms.end())
+        forms.erase(modal + 1, forms.end());
+    return forms;
+}
+
+QWidget* Stage::SeenWidgetOrNull(const QString& name) {
+    return WidgetOn(OpenForms(), name);
+}
+
+QWidget* Stage::SeenWidget(const QString& name) {
+    return Need(SeenWidgetOrNull(name), name, dialogs);
 }
 
 QWidget* Stage::Widget(const QString& name) {
-    QWidget* widget = WidgetOrNull(name);
-    if (!widget)
-        Fail(u"no open form has %1; open: %2"_s.arg(name, dialogs.OpenForms().join(u", "_s)));
+    QWidget* widget = Need(WidgetOn(ReachableForms(), name), name, dialogs);
     // Fields tell that they are left only in the active window.
     if (QApplication::activeWindow() != widget->window())
         QApplication::setActiveWindow(widget->window());
+    m_machine->Services().Desktop().foreground = widget->window()->objectName();
     return widget;
 }
 

@@ -8,6 +8,8 @@
 #include "practice/PracticeSite.h"
 
 #include <QTemporaryDir>
+#include <QTimeZone>
+#include <QWindow>
 #include <deque>
 #include <map>
 #include <memory>
@@ -63,11 +65,23 @@ public:
     // A path as a file name of this machine; one without a folder lies in the scenario's own.
     QString Path(const QString& text);
 
-    // Forms, the top-most first; those under a modal form can't be reached.
+    // The top-most first.
+    std::vector<QWidget*> OpenForms();
+    // Those under a modal form can be seen, but not reached.
     std::vector<QWidget*> ReachableForms();
     QWidget* Widget(const QString& name);
+    QWidget* SeenWidget(const QString& name);
     // Null when no form has it.
-    QWidget* WidgetOrNull(const QString& name);
+    QWidget* SeenWidgetOrNull(const QString& name);
+    void Minimize();
+    // Another program's window comes to the front, until something brings ours there.
+    void LeaveForeground();
+    bool IsForeground();
+    void SetClock(const QDateTime& now);
+    // The process, too, has that time zone until the scenario is over.
+    void SetZone(const QString& name);
+    // At every turn: the clock changes when that of the zone does.
+    void KeepZone();
     void DestroyClosedWindows();
 
     QString UnusedAnswers() const;
@@ -90,7 +104,16 @@ private:
     std::optional<QString> AnswerHttp(const QString& url) const;
     std::optional<SimAnswer> AnswerPage(const SimRequest& request);
 
+    void OnFocusWindow(const QWindow* window);
+    void RestoreMain();
+    void RestoreZone();
+
     QTemporaryDir m_folder;
+    QObject m_listener; // of the desktop's
+    std::unique_ptr<QWindow> m_otherProgram;
+    std::optional<QTimeZone> m_zone;
+    QDateTime m_utcAtZero;
+    std::optional<QByteArray> m_zoneBefore;
     std::map<BrowserName, std::unique_ptr<QWidget>> m_views;
     std::map<BrowserName, Records> m_records;
     MachineMaker m_makeMachine;

@@ -193,6 +193,10 @@ struct Writer {
 
 } // namespace
 
+bool HasStateField(const QString& name) {
+    return Fields().contains(name);
+}
+
 QString ReadStateField(const RunState& state, const QString& name) {
     return std::visit(Reader{state}, FieldOf(name));
 }

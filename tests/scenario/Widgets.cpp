@@ -104,7 +104,12 @@ QWidget* FindWidget(QWidget* window, const QString& name) {
 }
 
 QAction* FindAction(QWidget* window, const QString& name) {
-    return window->findChild<QAction*>(name);
+    if (auto* named = window->findChild<QAction*>(name))
+        return named;
+    for (QAction* action : window->findChildren<QAction*>())
+        if (!name.isEmpty() && action->isVisible() && WithoutMnemonic(action->text()) == name)
+            return action;
+    return nullptr;
 }
 
 void ClickOn(QWidget* widget) {
@@ -176,6 +181,12 @@ void SetTick(QWidget* widget, bool ticked) {
         ClickOn(widget);
 }
 
+void SetRowTick(QWidget* list, int row, bool ticked) {
+    SelectRow(list, row);
+    if (IsRowTicked(list, row) != ticked)
+        PressKey(list, u"Space"_s);
+}
+
 void SelectItem(QWidget* comboBox, const QString& text) {
     auto* box = qobject_cast<QComboBox*>(comboBox);
     if (!box)
@@ -238,6 +249,14 @@ int RowCount(const QWidget* list) {
 QString RowText(const QWidget* list, int row) {
     const QAbstractItemModel* model = ModelOf(list);
     return model->data(model->index(row, 0)).toString();
+}
+
+bool IsRowTicked(const QWidget* list, int row) {
+    const QAbstractItemModel* model = ModelOf(list);
+    const QVariant state = model->data(model->index(row, 0), Qt::CheckStateRole);
+    if (!state.isValid())
+        Fail(u"row %1 of %2 has no box"_s.arg(row).arg(list->objectName()));
+    return state.toInt() == Qt::Checked;
 }
 
 int SelectedRow(const QWidget* list) {

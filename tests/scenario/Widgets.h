@@ -15,6 +15,7 @@ namespace qlm::scenario {
 // The widget of that name below the window; of several the one that shows. "picMessanger.picEditList" names
 // the one inside another. Null when there is none.
 QWidget* FindWidget(QWidget* window, const QString& name);
+// By its name, or by its caption when none has that name.
 QAction* FindAction(QWidget* window, const QString& name);
 
 bool Shows(const QWidget* widget);
@@ -24,6 +25,8 @@ void PressKey(QWidget* widget, const QString& key);
 // Each fails the scenario when the widget is of another kind.
 void TypeInto(QWidget* widget, const QString& text);
 void SetTick(QWidget* widget, bool ticked);
+// The box of a row, by the blank key.
+void SetRowTick(QWidget* list, int row, bool ticked);
 void SelectItem(QWidget* comboBox, const QString& text);
 void SelectRow(QWidget* list, int row);
 
@@ -34,6 +37,7 @@ QString ShownText(const QWidget* widget);
 bool IsTicked(const QWidget* widget);
 int RowCount(const QWidget* list);
 QString RowText(const QWidget* list, int row);
+bool IsRowTicked(const QWidget* list, int row);
 int SelectedRow(const QWidget* list);
 
 } // namespace qlm::scenario

@@ -63,6 +63,19 @@ void AddControl(const SimTree& tree, int node, int pressed, std::vector<SimField
         fields.push_back({name, OptionValue(tree, option)});
 }
 
+// A line of text has no line ends, a text area holds LF alone.
+QString AsHeld(const SimTree& tree, int node, QString value) {
+    if (tree.At(node).Is(u"textarea"))
+        return value.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+    const bool isLine = tree.At(node).Is(u"input") && TypeOf(tree, node) != u"hidden";
+    return isLine ? value.remove(u'\n').remove(u'\r') : value;
+}
+
+// On its way every line end is CR LF.
+QString AsSent(QString value) {
+    return value.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').replace(u'\n', u"\r\n"_s);
+}
+
 } // namespace
 
 bool IsButton(const SimTree& tree, int node) {
@@ -112,7 +125,7 @@ QString ValueOf(const SimTree& tree, int node) {
     if (control.value)
         return *control.value;
     if (control.Is(u"textarea"))
-        return tree.TextContent(node);
+        return AsHeld(tree, node, tree.TextContent(node));
     const QString type = TypeOf(tree, node);
     if ((type == u"checkbox" || type == u"radio") && !tree.HasAttribute(node, u"value"))
         return u"on"_s;
@@ -121,8 +134,7 @@ QString ValueOf(const SimTree& tree, int node) {
 
 void SetValueOf(SimTree& tree, int node, const QString& value) {
     if (!tree.At(node).Is(u"select")) {
-        const bool isText = tree.At(node).Is(u"input") && TypeOf(tree, node) != u"hidden";
-        tree.SetValue(node, isText ? QString(value).remove(u'\n').remove(u'\r') : value);
+        tree.SetValue(node, AsHeld(tree, node, value));
         return;
     }
     bool found = false;
@@ -188,7 +200,7 @@ std::vector<SimField> FieldsOf(const SimTree& tree, int form, int pressed) {
 QString EncodedFields(const std::vector<SimField>& fields) {
     QStringList pairs;
     for (const SimField& field : fields)
-        pairs += EncodeFormText(field.name) + u'=' + EncodeFormText(field.value);
+        pairs += EncodeFormText(field.name) + u'=' + EncodeFormText(AsSent(field.value));
     return pairs.join(u'&');
 }
 

@@ -71,6 +71,35 @@ TEST_F(SimBrowserTests, APageWithoutABodyCompletesWithoutOne) {
     EXPECT_EQ(browser.ReadyState(), 4);
 }
 
+TEST_F(SimBrowserTests, ATextAreaHoldsPlainLineEndsAndSendsBothSigns) {
+    Show(u"<form id=f action=/send method=post><textarea id=t name=t>a</textarea></form>"_s);
+    QByteArray sent;
+    web.responder = [&sent](const SimRequest& request) {
+        sent = request.body;
+        return SimAnswer();
+    };
+    ById(u"t"_s).SetValue(u"a\r\nb\rc\nd"_s);
+    EXPECT_EQ(ById(u"t"_s).Value(), u"a\nb\nc\nd"_s);
+    ById(u"f"_s).Submit();
+    Settle();
+    EXPECT_EQ(browser.TakePosted().at(0).fields.at(0).value, u"a\nb\nc\nd"_s);
+    EXPECT_EQ(sent, "t=a%0D%0Ab%0D%0Ac%0D%0Ad");
+}
+
+TEST_F(SimBrowserTests, ALoadThatNeverEndsCanNotBecomeReady) {
+    web.SetPage(page, u"half there"_s);
+    web.SetFault(page, SimFault::Incomplete);
+    browser.Navigate(page);
+    EXPECT_TRUE(browser.CanBecomeReady());
+    Settle();
+    EXPECT_TRUE(browser.Busy());
+    EXPECT_FALSE(browser.CanBecomeReady());
+    browser.Navigate(u"http://site.example.com/other"_s);
+    EXPECT_TRUE(browser.CanBecomeReady());
+    Settle();
+    EXPECT_FALSE(browser.CanBecomeReady());
+}
+
 TEST_F(SimBrowserTests, AnIncompletePageShowsItsBodyAndStaysBusy) {
     web.SetPage(page, u"half there"_s);
     web.SetFault(page, SimFault::Incomplete);

@@ -52,7 +52,31 @@ const Case Failing[] = {
      "\"after 5s click cmdAdd\" of line 2 never came due"},
     {"FailsWhenItComesDue", "start\nafter 5s click cmdNothing\nwait 1m\nmark", 2,
      "no open form has cmdNothing"},
-    {"AfterNothing", "start\nafter 5s", 2, "a command is missing"},
+    {"AfterNothing", "start\nafter 5s", 2, "command is missing"},
+    {"MessageBegins", "start\nclick cmdContinue\nexpect message begins \"Thank\"", 3,
+     "the beginning of the message is \"Pleas\""},
+    {"NoMenu", "logged-in a@b 12\nexpect no menu \"Time Delay...\"", 2, "there is a menu item Time Delay..."},
+    {"HiddenButUnknown", "logged-in a@b 12\nexpect hidden txtNothing", 2, "there is no control txtNothing"},
+    {"CloseWhatIsNotOpen", "logged-in a@b 12\nclose frmTimeDelay", 2, "frmTimeDelay is not open"},
+    {"CloseUnderAModalForm", "on frmTimeDelay\nclose frmMain\nend\nlogged-in a@b 12\nmenu mnuTimeDelay", 2,
+     "frmMain is not open, or a modal form lies on it"},
+    {"Foreground", "logged-in a@b 12\nforeground other\nexpect foreground", 3,
+     "another program's window is in front"},
+    {"ForegroundOfAMinimizedWindow", "logged-in a@b 12\nminimize\nexpect foreground", 3,
+     "another program's window is in front"},
+    {"RowWithoutABox", "account a@b c\nstart\ntick lstAccounts row 0", 3, "row 0 of lstAccounts has no box"},
+    {"NoSuchRow", "start\nexpect control lstAccounts row 9 \"a\"", 2, "lstAccounts has no row 9, only "},
+    {"DeleteWhatIsNotThere", "delete-file {ProgramFolder}/x", 1, "cannot delete "},
+    {"NoBytes", "bytes {ProgramFolder}/x 4G", 1, "no bytes: 4G"},
+    {"NoZone", "zone Europe/Atlantis", 1, "no time zone is called Europe/Atlantis"},
+    {"Ran",
+     "page http://x/ \"<a href='javascript:go(1)'>x</a>\"\nlogged-in a@b 12\nbrowse x\nfollow \"x\"\n"
+     "expect ran \"go(2)\"",
+     5, "no script that was run holds the text; the last: javascript:go(1)"},
+    {"UnknownWord", "start\nexpect cover sideways", 2, "front|back, not sideways"},
+    {"MissingWord", "start\nclick", 2, "control is missing"},
+    {"UnknownWordInABlock", "on frmTimeDelay\nfly\nend", 2, "there is no such command"},
+    {"UnknownWordPutOff", "after 5s fly", 1, "there is no such command"},
     {"AfterWhatLetsTimePass", "start\nafter 5s wait 5s", 2, "wait lets time pass itself"},
     {"UnusedBlock", "on frmFilters\nclick cmdOK\nend\nstart", 4,
      "\"on frmFilters\" of line 1 was never used"},
@@ -161,6 +185,33 @@ TEST(Runner, PassesAndCounts) {
     EXPECT_EQ(outcome.status, 0);
     EXPECT_TRUE(outcome.output.startsWith(u"ok "_s));
     EXPECT_TRUE(outcome.output.endsWith(u"1 passed, 0 failed\n"_s));
+}
+
+TEST(Runner, RefusesAnUnknownWordBeforeItStarts) {
+    const QString output = RunScenario("start\nmark\nexpect dance", {u"--figures"_s}).output;
+    EXPECT_TRUE(output.contains(u"case.scn:3: expect dance\n  there is no such command"_s))
+        << output.toStdString();
+    EXPECT_TRUE(output.contains(u"\n0 commands: "_s)) << output.toStdString();
+}
+
+TEST(Runner, ChecksWithoutRunning) {
+    const Outcome good = RunScenario(
+        "logged-in a@b 12\nexpect action FR\nclick {X}\non frmTimeDelay\nclick frmTimeDelay.cmdOK\nend\n"
+        "menu \"Anything...\"\nexpect hidden optFilterFemale\nexpect state blnChaining true",
+        {u"--check"_s});
+    EXPECT_EQ(good.status, 0);
+    EXPECT_EQ(good.output.section(u'\n', 1), u"1 passed, 0 failed\n"_s) << good.output.toStdString();
+    const Outcome bad = RunScenario("click cmdNothing\nmenu mnuNothing\nexpect state blnNothing true\n"
+                                    "on frmNothing\nafter 1s click cmdNeither\nend\nwait long",
+                                    {u"--check"_s});
+    EXPECT_EQ(bad.status, 1);
+    for (const QString& line :
+         {u"case.scn:1: there is no control cmdNothing\n"_s,
+          u"case.scn:2: there is no menu item mnuNothing\n"_s,
+          u"case.scn:3: the run state has no field blnNothing\n"_s,
+          u"case.scn:4: there is no form frmNothing\n"_s, u"case.scn:5: there is no control cmdNeither\n"_s,
+          u"case.scn:7: no length of time such as"_s, u"0 passed, 1 failed\n"_s})
+        EXPECT_TRUE(bad.output.contains(line)) << line.toStdString() << bad.output.toStdString();
 }
 
 TEST(Runner, ListsAndFiltersByName) {
