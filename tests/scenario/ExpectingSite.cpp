@@ -90,6 +90,16 @@ void Page(Stage& stage, Arguments& arguments) {
         Fail(u"the page does not hold the text; %1, it begins: %2"_s.arg(stage.Describe(), body.left(300)));
 }
 
+// expect page in FRAME "text"
+void PageInFrame(Stage& stage, Arguments& arguments) {
+    const QString name = arguments.Take("the frame");
+    const Document frame = stage.TheMachine().FrameOf(name);
+    if (!frame)
+        Fail(u"the page has no frame %1"_s.arg(name));
+    if (const QString body = frame.BodyText(); !body.contains(arguments.Take("the text")))
+        Fail(u"the frame does not hold the text; it begins: %1"_s.arg(body.left(300)));
+}
+
 void NoPage(Stage& stage, Arguments& arguments) {
     const QString body = PageText(stage, TakeBrowser(arguments));
     const qsizetype at = body.indexOf(arguments.Take("the text"));
@@ -127,7 +137,7 @@ const CommandRows& ExpectingSiteCommands() {
         {"expect no posted", "browser?", NoPosted}, {"expect value", "word word", Value},
         {"expect page", "browser? word", Page},     {"expect no page", "browser? word", NoPage},
         {"expect page-focus", "word", PageFocus},   {"expect ran", "browser? word", Ran},
-        {"expect journal", "word", Journal},
+        {"expect journal", "word", Journal},        {"expect page in", "word word", PageInFrame},
     };
     return rows;
 }

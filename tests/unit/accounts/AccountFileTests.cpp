@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
 #include "accounts/AccountFile.h"
+#include "core/AnsiText.h"
 
 #include <QFile>
 
