@@ -20,8 +20,8 @@ public:
     // Blocks, pumping, until WebBrowser1 has a document with a body and links; refreshes a page without a
     // body every 30 seconds. Throws RunEnded when the run or the target is another one by then.
     void WaitForDocument();
-    // Somebody on the stack waits for WebBrowser1's body, and it isn't there yet: one more wait would only make
-    // the stack deeper.
+    // Somebody on the stack waits for WebBrowser1's body, and it isn't there yet: one more wait would only
+    // make the stack deeper.
     bool IsAwaitingBody();
     // The same spins on another control, without the refresh.
     void WaitForDocument(BrowserControl& browser);

@@ -78,7 +78,8 @@ Verdict StepDispatcher::ErrorPage() {
     const RunMark mark = m_app.waiting.Mark();
     if (state.CurrentAction != u"LOGIN"_s)
         m_app.ClearPage();
-    // The refusal is that of the page that showed it, and of nobody whom a Skip or a start has taken up since.
+    // The refusal is that of the page that showed it, and of nobody whom a Skip or a start has taken up
+    // since.
     if (m_app.waiting.IsCurrent(mark))
         HandleErrorPage(m_app);
     return false;

@@ -29,7 +29,8 @@ LongWait::~LongWait() {
 
 void LongWait::Tell() {
     // With nothing running there is nothing that a button could end.
-    if ((m_app.state.CurrentAction.isEmpty() && m_help.isEmpty()) || m_app.waiting.SecondsSince(m_sinceMs) < SecondsUntilTold)
+    if ((m_app.state.CurrentAction.isEmpty() && m_help.isEmpty()) ||
+        m_app.waiting.SecondsSince(m_sinceMs) < SecondsUntilTold)
         return;
     m_shown = Sentence();
     if (m_app.controls.Text(Line) != m_shown)
@@ -37,7 +38,7 @@ void LongWait::Tell() {
 }
 
 QString LongWait::Sentence() const {
-    const QString help = !m_help.isEmpty()              ? m_help
+    const QString help = !m_help.isEmpty()               ? m_help
                          : m_app.stopResume->SkipHelps() ? u"Press Skip or Stop to go on without it."_s
                                                          : u"Press Stop to go on without it."_s;
     return u"Waiting since "_s + m_since.toString(u"hh:mm:ss"_s) + u" for "_s + m_what + u". "_s + help;

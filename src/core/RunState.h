@@ -26,7 +26,8 @@ struct RunState {
 
     // The running activity and its step. Values 16 bit, 0 at rest.
     QString CurrentAction;
-    qint32 lngRunNumber = 0; // counts starts and stops; a step that finds another number behind a wait is obsolete
+    qint32 lngRunNumber =
+        0; // counts starts and stops; a step that finds another number behind a wait is obsolete
     qint16 intGatherStep = 0;
     qint16 intFRStep = 0;
     qint16 intMsgStep = 0;

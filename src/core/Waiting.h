@@ -44,8 +44,8 @@ public:
     // turn. True when it stopped holding, false on the time-out.
     bool WaitWhile(const std::function<bool()>& condition, int limitSeconds);
     // Turns while the condition holds, however long that takes; the window tells of a long wait by these
-    // words ("the next page"). help says what ends a wait that isn't a run's: without it Skip and Stop are named,
-    // and nothing is told while nothing runs.
+    // words ("the next page"). help says what ends a wait that isn't a run's: without it Skip and Stop are
+    // named, and nothing is told while nothing runs.
     void WaitFor(const QString& what, const std::function<bool()>& condition, const QString& help = {});
     // Whole seconds that have passed since that reading of Pump::NowMs().
     qint64 SecondsSince(qint64 startMs) const;

@@ -50,10 +50,12 @@ bool Judge::IsNoted(const QString& id) const {
     return file.open(QIODevice::ReadOnly) && file.readAll().split('\n').contains(id.toLatin1() + "\t.\r");
 }
 
-// A turn after the page check has found the confirmation, the disk knows of it.
+// A turn after the page check has found the confirmation, the disk knows of it. What it has found on the older page is
+// the button at first, which the user may press before the step has looked.
 void Judge::Watch(App& app, bool diskRefuses) {
     const RunState& state = app.state;
-    const bool mayShow = state.CurrentAction == u"FR"_s && state.intFRStep == 8 && state.blnLinkFound;
+    const bool mayShow = state.CurrentAction == u"FR"_s && state.intFRStep == 8 && state.blnLinkFound &&
+                         state.strLinkType == u"Text"_s;
     if (!mayShow || m_confirmed.contains(state.strCurrentID) || !ShowsConfirmation(app))
         return;
     if (diskRefuses)

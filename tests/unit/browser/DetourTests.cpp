@@ -111,8 +111,10 @@ TEST_F(DetourTest, AStopWhileLoggingInAgainIsTheLastWord) {
 }
 
 TEST_F(DetourTest, ATargetIsSkippedWhenTheLoginIsThrough) {
-    Show(Root, u"<p>Forgot Password?</p><form action='/in'><input id=x_Email_Textbox name=e>"
-               "<input id=x_Password_Textbox name=p><input type=submit id=loginBtn name=b value='Log in'></form>"_s);
+    Show(
+        Root,
+        u"<p>Forgot Password?</p><form action='/in'><input id=x_Email_Textbox name=e>"
+        "<input id=x_Password_Textbox name=p><input type=submit id=loginBtn name=b value='Log in'></form>"_s);
     world.web.defaultLatencyMs = 5000;
     State().CurrentAction = u"MSG"_s;
     State().intMsgStep = 7;

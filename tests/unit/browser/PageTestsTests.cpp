@@ -258,7 +258,8 @@ TEST_F(PageTestsTest, TheOtherBrowsersAreNeverReloadedForABody) {
 }
 
 TEST_F(PageTestsTest, AnAdvertiserIsKnownByTheBodysOwnTagToo) {
-    world.web.SetPage(u"http://www.site.example.com/ad"_s, u"<html><body class='AdvertiserProfile'>x</body></html>"_s);
+    world.web.SetPage(u"http://www.site.example.com/ad"_s,
+                      u"<html><body class='AdvertiserProfile'>x</body></html>"_s);
     Browser().Navigate(u"http://www.site.example.com/ad"_s);
     platform->Pump().RunFor(500);
     EXPECT_TRUE(Tests().IsAdvertiserProfile());
@@ -267,12 +268,14 @@ TEST_F(PageTestsTest, AnAdvertiserIsKnownByTheBodysOwnTagToo) {
 // Each looks at the page that comes, not at the one that has no body yet.
 TEST_F(PageTestsTest, WhoReadsThePageWaitsForItsBody) {
     const QString page = u"{SiteRootHost}/page"_s;
-    const QString friends = u"<a innertext='add to friends' href='http://www.site.example.com/1'>Add to friends</a>"
-                            "<a innertext='send message' href='http://www.site.example.com/2'>Send message</a>"_s;
+    const QString friends =
+        u"<a innertext='add to friends' href='http://www.site.example.com/1'>Add to friends</a>"
+        "<a innertext='send message' href='http://www.site.example.com/2'>Send message</a>"_s;
     auto comeLater = [&](const QString& body) {
         Show(page, u"x"_s, SimFault::NoBody);
         ASSERT_TRUE(Browser().Document().Body().IsNull());
-        world.web.SetPage(u"http://www.site.example.com/page"_s, u"<html><body>"_s + body + u"</body></html>"_s);
+        world.web.SetPage(u"http://www.site.example.com/page"_s,
+                          u"<html><body>"_s + body + u"</body></html>"_s);
     };
     comeLater(u"server is too busy"_s);
     EXPECT_TRUE(app->pageClassifier->ClassifyErrorPage());
@@ -334,7 +337,8 @@ public:
     QString LocationURL() override { return {}; }
     int ReadyState() override { return 4; }
     bool Busy() override { return false; }
-    std::shared_ptr<LateLinks> page = std::make_shared<LateLinks>(*this, u"<html><body>x</body></html>"_s, QString());
+    std::shared_ptr<LateLinks> page =
+        std::make_shared<LateLinks>(*this, u"<html><body>x</body></html>"_s, QString());
 
 private:
     void ElementClicked(int) override {}

@@ -216,8 +216,8 @@ TEST_F(ActionTickTest, TheActionTickWaitsForTheDocument) {
     });
     bool endedWithoutBody = false;
     platform->Pump().onPump = [&] {
-        endedWithoutBody = endedWithoutBody ||
-                           (State().CurrentAction.isEmpty() && Browser().Document().Body().IsNull());
+        endedWithoutBody =
+            endedWithoutBody || (State().CurrentAction.isEmpty() && Browser().Document().Body().IsNull());
     };
     app->actionTick->Timer1_Timer();
     EXPECT_EQ(State().CurrentAction, QString());
