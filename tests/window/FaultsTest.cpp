@@ -6,6 +6,7 @@
 #include "UsedProgram.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QTcpServer>
 #include <csignal>
 #include <gtest/gtest.h>
@@ -145,16 +146,18 @@ TEST_F(Faults, ALogThatCannotGrowIsReportedAndNoLineOfItIsLost) {
     EXPECT_TRUE(folders.LogBytes().startsWith(log));
     EXPECT_LE(folders.LogBytes().size(), limit);
 
-    // With room again, the torn line stays by itself and nobody is asked a second time.
+    // With room again nobody is asked a second time: who was asked and could not be logged is noted beside
+    // the log.
     site.Tell(u"seed 1"_s);
     site.Tell(u"share sent 100"_s);
     site.TakeJournal();
     ProgramProcess again(folders.Arguments());
     ExpectEnd(again, 0);
-    EXPECT_EQ(TargetsOf(site.TakeJournal(), u"asked"_s), others);
-    const QStringList lines = folders.Log();
-    EXPECT_EQ(lines.mid(lines.size() - 2), others);
-    EXPECT_EQ(lines.count(ids[0]), 1);
+    EXPECT_TRUE(TargetsOf(site.TakeJournal(), u"asked"_s).isEmpty());
+    const QByteArray notes = folders.Read(folders.File(u"FriendsLog.open.txt"_s));
+    for (const QString& id : others)
+        EXPECT_TRUE(notes.contains(id.toLatin1())) << notes.toStdString();
+    EXPECT_EQ(folders.Log().count(ids[0]), 1);
 }
 
 TEST_F(Faults, ASecondProgramOnTheFolderIsToldAndEndsAndAKilledOneLeavesNoLock) {
@@ -216,6 +219,40 @@ TEST_F(Faults, ALogOfOneLineOfTwoHundredMegabytesHoldsNothingUp) {
     ProgramProcess program(folders.Arguments());
     ExpectEnd(program, 0);
     EXPECT_EQ(TargetsOf(site.Journal(), u"asked"_s), ids.mid(2));
+}
+
+TEST_F(Faults, ALogInUtf16RefusesTheStart) {
+    folders.Write(folders.File(u"FriendsLog.txt"_s), QByteArray("\xFF\xFE"
+                                                                "1\0",
+                                                                4));
+    ProgramProcess program(folders.Arguments());
+    ExpectEnd(program, 1);
+    EXPECT_TRUE(output.contains(u"is written in UTF-16"_s)) << output.toStdString();
+    EXPECT_TRUE(TargetsOf(site.Journal(), u"asked"_s).isEmpty());
+}
+
+TEST_F(Faults, AReportGrownToAHundredAndFiftyMegabytesIsCutAndHoldsNothingUp) {
+    const QString report = folders.File(u"FriendsReport.txt"_s);
+    const QByteArray line = "1\t2009-06-01 10:00:00\t1001\tSent\t0\t\t.\r\n";
+    folders.Write(report, line.repeated((150 << 20) / line.size()));
+    ExpectWholeRun();
+    EXPECT_LT(QFileInfo(report).size(), 9 << 20);
+}
+
+TEST_F(Faults, SettingsThatCannotBeSavedAnyMoreStopARunWithALimitPerDay) {
+    const QString fields = u"Field Entries"_s;
+    folders.Set(fields, u"txtFriendRequestsToSend"_s, u"50"_s);
+    folders.Set(fields, u"cboFRPerDayOrSession"_s, u"per day"_s);
+    folders.SetDelay(2);
+    ProgramProcess program(folders.Arguments());
+    ASSERT_TRUE(WaitUntil([&] { return folders.LogBytes().contains(ids[0].toLatin1()); }));
+    ASSERT_TRUE(QFile::rename(folders.SettingsFile(), folders.SettingsFile() + u".away"_s));
+    ASSERT_TRUE(QDir().mkpath(folders.SettingsFile() + u"/in the way"_s));
+    ASSERT_TRUE(program.WaitForEnd(2 * GenerousMs)) << program.Output().toStdString();
+    output = program.Output();
+    EXPECT_EQ(output.count(u"can't save how many you have sent today"_s), 1) << output.toStdString();
+    EXPECT_EQ(TargetsOf(site.Journal(), u"asked"_s), ids.mid(0, 2));
+    EXPECT_EQ(folders.Log(), ids.mid(0, 2));
 }
 
 } // namespace qlm

@@ -4,7 +4,6 @@
 #include "PrintText.h"
 #include "RunningProgram.h"
 #include "SiteProcess.h"
-#include "accounts/AccountFile.h"
 
 #include <gtest/gtest.h>
 
@@ -68,6 +67,12 @@ const QList<Trap>& Traps() {
     return traps;
 }
 
+// The server knows a page by host and path, one with a query by its whole address.
+QString KeyOf(const Trap& trap) {
+    const QString address = QString(trap.address).remove(u"www.myspace.example.com@"_s);
+    return address.contains(u'?') ? u"http://"_s + address : address;
+}
+
 bool IsOfTheSite(const QString& url) {
     static const QStringList hosts{u"http://www.myspace.example.com/"_s,
                                    u"http://home.myspace.example.com/"_s,
@@ -84,6 +89,13 @@ protected:
         hang.fault = LoopbackAnswer::Fault::Hang;
         server.AnswerOnly(u"slow.com/never"_s, hang);
         server.AnswerOnly(u"taker.com/take"_s, Page(u"thanks"_s));
+    }
+
+    bool WasShown(const Trap& trap) const {
+        const QString asked = u"http://"_s + QString(trap.address).remove(u"www.myspace.example.com@"_s);
+        const std::vector<LoopbackRequest> requests = server.Requests();
+        return std::any_of(requests.begin(), requests.end(),
+                           [&asked](const LoopbackRequest& request) { return request.url == asked; });
     }
 
     // What was sent to anybody who isn't the site.
@@ -112,7 +124,7 @@ TEST_F(Strangers, ARunThatIsLedToThemTellsThemNothingAndGoesOn) {
     for (qsizetype i = 0; i < Traps().size(); ++i) {
         const Trap& trap = Traps()[i];
         server.AnswerOnly(RequestPage(ids[i]), Redirect(u"http://"_s + trap.address));
-        server.AnswerOnly(QString(trap.address).remove(u"www.myspace.example.com@"_s), Page(trap.body));
+        server.AnswerOnly(KeyOf(trap), Page(trap.body));
     }
     RunningProgram program(folders);
     program.PlanSending();
@@ -120,53 +132,8 @@ TEST_F(Strangers, ARunThatIsLedToThemTellsThemNothingAndGoesOn) {
     EXPECT_TRUE(program.Run()) << program.driver.Problem().toStdString();
     ExpectNothingTold();
     for (qsizetype i = 0; i < Traps().size(); ++i)
-        EXPECT_GE(server.CountRequests(QString(Traps()[i].address).remove(u"www.myspace.example.com@"_s)), 1)
-            << Traps()[i].address.toStdString();
+        EXPECT_TRUE(WasShown(Traps()[i])) << Traps()[i].address.toStdString();
     EXPECT_EQ(folders.Log(), QStringList{ids.last()});
-}
-
-// Filled in by their own scripts and sent to the site: no account that the user has typed.
-TEST_F(Strangers, AFormOfTheirsReplacesNoAccount) {
-    folders.Write(folders.File(u"scalemodelight.txt"_s),
-                  EncodeAccountLine(u"a@example.com;wrong"_s).toLatin1() + "\r\n");
-    const QString filled = FormTo(u"http://login.myspace.example.com/index.cfm?fuseaction=login.process"_s) +
-                           u"<script>document.getElementById('x_Email_Textbox').value = 'b@example.com';"
-                           "document.getElementById('x_Password_Textbox').value = 'stolen';"
-                           "document.forms[0].loginbutton.click()</script>"_s;
-    server.AnswerOnly(u"stranger.com/"_s, Page(filled));
-    server.AnswerOnly(u"www.myspace.example.com/?framed"_s,
-                      Page(u"Forgot your password?<iframe src='http://stranger.com/top'></iframe>"_s));
-    server.AnswerOnly(u"stranger.com/top"_s,
-                      Page(QString(filled).replace(u"<form "_s, u"<base target=_top><form "_s)));
-    RunningProgram program(folders);
-    const auto isBack = [&] {
-        return program.app.state.intLoginStep == 4 && !program.app.WebBrowser1().Busy() &&
-               program.app.WebBrowser1().LocationURL().contains(u"login.process"_s) &&
-               program.app.WebBrowser1().ReadyState() == 4;
-    };
-    program.driver.Add({u"The login screen"_s, 60,
-                        [&] { return program.driver.Form("frmInteken") != nullptr; },
-                        [&] { program.driver.Press("frmInteken", "cmdContinue"); }});
-    program.driver.Add({u"The form again"_s, 60, isBack,
-                        [&] { program.app.WebBrowser1().Navigate(u"http://stranger.com/"_s); }});
-    program.driver.Add(
-        {u"The stranger's form was sent"_s, 60,
-         [&] { return site.Journal().contains(u"wrong-password b@example.com"_s) && isBack(); },
-         [&] {
-             EXPECT_EQ(program.app.state.AccountEmail, u"a@example.com"_s);
-             EXPECT_EQ(program.app.state.AccountPassword, u"wrong"_s);
-             program.app.WebBrowser1().Navigate(u"http://www.myspace.example.com/?framed"_s);
-         }});
-    program.driver.Add(
-        {u"The frame's form was sent"_s, 60,
-         [&] { return site.Journal().count(u"wrong-password b@example.com"_s) >= 2 && isBack(); },
-         [&] {
-             EXPECT_EQ(program.app.state.AccountEmail, u"a@example.com"_s);
-             EXPECT_EQ(program.app.state.AccountPassword, u"wrong"_s);
-             program.driver.End({});
-         }});
-    EXPECT_TRUE(program.Run()) << program.driver.Problem().toStdString();
-    EXPECT_FALSE(folders.Read(folders.SettingsFile()).contains("stolen"));
 }
 
 } // namespace qlm

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/BrowserPage.h"
 
+#include "platform/qt/LoopbackGuard.h"
+
 #include <QAuthenticator>
 #include <QCoreApplication>
 #include <QFile>
@@ -158,6 +160,9 @@ void BrowserPage::triggerAction(WebAction action, bool checked) {
 }
 
 bool BrowserPage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
+    // Where a redirect leads, the interceptor of requests isn't asked again.
+    if (type == NavigationTypeRedirect && LoopbackGuard::IsNear(url.host()))
+        return false;
     ++requestDepth;
     const bool isAccepted = m_observer && m_observer->AcceptNavigation(url, type, isMainFrame);
     --requestDepth;

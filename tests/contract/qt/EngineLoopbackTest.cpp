@@ -19,6 +19,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+const QString Stranger = u"www.stranger.example.com"_s;
+
 // Every way in which a page can ask for an address, one a line; H stands for "HOST:PORT".
 constexpr const char* Ways = R"JS(
     const add = (tag, set) => document.body.appendChild(Object.assign(document.createElement(tag), set));
@@ -52,6 +54,8 @@ constexpr const char* Ways = R"JS(
 class Listener {
 public:
     Listener() {
+        m_tcp.setProxy(QNetworkProxy::NoProxy);
+        m_udp.setProxy(QNetworkProxy::NoProxy);
         EXPECT_TRUE(m_tcp.listen(QHostAddress::Any));
         EXPECT_TRUE(m_udp.bind(QHostAddress::Any, m_tcp.serverPort()));
         QObject::connect(&m_tcp, &QTcpServer::newConnection, &m_tcp, [this] {
@@ -94,15 +98,18 @@ protected:
         LoopbackAnswer page;
         page.body = "<body>attack<script>" + QByteArray(Ways) + script +
                     "\nsetTimeout(() => fetch('/over'), 1500);</script>";
-        site.Answer(u"/attack"_s, page);
-        platform->Browser(BrowserName::WebBrowser1).Navigate(u"http://www.stranger.example.com/attack"_s);
+        site.Answer(Stranger + u"/attack"_s, page);
+        platform->Browser(BrowserName::WebBrowser1).Navigate(u"http://"_s + Stranger + u"/attack"_s);
         QtPump& pump = platform->Pump();
         const qint64 end = pump.NowMs() + 30'000;
-        while (site.CountRequests(u"/over"_s) == 0 && pump.NowMs() < end) {
+        while (site.CountRequests(Stranger + u"/over"_s) == 0 && pump.NowMs() < end) {
             pump.PumpMessages();
             pump.Sleep(10);
         }
-        ASSERT_EQ(site.CountRequests(u"/over"_s), 1);
+        QStringList asked;
+        for (const LoopbackRequest& request : site.Requests())
+            asked += request.method + u' ' + request.url;
+        ASSERT_EQ(site.CountRequests(Stranger + u"/over"_s), 1) << asked.join(u'\n').toStdString();
     }
 
     LoopbackServer site;
@@ -139,17 +146,17 @@ TEST_F(EngineLoopback, NeitherARedirectNorThePageItselfLeadsThere) {
     LoopbackAnswer away;
     away.status = 302;
     away.headers = "Location: http://127.0.0.1:" + QByteArray::number(listener.Port()) + "/away\r\n";
-    site.Answer(u"/away"_s, away);
+    site.Answer(Stranger + u"/away"_s, away);
     ASSERT_NO_FATAL_FAILURE(Visit("add('img', {src: '/away'}); add('iframe', {src: '/away'});"
                                   "fetch('/away', {mode: 'no-cors'}).catch(() => 0);"
                                   "setTimeout(() => location = '/away', 1700);"));
     QtPump& pump = platform->Pump();
     const qint64 end = pump.NowMs() + 30'000;
-    while (site.CountRequests(u"/away"_s) < 4 && pump.NowMs() < end) {
+    while (site.CountRequests(Stranger + u"/away"_s) < 4 && pump.NowMs() < end) {
         pump.PumpMessages();
         pump.Sleep(10);
     }
-    EXPECT_EQ(site.CountRequests(u"/away"_s), 4);
+    EXPECT_EQ(site.CountRequests(Stranger + u"/away"_s), 4);
     // What answers next is asked behind the redirect.
     ASSERT_NO_FATAL_FAILURE({
         site.Clear();
@@ -164,7 +171,7 @@ TEST_F(EngineLoopback, APageCannotSteerThePracticeSite) {
     PracticeServer practice(QStringLiteral(PRACTICE_SITE));
     site.ForwardUnknownTo(practice.Port());
     LoopbackAnswer over;
-    site.Answer(u"/over"_s, over);
+    site.Answer(Stranger + u"/over"_s, over);
     ASSERT_NO_FATAL_FAILURE(Visit(R"JS(
         const controls = 'http://control.myspace.example.com/control';
         const line = 'fault www.myspace.example.com/ error';
