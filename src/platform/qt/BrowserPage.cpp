@@ -15,6 +15,7 @@
 #include <QWebEngineClientCertificateSelection>
 #include <QWebEngineFullScreenRequest>
 #include <QWebEngineLoadingInfo>
+#include <QWebEngineProfile>
 #include <QWebEngineQuotaRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineScript>
@@ -160,8 +161,9 @@ void BrowserPage::triggerAction(WebAction action, bool checked) {
 }
 
 bool BrowserPage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
-    // Where a redirect leads, the interceptor of requests isn't asked again.
-    if (type == NavigationTypeRedirect && LoopbackGuard::IsNear(url.host()))
+    // Where a redirect leads, the guard among the profile's interceptors isn't asked again.
+    const bool isGuarded = profile()->findChild<QWebEngineUrlRequestInterceptor*>() != nullptr;
+    if (isGuarded && type == NavigationTypeRedirect && LoopbackGuard::IsNear(url.host()))
         return false;
     ++requestDepth;
     const bool isAccepted = m_observer && m_observer->AcceptNavigation(url, type, isMainFrame);
