@@ -73,8 +73,9 @@ void QtBrowser::Apply(const PageMessage& message) {
     }
     switch (message.kind) {
     case Kind::Arrived:
-        // The one that has been written to was shown before it could tell.
-        if (isBlankPage && (m_isEngineBlank || message.document == m_documentId))
+        // The one that has been written to was shown before it could tell; any other may have been met by
+        // an answer of its own already.
+        if ((isBlankPage && m_isEngineBlank) || message.document == m_documentId)
             break;
         Arrive(message.document, message.url);
         break;
@@ -192,6 +193,10 @@ void QtBrowser::OnLoading(const QWebEngineLoadingInfo& info) {
 
 void QtBrowser::OnEnd(const QUrl& url, LoadEnd end) {
     const bool isTarget = url == m_target;
+    // The engine may report the failure that the error page is about once more, under the error page's
+    // address. It comes nevertheless; shown again, it would be about itself.
+    if (end == LoadEnd::Failed && !m_failing.isEmpty() && url.scheme() == u"data"_s)
+        return;
     if (end == LoadEnd::Failed && (isTarget || !m_isOnItsWay))
         OnFailed(url);
     else if (end == LoadEnd::Stopped && isTarget)
