@@ -1,10 +1,8 @@
-# Everything that is not a form, a widget or a platform.
+# Everything that is not a form, a widget or a platform, floor by floor.
 add_library(quillmere_logic STATIC
     platform/MessageQueue.cpp
 
     core/AccountName.cpp
-    core/ActionTick.cpp
-    core/Activities.cpp
     core/AnsiText.cpp
     core/App.cpp
     core/BrowserSounds.cpp
@@ -14,45 +12,52 @@ add_library(quillmere_logic STATIC
     core/Descriptor.cpp
     core/Diagnostics.cpp
     core/FileSystem.cpp
-    core/GlobalSettings.cpp
     core/IdList.cpp
     core/IniFile.cpp
     core/LineReader.cpp
     core/LineSearch.cpp
     core/LongWait.cpp
-    core/MainForm.cpp
     core/PasswordMask.cpp
     core/ProductServer.cpp
     core/ProfileLock.cpp
     core/Registry.cpp
     core/SettingsFields.cpp
-    core/StartUp.cpp
-    core/StopResume.cpp
     core/SupportFiles.cpp
     core/Text.cpp
     core/Waiting.cpp
 
-    browser/BrowserHost.cpp
-    browser/ErrorPages.cpp
-    browser/ExpectedElement.cpp
-    browser/FocusHelper.cpp
-    browser/GatherPageTest.cpp
-    browser/LanguageTest.cpp
-    browser/LastPageRules.cpp
+    browser/Cover.cpp
+    browser/LanguageSigns.cpp
     browser/LinkClicks.cpp
     browser/PageBoxes.cpp
     browser/PageClassTable.cpp
     browser/PageClassifier.cpp
-    browser/PageDetours.cpp
-    browser/PageTests.cpp
+    browser/PageSigns.cpp
     browser/PageWords.cpp
+    browser/ProfileLinkRules.cpp
+    browser/ProfileLinks.cpp
+    browser/RefusalTexts.cpp
     browser/ScriptEdits.cpp
-    browser/StepDispatcher.cpp
-    browser/TypedLogin.cpp
+    browser/ScriptValues.cpp
+
+    steps/ActionTick.cpp
+    steps/Activities.cpp
+    steps/BrowserHost.cpp
+    steps/ExpectedElement.cpp
+    steps/FocusHelper.cpp
+    steps/FullListRules.cpp
+    steps/LastPageRules.cpp
+    steps/PageDetours.cpp
+    steps/ReportRows.cpp
+    steps/RunReport.cpp
+    steps/StepDispatcher.cpp
+    steps/StopResume.cpp
+    steps/TypedLogin.cpp
 
     accounts/AccountDetails.cpp
     accounts/AccountFile.cpp
     accounts/AccountScreens.cpp
+    accounts/LoginErrorPages.cpp
     accounts/LoginFlow.cpp
     accounts/LoginForm.cpp
     accounts/LoginSubmission.cpp
@@ -60,6 +65,7 @@ add_library(quillmere_logic STATIC
 
     gather/BlackList.cpp
     gather/BlackListForm.cpp
+    gather/ClickGather.cpp
     gather/FilterOptions.cpp
     gather/FilterPass.cpp
     gather/FirstPageSigns.cpp
@@ -77,8 +83,6 @@ add_library(quillmere_logic STATIC
     gather/PageTurn.cpp
     gather/Pager.cpp
     gather/ProfileFilters.cpp
-    gather/ProfileLinkRules.cpp
-    gather/ProfileLinks.cpp
     gather/ProfileText.cpp
     gather/ProfileVisit.cpp
     gather/SearchForm.cpp
@@ -90,8 +94,10 @@ add_library(quillmere_logic STATIC
     content/MessageFile.cpp
 
     campaigns/BulletinDots.cpp
+    campaigns/CampaignErrorPages.cpp
     campaigns/Campaigns.cpp
     campaigns/CaptchaCalls.cpp
+    campaigns/ChainedStart.cpp
     campaigns/ContentChoice.cpp
     campaigns/Counters.cpp
     campaigns/FriendCategories.cpp
@@ -99,17 +105,20 @@ add_library(quillmere_logic STATIC
     campaigns/LogDialog.cpp
     campaigns/OpenNotes.cpp
     campaigns/Pacing.cpp
-    campaigns/RefusalTexts.cpp
     campaigns/ReportDialog.cpp
-    campaigns/ReportRows.cpp
     campaigns/RequestFields.cpp
     campaigns/RequestSubmission.cpp
-    campaigns/RunReport.cpp
     campaigns/SendRuns.cpp
     campaigns/SentLog.cpp
     campaigns/StartChecks.cpp
     campaigns/TargetName.cpp
     campaigns/TimeDelayDialog.cpp
+
+    program/Activities.cpp
+    program/GlobalSettings.cpp
+    program/MainForm.cpp
+    program/Program.cpp
+    program/StartUp.cpp
 )
 target_include_directories(quillmere_logic PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(quillmere_logic PUBLIC quillmere_options Qt6::Core)

@@ -2,15 +2,15 @@
 // Wires the product together: engine, platform, logic and windows.
 #include "CommandLine.h"
 #include "core/App.h"
-#include "core/MainForm.h"
 #include "core/ProfileLock.h"
-#include "core/StartUp.h"
 #include "guided/GuidedRun.h"
 #include "guided/PracticeControls.h"
 #include "guided/ResumedRun.h"
 #include "platform/qt/EngineProfile.h"
 #include "platform/qt/QtPlatform.h"
 #include "platform/qt/SessionEnd.h"
+#include "program/MainForm.h"
+#include "program/StartUp.h"
 #include "shell/DesktopDialogs.h"
 #include "shell/Look.h"
 
@@ -67,19 +67,19 @@ int RunProgram(QApplication& application, QtPlatform& platform, DesktopDialogs& 
     const auto detach = qScopeGuard([&dialogs] { dialogs.Detach(); });
 
     platform.onPracticeSite = [&app, &platform] {
-        app.mainForm->ShowPracticeSite(platform.PracticeSiteRuns());
+        app.Get<MainForm>().ShowPracticeSite(platform.PracticeSiteRuns());
     };
-    app.mainForm->ShowPracticeSite(platform.PracticeSiteRuns());
+    app.Get<MainForm>().ShowPracticeSite(platform.PracticeSiteRuns());
     SessionEnd session;
     // Before the main window is there, nothing is restored that could be saved.
     session.onSave = [&app, &dialogs] {
         if (dialogs.IsFormOpen(u"frmMain"_s))
-            app.mainForm->SaveAll();
+            app.Get<MainForm>().SaveAll();
     };
     session.onEnd = [&app, &platform, &dialogs] {
         platform.Pump().Queue().Post([&app, &dialogs] {
             dialogs.DismissBoxes();
-            app.mainForm->UnloadUnasked();
+            app.Get<MainForm>().UnloadUnasked();
         });
     };
 
@@ -92,7 +92,7 @@ int RunProgram(QApplication& application, QtPlatform& platform, DesktopDialogs& 
             driver->Start();
         if (const QString problem = platform.StartProblem(); !problem.isEmpty())
             app.ShowMessage(problem);
-        app.startUp->Main();
+        app.Get<StartUp>().Main();
     });
     const int status = QApplication::exec();
     return driver ? driver->ExitCode() : status;

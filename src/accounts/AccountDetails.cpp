@@ -94,9 +94,9 @@ void AccountDetails::Store() {
     m_app.waiting.Pump();
     MarkAddAccount(m_app, 7);
     if (m_email.isEmpty())
-        m_app.accountFile->Add(email, password);
+        m_app.Get<AccountFile>().Add(email, password);
     else
-        m_app.accountFile->Edit(m_email, email, password);
+        m_app.Get<AccountFile>().Edit(m_email, email, password);
     m_email = email;
     MarkAddAccount(m_app, 16);
     m_app.platform.Dialogs().CloseForm(u"frmAccountDetails"_s);

@@ -31,11 +31,9 @@ QString EmailOf(const QString& plainLine) {
     return plainLine.left(plainLine.indexOf(u';'));
 }
 
-// More than any e-mail and password have. What is longer is no account, and would hold up the screens.
-constexpr qsizetype LongestPlainLine = 2000;
-
+// What is longer is no account, and would hold up the screens.
 bool IsTooLong(const QString& stored) {
-    return stored.size() > 2 * LongestPlainLine;
+    return stored.size() > 2 * LongestAccountLine;
 }
 
 bool SameEmail(const QString& left, const QString& right) {
@@ -71,18 +69,6 @@ QString DecodeAccountLine(const QString& digits) {
     for (qsizetype i = 0; i < digits.size(); i += 2)
         bytes.append(static_cast<char>(LeadingHexNumber(QStringView(digits).mid(i, 2))));
     return FromAnsi(bytes);
-}
-
-QString AccountProblem(const QString& email, const QString& password) {
-    if (const QString problem = AccountNameProblem(email); !problem.isEmpty())
-        return problem;
-    if (!FitsAnsi(password))
-        return u"The password holds letters that the account list cannot keep. It keeps Western European "
-               u"letters, "
-               "digits and signs."_s;
-    if (email.size() + password.size() >= LongestPlainLine)
-        return u"The password is too long."_s;
-    return {};
 }
 
 void MarkAddAccount(App& app, int number) {

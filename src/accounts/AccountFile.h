@@ -13,9 +13,6 @@ class App;
 QString EncodeAccountLine(const QString& plain);
 QString DecodeAccountLine(const QString& digits);
 
-// Why the account can't be kept, in words for the user; empty when it can.
-QString AccountProblem(const QString& email, const QString& password);
-
 // The store of accounts, "scalemodelight.txt" in ProgramFolder, readable by its owner alone. Nothing is
 // cached: every operation opens, reads and closes the file, and creates it empty when it is missing. At
 // whatever write an operation is cut off, the old or the new list stands whole. Throws FileError.

@@ -65,7 +65,7 @@ void AccountScreens::FillAccountsList(const AccountScreen& screen, const QString
         Controls& controls = m_app.controls;
         controls.SetItems(screen.list, {});
         const auto [emails, hadLines, tooLong] =
-            m_app.accountFile->Emails(path, encrypted, !screen.isLoginScreen);
+            m_app.Get<AccountFile>().Emails(path, encrypted, !screen.isLoginScreen);
         if (hadLines) {
             controls.SetItems(screen.list, emails);
             controls.SetSelected(screen.list, 0);
@@ -82,7 +82,7 @@ void AccountScreens::FillAccountsList(const AccountScreen& screen, const QString
 }
 
 void AccountScreens::FillFromAccountFile(const AccountScreen& screen) {
-    FillAccountsList(screen, m_app.accountFile->Path(), true);
+    FillAccountsList(screen, m_app.Get<AccountFile>().Path(), true);
 }
 
 void AccountScreens::SelectEmail(const AccountScreen& screen, const QString& email) {
@@ -109,7 +109,7 @@ void AccountScreens::cmdEdit_Click(const AccountScreen& screen) {
         if (m_app.controls.Selected(screen.list) < 0)
             return;
         const QString email = m_app.controls.SelectedText(screen.list);
-        const QString stored = m_details.Show(email, m_app.accountFile->GetPasswordFromEmail(email));
+        const QString stored = m_details.Show(email, m_app.Get<AccountFile>().GetPasswordFromEmail(email));
         FillFromAccountFile(screen);
         SelectEmail(screen, stored);
     });
@@ -119,7 +119,7 @@ void AccountScreens::cmdDelete_Click(const AccountScreen& screen) {
     m_app.diagnostics.Trap(screen.deleteName, [&] {
         if (m_app.controls.Selected(screen.list) < 0)
             return;
-        m_app.accountFile->Delete(m_app.controls.SelectedText(screen.list));
+        m_app.Get<AccountFile>().Delete(m_app.controls.SelectedText(screen.list));
         FillFromAccountFile(screen);
     });
 }
@@ -198,11 +198,11 @@ void AccountScreens::Continue() {
     m_app.controls.SetText("frmInteken.cmdContinue"_L1, u"Please Wait..."_s);
     m_app.controls.SetEnabled("frmInteken.cmdContinue"_L1, false);
     state.AccountEmail = m_app.controls.SelectedText(LoginScreen().list).trimmed().toLower();
-    state.AccountPassword = m_app.accountFile->GetPasswordFromEmail(state.AccountEmail);
+    state.AccountPassword = m_app.Get<AccountFile>().GetPasswordFromEmail(state.AccountEmail);
     settings.SaveSetting(FieldEntries, u"Login - chkTOS"_s, u"1"_s);
     settings.SaveSetting(FieldEntries, u"Login - txtEmail"_s, state.AccountEmail);
     settings.SaveSetting(FieldEntries, u"Login - txtPassword"_s, state.AccountPassword);
-    m_app.settingsFields->Sync();
+    m_app.Get<SettingsFields>().Sync();
     m_app.platform.Dialogs().ShowForm(u"frmMain"_s);
     m_app.platform.Dialogs().CloseForm(u"frmInteken"_s);
 }
@@ -229,14 +229,14 @@ void AccountScreens::mnuSwitchLogin_Click() {
         FillFromAccountFile(SwitchScreen());
         m_app.platform.Dialogs().ShowModal(u"frmSwitchAccount"_s);
         if (!m_switchEmail.isEmpty())
-            m_app.loginFlow->LogInSpecifiedAccount(m_switchEmail, m_switchPassword);
+            m_app.Get<LoginFlow>().LogInSpecifiedAccount(m_switchEmail, m_switchPassword);
     });
 }
 
 void AccountScreens::cmdOK_Click() {
     m_app.diagnostics.Trap("cmdOK_Click - frmSwitchAccount", [this] {
         m_switchEmail = m_app.controls.SelectedText(SwitchScreen().list);
-        m_switchPassword = m_app.accountFile->GetPasswordFromEmail(m_switchEmail);
+        m_switchPassword = m_app.Get<AccountFile>().GetPasswordFromEmail(m_switchEmail);
         m_app.platform.Dialogs().CloseForm(u"frmSwitchAccount"_s);
     });
 }
@@ -245,7 +245,7 @@ void AccountScreens::cmdClear_Click() {
     m_app.diagnostics.Trap("cmdClear_Click", [this] {
         if (!m_app.AskYesNo(u"Are you sure you want to clear all the accounts form the list?"_s, u"Clear"_s))
             return;
-        m_app.accountFile->Clear();
+        m_app.Get<AccountFile>().Clear();
         FillFromAccountFile(SwitchScreen());
     });
 }
@@ -256,7 +256,7 @@ void AccountScreens::cmdExport_Click() {
         if (path.isEmpty())
             return;
         m_app.diagnostics.Trap("SaveList", [this, &path] {
-            m_app.accountFile->Export(path, m_app.controls.Items(SwitchScreen().list));
+            m_app.Get<AccountFile>().Export(path, m_app.controls.Items(SwitchScreen().list));
         });
     });
 }
@@ -271,12 +271,12 @@ void AccountScreens::cmdImport_Click() {
         const QString path = m_app.platform.Dialogs().ChooseFileToOpen(u"Import Accounts"_s, TextFiles);
         if (path.isEmpty())
             return;
-        if (const QString problem = m_app.accountFile->ImportProblem(path); !problem.isEmpty()) {
+        if (const QString problem = m_app.Get<AccountFile>().ImportProblem(path); !problem.isEmpty()) {
             m_app.ShowMessage(problem, u"Import Accounts"_s);
             return;
         }
         FillAccountsList(SwitchScreen(), path, false);
-        m_app.accountFile->Import(path);
+        m_app.Get<AccountFile>().Import(path);
     });
 }
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "accounts/LoginFlow.h"
 
-#include "browser/PageTests.h"
-#include "campaigns/Pacing.h"
+#include "browser/Cover.h"
+#include "browser/PageSigns.h"
 #include "core/App.h"
 #include "core/SettingsFields.h"
-#include "core/StopResume.h"
 #include "core/Text.h"
-#include "gather/GatheredList.h"
+#include "steps/StepDispatcher.h"
+#include "steps/StopResume.h"
 
 namespace qlm {
 
@@ -15,20 +15,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr qsizetype ShownEmailLength = 27;
-
-struct ChainedStart {
-    QLatin1StringView campaign;
-    QLatin1StringView command;
-};
-
-constexpr ChainedStart ChainedStarts[]{
-    {"FR"_L1, "piccmdAddFriends_Click"_L1},
-    {"MSG"_L1, "picCmdMsgSend_Click"_L1},
-    {"BUL"_L1, "picCmdBulSend_Click"_L1},
-};
 } // namespace
 
 LoginFlow::LoginFlow(App& app) : m_app(app) {
+    app.Get<StepDispatcher>().logInAgain = [this] { DoLogin(); };
     app.timers->tmrLoginProblem.SetHandler([this] { tmrLoginProblem_Timer(); });
     app.commands.Add(u"frmLoginProblem.cmdClose_Click"_s,
                      [this] { m_app.platform.Dialogs().CloseForm(u"frmLoginProblem"_s); });
@@ -104,7 +94,7 @@ void LoginFlow::BeginStep() {
 // A login form on the screen wins over whatever the machine was waiting for.
 void LoginFlow::LoginFormWins() {
     RunState& state = m_app.state;
-    PageTests& page = *m_app.pageTests;
+    PageSigns& page = m_app.Get<PageSigns>();
     const bool formShown = page.IsLoggedOutPage() && !page.IsTextInPage(u"Login again?"_s);
     if (!formShown || state.CurrentAction != u"LOGIN"_s || state.intLoginStep == 3)
         return;
@@ -118,8 +108,8 @@ void LoginFlow::LoginFormWins() {
 }
 
 void LoginFlow::RestoreAccount() {
-    m_app.settingsFields->RestoreAccountSettings();
-    m_app.settingsFields->RestoreAccountSpecificFields();
+    m_app.Get<SettingsFields>().RestoreAccountSettings();
+    m_app.Get<SettingsFields>().RestoreAccountSpecificFields();
 }
 
 void LoginFlow::OpenSite() {
@@ -162,7 +152,7 @@ bool LoginFlow::SignOut() {
 bool LoginFlow::ClickSignOutLink() {
     bool told = false;
     m_app.waiting.WaitFor(u"a link that signs out"_s, [this, &told] {
-        if (!IsLoggingIn(2) || m_app.pageTests->ClickLinkFromHref(u"/signout?"_s, u"WebBrowser1"_s))
+        if (!IsLoggingIn(2) || m_app.Get<PageSigns>().ClickLinkFromHref(u"/signout?"_s, u"WebBrowser1"_s))
             return false;
         if (!told)
             Log(u"ILoginAcc 1.3.2... CLICK AGAIN!!"_s);
@@ -199,31 +189,12 @@ void LoginFlow::FinishLogin() {
     ShowLoggedInAs();
     m_app.state.AccountsLoadedOnce = false;
     if (m_app.state.blnChaining) {
-        RestartCampaign();
+        goOnInChain();
         return;
     }
-    m_app.stopResume->StopAll(u"ILA"_s);
+    m_app.Get<StopResume>().StopAll(u"ILA"_s);
     m_app.SetStatus(u"Login successful!"_s);
-    m_app.stopResume->DoFinishedExit();
-}
-
-// The next account of a chain goes on with the campaign of the one before it.
-void LoginFlow::RestartCampaign() {
-    if (m_app.controls.Ticked("chkSaveScanned"_L1))
-        m_app.gatheredList->FillScannedList(m_app.gatheredList->ScopedPath(), true, false);
-    // A long list takes a while, in which the user may have pressed Stop.
-    if (!IsLoggingIn(4))
-        return;
-    m_app.state.CurrentAction.clear();
-    for (const ChainedStart& start : ChainedStarts)
-        if (m_app.state.ChainedCampaign == start.campaign)
-            m_app.commands.Run(QString(start.command));
-}
-
-void LoginFlow::ShowLanguageMessage() {
-    m_app.ShowMessage(
-        u"In order to use Quillmere, your MySpace language setting must be English.\n\nPlease change "
-        "this in your account settings and restart the program."_s);
+    m_app.Get<StopResume>().DoFinishedExit();
 }
 
 void LoginFlow::ShowLoggedInAs() {
@@ -240,11 +211,11 @@ void LoginFlow::LogInSpecifiedAccount(const QString& email, const QString& passw
             return;
         RunState& state = m_app.state;
         if (m_app.controls.Text("lblLoggedInAs"_L1).contains(u'@'))
-            m_app.settingsFields->SaveListsAndSettings();
+            m_app.Get<SettingsFields>().SaveListsAndSettings();
         state.SwitchingAccount = true;
         state.AccountEmail = email.trimmed().toLower();
         state.AccountPassword = password.trimmed();
-        m_app.pacing->HideCover();
+        m_app.Get<Cover>().Hide();
         m_app.waiting.OutdateSteps();
         m_app.timers->Timer1.SetEnabled(false);
         // What a login that came to no end has restored belongs to another account.

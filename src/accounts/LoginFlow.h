@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 namespace qlm {
 
@@ -25,10 +26,11 @@ public:
     // The value of key in the page's scripts; an empty key means "DisplayFriendId". browserName is
     // "WebBrowser1" or "webHide".
     QString GetPageScriptValue(const QString& browserName, const QString& key);
-    // The message box of a site that isn't in English.
-    void ShowLanguageMessage();
     // Switch Login: logs in another account, saving the fields of the present one first.
     void LogInSpecifiedAccount(const QString& email, const QString& password);
+
+    // What follows a login in a chain of accounts: the campaign goes on with this one.
+    std::function<void()> goOnInChain;
 
 private:
     bool RunStep();
@@ -41,7 +43,6 @@ private:
     bool ClickSignOutLink(); // false when the login was stopped meanwhile
     void OpenLoginPage();    // 2
     void FinishLogin();      // 4
-    void RestartCampaign();  // 4, in a chain
 
     void FillAndSubmit();
     void WaitForCompletePage();

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "accounts/LoginFlow.h"
-
 #include "accounts/LoginForm.h"
 #include "browser/PageBoxes.h"
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
 #include "core/App.h"
 
 namespace qlm {
@@ -93,14 +92,14 @@ void LoginFlow::Press(const Element& button, bool stopFirst) {
 void LoginFlow::StopProblemTimer() {
     Timer& timer = m_app.timers->tmrLoginProblem;
     timer.SetEnabled(false);
-    m_app.pageBoxes->ClosePopup(u"Login problem"_s);
+    m_app.Get<PageBoxes>().ClosePopup(u"Login problem"_s);
 }
 
 void LoginFlow::tmrLoginProblem_Timer() {
     m_app.diagnostics.Trap("tmrLoginProblem_Timer", [this] {
         Timer& timer = m_app.timers->tmrLoginProblem;
         Log(u"tmrLoginProblem"_s);
-        const bool formShown = m_app.pageTests->IsLoggedOutPage();
+        const bool formShown = m_app.Get<PageSigns>().IsLoggedOutPage();
         m_app.waiting.WaitFor(u"the page to be complete"_s,
                               [this, &timer] { return m_app.WebBrowser1().Busy() && timer.Enabled(); });
         if (!timer.Enabled())
@@ -111,7 +110,7 @@ void LoginFlow::tmrLoginProblem_Timer() {
             timer.SetInterval(NextProblemLookMs);
         } else if (!formShown) {
             if (timer.Interval() == NextProblemLookMs)
-                m_app.pageBoxes->ClosePopup(u"Login problem"_s);
+                m_app.Get<PageBoxes>().ClosePopup(u"Login problem"_s);
             timer.SetInterval(0);
             timer.SetEnabled(false);
         }

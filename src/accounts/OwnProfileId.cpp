@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "accounts/OwnProfileId.h"
-
 #include "accounts/LoginFlow.h"
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
+#include "browser/ScriptValues.h"
 #include "core/App.h"
 #include "core/Text.h"
 
@@ -11,34 +10,8 @@ namespace qlm {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
 constexpr int ProfileIDSeconds = 15;
-
-// A null text when the mark isn't there.
-QString Behind(const QString& text, const QString& mark, QChar end) {
-    const qsizetype found = text.indexOf(mark, 0, Qt::CaseInsensitive);
-    if (found < 0)
-        return {};
-    const qsizetype start = found + mark.size();
-    const qsizetype stop = text.indexOf(end, start);
-    return text.mid(start, stop < 0 ? -1 : stop - start);
-}
-
 } // namespace
-
-QString ValueBehindFirstKey(const QString& script, const QString& key) {
-    if (!Has(script, key + u':') && !Has(script, key + u"\":"_s))
-        return {};
-    return Behind(script, key, u',').remove(u':').remove(u'"').trimmed();
-}
-
-QString ReportedUserId(const QString& html) {
-    return Behind(html, u"reportedUserId="_s, u'&').trimmed();
-}
-
-QString UserIdInPage(const QString& html) {
-    return Behind(html, u"UserId:"_s, u',').remove(u'"').trimmed();
-}
 
 void LoginFlow::ReadProfileID() {
     m_languageTold = false;
@@ -71,11 +44,11 @@ QString LoginFlow::GetPageScriptValue(const QString& browserName, const QString&
 
 QString LoginFlow::GetUsersID2() {
     const QString id = UserIdInPage(m_app.WebBrowser1().Document().BodyHTML());
-    if (m_app.pageTests->IsNotEnglishPage() && !m_languageTold) {
+    if (m_app.Get<PageSigns>().IsNotEnglishPage() && !m_languageTold) {
         // The ID is asked for many times a second; the user is told once.
         m_languageTold = true;
         Log(u"UID3 - LANG"_s);
-        ShowLanguageMessage();
+        ShowLanguageMessage(m_app);
     }
     return id;
 }

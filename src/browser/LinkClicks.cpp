@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
 #include "core/App.h"
 #include "core/Text.h"
 
@@ -45,7 +45,7 @@ template <typename Test> bool ClickFirst(const Document& document, const Test& m
 
 } // namespace
 
-bool PageTests::ClickLink(const QString& kind, const QString& value) {
+bool PageSigns::ClickLink(const QString& kind, const QString& value) {
     m_app.WebBrowser1().SetSilent(true);
     for (const ClickKind& row : ClickKinds())
         if (kind == row.kind)
@@ -54,14 +54,14 @@ bool PageTests::ClickLink(const QString& kind, const QString& value) {
     return false;
 }
 
-bool PageTests::ClickLinkFromHref(const QString& hrefPart, const QString& browser) {
+bool PageSigns::ClickLinkFromHref(const QString& hrefPart, const QString& browser) {
     m_app.WebBrowser1().SetSilent(true);
     m_app.webHide().SetSilent(true);
     BrowserControl& control = browser == u"webHide"_s ? m_app.webHide() : m_app.WebBrowser1();
     return ClickFirst(control.Document(), [&](const Element& link) { return Has(link.Href(), hrefPart); });
 }
 
-QString PageTests::GetHrefFromSecondID() {
+QString PageSigns::GetHrefFromSecondID() {
     WaitForDocument();
     QString href;
     int counted = 0;

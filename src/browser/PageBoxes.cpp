@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "browser/PageBoxes.h"
 
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
 #include "core/App.h"
 
 #include <algorithm>
@@ -29,7 +29,7 @@ bool PageBoxes::hGlobalDoc_oncontextmenu() {
         return true;
     // A page that is still to come asks for none, and must not be waited for in the answer to a click.
     const Document document = m_app.WebBrowser1().Document();
-    return document && !document.Body().IsNull() && m_app.pageTests->IsCaptchaPage();
+    return document && !document.Body().IsNull() && m_app.Get<PageSigns>().IsCaptchaPage();
 }
 
 } // namespace qlm

@@ -2,7 +2,7 @@
 #include "browser/PageClassifier.h"
 
 #include "browser/PageClassTable.h"
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
 #include "core/App.h"
 
 #include <algorithm>
@@ -52,10 +52,10 @@ bool PageClassifier::ClassifyErrorPage() {
     RunState& state = m_app.state;
     state.intPageClass = 0;
     m_app.WebBrowser1().SetSilent(true);
-    m_app.pageTests->WaitForDocument();
+    m_app.Get<PageSigns>().WaitForDocument();
     const QString text = m_app.WebBrowser1().Document().BodyText();
-    const PageUnderTest page{state, text, m_app.pageTests->Lowered(text),
-                             m_app.pageTests->LocationURL().toLower()};
+    const PageUnderTest page{state, text, m_app.Get<PageSigns>().Lowered(text),
+                             m_app.Get<PageSigns>().LocationURL().toLower()};
     const auto& table = PageClassTable();
     const auto row =
         std::find_if(table.begin(), table.end(), [&](const PageClassRow& r) { return Matches(r, page); });

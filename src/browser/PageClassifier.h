@@ -21,4 +21,7 @@ private:
     App& m_app;
 };
 
+// What the site said, for each class of the page classifier; "" for a class that has no words.
+QString RefusalText(int pageClass);
+
 } // namespace qlm

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
 #include "core/App.h"
 #include "core/Text.h"
 
@@ -34,7 +34,7 @@ const std::vector<PageWord>& PageWords() {
     return rows;
 }
 
-bool Shows(PageTests& tests, KnownPage page) {
+bool Shows(PageSigns& tests, KnownPage page) {
     return std::any_of(PageWords().begin(), PageWords().end(), [&](const PageWord& word) {
         return word.page == page && tests.IsTextInPage(QString::fromUtf16(word.text));
     });
@@ -42,29 +42,29 @@ bool Shows(PageTests& tests, KnownPage page) {
 
 } // namespace
 
-bool PageTests::AsksForPassword() {
+bool PageSigns::AsksForPassword() {
     return Shows(*this, KnownPage::LoggedOut);
 }
 
-bool PageTests::AsksForPassword(const QString& pageText) {
+bool PageSigns::AsksForPassword(const QString& pageText) {
     return std::any_of(PageWords().begin(), PageWords().end(), [&](const PageWord& word) {
         return word.page == KnownPage::LoggedOut && Has(pageText, QString::fromUtf16(word.text));
     });
 }
 
-bool PageTests::IsLoggedOutPage() {
+bool PageSigns::IsLoggedOutPage() {
     return AsksForPassword() && m_app.deployment.IsSitePage(m_app.WebBrowser1().Document().Address());
 }
 
-bool PageTests::IsCaptchaPage() {
+bool PageSigns::IsCaptchaPage() {
     return Shows(*this, KnownPage::Captcha);
 }
 
-bool PageTests::IsRequestSentPage() {
+bool PageSigns::IsRequestSentPage() {
     return Shows(*this, KnownPage::RequestSent);
 }
 
-bool PageTests::IsAdvertiserProfile() {
+bool PageSigns::IsAdvertiserProfile() {
     m_app.WebBrowser1().SetSilent(true);
     WaitForDocument();
     return m_app.WebBrowser1().Document().BodyOuterHTML().contains(u"advertiserProfile"_s,

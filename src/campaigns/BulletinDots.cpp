@@ -43,7 +43,7 @@ QString GetBulletinDots(App& app) {
     }
     ++count;
     settings.SaveSetting(Section, CountKey, QString::number(count));
-    app.settingsFields->Sync();
+    app.Get<SettingsFields>().Sync();
     return count == 1 ? QString() : QString(count - 1, u'.') + u"\r\n"_s;
 }
 

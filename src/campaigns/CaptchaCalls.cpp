@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/CaptchaCalls.h"
 
-#include "browser/PageTests.h"
-#include "campaigns/Pacing.h"
+#include "browser/Cover.h"
+#include "browser/PageSigns.h"
 #include "core/App.h"
-#include "core/StopResume.h"
 #include "core/Text.h"
+#include "steps/StopResume.h"
 
 namespace qlm {
 
@@ -44,7 +44,7 @@ void CaptchaCalls::mnuSkipProfileCAPTCHAs_Click() {
 void CaptchaCalls::CallUser() {
     const RunMark mark = m_app.waiting.Mark();
     m_app.timers->tmrAutoResume.SetEnabled(false);
-    m_app.pacing->HideCover();
+    m_app.Get<Cover>().Hide();
     Attention& attention = m_app.platform.Attention();
     if (m_app.controls.Ticked("mnuCaptchaSound"_L1))
         attention.PlayWAV(m_app.InstalledFile(u"blip.wav"_s));
@@ -94,11 +94,11 @@ void CaptchaCalls::MessagingCAPTCHAReached() {
         RunState& state = m_app.state;
         m_app.WebBrowser1().SetSilent(true);
         m_app.webHide().SetSilent(true);
-        if (m_app.pageTests->IsCaptchaPage()) {
+        if (m_app.Get<PageSigns>().IsCaptchaPage()) {
             WaitForUser();
             return;
         }
-        if (m_app.pageTests->IsTextInPage(MessageSent)) {
+        if (m_app.Get<PageSigns>().IsTextInPage(MessageSent)) {
             m_app.SetStatus(u"Message sent, waiting for confirmation page..."_s);
             m_app.timers->tmrAutoResume.Restart();
             state.blnWaitingForCaptcha = false;
@@ -111,7 +111,7 @@ void CaptchaCalls::MessagingCAPTCHAReached() {
         }
         m_app.diagnostics.DebugForAction(m_app.WebBrowser1().Document().BodyHTML());
         state.intMsgStep = 8;
-        m_app.stopResume->ResumeNext();
+        m_app.Get<StopResume>().ResumeNext();
     });
 }
 
@@ -129,12 +129,12 @@ void CaptchaCalls::WaitForUser() {
         CallUser();
         if (!isStillAt())
             return;
-        m_app.stopResume->PauseLinkCheck();
+        m_app.Get<StopResume>().PauseLinkCheck();
         m_app.waiting.WaitFor(u"the page to be complete"_s,
                               [&] { return isStillAt() && m_app.WebBrowser1().ReadyState() < 4; });
         if (!isStillAt())
             return;
-        m_app.stopResume->ResumeLinkCheck();
+        m_app.Get<StopResume>().ResumeLinkCheck();
     }
     state.blnWaitingForCaptcha = true;
     m_app.timers->tmrCheckLinkLoaded.Restart();

@@ -30,7 +30,7 @@ class Picker {
 public:
     Picker(App& app, const Walk& walk)
         : m_app(app),
-          m_lists(*app.contentLists),
+          m_lists(app.Get<ContentLists>()),
           m_walk(walk),
           m_index(app.state.*walk.index),
           m_randomizes(m_lists.Randomizes(walk.kind)),

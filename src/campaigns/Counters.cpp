@@ -3,11 +3,10 @@
 
 #include "campaigns/Campaigns.h"
 #include "core/App.h"
-#include "core/MainForm.h"
 #include "core/ProductServer.h"
 #include "core/SettingsFields.h"
-#include "core/StopResume.h"
 #include "core/Text.h"
+#include "steps/StopResume.h"
 
 #include <algorithm>
 #include <limits>
@@ -90,7 +89,7 @@ QString SentText(const App& app, const Campaign& campaign, const char* words) {
 void Counters::Restore() {
     auto log = [this](const QString& mark) { m_app.diagnostics.Debug(u"debuginitial.txt"_s, mark); };
     log(u"RestAccS1 - STD:"_s);
-    const std::optional<QDate> today = m_app.productServer->GetServerDate();
+    const std::optional<QDate> today = m_app.Get<ProductServer>().GetServerDate();
     const QString stored = m_app.platform.Settings().GetSetting(DaySection(m_app), DayKey, {});
     const std::optional<QDate> storedDay = ParseDate(stored);
     log(u"RestAccS4.1"_s);
@@ -101,7 +100,7 @@ void Counters::Restore() {
     log(u"RestAccS5"_s);
     if (today) {
         m_app.platform.Settings().SaveSetting(DaySection(m_app), DayKey, today->toString(u"yyyy-MM-dd"_s));
-        m_app.settingsFields->Sync();
+        m_app.Get<SettingsFields>().Sync();
     }
     log(u"RestAccS7 - "_s + stored);
 }
@@ -140,8 +139,8 @@ bool Counters::StopUncounted(const QString& campaign) {
     const Campaign* limited = FindCampaign(campaign);
     if (m_isStored || !limited || !IsPerDay(*limited) || !ToLong(m_app.controls.Text(limited->amount)))
         return false;
-    m_app.stopResume->StopAll(u"UNCOUNTED"_s);
-    if (!m_app.stopResume->DoFinishedExit())
+    m_app.Get<StopResume>().StopAll(u"UNCOUNTED"_s);
+    if (!m_app.Get<StopResume>().DoFinishedExit())
         m_app.ShowMessage(
             u"Quillmere can't save how many you have sent today, so it can't keep your limit per day. "
             "The run has been stopped."_s);
@@ -152,11 +151,11 @@ bool Counters::StopAtLimit(const QString& campaign) {
     const Campaign* limited = FindCampaign(campaign);
     if (!limited || !LimitReached(*limited))
         return false;
-    m_app.stopResume->StopAll(QString::fromLatin1(limited->limitReason));
-    if (m_app.stopResume->HandOverInChain())
+    m_app.Get<StopResume>().StopAll(QString::fromLatin1(limited->limitReason));
+    if (m_app.Get<StopResume>().HandOverInChain())
         return true;
-    m_app.mainForm->ShowTab(u"Gather ID's"_s);
-    if (!m_app.stopResume->DoFinishedExit())
+    m_app.ShowTab(u"Gather ID's"_s);
+    if (!m_app.Get<StopResume>().DoFinishedExit())
         m_app.ShowMessage(u"Your specified limit has been reached"_s);
     return true;
 }
@@ -172,7 +171,7 @@ void Counters::CountOne(const Campaign& campaign) {
     ShowToday(m_app, today);
     m_app.platform.Settings().SaveSetting(CountersSection(m_app), QString::fromLatin1(today.key),
                                           QString::number(state.*campaign.daily));
-    m_isStored = m_app.settingsFields->Sync();
+    m_isStored = m_app.Get<SettingsFields>().Sync();
     Raise(state.*campaign.session);
     m_app.controls.SetText(campaign.sentLabel, SentText(m_app, campaign, campaign.sentSoFar));
 }

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/FriendCategories.h"
 
-#include "browser/PageTests.h"
+#include "browser/Cover.h"
+#include "browser/PageSigns.h"
 #include "campaigns/Pacing.h"
 #include "core/App.h"
 #include "core/SettingsFields.h"
@@ -40,7 +41,7 @@ FriendCategories::FriendCategories(App& app) : m_app(app) {
 
 QString FriendCategories::Path() {
     const QString folder = FileSystem::Join(m_app.state.ProgramFolder,
-                                            m_app.settingsFields->AccountDataPath(u"FriendRequest"_s));
+                                            m_app.Get<SettingsFields>().AccountDataPath(u"FriendRequest"_s));
     return FileSystem::Join(folder, u"CategoriesList.txt"_s);
 }
 
@@ -62,9 +63,9 @@ void FriendCategories::piccmdFRRefreshCategories_Click() {
     m_app.controls.SetItems(Box, {});
     m_app.controls.SetText(Box, u"Retrieving, please wait..."_s);
     QStringList names;
-    m_app.pacing->LendCover();
+    m_app.Get<Cover>().Lend();
     const QString error = m_app.diagnostics.Trap("RetrieveCategories", [&] { names = Fetch(entry); });
-    m_app.pacing->TakeCoverBack();
+    m_app.Get<Cover>().TakeBack();
     if (!IsCurrent(entry))
         return;
     if (names.isEmpty() || !error.isEmpty()) {
@@ -109,7 +110,7 @@ bool FriendCategories::OpenPage(int page, int entry) {
         m_app.state.MyProfileID;
     browser.Navigate(page == 1 ? address : address + u"&p="_s + QString::number(page));
     auto isMissing = [this] {
-        return !m_app.pageTests->IsTextInPage(u"Viewable by:"_s, false, HiddenBrowser);
+        return !m_app.Get<PageSigns>().IsTextInPage(u"Viewable by:"_s, false, HiddenBrowser);
     };
     m_app.waiting.WaitFor(
         u"the list of categories"_s, [&] { return IsCurrent(entry) && isMissing(); },

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/FriendRequester.h"
 
+#include "browser/Cover.h"
 #include "campaigns/Pacing.h"
 #include "campaigns/SendRuns.h"
 #include "campaigns/StartChecks.h"
 #include "core/App.h"
 #include "core/SettingsFields.h"
-#include "core/StopResume.h"
 #include "core/Text.h"
 #include "gather/ProfileFilters.h"
+#include "steps/RunReport.h"
+#include "steps/StopResume.h"
 
 namespace qlm {
 
@@ -39,7 +41,7 @@ FriendRequester::FriendRequester(App& app) : m_app(app), m_categories(app) {
     app.commands.Add(u"frmTempMySpaceErrorFR.cmdOK_Click"_s, [this] {
         const bool notAgain = m_app.controls.Ticked("frmTempMySpaceErrorFR.chkDontShowAgain"_L1);
         m_app.platform.Settings().SaveSetting(u"General"_s, NoticeKey, notAgain ? u"1"_s : u"0"_s);
-        m_app.settingsFields->Sync();
+        m_app.Get<SettingsFields>().Sync();
         m_app.platform.Dialogs().CloseForm(u"frmTempMySpaceErrorFR"_s);
     });
     app.commands.Add(u"chkFrSendMessage_MouseDown"_s, [this] {
@@ -97,7 +99,7 @@ bool FriendRequester::WaitForBusyBrowser() {
         return false;
     // A target that could not be opened is taken again.
     if (step == 5)
-        m_app.sendRuns->MoveCursorBack();
+        m_app.Get<SendRuns>().MoveCursorBack();
     return true;
 }
 
@@ -117,9 +119,9 @@ FriendRequester::Next FriendRequester::RunStep() {
 
 FriendRequester::Next FriendRequester::TakeNextTarget() {
     m_app.state.blnWaitingForCaptcha = false;
-    m_app.pacing->HideCover();
+    m_app.Get<Cover>().Hide();
     m_movedToEnd = false;
-    switch (m_app.sendRuns->TakeTarget(u"IterateAddFriends - 1"_s)) {
+    switch (m_app.Get<SendRuns>().TakeTarget(u"IterateAddFriends - 1"_s)) {
     case SendRuns::Took::Target:
         return OpenTarget();
     case SendRuns::Took::Obsolete:
@@ -133,13 +135,13 @@ FriendRequester::Next FriendRequester::TakeNextTarget() {
 
 FriendRequester::Next FriendRequester::OpenTarget() {
     const qint32 target = m_app.state.lngTargetNumber;
-    m_app.sendRuns->Report().Open(m_app.state.strCurrentID);
+    m_app.Get<RunReport>().Open(m_app.state.strCurrentID);
     m_app.WebBrowser1().Navigate(u"about:blank"_s);
-    m_app.sendRuns->MoveCursor();
+    m_app.Get<SendRuns>().MoveCursor();
     m_app.waiting.Pump();
     if (!IsCurrent(target))
         return Next::Wait;
-    if (m_app.profileFilters->ActiveWhenSending())
+    if (m_app.Get<ProfileFilters>().ActiveWhenSending())
         OpenProfile();
     else
         OpenRequestPage();
@@ -173,25 +175,25 @@ void FriendRequester::OpenRequestPage() {
 }
 
 FriendRequester::Next FriendRequester::EndRun() {
-    m_app.sendRuns->Finish(u"IAF"_s);
+    m_app.Get<SendRuns>().Finish(u"IAF"_s);
     return Next::Wait;
 }
 
 FriendRequester::Next FriendRequester::DecideFilter() {
     RunState& state = m_app.state;
     const qint32 target = state.lngTargetNumber;
-    m_app.pacing->HideCover();
-    const bool passes = m_app.profileFilters->IsFilteredProfile();
+    m_app.Get<Cover>().Hide();
+    const bool passes = m_app.Get<ProfileFilters>().IsFilteredProfile();
     if (!IsCurrent(target) || state.intFRStep != 7)
         return Next::Wait;
     if (!passes) {
         ++state.lngFilteredCount;
-        m_app.sendRuns->Report().Close(ReportResult::Skipped, u"Doesn't match your filter settings"_s);
-        m_app.sendRuns->ShowCounts();
+        m_app.Get<RunReport>().Close(ReportResult::Skipped, u"Doesn't match your filter settings"_s);
+        m_app.Get<SendRuns>().ShowCounts();
         m_app.ClearPage();
         if (!IsCurrent(target))
             return Next::Wait;
-        m_app.sendRuns->RemoveUsedTarget(u"IterateAddFriends - 2"_s);
+        m_app.Get<SendRuns>().RemoveUsedTarget(u"IterateAddFriends - 2"_s);
         state.intFRStep = 5;
         return Next::Again;
     }
@@ -217,7 +219,7 @@ FriendRequester::Next FriendRequester::AfterSend() {
 // A request that was logged has its result already.
 void FriendRequester::CloseReport() {
     const RunState& state = m_app.state;
-    RunReport& report = m_app.sendRuns->Report();
+    RunReport& report = m_app.Get<RunReport>();
     if (!state.blnSkipCurrentID && !state.blnSkipRequested)
         report.Close(ReportResult::SentNotLogged, u"The site did not confirm it"_s);
     else if (m_movedToEnd)
@@ -233,17 +235,17 @@ FriendRequester::Next FriendRequester::GoOnBehindTarget() {
     const bool givenUp = state.blnSkipCurrentID || state.blnSkipRequested;
     if (!givenUp) {
         m_app.SetStatus(u"Friend request successfully sent"_s);
-        m_app.pacing->DoDelay();
+        m_app.Get<Pacing>().DoDelay();
         if (!IsCurrent(target))
             return Next::Wait;
     } else if (!m_movedToEnd) {
         ++state.lngFailedCount;
-        m_app.sendRuns->ShowCounts();
+        m_app.Get<SendRuns>().ShowCounts();
     }
     state.blnSkipCurrentID = false;
     state.blnSkipRequested = false;
     state.blnFRSkipMessage = false;
-    m_app.sendRuns->RemoveUsedTarget(u"IterateAddFriends - 3"_s);
+    m_app.Get<SendRuns>().RemoveUsedTarget(u"IterateAddFriends - 3"_s);
     return Next::Again;
 }
 
@@ -254,7 +256,7 @@ FriendRequester::Next FriendRequester::SendMessageBehind() {
     state.intFRStep = 0;
     state.intMsgStep = 7;
     m_app.SetStatus(u"Friend request successfully sent"_s);
-    m_app.pacing->DoDelay();
+    m_app.Get<Pacing>().DoDelay();
     if (!IsCurrent(target))
         return Next::Wait;
     // The message step moves the cursor on.

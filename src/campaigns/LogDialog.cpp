@@ -34,7 +34,7 @@ void LogDialog::Show(const QString& action) {
     const Campaign* campaign = FindTargetCampaign(action);
     if (!campaign)
         return;
-    m_path = m_app.sentLog->PathFor(action);
+    m_path = m_app.Get<SentLog>().PathFor(action);
     m_app.files.CreateFolder(QFileInfo(m_path).absolutePath());
     m_app.controls.SetText("frmLog.lblHeading"_L1, u"The log file keeps a record of everyone you have "_s +
                                                        QString::fromLatin1(campaign->whatLogRecords) +

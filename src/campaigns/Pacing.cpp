@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/Pacing.h"
 
+#include "browser/Cover.h"
 #include "core/App.h"
-#include "core/StopResume.h"
 #include "core/Text.h"
+#include "steps/StopResume.h"
 
 #include <QScopedValueRollback>
-#include <QUrl>
+
 #include <cmath>
 
 namespace qlm {
@@ -54,15 +55,15 @@ void Pacing::DoDelay() {
     // The hold that a stop has set is the last word, and the next run's delay is its own.
     if (!m_app.waiting.IsCurrent(mark))
         return;
-    m_app.stopResume->ResumeLinkCheck();
+    m_app.Get<StopResume>().ResumeLinkCheck();
     m_app.diagnostics.DebugForAction(u"Delay finished"_s);
     state.blnInDelay = false;
 }
 
 void Pacing::WaitCovered() {
     const RunState& state = m_app.state;
-    m_app.stopResume->PauseLinkCheck();
-    ShowCover();
+    m_app.Get<StopResume>().PauseLinkCheck();
+    m_app.Get<Cover>().Show();
     m_app.SetStatus(m_app.Status() + u"... time delay active."_s);
     CountDown(RandomBetween(m_app, state.lngTimeDelayTo - 1, state.lngTimeDelayFrom) + qint64(1));
 }
@@ -72,7 +73,7 @@ void Pacing::CountDown(qint64 lengthSeconds) {
     const qint64 startMs = m_app.Pump().NowMs();
     qint64 shown = -1;
     qint64 remaining = lengthSeconds;
-    const QScopedValueRollback counting(m_isCounting, true);
+    const QScopedValueRollback pausing(m_app.Get<Cover>().isPausing, true);
     do {
         m_app.waiting.Turn();
         remaining = lengthSeconds - m_app.waiting.SecondsSince(startMs);
@@ -81,37 +82,6 @@ void Pacing::CountDown(qint64 lengthSeconds) {
                                                           LeadingZero(remaining % 60));
         shown = remaining;
     } while (remaining >= 1 && m_app.state.blnInDelay && m_app.waiting.IsCurrent(mark));
-}
-
-void Pacing::ShowCover() {
-    if (m_loans > 0)
-        return;
-    const QString name = u"timedelay.htm"_s;
-    BrowserControl& cover = m_app.webHide();
-    if (!cover.LocationURL().contains(name)) {
-        cover.Navigate(QUrl::fromLocalFile(m_app.InstalledFile(name)).toString());
-    }
-    cover.ZOrder(0);
-}
-
-void Pacing::HideCover() {
-    m_app.webHide().ZOrder(1);
-}
-
-void Pacing::ClearCover() {
-    if (m_loans == 0)
-        m_app.webHide().Navigate(u"about:blank"_s);
-    HideCover();
-}
-
-void Pacing::LendCover() {
-    ++m_loans;
-    HideCover();
-}
-
-void Pacing::TakeCoverBack() {
-    if (--m_loans == 0 && m_isCounting)
-        ShowCover();
 }
 
 } // namespace qlm

@@ -20,14 +20,6 @@ public:
     void UpdateTimeDelayLabel();
     // Reads TimeDelayFrom and TimeDelayTo; what cannot be read counts as 0.
     void ReadBounds();
-    // webHide shows timedelay.htm and comes to the front; or goes to the back.
-    void ShowCover();
-    void HideCover();
-    // The same, and webHide becomes empty.
-    void ClearCover();
-    // webHide fetches something: until it is taken back it covers nothing and shows no other page.
-    void LendCover();
-    void TakeCoverBack();
 
 private:
     void WaitCovered();
@@ -35,8 +27,6 @@ private:
 
     App& m_app;
     TimeDelayDialog m_dialog;
-    bool m_isCounting = false;
-    int m_loans = 0;
 };
 
 // A random whole number from lower; by rounding it can reach upper + 1.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/ReportDialog.h"
 
-#include "campaigns/RunReport.h"
 #include "core/App.h"
+#include "steps/RunReport.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "campaigns/ReportRows.h"
 #include "platform/MessageQueue.h"
+#include "steps/ReportRows.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/RequestFields.h"
 
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
 #include "campaigns/SentLog.h"
 #include "campaigns/TargetName.h"
 #include "core/App.h"
@@ -74,9 +74,9 @@ void RequestFields::ApplyCategory() {
             return state.CurrentAction == u"FR"_s && state.intFRStep == 8 && state.lngTargetNumber == target;
         };
         m_app.SetStatus(u"Waiting for categories to load on page..."_s);
-        m_app.pageTests->ClickLink(u"OuterHTML"_s, u"ShowHideCatsLnk"_s);
+        m_app.Get<PageSigns>().ClickLink(u"OuterHTML"_s, u"ShowHideCatsLnk"_s);
         m_app.waiting.WaitFor(u"the categories on the page"_s, [&] {
-            return isStillAt() && !m_app.pageTests->IsTextInPage(u"catNameColumn"_s, true);
+            return isStillAt() && !m_app.Get<PageSigns>().IsTextInPage(u"catNameColumn"_s, true);
         });
         if (!isStillAt())
             return;
@@ -95,7 +95,7 @@ bool RequestFields::ClickRequestButton() {
             if (!IsRequestButton(input))
                 continue;
             m_app.state.intFRStep = 9;
-            m_app.sentLog->WriteLogEntry();
+            m_app.Get<SentLog>().WriteLogEntry();
             input.Click();
             clicked = true;
             return;

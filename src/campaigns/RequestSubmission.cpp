@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "browser/PageTests.h"
+#include "browser/Cover.h"
+#include "browser/PageSigns.h"
 #include "campaigns/CaptchaCalls.h"
 #include "campaigns/Counters.h"
 #include "campaigns/FriendRequester.h"
-#include "campaigns/Pacing.h"
 #include "campaigns/SendRuns.h"
 #include "campaigns/SentLog.h"
 #include "core/App.h"
-#include "core/StopResume.h"
 #include "gather/GatheredList.h"
+#include "steps/RunReport.h"
+#include "steps/StopResume.h"
 
 #include <utility>
 
@@ -25,7 +26,7 @@ const QString WrongAnswer = u"Security code does not match"_s;
 
 FriendRequester::Next FriendRequester::SubmitFriend() {
     RunState& state = m_app.state;
-    PageTests& page = *m_app.pageTests;
+    PageSigns& page = m_app.Get<PageSigns>();
     const qint32 target = state.lngTargetNumber;
     page.WaitForDocument();
     if (!IsCurrent(target))
@@ -35,13 +36,13 @@ FriendRequester::Next FriendRequester::SubmitFriend() {
         if (MayPutTargetOff())
             return PutTargetOff(target);
         state.intCaptchaSkips = 0;
-        m_app.captchaCalls->CallUser();
+        m_app.Get<CaptchaCalls>().CallUser();
     } else if (page.IsRequestSentPage()) {
         if (!RequestWasSent())
             return Next::Wait;
     } else if (captcha) {
         // The site has refused the answer; the user is there already.
-        m_app.captchaCalls->FocusAnswerField();
+        m_app.Get<CaptchaCalls>().FocusAnswerField();
     } else {
         return LookAgain(target);
     }
@@ -50,29 +51,29 @@ FriendRequester::Next FriendRequester::SubmitFriend() {
 
 // Once a target: a disk that refuses is not asked again at each turn of a wait.
 void FriendRequester::NoteConfirmation() {
-    m_app.sendRuns->Report().Confirm();
+    m_app.Get<RunReport>().Confirm();
     const qint32 target = m_app.state.lngTargetNumber;
     if (std::exchange(m_confirmed, target) != target)
-        m_app.sentLog->NoteContact();
+        m_app.Get<SentLog>().NoteContact();
 }
 
 // False when a limit has stopped the run.
 bool FriendRequester::RequestWasSent() {
     RunState& state = m_app.state;
-    m_app.pacing->HideCover();
+    m_app.Get<Cover>().Hide();
     state.intFRLimitHits = 0;
     state.blnDailyLimitHit = false;
     state.intCaptchaSkips = 0;
     m_app.timers->tmrAutoResume.SetEnabled(false);
     state.blnWaitingForCaptcha = false;
     NoteConfirmation();
-    if (!m_app.counters->AddFriendCount())
+    if (!m_app.Get<Counters>().AddFriendCount())
         return false;
     state.intFRStep = 9;
-    const bool logged = m_app.sentLog->WriteLogEntry();
-    m_app.sendRuns->Report().Close(logged ? ReportResult::Sent : ReportResult::SentNotLogged,
-                                   logged ? QString() : u"The log could not be written"_s);
-    return !m_app.counters->StopUncounted(m_app.state.CurrentAction);
+    const bool logged = m_app.Get<SentLog>().WriteLogEntry();
+    m_app.Get<RunReport>().Close(logged ? ReportResult::Sent : ReportResult::SentNotLogged,
+                                 logged ? QString() : u"The log could not be written"_s);
+    return !m_app.Get<Counters>().StopUncounted(m_app.state.CurrentAction);
 }
 
 // Neither a confirmation nor a CAPTCHA: the page may still be building. The older one has a button of its
@@ -128,7 +129,7 @@ FriendRequester::Next FriendRequester::PutTargetOff(qint32 target) {
     RunState& state = m_app.state;
     MoveTargetToEnd();
     m_movedToEnd = true;
-    m_app.pacing->ClearCover();
+    m_app.Get<Cover>().Clear();
     m_app.ClearPage();
     if (!IsCurrent(target))
         return Next::Wait;
@@ -136,7 +137,7 @@ FriendRequester::Next FriendRequester::PutTargetOff(qint32 target) {
         state.blnFRSkipMessage = true;
     state.blnSkipRequested = true;
     state.intFRStep = 9;
-    m_app.stopResume->ResumeNext();
+    m_app.Get<StopResume>().ResumeNext();
     return Next::Wait;
 }
 
@@ -148,12 +149,12 @@ void FriendRequester::MoveTargetToEnd() {
     if (!m_app.controls.Ticked("chkRemoveAfterSent"_L1) &&
         state.arrFriendIDs.value(place) == state.strCurrentID) {
         const qsizetype before = state.arrFriendIDs.size();
-        m_app.gatheredList->ProcessArrayAndList(u"REMOVE"_s, place, {}, caller);
+        m_app.Get<GatheredList>().ProcessArrayAndList(u"REMOVE"_s, place, {}, caller);
         // An entry beyond the view of the list stays where it is, behind the cursor.
         if (state.arrFriendIDs.size() < before)
             state.intCurrentIDIndex = place;
     }
-    m_app.gatheredList->ProcessArrayAndList(u"ADD"_s, 0, state.strCurrentID, caller);
+    m_app.Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, state.strCurrentID, caller);
 }
 
 // No page check runs in the waits of the step, and the page may be gone when Stop or Skip ends one.
@@ -168,19 +169,19 @@ void FriendRequester::WaitNoting(qint32 target, int seconds) {
 }
 
 void FriendRequester::NoteWhenConfirmed() {
-    if (m_confirmed != m_app.state.lngTargetNumber && m_app.pageTests->IsRequestSentPage())
+    if (m_confirmed != m_app.state.lngTargetNumber && m_app.Get<PageSigns>().IsRequestSentPage())
         NoteConfirmation();
 }
 
 FriendRequester::Next FriendRequester::WaitForAnswer(qint32 target) {
     RunState& state = m_app.state;
-    PageTests& page = *m_app.pageTests;
+    PageSigns& page = m_app.Get<PageSigns>();
     auto goesOn = [this, target, &state] { return IsCurrent(target) && !state.blnHoldLinkCheck; };
     m_app.waiting.WaitFor(u"you to answer the CAPTCHA"_s, [&] {
         if (!goesOn() || !page.IsCaptchaPage())
             return false;
         // A word that the site refuses brings another page.
-        m_app.captchaCalls->FocusAnswerField();
+        m_app.Get<CaptchaCalls>().FocusAnswerField();
         return true;
     });
     auto isComing = [&] { return m_app.WebBrowser1().ReadyState() != 4 && !page.IsTextInPage(WrongAnswer); };

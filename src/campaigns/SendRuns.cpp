@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/SendRuns.h"
 
+#include "accounts/LoginFlow.h"
+#include "browser/Cover.h"
 #include "campaigns/Campaigns.h"
+#include "campaigns/ChainedStart.h"
 #include "campaigns/Counters.h"
-#include "campaigns/Pacing.h"
 #include "campaigns/SentLog.h"
 #include "campaigns/StartChecks.h"
-#include "core/Activities.h"
 #include "core/App.h"
-#include "core/StopResume.h"
 #include "gather/GatheredList.h"
+#include "steps/Activities.h"
+#include "steps/RunReport.h"
+#include "steps/StopResume.h"
 
 namespace qlm {
 
@@ -25,10 +28,11 @@ const QString FriendRequests = u"FR"_s;
 
 } // namespace
 
-SendRuns::SendRuns(App& app) : m_app(app), m_logDialog(app), m_report(app), m_reportDialog(app, m_report) {
+SendRuns::SendRuns(App& app) : m_app(app), m_logDialog(app), m_reportDialog(app, app.Get<RunReport>()) {
     for (const Campaign& campaign : Campaigns())
         if (const Activity* activity = FindActivity(campaign.word); activity->stepRoutine)
             RegisterCommands(campaign);
+    app.Get<LoginFlow>().goOnInChain = [&app] { GoOnInChain(app); };
     app.commands.Add(u"chkRemoveAfterSent_MouseDown"_s, [this] { chkRemoveAfterSent_MouseDown(); });
 }
 
@@ -57,17 +61,17 @@ void SendRuns::Start(const QString& word) {
             mark(u"FR BEGIN1 - "_s);
         m_app.WebBrowser1().SetSilent(true);
         m_app.webHide().SetSilent(true);
-        m_app.pacing->HideCover();
+        m_app.Get<Cover>().Hide();
         if (!CampaignMayStart(m_app, word))
             return;
         if (marks)
             mark(u"FR BEGIN2 - "_s);
         if (campaign.stopsRunningOne)
-            m_app.stopResume->StopAll(QString::fromLatin1(campaign.stopReason));
+            m_app.Get<StopResume>().StopAll(QString::fromLatin1(campaign.stopReason));
         Reset(campaign);
         const RunMark start = m_app.waiting.Mark();
         if (word == FriendRequests)
-            m_report.BeginRun();
+            m_app.Get<RunReport>().BeginRun();
         // A disk that refuses the report brings a box up, and whatever happens behind it.
         m_app.waiting.LeaveUnlessCurrent(start);
         if (activity.step)
@@ -107,8 +111,8 @@ void SendRuns::Reset(const Campaign& campaign) {
         state.intCurrentIDIndex = 0;
     // Of friend requests the log is the only guard against asking somebody twice.
     state.blnCheckLog = campaign.checkLogBox.isEmpty() || m_app.controls.Ticked(campaign.checkLogBox);
-    m_app.sentLog->SettleNotes();
-    m_app.counters->ShowSentAtStart(campaign);
+    m_app.Get<SentLog>().SettleNotes();
+    m_app.Get<Counters>().ShowSentAtStart(campaign);
     ShowCounts();
 }
 
@@ -116,8 +120,8 @@ void SendRuns::Stop(const Campaign& campaign) {
     m_app.diagnostics.Trap(QByteArray(campaign.stop) + "_Click", [&] {
         m_app.WebBrowser1().SetSilent(true);
         m_app.WebBrowser1().Stop();
-        m_app.pacing->HideCover();
-        m_app.stopResume->StopAll(QString::fromLatin1(campaign.stopReason));
+        m_app.Get<Cover>().Hide();
+        m_app.Get<StopResume>().StopAll(QString::fromLatin1(campaign.stopReason));
     });
 }
 
@@ -141,7 +145,7 @@ bool SendRuns::TargetLeft() const {
     const qint32 index = m_app.state.intCurrentIDIndex;
     if (Accepting())
         return index < m_app.controls.Items("lstAcceptIDs"_L1).size();
-    return !m_app.gatheredList->IsEmpty() && index <= m_app.gatheredList->UBound();
+    return !m_app.Get<GatheredList>().IsEmpty() && index <= m_app.Get<GatheredList>().UBound();
 }
 
 SendRuns::Took SendRuns::TakeTarget(const QString& caller) {
@@ -159,7 +163,7 @@ SendRuns::Took SendRuns::TakeTarget(const QString& caller) {
 bool SendRuns::IsLogged() {
     const bool forced = Accepting() && m_app.state.CurrentAction == u"COM"_s &&
                         m_app.controls.Ticked("mnuAddToLogWhenAccepting"_L1);
-    return m_app.sentLog->LogEntryExists(m_app.state.strCurrentID, false, forced);
+    return m_app.Get<SentLog>().LogEntryExists(m_app.state.strCurrentID, false, forced);
 }
 
 // Passes over the current target. False when the run has moved on or ended meanwhile.
@@ -170,21 +174,21 @@ bool SendRuns::StayedBehindSkip(const QString& caller) {
     ++state.lngSkippedCount;
     state.intFRLimitHits = 0;
     if (state.CurrentAction == FriendRequests)
-        m_report.PassOver(state.strCurrentID,
-                          m_app.sentLog->IsNoted(state.strCurrentID)
-                              ? u"You sent to this one before, although your log doesn't say so"_s
-                              : u"You sent to this one before"_s);
+        m_app.Get<RunReport>().PassOver(
+            state.strCurrentID, m_app.Get<SentLog>().IsNoted(state.strCurrentID)
+                                    ? u"You sent to this one before, although your log doesn't say so"_s
+                                    : u"You sent to this one before"_s);
     ShowCounts();
     AdvanceAfterUse(caller);
     if (state.lngSkippedCount % SkipsBetweenPumps != 0)
         return true;
     const qint32 target = state.lngTargetNumber;
     const QString action = state.CurrentAction;
-    m_app.stopResume->PauseLinkCheck();
+    m_app.Get<StopResume>().PauseLinkCheck();
     m_app.waiting.Pump();
     if (state.CurrentAction != action || state.lngTargetNumber != target)
         return false;
-    m_app.stopResume->ResumeLinkCheck();
+    m_app.Get<StopResume>().ResumeLinkCheck();
     return true;
 }
 
@@ -235,7 +239,7 @@ void SendRuns::RemoveUsedTarget(const QString& caller) {
         targets.value(state.intCurrentIDIndex) != state.strCurrentID)
         return;
     const qsizetype before = targets.size();
-    m_app.gatheredList->ProcessArrayAndList(u"REMOVE"_s, state.intCurrentIDIndex, {}, caller);
+    m_app.Get<GatheredList>().ProcessArrayAndList(u"REMOVE"_s, state.intCurrentIDIndex, {}, caller);
     const bool removed = targets.size() < before || targets.IsBlank(0);
     // An entry without a row in the box can't be removed; the walk must not stay on it.
     ++(removed ? state.lngRemovedCount : state.intCurrentIDIndex);
@@ -250,8 +254,8 @@ void SendRuns::Finish(const QString& reason) {
         return;
     }
     RunState& state = m_app.state;
-    m_app.stopResume->StopAll(reason);
-    if (m_app.stopResume->DoFinishedExit())
+    m_app.Get<StopResume>().StopAll(reason);
+    if (m_app.Get<StopResume>().DoFinishedExit())
         return;
     QString text = u"Finished sending "_s + QString::fromLatin1(campaign->what) + u'.';
     auto addParagraph = [&text](qint32 count, const QString& words) {

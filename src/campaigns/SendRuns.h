@@ -3,7 +3,6 @@
 
 #include "campaigns/LogDialog.h"
 #include "campaigns/ReportDialog.h"
-#include "campaigns/RunReport.h"
 
 #include <QString>
 
@@ -20,7 +19,6 @@ public:
     // The start routine of a campaign, by its word: the checks of its tab, the reset, the first step.
     void Start(const QString& campaign);
     void cmdAddFriends_Click() { Start(QStringLiteral("FR")); }
-    RunReport& Report() { return m_report; }
     ReportDialog& ReportWindow() { return m_reportDialog; }
     // The end step of the running campaign; reason is the trace word of the stop. In accept mode the accept
     // run goes on instead.
@@ -63,7 +61,6 @@ private:
 
     App& m_app;
     LogDialog m_logDialog;
-    RunReport m_report;
     ReportDialog m_reportDialog;
 };
 

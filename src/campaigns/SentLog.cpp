@@ -7,7 +7,7 @@
 #include "core/App.h"
 #include "core/LineSearch.h"
 #include "core/SettingsFields.h"
-#include "core/StopResume.h"
+#include "steps/StopResume.h"
 
 namespace qlm {
 
@@ -18,7 +18,7 @@ QString SentLog::PathFor(const QString& action) {
     if (!campaign)
         return {};
     const QString folder =
-        FileSystem::Join(m_app.state.ProgramFolder, m_app.settingsFields->AccountDataPath(u"Log"_s));
+        FileSystem::Join(m_app.state.ProgramFolder, m_app.Get<SettingsFields>().AccountDataPath(u"Log"_s));
     return FileSystem::Join(folder, QString::fromLatin1(campaign->logFile));
 }
 
@@ -35,7 +35,7 @@ bool SentLog::LogEntryExists(const QString& id, bool noPause, bool force) {
     if (!m_app.state.blnCheckLog && !force)
         return false;
     if (!noPause)
-        m_app.stopResume->PauseLinkCheck();
+        m_app.Get<StopResume>().PauseLinkCheck();
     bool found = false;
     m_app.diagnostics.Trap("LogEntryExists", [&] {
         const QString path = PathFor(m_app.state.CurrentAction);
@@ -45,7 +45,7 @@ bool SentLog::LogEntryExists(const QString& id, bool noPause, bool force) {
     if (!found)
         found = IsNoted(id);
     if (!noPause)
-        m_app.stopResume->ResumeLinkCheck();
+        m_app.Get<StopResume>().ResumeLinkCheck();
     return found;
 }
 

@@ -4,7 +4,6 @@
 #include "campaigns/SentLog.h"
 #include "content/ContentLists.h"
 #include "core/App.h"
-#include "core/MainForm.h"
 #include "core/Text.h"
 
 #include <vector>
@@ -50,7 +49,8 @@ bool ListIsEmpty(const App& app) {
 // everybody asked again without a word.
 bool LogIsIllegible(const App& app) {
     bool isIllegible = false;
-    Diagnostics::IgnoreErrors([&] { isIllegible = app.files.IsIllegible(app.sentLog->PathFor(u"FR"_s)); });
+    Diagnostics::IgnoreErrors(
+        [&] { isIllegible = app.files.IsIllegible(app.Get<SentLog>().PathFor(u"FR"_s)); });
     return isIllegible;
 }
 
@@ -80,10 +80,10 @@ template <ContentKind kind> struct Content {
         return app.controls.Ticked(options[static_cast<int>(kind)]);
     }
     static bool ListLacksEntries(const App& app) {
-        return FromList(app) && !app.contentLists->ListHasEntries(kind);
+        return FromList(app) && !app.Get<ContentLists>().ListHasEntries(kind);
     }
     static bool ListLacksSelected(const App& app) {
-        return FromList(app) && app.contentLists->CountListEntries(kind, SelectedFlag) == 0;
+        return FromList(app) && app.Get<ContentLists>().CountListEntries(kind, SelectedFlag) == 0;
     }
 };
 
@@ -228,7 +228,7 @@ void Refuse(App& app, const StartCheck& check) {
     app.ShowMessage(QString::fromUtf16(check.message));
     const QString tab = QString::fromUtf16(check.tab);
     if (app.controls.Items("TabStrip1"_L1).contains(tab))
-        app.mainForm->ShowTab(tab);
+        app.ShowTab(tab);
     if (check.focus[0])
         app.controls.SetFocus(QLatin1StringView(check.focus));
 }

@@ -129,7 +129,7 @@ void TimeDelayDialog::Save(qint16 from, qint16 to) {
     settings.SaveSetting(u"General"_s, u"TimeDelayTo"_s, QString::number(to));
     for (const DelayField& field : DelayFields())
         settings.SaveSetting(u"Field Entries"_s, field.key, m_app.controls.Text(field.name));
-    m_app.settingsFields->Sync();
+    m_app.Get<SettingsFields>().Sync();
 }
 
 } // namespace qlm

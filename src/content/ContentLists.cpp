@@ -89,8 +89,8 @@ QString Identity(ContentKind kind, const QString& line) {
 } // namespace
 
 QString ContentLists::FolderOf(ContentKind kind) {
-    return FileSystem::Join(m_app.state.ProgramFolder,
-                            m_app.settingsFields->AccountDataPath(QString::fromLatin1(RowOf(kind).category)));
+    return FileSystem::Join(m_app.state.ProgramFolder, m_app.Get<SettingsFields>().AccountDataPath(
+                                                           QString::fromLatin1(RowOf(kind).category)));
 }
 
 QString ContentLists::PathOf(ContentKind kind) {
@@ -136,7 +136,7 @@ QString ContentLists::GetNext(ContentKind kind, int index) {
 bool ContentLists::Randomizes(ContentKind kind) {
     const KindRow& row = RowOf(kind);
     return ToBoolean(m_app.platform.Settings().GetSetting(
-        m_app.settingsFields->SectionOf(QString::fromLatin1(row.inputKind)),
+        m_app.Get<SettingsFields>().SectionOf(QString::fromLatin1(row.inputKind)),
         QString::fromLatin1(row.orderKey), u"False"_s));
 }
 

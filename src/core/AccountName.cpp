@@ -63,4 +63,16 @@ QString AccountFolderName(const QString& email) {
     return beginning + u'%' + QString::fromLatin1(hash);
 }
 
+QString AccountProblem(const QString& email, const QString& password) {
+    if (const QString problem = AccountNameProblem(email); !problem.isEmpty())
+        return problem;
+    if (!FitsAnsi(password))
+        return u"The password holds letters that the account list cannot keep. It keeps Western European "
+               u"letters, "
+               "digits and signs."_s;
+    if (email.size() + password.size() >= LongestAccountLine)
+        return u"The password is too long."_s;
+    return {};
+}
+
 } // namespace qlm

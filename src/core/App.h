@@ -5,6 +5,7 @@
 #include "core/Controls.h"
 #include "core/Deployment.h"
 #include "core/Diagnostics.h"
+#include "core/Families.h"
 #include "core/FileSystem.h"
 #include "core/RunState.h"
 #include "core/Waiting.h"
@@ -13,40 +14,6 @@
 #include <memory>
 
 namespace qlm {
-
-class AccountFile;
-class AccountScreens;
-class ActionTick;
-class BlackList;
-class BrowserHost;
-class BrowserSounds;
-class CaptchaCalls;
-class ContentLists;
-class Counters;
-class FriendRequester;
-class GatherDriver;
-class GatheredList;
-class GlobalSettings;
-class IdResolution;
-class LinkScanner;
-class LoginFlow;
-class MainForm;
-class Pacing;
-class PageBoxes;
-class PageClassifier;
-class PageTests;
-class Pager;
-class ProductServer;
-class ProfileFilters;
-class ProfileLinks;
-class SendRuns;
-class SentLog;
-class SettingsFields;
-class StartUp;
-class StepDispatcher;
-class StopResume;
-class SupportFiles;
-class WebSearch;
 
 // The timers of the main window, with the names, intervals and starting states of the design.
 struct Timers {
@@ -82,45 +49,8 @@ public:
     Waiting waiting;
     std::unique_ptr<Timers> timers;
 
-    // core
-    const std::unique_ptr<StartUp> startUp;
-    const std::unique_ptr<MainForm> mainForm;
-    const std::unique_ptr<ActionTick> actionTick;
-    const std::unique_ptr<StopResume> stopResume;
-    const std::unique_ptr<SettingsFields> settingsFields;
-    const std::unique_ptr<ProductServer> productServer;
-    const std::unique_ptr<GlobalSettings> globalSettings;
-    const std::unique_ptr<BrowserSounds> browserSounds;
-    const std::unique_ptr<SupportFiles> supportFiles;
-    // browser
-    const std::unique_ptr<BrowserHost> browserHost;
-    const std::unique_ptr<PageBoxes> pageBoxes;
-    const std::unique_ptr<PageTests> pageTests;
-    const std::unique_ptr<PageClassifier> pageClassifier;
-    const std::unique_ptr<StepDispatcher> stepDispatcher;
-    // accounts
-    const std::unique_ptr<AccountFile> accountFile;
-    const std::unique_ptr<AccountScreens> accountScreens;
-    const std::unique_ptr<LoginFlow> loginFlow;
-    // gather
-    const std::unique_ptr<GatheredList> gatheredList;
-    const std::unique_ptr<GatherDriver> gatherDriver;
-    const std::unique_ptr<LinkScanner> linkScanner;
-    const std::unique_ptr<ProfileLinks> profileLinks;
-    const std::unique_ptr<Pager> pager;
-    const std::unique_ptr<IdResolution> idResolution;
-    const std::unique_ptr<ProfileFilters> profileFilters;
-    const std::unique_ptr<BlackList> blackList;
-    const std::unique_ptr<WebSearch> webSearch;
-    // content
-    const std::unique_ptr<ContentLists> contentLists;
-    // campaigns
-    const std::unique_ptr<SendRuns> sendRuns;
-    const std::unique_ptr<SentLog> sentLog;
-    const std::unique_ptr<Counters> counters;
-    const std::unique_ptr<Pacing> pacing;
-    const std::unique_ptr<CaptchaCalls> captchaCalls;
-    const std::unique_ptr<FriendRequester> friendRequester;
+    // The family of that type: app.Get<LinkScanner>().
+    template <typename T> T& Get() const { return m_families.Get<T>(); }
 
     BrowserControl& WebBrowser1() { return platform.Browser(BrowserName::WebBrowser1); }
     BrowserControl& webHide() { return platform.Browser(BrowserName::webHide); }
@@ -138,6 +68,13 @@ public:
     QString InstalledFile(const QString& name) const;
     QString DataFile(const QString& name) const { return FileSystem::Join(state.DataFolder, name); }
 
+    // Shows the tab of that caption; the window follows.
+    void ShowTab(const QString& caption);
+    // Closes the main window, which saves and ends the program; without one there is nothing to save.
+    void Close();
+    // Closes every open form whose name differs from except.
+    void CloseForms(const QString& except);
+
     // The line that says what is being done now.
     QString Status() const;
     void SetStatus(const QString& text);
@@ -149,6 +86,13 @@ public:
 
     // Loads about:blank in WebBrowser1 and pumps once: the clean slate before the next page.
     void ClearPage();
+
+private:
+    // The list of all families, and what joins them (program/Program.cpp).
+    void MakeFamilies();
+    void Connect();
+
+    Families m_families;
 };
 
 } // namespace qlm

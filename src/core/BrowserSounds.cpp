@@ -29,7 +29,7 @@ QString BrowserSounds::Sound() const {
 void BrowserSounds::SetSound(const QString& sound) {
     modRegistry(m_app.platform.Settings())
         .WriteString(modRegistry::Root::CurrentUser, SoundPath, SoundValue, sound);
-    m_app.settingsFields->Sync();
+    m_app.Get<SettingsFields>().Sync();
 }
 
 void BrowserSounds::Silence() {

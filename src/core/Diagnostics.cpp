@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "core/Diagnostics.h"
 
-#include "core/Activities.h"
 #include "core/App.h"
 #include "core/Registry.h"
 
@@ -90,9 +89,8 @@ void Diagnostics::Debug(const QString& fileName, const QString& text, bool start
 }
 
 void Diagnostics::DebugForAction(const QString& text) {
-    if (const Activity* activity = FindActivity(m_app.state.CurrentAction);
-        activity && activity->debugFile[0])
-        Debug(QString::fromLatin1(activity->debugFile), text);
+    if (const QString trail = trailOf ? trailOf(m_app.state.CurrentAction) : QString(); !trail.isEmpty())
+        Debug(trail, text);
 }
 
 QString Diagnostics::RegExpReplace(const QString& text, const QString& pattern, const QString& replacement) {

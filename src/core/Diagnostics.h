@@ -94,6 +94,8 @@ public:
     // A page's text or markup as it may be kept.
     QString Masked(const QString& text);
 
+    // The debug file of an activity, empty for one that has none. Set by the program.
+    std::function<QString(const QString& action)> trailOf;
     // Told of each line behind its writing; a test stops the program there.
     std::function<void(const QString& line)> onLine;
 

@@ -2,7 +2,6 @@
 #include "core/LongWait.h"
 
 #include "core/App.h"
-#include "core/StopResume.h"
 
 namespace qlm {
 
@@ -38,9 +37,9 @@ void LongWait::Tell() {
 }
 
 QString LongWait::Sentence() const {
-    const QString help = !m_help.isEmpty()               ? m_help
-                         : m_app.stopResume->SkipHelps() ? u"Press Skip or Stop to go on without it."_s
-                                                         : u"Press Stop to go on without it."_s;
+    const QString help = !m_help.isEmpty()           ? m_help
+                         : m_app.waiting.skipHelps() ? u"Press Skip or Stop to go on without it."_s
+                                                     : u"Press Stop to go on without it."_s;
     return u"Waiting since "_s + m_since.toString(u"hh:mm:ss"_s) + u" for "_s + m_what + u". "_s + help;
 }
 

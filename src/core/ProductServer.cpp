@@ -3,7 +3,6 @@
 
 #include "core/App.h"
 #include "core/IniFile.h"
-#include "core/MainForm.h"
 #include "core/Text.h"
 
 #include <QRegularExpression>
@@ -44,7 +43,7 @@ QString ProductServer::HTTPGet(const QString& url) {
         "sure Quillmere is specified as a trusted application in your firewall software."_s);
     // The account may be half restored: nothing of it may be written over what is stored.
     m_app.state.blnNoSaveOnExit = true;
-    m_app.mainForm->Unload();
+    m_app.Close();
     throw ProgramEnding();
 }
 

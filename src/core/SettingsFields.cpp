@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "core/SettingsFields.h"
 
-#include "campaigns/Counters.h"
-#include "campaigns/FriendRequester.h"
-#include "content/ContentLists.h"
 #include "core/AccountName.h"
 #include "core/App.h"
 #include "core/BrowserSounds.h"
-#include "core/MainForm.h"
 #include "core/Text.h"
-#include "gather/GatheredList.h"
 
 namespace qlm {
 
@@ -97,11 +92,11 @@ void SettingsFields::ChangeGlobalFlags(const QSet<QString>& keys) {
         if (before.value(QString::fromLatin1(kind)) != UsesGlobal(QString::fromLatin1(kind)))
             RestoreKind(QLatin1StringView(kind));
     SettleFields();
-    RestoreLists();
+    stores.restoreLists();
     // A run keeps the list that it walks.
     if (listWasGlobal != UsesGlobal(u"GatheredList"_s) && m_app.state.CurrentAction.isEmpty() &&
         m_app.controls.Ticked("chkSaveScanned"_L1))
-        m_app.gatheredList->FillScannedList(m_app.gatheredList->ScopedPath(), true, false);
+        stores.restoreGathered();
 }
 
 QString SettingsFields::AccountDataPath(const QString& kind) {
@@ -165,16 +160,16 @@ void SettingsFields::RestoreGeneralPrevious() {
                     RestoreControl(QString::fromLatin1(kind), row);
         EndSessionChains();
         m_app.state.blnLoggingEnabled = m_app.controls.Ticked("mnuEnableLogging"_L1);
-        m_app.browserSounds->Silence();
+        m_app.Get<BrowserSounds>().Silence();
     });
 }
 
 void SettingsFields::RestoreWindowPlace() {
-    if (!m_app.mainForm->setPlace || !m_app.mainForm->getPlace)
+    if (!setPlace || !getPlace)
         return;
     const SettingsStore& settings = m_app.platform.Settings();
     // A value that is missing or bad leaves the others their say.
-    WindowPlace place = m_app.mainForm->getPlace();
+    WindowPlace place = getPlace();
     bool isStored = false;
     for (const auto& [key, field] :
          {std::pair{u"Left"_s, &WindowPlace::left}, std::pair{u"Top"_s, &WindowPlace::top},
@@ -185,7 +180,7 @@ void SettingsFields::RestoreWindowPlace() {
         }
     place.maximized = ToBoolean(settings.GetSetting(General, u"Maximized"_s, u"False"_s));
     if (place.maximized || isStored)
-        m_app.mainForm->setPlace(place);
+        setPlace(place);
 }
 
 // "Until I close QLM" has come to its end: its item is stored, and read back it means off.
@@ -203,7 +198,7 @@ void SettingsFields::EndSessionChains() {
 
 void SettingsFields::RestoreAccountSettings() {
     m_restored = false;
-    m_app.diagnostics.Trap("RestoreAccountSettings", [this] { m_app.counters->Restore(); });
+    m_app.diagnostics.Trap("RestoreAccountSettings", [this] { stores.restoreCounters(); });
 }
 
 void SettingsFields::RestoreAccountSpecificFields() {
@@ -216,16 +211,10 @@ void SettingsFields::RestoreAccountSpecificFields() {
             RestoreKind(QLatin1StringView(kind));
         SettleFields();
         m_restored = true;
-        RestoreLists();
+        stores.restoreLists();
         if (m_app.controls.Ticked("chkSaveScanned"_L1))
-            m_app.gatheredList->FillScannedList(m_app.gatheredList->ScopedPath(), true, false);
+            stores.restoreGathered();
     });
-}
-
-// What stands in files of the account.
-void SettingsFields::RestoreLists() {
-    m_app.friendRequester->Categories().Load();
-    m_app.contentLists->FillMainLists();
 }
 
 // No choice may be without a choice.
@@ -290,7 +279,7 @@ bool SettingsFields::SaveListsAndSettings() {
                 SaveControl(FieldEntries, row);
         Sync();
         if (m_app.controls.Ticked("chkSaveScanned"_L1))
-            isListSaved = m_app.gatheredList->SaveScannedList(m_app.gatheredList->ScopedPath());
+            isListSaved = stores.saveGathered();
     });
     return isListSaved;
 }
@@ -309,8 +298,8 @@ bool SettingsFields::Sync() {
 void SettingsFields::SaveGeneral() {
     m_app.diagnostics.Trap("SaveGeneral", [this] {
         SettingsStore& settings = m_app.platform.Settings();
-        if (m_app.mainForm->getPlace) {
-            const WindowPlace place = m_app.mainForm->getPlace();
+        if (getPlace) {
+            const WindowPlace place = getPlace();
             if (!place.minimized && !place.maximized) {
                 settings.SaveSetting(General, u"Left"_s, QString::number(place.left));
                 settings.SaveSetting(General, u"Top"_s, QString::number(place.top));

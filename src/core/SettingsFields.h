@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/WindowPlace.h"
+
 #include <QHash>
 #include <QSet>
 #include <QString>
+#include <functional>
 #include <vector>
 
 namespace qlm {
@@ -47,6 +50,19 @@ public:
     // is saved where it belonged until now; the inputs of a kind that changes its place are read from there.
     void ChangeGlobalFlags(const QSet<QString>& keys);
 
+    // What an account has outside of the inputs. Set by the program.
+    struct AccountStores {
+        std::function<void()> restoreCounters;
+        std::function<void()> restoreLists; // what fills the tabs from files
+        std::function<void()> restoreGathered;
+        std::function<bool()> saveGathered; // false when it could not be written
+    };
+    AccountStores stores;
+
+    // Set by the window while it is there.
+    std::function<WindowPlace()> getPlace;
+    std::function<void(const WindowPlace&)> setPlace;
+
 private:
     void RestoreControl(const QString& section, const ControlRow& row);
     void SaveControl(const QString& section, const ControlRow& row);
@@ -54,7 +70,6 @@ private:
     void SetStartingValue(const ControlRow& row);
     void RestoreWindowPlace();
     void EndSessionChains();
-    void RestoreLists();
     void SettleFields();
     bool IsStored(const QString& section, const ControlRow& row) const;
 

@@ -47,6 +47,8 @@ public:
     // words ("the next page"). help says what ends a wait that isn't a run's: without it Skip and Stop are
     // named, and nothing is told while nothing runs.
     void WaitFor(const QString& what, const std::function<bool()>& condition, const QString& help = {});
+    // Whether Skip would take the running activity on. Set by what knows the activities.
+    std::function<bool()> skipHelps;
     // Whole seconds that have passed since that reading of Pump::NowMs().
     qint64 SecondsSince(qint64 startMs) const;
 

@@ -2,10 +2,10 @@
 #include "gather/BlackList.h"
 
 #include "core/App.h"
-#include "core/StopResume.h"
 #include "gather/GatherDriver.h"
 #include "gather/GatheredList.h"
 #include "gather/ListFiles.h"
+#include "steps/StopResume.h"
 
 namespace qlm {
 
@@ -37,10 +37,10 @@ void BlackList::FillArrayFromFile(const QString& arrayName, const QString& path)
 void BlackList::picRemoveFriends_Click() {
     m_app.diagnostics.Trap("picRemoveFriends_Click", [this] {
         RunState& state = m_app.state;
-        if (m_app.gatherDriver->RefuseDuringLogin())
+        if (m_app.Get<GatherDriver>().RefuseDuringLogin())
             return;
         m_app.diagnostics.Debug(u"debuggather.txt"_s, u"REMOVE FRIENDS START"_s, true);
-        m_app.stopResume->StopAll(u"REMFR"_s);
+        m_app.Get<StopResume>().StopAll(u"REMFR"_s);
         m_app.SetStatus(u"Waiting for friends page to load..."_s);
         m_app.ClearPage();
         state.strGatherStartURL =
@@ -49,15 +49,15 @@ void BlackList::picRemoveFriends_Click() {
         m_app.WebBrowser1().Navigate(state.strGatherStartURL);
         m_app.controls.SetTicked("optScanFollowing"_L1, true);
         state.blnComparingIDs = true;
-        m_app.gatheredList->SetScannedLabel();
+        m_app.Get<GatheredList>().SetScannedLabel();
         state.CurrentAction = u"SCANNING"_s;
         state.blnHoldLinkCheck = false;
         state.intGatherStep = 3;
         if (state.blnNewLayout) {
-            m_app.gatherDriver->ScanPageToCome();
+            m_app.Get<GatherDriver>().ScanPageToCome();
             return;
         }
-        m_app.gatherDriver->AwaitListOfIDs();
+        m_app.Get<GatherDriver>().AwaitListOfIDs();
         m_app.timers->tmrCheckLinkLoaded.Restart();
     });
 }

@@ -133,7 +133,7 @@ void ProfileFilters::picFilterOptions_Click() {
 }
 
 void ProfileFilters::frmFilters_Load() {
-    const QString section = m_app.settingsFields->SectionOf(FilterKind);
+    const QString section = m_app.Get<SettingsFields>().SectionOf(FilterKind);
     for (const ControlRow* row : FilterRows()) {
         const Control& present = m_app.controls[QLatin1StringView(row->name)];
         const QByteArray name = (FormPrefix + present.name).toLatin1();
@@ -155,19 +155,19 @@ void ProfileFilters::frmFilters_cmdOK_Click() {
             m_app.controls.SetFocus("frmFilters.txtFilterLastLoginDays"_L1);
             return;
         }
-        const QString section = m_app.settingsFields->SectionOf(FilterKind);
+        const QString section = m_app.Get<SettingsFields>().SectionOf(FilterKind);
         for (const ControlRow* row : FilterRows()) {
             const QByteArray name = (FormPrefix + QLatin1StringView(row->name)).toLatin1();
             m_app.platform.Settings().SaveSetting(section, KeyOf(*row),
                                                   ValueOf(m_app.controls[QLatin1StringView(name)]));
         }
-        m_app.settingsFields->Sync();
+        m_app.Get<SettingsFields>().Sync();
         m_app.platform.Dialogs().CloseForm(u"frmFilters"_s);
     });
 }
 
 void ProfileFilters::ReadBack() {
-    const QString section = m_app.settingsFields->SectionOf(FilterKind);
+    const QString section = m_app.Get<SettingsFields>().SectionOf(FilterKind);
     for (const ControlRow* row : FilterRows()) {
         const Control& control = m_app.controls[QLatin1StringView(row->name)];
         SetValueOf(m_app.controls, control,

@@ -24,7 +24,8 @@ void LinkScanner::FilterNewProfiles(Pass& pass) {
         if (!Goes(pass))
             return;
         if (remove)
-            m_app.gatheredList->ProcessArrayAndList(u"REMOVE"_s, index, {}, u"GatherPageProfiles - 2"_s);
+            m_app.Get<GatheredList>().ProcessArrayAndList(u"REMOVE"_s, index, {},
+                                                          u"GatherPageProfiles - 2"_s);
         else
             ++index;
     }

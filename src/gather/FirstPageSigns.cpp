@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
 #include "core/App.h"
 #include "core/Text.h"
 #include "gather/Pager.h"
@@ -60,7 +60,7 @@ bool Pager::ShowsNextPageSign() {
     const QString html = document.BodyHTML();
     for (const Sign& sign : Signs()) {
         const QString part = QString::fromUtf16(sign.text);
-        if (sign.address[0] && !m_app.pageTests->AddressContains(QString::fromUtf16(sign.address)))
+        if (sign.address[0] && !m_app.Get<PageSigns>().AddressContains(QString::fromUtf16(sign.address)))
             continue;
         if (sign.where == In::LinkHref ? AnyLinkHas(document, html, part)
                                        : Has(sign.where == In::HTML ? html : text, part))

@@ -112,7 +112,7 @@ void GatherDriver::GotoProfilePage(const char* procedure, const QString& page) {
     m_app.diagnostics.Trap(procedure, [&] {
         if (RefuseDuringAnyLogin())
             return;
-        const QString id = m_app.idResolution->GetDisplayFriendID(u"WebBrowser1"_s, {});
+        const QString id = m_app.Get<IdResolution>().GetDisplayFriendID(u"WebBrowser1"_s, {});
         if (!IsNumeric(id)) {
             m_app.ShowMessage(
                 u"Please make sure you are on this profiles main page, wait for it to load and try again."_s);

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "gather/GatherDriver.h"
 
-#include "browser/GatherPageTest.h"
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
 #include "core/App.h"
-#include "core/StopResume.h"
 #include "core/Text.h"
 #include "gather/GatheredList.h"
 #include "gather/LinkScanner.h"
 #include "gather/WebSearch.h"
+#include "steps/FullListRules.h"
+#include "steps/StepDispatcher.h"
+#include "steps/StopResume.h"
 
 namespace qlm {
 
@@ -23,6 +24,7 @@ constexpr int SecondsBeforeRetry = 5;
 GatherDriver::GatherDriver(App& app) : m_app(app), m_standingPage(app) {
     app.commands.Add(u"picScanStart_Click"_s, [this] { picScanStart_Click(); });
     app.commands.Add(u"picScanStop_Click"_s, [this] { picScanStop_Click(); });
+    app.Get<StepDispatcher>().listStands = [this] { return m_standingPage.Stands(); };
     RegisterButtons();
 }
 
@@ -39,7 +41,8 @@ QString GatherDriver::OptionsTrace() const {
     return FromBoolean(controls.Ticked("optScanCurrentPage"_L1)) + u", Foll: "_s +
            FromBoolean(controls.Ticked("optScanFollowing"_L1)) + u", FilterGather: "_s +
            FromBoolean(m_app.state.optFilterWhenGathering) + u", Full-Gather: "_s +
-           FromBoolean(controls.Ticked("optFullGather"_L1)) + u", URL: "_s + m_app.pageTests->LocationURL();
+           FromBoolean(controls.Ticked("optFullGather"_L1)) + u", URL: "_s +
+           m_app.Get<PageSigns>().LocationURL();
 }
 
 void GatherDriver::picScanStart_Click() {
@@ -50,14 +53,14 @@ void GatherDriver::picScanStart_Click() {
         m_app.diagnostics.Debug(u"debuggather.txt"_s, u"START - Curr: "_s + OptionsTrace(), true);
         if (RefuseDuringLogin() || WarnBeforeStart())
             return;
-        m_app.stopResume->StopAll(u"GATHERSTART1"_s);
-        m_app.gatheredList->SetScannedLabel();
+        m_app.Get<StopResume>().StopAll(u"GATHERSTART1"_s);
+        m_app.Get<GatheredList>().SetScannedLabel();
         state.CurrentAction = u"SCANNING"_s;
         state.strNextPageLink.clear();
         state.lstAlreadyFullGatheredPageIDs.clear();
         state.blnWaitingForCaptcha = false;
         if (m_app.controls.Ticked("optScanGoogle"_L1)) {
-            m_app.webSearch->Run();
+            m_app.Get<WebSearch>().Run();
             return;
         }
         state.arrSeenLinks = {};
@@ -75,7 +78,7 @@ void GatherDriver::picScanStart_Click() {
 // Each of these uses the click up: the user reads it and starts again.
 bool GatherDriver::WarnBeforeStart() {
     Controls& controls = m_app.controls;
-    PageTests& page = *m_app.pageTests;
+    PageSigns& page = m_app.Get<PageSigns>();
     if (controls.Ticked("optImportClickedProfiles"_L1)) {
         m_app.ShowMessage(
             u"When the 'Gather clicked profiles' option is selected, gathering is done by clicking on "
@@ -100,7 +103,7 @@ void GatherDriver::picScanStop_Click() {
         if (RefuseDuringAnyLogin())
             return;
         m_app.WebBrowser1().SetSilent(true);
-        m_app.stopResume->StopAll(u"GATHERSTOP"_s);
+        m_app.Get<StopResume>().StopAll(u"GATHERSTOP"_s);
     });
 }
 
@@ -113,7 +116,7 @@ void GatherDriver::IterateGatherProfiles() {
             while (RunStep(entry) == Next::GoOn && Goes(entry)) {
             }
         },
-        [this] { return m_app.pageTests->LocationURL(); });
+        [this] { return m_app.Get<PageSigns>().LocationURL(); });
     if (!error.isEmpty() && Goes(entry))
         AwaitList();
 }
@@ -130,8 +133,8 @@ void GatherDriver::ReturnToList() {
     m_app.waiting.OutdateSteps();
     m_app.timers->Timer1.SetEnabled(false);
     if (again) {
-        m_app.stopResume->StopAll(u"LF2"_s);
-        if (!m_app.stopResume->DoFinishedExit())
+        m_app.Get<StopResume>().StopAll(u"LF2"_s);
+        if (!m_app.Get<StopResume>().DoFinishedExit())
             m_app.ShowMessage(
                 u"The site asks for your login again and again. The gathering process has been stopped."_s);
         return;
@@ -169,20 +172,20 @@ GatherDriver::Next GatherDriver::ScanPage(int entry) {
         return Next::Return;
     // Asked now: a stop clears compare mode.
     const bool filterPass = FilterPassWanted();
-    m_app.linkScanner->GatherPageProfiles();
+    m_app.Get<LinkScanner>().GatherPageProfiles();
     if (Goes(entry) && state.blnRetryGatherPage) {
         m_app.waiting.WaitSeconds(SecondsBeforeRetry);
         if (Goes(entry))
-            m_app.linkScanner->GatherPageProfiles();
+            m_app.Get<LinkScanner>().GatherPageProfiles();
     }
     if (filterPass && entry == m_lastEntry && state.CurrentAction.isEmpty()) {
         Trace(u"IGP3.2"_s);
-        m_app.stopResume->StopAll(u"IGP1"_s);
+        m_app.Get<StopResume>().StopAll(u"IGP1"_s);
     }
     if (!Goes(entry))
         return Next::Return;
     state.blnRetryGatherPage = false;
-    m_app.gatheredList->SetScannedLabel();
+    m_app.Get<GatheredList>().SetScannedLabel();
     state.intGatherStep = StepTurn;
     if (FilterPassWanted())
         return ReturnFromFilterPass();
@@ -197,7 +200,7 @@ void GatherDriver::ScanPageToCome() {
 
 bool GatherDriver::WaitForPageToCome(int entry) {
     const auto isHere = [this] {
-        return m_app.pageTests->LocationURL() != u"about:blank"_s &&
+        return m_app.Get<PageSigns>().LocationURL() != u"about:blank"_s &&
                (m_app.WebBrowser1().ReadyState() == 4 || IsGatherPageComplete(m_app));
     };
     m_app.waiting.WaitFor(u"the page to be complete"_s, [&] {
@@ -210,19 +213,19 @@ bool GatherDriver::WaitForPageToCome(int entry) {
 }
 
 bool GatherDriver::WaitForMailPage(int entry) {
-    PageTests& page = *m_app.pageTests;
+    PageSigns& page = m_app.Get<PageSigns>();
     if (!page.AddressContains(u"http://{MessagingHost}/index.cfm?fuseaction=mail."_s) ||
         page.AddressContains(u"http://{MessagingHost}/index.cfm?fuseaction=mail.notifications"_s) ||
         page.AddressContains(u"V3"_s))
         return true;
     m_app.SetStatus(u"Waiting for the page to finish loading..."_s);
     Trace(u"IGP - waiting for page"_s);
-    m_app.stopResume->PauseLinkCheck();
+    m_app.Get<StopResume>().PauseLinkCheck();
     m_app.waiting.WaitFor(u"the page to be complete"_s,
                           [&] { return Goes(entry) && m_app.WebBrowser1().ReadyState() < 4; });
     if (!Goes(entry))
         return false;
-    m_app.stopResume->ResumeLinkCheck();
+    m_app.Get<StopResume>().ResumeLinkCheck();
     return true;
 }
 
@@ -244,7 +247,7 @@ void GatherDriver::AwaitListOfIDs() {
 GatherDriver::Next GatherDriver::ReturnFromFilterPass() {
     RunState& state = m_app.state;
     Trace(u"IGP3.3"_s);
-    if (m_app.pageTests->LocationURL() != state.strGatherStartURL) {
+    if (m_app.Get<PageSigns>().LocationURL() != state.strGatherStartURL) {
         const QString url = state.strGatherStartURL;
         const RunMark mark = m_app.waiting.Mark();
         m_app.ClearPage();

@@ -98,7 +98,7 @@ void GatheredList::ArrayToListBox(const QString& caller) {
 
 QString GatheredList::ScopedPath() {
     return m_app.ProgramFile(
-        FileSystem::Join(m_app.settingsFields->AccountDataPath(u"GatheredList"_s), u"Gathered.txt"_s));
+        FileSystem::Join(m_app.Get<SettingsFields>().AccountDataPath(u"GatheredList"_s), u"Gathered.txt"_s));
 }
 
 void GatheredList::FillScannedList(const QString& path, bool clearFirst, bool checkDuplicates) {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "gather/IdResolution.h"
 
-#include "accounts/OwnProfileId.h"
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
+#include "browser/ProfileLinkRules.h"
+#include "browser/ScriptValues.h"
 #include "core/App.h"
 #include "core/Text.h"
-#include "gather/ProfileLinkRules.h"
 
 namespace qlm {
 

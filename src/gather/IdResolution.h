@@ -46,8 +46,6 @@ QString DigitsBehind(const QString& text, const QString& key);
 QString ValueAfterKey(const QString& text, const QString& key);
 // The digits at the end of an address; one closing "/" doesn't count.
 QString TrailingNumber(const QString& href);
-// What stands behind the last separator.
-QString LastPart(const QString& address, const QString& separator);
 // The value of the key in a script's text, up to the next comma, without ":" and double quotes; nothing
 // without the key.
 std::optional<QString> ScriptValue(const QString& script, const QString& key);

@@ -47,10 +47,6 @@ QString TrailingNumber(const QString& href) {
     return GetNumberFromEnd(address);
 }
 
-QString LastPart(const QString& address, const QString& separator) {
-    return GetStringFromEnd(address, separator);
-}
-
 std::optional<QString> ScriptValue(const QString& script, const QString& key) {
     qsizetype at = script.indexOf(key + u"\":"_s, 0, Qt::CaseInsensitive);
     if (at < 0)

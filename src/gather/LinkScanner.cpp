@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "gather/LinkScanner.h"
 
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
+#include "browser/ProfileLinkRules.h"
+#include "browser/ProfileLinks.h"
 #include "core/App.h"
-#include "core/StopResume.h"
 #include "core/Text.h"
 #include "gather/GatherDriver.h"
 #include "gather/GatheredList.h"
 #include "gather/IdResolution.h"
 #include "gather/Pager.h"
 #include "gather/ProfileFilters.h"
-#include "gather/ProfileLinkRules.h"
-#include "gather/ProfileLinks.h"
+#include "steps/StopResume.h"
 
 #include <QSet>
 
@@ -25,13 +25,8 @@ constexpr qsizetype RememberedPages = 1000;
 constexpr size_t LinksJudgedAtOnce = 50;
 } // namespace
 
-bool IsCommentsOrNotificationsAddress(const QString& address) {
-    return address.endsWith(u"/comments"_s, Qt::CaseInsensitive) ||
-           address.endsWith(u"/notifications"_s, Qt::CaseInsensitive);
-}
-
 bool LinkScanner::IsCommentsOrNotificationsPage() {
-    return IsCommentsOrNotificationsAddress(m_app.pageTests->LocationURL());
+    return IsCommentsOrNotificationsAddress(m_app.Get<PageSigns>().LocationURL());
 }
 
 void LinkScanner::Trace(const QString& text) {
@@ -65,9 +60,9 @@ void LinkScanner::RunPass(Pass& pass) {
     pass.lngStartCount = static_cast<qint32>(m_app.controls.Items("lstFriendIDs"_L1).size());
     pass.lngArrayCount = static_cast<qint32>(state.arrFriendIDs.size());
     state.intCurrentIDIndex = 0;
-    m_app.pageTests->WaitForDocument();
+    m_app.Get<PageSigns>().WaitForDocument();
     state.blnClickNextLink = false;
-    Trace(u"GPP0a0a0 - "_s + QString::number(m_app.gatheredList->UBound()) + u", "_s +
+    Trace(u"GPP0a0a0 - "_s + QString::number(m_app.Get<GatheredList>().UBound()) + u", "_s +
           QString::number(state.arrBlacklistIDs.size() - 1));
     if (state.strNextPageLink.isEmpty() && !IsCommentsOrNotificationsPage())
         WaitForFirstPage(pass);
@@ -75,7 +70,7 @@ void LinkScanner::RunPass(Pass& pass) {
         return;
     m_app.timers->tmrAutoResume.Restart();
     state.strNextPageLink.clear();
-    state.strGatherStartURL = m_app.pageTests->LocationURL();
+    state.strGatherStartURL = m_app.Get<PageSigns>().LocationURL();
     state.arrSeenLinks = {};
     Trace(u"GPP1.2"_s);
     PrepareFullGather(pass);
@@ -91,7 +86,7 @@ void LinkScanner::RunPass(Pass& pass) {
     RemindOfFullGather(pass);
     pass.guard.reset();
     Trace(u"GPP13 - NEXT PAGE LINK: "_s + state.strNextPageLink);
-    if (Goes(pass) && m_app.gatherDriver->FilterPassWanted())
+    if (Goes(pass) && m_app.Get<GatherDriver>().FilterPassWanted())
         FilterNewProfiles(pass);
 }
 
@@ -103,18 +98,18 @@ void LinkScanner::ShowScanStatus() {
 
 void LinkScanner::WaitForFirstPage(const Pass& pass) {
     m_app.SetStatus(u"Waiting for the page to finish loading..."_s);
-    m_app.stopResume->PauseLinkCheck();
+    m_app.Get<StopResume>().PauseLinkCheck();
     m_app.waiting.WaitWhile(
         [&] {
             // A page that is just being replaced can't be read and shows no sign yet.
             bool shows = false;
-            Diagnostics::IgnoreErrors([&] { shows = m_app.pager->ShowsNextPageSign(); });
+            Diagnostics::IgnoreErrors([&] { shows = m_app.Get<Pager>().ShowsNextPageSign(); });
             return Goes(pass) && !shows;
         },
         SecondsForFirstPage);
     if (!Goes(pass))
         return;
-    m_app.stopResume->ResumeLinkCheck();
+    m_app.Get<StopResume>().ResumeLinkCheck();
     Trace(u"GPP1 - "_s + m_app.WebBrowser1().Document().BodyHTML());
     Trace(u"GPP1.1"_s);
 }
@@ -143,9 +138,9 @@ Document LinkScanner::ChooseDocument() {
         return m_app.WebBrowser1().Document();
     const QString html = m_app.WebBrowser1().Document().BodyHTML().mid(m_app.state.lngPageScanOffset);
     m_app.webTemp().Navigate(u"about:blank"_s);
-    m_app.pageTests->WaitForDocument(m_app.webTemp());
+    m_app.Get<PageSigns>().WaitForDocument(m_app.webTemp());
     m_app.webTemp().Document().Body().SetInnerHTML(
-        u"<base href=\""_s + m_app.pageTests->LocationURL().toHtmlEscaped() + u"\">"_s + html);
+        u"<base href=\""_s + m_app.Get<PageSigns>().LocationURL().toHtmlEscaped() + u"\">"_s + html);
     return m_app.webTemp().Document();
 }
 
@@ -195,7 +190,7 @@ std::vector<LinkScanner::LinkInTurn> LinkScanner::JudgeLinks(const Document& doc
         if (link.seen)
             continue;
         JudgedLink judged(m_app, element, page);
-        link.isProfile = m_app.profileLinks->IsProfileLink(judged, false);
+        link.isProfile = m_app.Get<ProfileLinks>().IsProfileLink(judged, false);
         link.remember = judged.remember;
         if (link.remember)
             seenHere.insert(link.href);
@@ -205,7 +200,7 @@ std::vector<LinkScanner::LinkInTurn> LinkScanner::JudgeLinks(const Document& doc
         judged.facts.Id();
         judged.facts.Text();
         judged.facts.Text(2);
-        m_app.idResolution->ResolveFromPage(judged);
+        m_app.Get<IdResolution>().ResolveFromPage(judged);
         link.judged.emplace(std::move(judged));
     }
     return inTurn;
@@ -231,7 +226,8 @@ void LinkScanner::LookAtLink(Pass& pass, JudgedLink& link) {
     const RunState& state = m_app.state;
     const QString href = link.facts.Href();
     Trace(u"GPP3 - "_s + href);
-    if (state.optFilterOnlineNow && state.optFilterWhenGathering && !m_app.profileFilters->IsUserOnline(link))
+    if (state.optFilterOnlineNow && state.optFilterWhenGathering &&
+        !m_app.Get<ProfileFilters>().IsUserOnline(link))
         return;
     const bool whosOnline = Has(link.facts.Id(), u"whosonline"_s);
     if (state.CurrentAction == u"ACC"_s && !whosOnline) {
@@ -241,9 +237,9 @@ void LinkScanner::LookAtLink(Pass& pass, JudgedLink& link) {
     QString id;
     if (!IsFoundersLink(link) && !whosOnline) {
         const bool fetchedBefore =
-            m_app.controls.Ticked("optFullGather"_L1) && m_app.gatheredList->IsInList(href, true);
+            m_app.controls.Ticked("optFullGather"_L1) && m_app.Get<GatheredList>().IsInList(href, true);
         if (!fetchedBefore)
-            id = m_app.idResolution->GetFriendIDFromLink(link);
+            id = m_app.Get<IdResolution>().GetFriendIDFromLink(link);
         if (!Goes(pass))
             return;
         Trace(u"GPP4 - "_s + id);
@@ -253,13 +249,13 @@ void LinkScanner::LookAtLink(Pass& pass, JudgedLink& link) {
 }
 
 void LinkScanner::CollectRequest(const Pass& pass, JudgedLink& link) {
-    if (m_app.gatheredList->IsInList(link.facts.Href(), true))
+    if (m_app.Get<GatheredList>().IsInList(link.facts.Href(), true))
         return;
-    const QString id = m_app.idResolution->GetFriendIDFromLink(link).trimmed();
+    const QString id = m_app.Get<IdResolution>().GetFriendIDFromLink(link).trimmed();
     // Fetching a profile takes a while; the run may be over.
     if (!Goes(pass))
         return;
-    if (!id.isEmpty() && id != m_app.state.MyProfileID && !m_app.gatheredList->IsInList(id, false))
+    if (!id.isEmpty() && id != m_app.state.MyProfileID && !m_app.Get<GatheredList>().IsInList(id, false))
         m_app.controls.AddItem("lstAcceptIDs"_L1, id);
 }
 
@@ -275,7 +271,7 @@ bool LinkScanner::IsFoundersLink(JudgedLink& link) const {
 
 void LinkScanner::Consider(Pass& pass, const QString& id) {
     const RunState& state = m_app.state;
-    GatheredList& list = *m_app.gatheredList;
+    GatheredList& list = m_app.Get<GatheredList>();
     const bool listed = list.IsInList(id, false);
     if (state.blnComparingIDs) {
         Trace(u"GPP5 - "_s + id);
@@ -310,9 +306,9 @@ void LinkScanner::FindNextPage() {
         return;
     m_app.SetStatus(u"Searching for the next page link..."_s);
     if (state.blnNewLayout)
-        state.strNextPageLink = m_app.pager->GetNextPageHref();
+        state.strNextPageLink = m_app.Get<Pager>().GetNextPageHref();
     if (state.strNextPageLink.isEmpty() && state.CurrentAction == u"SCANNING"_s)
-        state.strNextPageLink = m_app.pager->FindNextLink();
+        state.strNextPageLink = m_app.Get<Pager>().FindNextLink();
     if (state.strNextPageLink == u"DONTLOOKAGAIN"_s)
         state.strNextPageLink.clear();
 }
@@ -326,7 +322,7 @@ void LinkScanner::RemindOfFullGather(const Pass& pass) {
         (state.optFilterOnlineNow && state.optFilterWhenGathering) || state.blnComparingIDs ||
         pass.blnFoundButKnown)
         return;
-    m_app.gatherDriver->ShowPrompt(u"frmFullGatherReminder"_s);
+    m_app.Get<GatherDriver>().ShowPrompt(u"frmFullGatherReminder"_s);
 }
 
 } // namespace qlm

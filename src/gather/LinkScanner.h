@@ -65,7 +65,4 @@ private:
     int m_lastPass = 0;
 };
 
-// The address ends with "/comments" or "/notifications".
-bool IsCommentsOrNotificationsAddress(const QString& address);
-
 } // namespace qlm

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gather/ListingText.h"
 
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
 #include "core/App.h"
 #include "core/Text.h"
 #include "gather/GatherDriver.h"
@@ -163,9 +163,9 @@ QString ListingMarkup(const ListingPage& page) {
 namespace {
 
 ListingPage PresentPage(App& app) {
-    app.pageTests->WaitForDocument();
+    app.Get<PageSigns>().WaitForDocument();
     const Document document = app.WebBrowser1().Document();
-    return {app.pageTests->LocationURL(), document.BodyText(), document.BodyHTML(),
+    return {app.Get<PageSigns>().LocationURL(), document.BodyText(), document.BodyHTML(),
             [&app](const QString& text) { return app.Expand(text); }};
 }
 

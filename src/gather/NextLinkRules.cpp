@@ -183,7 +183,7 @@ QString PlainHref(const QString& href) {
 
 QString ChartPageFive(const QString& href) {
     QString address = href.endsWith(u'/') ? href.chopped(1) : href;
-    const QString digits = GetNumberFromEnd(LastPart(address, u"/"_s));
+    const QString digits = GetNumberFromEnd(GetStringFromEnd(address, u"/"_s));
     return digits.isEmpty() ? QString() : address.replace(digits, u"5"_s);
 }
 

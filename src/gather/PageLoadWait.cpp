@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "browser/PageClassifier.h"
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
 #include "core/App.h"
 #include "gather/GatherDriver.h"
 
@@ -40,11 +40,11 @@ const std::vector<GatherDriver::PageWait>& GatherDriver::PageWaits() {
 
 void GatherDriver::WaitPageLoad(int entry, const QString& oldURL) {
     for (const PageWait& row : PageWaits())
-        if (m_app.pageTests->AddressContains(QString::fromUtf16(row.address))) {
+        if (m_app.Get<PageSigns>().AddressContains(QString::fromUtf16(row.address))) {
             row.wait(*this, entry, oldURL);
             break;
         }
-    WaitOnPage(entry, [this] { return m_app.pageTests->LocationURL() == u"about:blank"_s; });
+    WaitOnPage(entry, [this] { return m_app.Get<PageSigns>().LocationURL() == u"about:blank"_s; });
 }
 
 // In markup the "&" of an address is written "&amp;".
@@ -53,25 +53,25 @@ void GatherDriver::WaitForAddress(int entry, const QString& oldURL, const QStrin
     escaped.replace(u"&"_s, u"&amp;"_s);
     bool wentBack = false;
     auto mendErrorPage = [&] {
-        if (checkErrors && !wentBack && m_app.pageClassifier->ClassifyErrorPage()) {
+        if (checkErrors && !wentBack && m_app.Get<PageClassifier>().ClassifyErrorPage()) {
             wentBack = true;
             m_app.WebBrowser1().Navigate(oldURL);
         }
         return true;
     };
     Trace(u"WAITPAGELOAD1.1"_s);
-    WaitOnPage(entry, [&] { return m_app.pageTests->LocationURL() == oldURL && mendErrorPage(); });
+    WaitOnPage(entry, [&] { return m_app.Get<PageSigns>().LocationURL() == oldURL && mendErrorPage(); });
     Trace(u"WAITPAGELOAD1.2"_s);
     WaitOnPage(entry, [&] {
-        return !m_app.pageTests->IsTextInPage(markup, true) &&
-               !m_app.pageTests->IsTextInPage(escaped, true) && mendErrorPage();
+        return !m_app.Get<PageSigns>().IsTextInPage(markup, true) &&
+               !m_app.Get<PageSigns>().IsTextInPage(escaped, true) && mendErrorPage();
     });
 }
 
 bool GatherDriver::LastPageStands() {
     const RunState& state = m_app.state;
-    return m_app.pageTests->IsTextInPage(state.strLastPageText, state.blnLastPageAsHTML) ||
-           m_app.pageTests->HrefLoaded(state.strLastPageHref, false);
+    return m_app.Get<PageSigns>().IsTextInPage(state.strLastPageText, state.blnLastPageAsHTML) ||
+           m_app.Get<PageSigns>().HrefLoaded(state.strLastPageHref, false);
 }
 
 void GatherDriver::WaitForBrowsePage(int entry) {
@@ -86,14 +86,15 @@ void GatherDriver::WaitForBrowsePage(int entry) {
 
 // A chart builds its rows while it is scrolled; one that stops at the first dozen is loaded again.
 void GatherDriver::WaitForChart(int entry, const QString& oldURL) {
-    WaitOnPage(entry, [&] { return m_app.pageTests->LocationURL() == oldURL; });
+    WaitOnPage(entry, [&] { return m_app.Get<PageSigns>().LocationURL() == oldURL; });
     if (Goes(entry))
         m_app.SetStatus(u"Waiting for page to finish loading top 200..."_s);
     WaitOnPage(entry, [&] {
-        if (m_app.pageTests->IsTextInPage(u"artist-200"_s, true))
+        if (m_app.Get<PageSigns>().IsTextInPage(u"artist-200"_s, true))
             return false;
         m_app.WebBrowser1().Document().ScrollToEnd();
-        if (m_app.WebBrowser1().ReadyState() == 4 && !m_app.pageTests->IsTextInPage(u"artist-12"_s, true)) {
+        if (m_app.WebBrowser1().ReadyState() == 4 &&
+            !m_app.Get<PageSigns>().IsTextInPage(u"artist-12"_s, true)) {
             const QString url = m_app.state.strNextPageLink;
             m_app.ClearPage();
             if (Goes(entry))

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
 #include "core/App.h"
-#include "core/StopResume.h"
 #include "core/Text.h"
 #include "gather/GatherDriver.h"
 #include "gather/IdResolution.h"
 #include "gather/LinkScanner.h"
 #include "gather/Pager.h"
+#include "steps/StopResume.h"
 
 #include <QRegularExpression>
 
@@ -44,7 +44,8 @@ bool AllIsShown(const QString& text) {
 GatherDriver::Next GatherDriver::TurnPage(int entry) {
     RunState& state = m_app.state;
     state.lngPageScanOffset = 0;
-    if (m_app.controls.Ticked("optScanFollowing"_L1) && m_app.linkScanner->IsCommentsOrNotificationsPage()) {
+    if (m_app.controls.Ticked("optScanFollowing"_L1) &&
+        m_app.Get<LinkScanner>().IsCommentsOrNotificationsPage()) {
         GrowInPlace(entry);
         if (!Goes(entry))
             return Next::Return;
@@ -61,7 +62,7 @@ GatherDriver::Next GatherDriver::TurnPage(int entry) {
 
 void GatherDriver::GrowInPlace(int entry) {
     RunState& state = m_app.state;
-    const QString address = m_app.pageTests->LocationURL();
+    const QString address = m_app.Get<PageSigns>().LocationURL();
     const bool notifications = address.endsWith(u"/notifications"_s, Qt::CaseInsensitive);
     state.strNextPageLink.clear();
     for (const Element& link : m_app.WebBrowser1().Document().Links()) {
@@ -96,11 +97,11 @@ void GatherDriver::GrowInPlace(int entry) {
 
 void GatherDriver::FinishGathering() {
     const bool comparing = m_app.state.blnComparingIDs;
-    m_app.stopResume->StopAll(u"IGP2"_s);
+    m_app.Get<StopResume>().StopAll(u"IGP2"_s);
     Trace(u"IGP4.5"_s);
     if (!comparing)
         m_app.SetStatus(u"Finished gathering ID's"_s);
-    if (!m_app.stopResume->DoFinishedExit() && comparing)
+    if (!m_app.Get<StopResume>().DoFinishedExit() && comparing)
         m_app.ShowMessage(u"Finished removing your friends from the list"_s);
 }
 
@@ -115,7 +116,7 @@ bool GatherDriver::OpenNextPage(int entry) {
     if (!state.blnNewLayout)
         AwaitListOfIDs();
     m_standingPage.Leave();
-    const QString oldURL = m_app.pageTests->LocationURL();
+    const QString oldURL = m_app.Get<PageSigns>().LocationURL();
     m_app.WebBrowser1().Stop();
     m_app.waiting.Pump();
     if (!Goes(entry))
@@ -162,12 +163,12 @@ bool GatherDriver::OpenNextPage(int entry) {
 bool GatherDriver::ClickCaption(int entry) {
     Trace(u"IGP4.3"_s);
     const QString caption = m_app.state.strNextPageLink;
-    m_app.pager->ClickNextPageLink(caption, {});
-    if (m_app.pageTests->AddressContains(u"/browse/"_s)) {
+    m_app.Get<Pager>().ClickNextPageLink(caption, {});
+    if (m_app.Get<PageSigns>().AddressContains(u"/browse/"_s)) {
         const bool taken = m_app.waiting.WaitWhile(
             [&] { return Goes(entry) && m_app.WebBrowser1().ReadyState() == 4; }, SecondsForClick);
         if (!taken)
-            m_app.pager->ClickNextPageLink(caption, {});
+            m_app.Get<Pager>().ClickNextPageLink(caption, {});
     }
     if (!Goes(entry))
         return false;
@@ -178,8 +179,9 @@ bool GatherDriver::ClickCaption(int entry) {
 void GatherDriver::SetMustNotHaveTexts() {
     RunState& state = m_app.state;
     state.strLastPageText = GetListingText();
-    if (!m_app.pageTests->AddressContains(u"{SiteDomain}/forums/t/"_s) && state.strLastPageText.isEmpty())
-        state.strLastPageHref = m_app.pageTests->GetHrefFromSecondID();
+    if (!m_app.Get<PageSigns>().AddressContains(u"{SiteDomain}/forums/t/"_s) &&
+        state.strLastPageText.isEmpty())
+        state.strLastPageHref = m_app.Get<PageSigns>().GetHrefFromSecondID();
     if (state.strLastPageText.isEmpty() && state.strLastPageHref.isEmpty() && state.blnNewLayout) {
         state.strLastPageText = LastPageMarkup();
         state.blnLastPageAsHTML = !state.strLastPageText.isEmpty();

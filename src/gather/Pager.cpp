@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gather/Pager.h"
 
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
 #include "core/App.h"
 #include "core/Text.h"
 #include "gather/NextLinkRules.h"
@@ -24,7 +24,7 @@ const std::vector<Pager::PageRow>& Pager::PageRows() {
 
 QString Pager::GetNextPageHref() {
     for (const PageRow& row : PageRows())
-        if (m_app.pageTests->AddressContains(QString::fromUtf16(row.address)))
+        if (m_app.Get<PageSigns>().AddressContains(QString::fromUtf16(row.address)))
             return row.find(*this);
     return {};
 }
@@ -110,7 +110,7 @@ QString Pager::FindNextLink() {
     const Document document = m_app.WebBrowser1().Document();
     const bool hasNextPage = !document.GetElementById(u"nextPage"_s).IsNull();
     NextLinkPage page;
-    page.address = m_app.pageTests->LocationURL();
+    page.address = m_app.Get<PageSigns>().LocationURL();
     page.expand = [this](const QString& text) { return m_app.Expand(text); };
     page.hasNextPageElement = [hasNextPage] { return hasNextPage; };
     for (const NextLinkCandidate& candidate : Candidates(document)) {
@@ -126,10 +126,10 @@ QString Pager::FindNextLink() {
 }
 
 bool Pager::ClickNextPageLink(const QString& caption, const QString& newHref) {
-    m_app.pageTests->WaitForDocument();
+    m_app.Get<PageSigns>().WaitForDocument();
     m_app.WebBrowser1().SetSilent(true);
     const bool onEventForm = m_app.state.CurrentAction == u"INV"_s &&
-                             m_app.pageTests->AddressContains(u"{EventsHost}/event/addedit"_s);
+                             m_app.Get<PageSigns>().AddressContains(u"{EventsHost}/event/addedit"_s);
     const Document document = m_app.WebBrowser1().Document();
     for (const Element& link : document.Links()) {
         if (link.InnerText().trimmed().toLower() != caption.trimmed().toLower())

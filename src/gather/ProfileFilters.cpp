@@ -2,10 +2,10 @@
 #include "gather/ProfileFilters.h"
 
 #include "browser/PageClassifier.h"
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
+#include "browser/ProfileLinkRules.h"
 #include "core/App.h"
 #include "core/Text.h"
-#include "gather/ProfileLinkRules.h"
 #include "gather/ProfileText.h"
 
 namespace qlm {
@@ -29,11 +29,11 @@ void ProfileFilters::Trace(const QString& text) {
 }
 
 bool ProfileFilters::InText(const QString& text) {
-    return m_app.pageTests->IsTextInPage(text);
+    return m_app.Get<PageSigns>().IsTextInPage(text);
 }
 
 bool ProfileFilters::InHTML(const QString& markup) {
-    return m_app.pageTests->IsTextInPage(markup, true);
+    return m_app.Get<PageSigns>().IsTextInPage(markup, true);
 }
 
 bool ProfileFilters::AllOff() const {
@@ -65,7 +65,7 @@ bool ProfileFilters::IsFilteredProfile() {
 
 bool ProfileFilters::Decide() {
     const RunState& state = m_app.state;
-    Trace(u"ifp 0 - "_s + m_app.pageTests->LocationURL());
+    Trace(u"ifp 0 - "_s + m_app.Get<PageSigns>().LocationURL());
     Trace(u"ifp 1 - "_s + FromBoolean(state.blnFilterTypeOff) + u", "_s +
           FromBoolean(state.blnFilterGenderOff) + u", "_s + FromBoolean(state.blnFilterLocationOff) +
           u", "_s + FromBoolean(state.blnFilterAgeOff) + u", "_s + FromBoolean(state.blnFilterLastLoginOff));
@@ -73,11 +73,11 @@ bool ProfileFilters::Decide() {
         Trace(u"ifp 2"_s);
         return true;
     }
-    if (m_app.pageTests->IsAdvertiserProfile()) {
+    if (m_app.Get<PageSigns>().IsAdvertiserProfile()) {
         Trace(u"ifp ISADVPRO"_s);
         return false;
     }
-    m_app.pageTests->WaitForDocument();
+    m_app.Get<PageSigns>().WaitForDocument();
     Trace(u"ifp 3 - "_s + m_app.NowText());
     Profile profile;
     if (!WaitForLayout(profile))
@@ -98,7 +98,9 @@ bool ProfileFilters::Decide() {
 bool ProfileFilters::WaitForLayout(Profile& profile) {
     auto viewLinks = [this] { return InText(u"view all "_s) || InText(u"view:"_s); };
     WaitOnPage(
-        [&] { return viewLinks() || InHTML(u"friendSpace"_s) || m_app.pageClassifier->ClassifyErrorPage(); },
+        [&] {
+            return viewLinks() || InHTML(u"friendSpace"_s) || m_app.Get<PageClassifier>().ClassifyErrorPage();
+        },
         SecondsForPage, true);
     profile.blnNewLayout = InHTML(u"userBadgeSideBar"_s);
     if (profile.blnNewLayout)
@@ -107,7 +109,7 @@ bool ProfileFilters::WaitForLayout(Profile& profile) {
         WaitOnPage(
             [this] { return InHTML(u"friendSpace"_s) || InText(u"last login"_s) || InText(u"view my:"_s); },
             SecondsForClassicPage, false);
-    m_app.pageClassifier->ClassifyErrorPage();
+    m_app.Get<PageClassifier>().ClassifyErrorPage();
     return !m_app.state.blnHoldLinkCheck;
 }
 
@@ -125,17 +127,17 @@ bool ProfileFilters::MatchesType(const Profile& profile) {
         matches = profile.blnIsMusic;
         Trace(u"ifp5 MUS - "_s + FromBoolean(matches));
     } else if (state.blnFilterComedy) {
-        matches = m_app.pageTests->ImageExists(u"comedy%2fmscomedy.gif"_s);
+        matches = m_app.Get<PageSigns>().ImageExists(u"comedy%2fmscomedy.gif"_s);
         Trace(u"ifp6 COM - "_s + FromBoolean(matches));
     } else if (state.blnFilterFilm) {
-        matches = m_app.pageTests->ImageExists(u"film_logo.gif"_s);
+        matches = m_app.Get<PageSigns>().ImageExists(u"film_logo.gif"_s);
         Trace(u"ifp7 FILM - "_s + FromBoolean(matches));
     } else if (state.blnFilterPeople) {
         matches = !profile.blnIsMusic;
         Trace(u"ifp8 PERS - "_s + FromBoolean(matches));
     }
     if (!profile.blnIsMusic && InHTML(u"sitesBetaLabel"_s))
-        m_app.diagnostics.Debug(u"debugBETAPEOPLE.txt"_s, m_app.pageTests->LocationURL());
+        m_app.diagnostics.Debug(u"debugBETAPEOPLE.txt"_s, m_app.Get<PageSigns>().LocationURL());
     return matches;
 }
 
@@ -191,7 +193,7 @@ bool ProfileFilters::MatchesLocation(const Profile& profile) {
     if (!state.blnFilterLocation || state.strFilterLocation.trimmed().isEmpty())
         return true;
     Trace(u"ifp21"_s);
-    m_app.pageTests->WaitForDocument();
+    m_app.Get<PageSigns>().WaitForDocument();
     const QString block = GetBasicInfoBlock(m_app.WebBrowser1().Document().BodyHTML(), profile.blnIsMusic);
     Trace(u"ifp22 - "_s + block);
     const bool matches = HoldsOnePlace(block, state.strFilterLocation);

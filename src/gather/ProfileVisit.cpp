@@ -2,17 +2,17 @@
 #include "gather/ProfileVisit.h"
 
 #include "browser/PageClassifier.h"
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
 #include "core/App.h"
-#include "core/StopResume.h"
 #include "gather/ProfileFilters.h"
+#include "steps/StopResume.h"
 
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
 bool ProfileVisit::Fails(const QString& id) const {
-    app.stopResume->PauseLinkCheck();
+    app.Get<StopResume>().PauseLinkCheck();
     app.ClearPage();
     if (!goes())
         return false;
@@ -22,20 +22,20 @@ bool ProfileVisit::Fails(const QString& id) const {
     const bool arrived = Arrives();
     if (!goes())
         return false;
-    app.stopResume->ResumeLinkCheck();
-    return !arrived || !app.profileFilters->IsFilteredProfile();
+    app.Get<StopResume>().ResumeLinkCheck();
+    return !arrived || !app.Get<ProfileFilters>().IsFilteredProfile();
 }
 
 // False when an error page or an advertiser's profile has come instead; a comment on a profile may say what
 // an error page says. A page that is just being replaced isn't there yet.
 bool ProfileVisit::Arrives() const {
-    PageTests& tests = *app.pageTests;
+    PageSigns& tests = app.Get<PageSigns>();
     bool refused = false;
     auto stillWaiting = [&] {
         if (tests.IsTextInPage(u"friendSpace"_s, true) || tests.IsTextInPage(u"last login"_s) ||
             tests.IsTextInPage(u"view my:"_s))
             return false;
-        refused = app.pageClassifier->ClassifyErrorPage() || tests.IsAdvertiserProfile();
+        refused = app.Get<PageClassifier>().ClassifyErrorPage() || tests.IsAdvertiserProfile();
         return !refused;
     };
     app.waiting.WaitWhile(

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "gather/WebSearch.h"
 
+#include "browser/ProfileLinkRules.h"
 #include "core/App.h"
-#include "core/StopResume.h"
 #include "core/Text.h"
 #include "gather/GatherDriver.h"
 #include "gather/GatheredList.h"
 #include "gather/IdResolution.h"
 #include "gather/ProfileFilters.h"
-#include "gather/ProfileLinkRules.h"
 #include "gather/ProfileVisit.h"
+#include "steps/StopResume.h"
 
 #include <QRegularExpression>
 #include <QScopeGuard>
@@ -33,25 +33,25 @@ void WebSearch::Trace(const QString& text) {
 }
 
 bool WebSearch::Goes() const {
-    return m_app.gatherDriver->Goes(m_entry) && !m_app.state.blnStopGoogle;
+    return m_app.Get<GatherDriver>().Goes(m_entry) && !m_app.state.blnStopGoogle;
 }
 
 void WebSearch::Run() {
     m_app.state.blnStopGoogle = false;
     m_app.state.blnHoldLinkCheck = false;
-    const int entry = m_app.gatherDriver->BeginEntry();
+    const int entry = m_app.Get<GatherDriver>().BeginEntry();
     const bool asked = AskForTerm();
     // Whoever has begun anew meanwhile has the window now.
-    if (!m_app.gatherDriver->Goes(entry))
+    if (!m_app.Get<GatherDriver>().Goes(entry))
         return;
     m_entry = entry;
     if (asked) {
         ShowProgress();
         ExtractGoogleProfiles(m_app.controls.Text("frmGoogleSearch.txtGoogleTerm"_L1));
-        if (m_app.state.optFilterWhenGathering && !m_app.profileFilters->AllOff())
+        if (m_app.state.optFilterWhenGathering && !m_app.Get<ProfileFilters>().AllOff())
             FilterWholeList();
     }
-    if (!m_app.gatherDriver->Goes(entry)) {
+    if (!m_app.Get<GatherDriver>().Goes(entry)) {
         if (entry == m_entry)
             m_app.platform.Dialogs().CloseForm(u"frmGoogleSearch"_s);
         return;
@@ -59,12 +59,12 @@ void WebSearch::Run() {
     if (asked)
         Finish();
     m_app.platform.Dialogs().CloseForm(u"frmGoogleSearch"_s);
-    if (m_app.gatherDriver->Goes(entry))
-        m_app.stopResume->StopAll(u"GATHERSTART2"_s);
+    if (m_app.Get<GatherDriver>().Goes(entry))
+        m_app.Get<StopResume>().StopAll(u"GATHERSTART2"_s);
 }
 
 void WebSearch::Finish() {
-    if (m_app.stopResume->DoFinishedExit())
+    if (m_app.Get<StopResume>().DoFinishedExit())
         return;
     QString text = u"Finished extracting Google results."_s;
     if (m_app.controls.Ticked("optQuickGather"_L1))
@@ -82,7 +82,7 @@ void WebSearch::ExtractGoogleProfiles(const QString& term) {
         qint32 before = 0;
         int page = 0;
         do {
-            before = m_app.gatheredList->UBound();
+            before = m_app.Get<GatheredList>().UBound();
             m_app.waiting.Pump();
             m_app.waiting.Pump();
             // A page that can't be had is one without results.
@@ -93,9 +93,9 @@ void WebSearch::ExtractGoogleProfiles(const QString& term) {
             ExtractIDsFromText(html);
             m_app.waiting.Pump();
             m_app.waiting.Pump();
-            m_app.gatheredList->SetScannedLabel();
+            m_app.Get<GatheredList>().SetScannedLabel();
             ++page;
-        } while (Goes() && m_app.gatheredList->UBound() != before);
+        } while (Goes() && m_app.Get<GatheredList>().UBound() != before);
     });
 }
 
@@ -114,13 +114,13 @@ void WebSearch::ExtractIDsFromText(const QString& html) {
             ++matches;
             if (!Goes())
                 continue;
-            const QString id = quick ? m_app.idResolution->ExtractFriendID(match) : FetchProfile(match);
-            if (id.isEmpty() || !m_app.gatherDriver->Goes(m_entry))
+            const QString id = quick ? m_app.Get<IdResolution>().ExtractFriendID(match) : FetchProfile(match);
+            if (id.isEmpty() || !m_app.Get<GatherDriver>().Goes(m_entry))
                 continue;
-            if (m_app.gatheredList->IsInList(id, false))
+            if (m_app.Get<GatheredList>().IsInList(id, false))
                 ++duplicates;
             else
-                m_app.gatheredList->ProcessArrayAndList(u"ADD"_s, 0, id, u"ExtractIDsFromText"_s);
+                m_app.Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, id, u"ExtractIDsFromText"_s);
         }
         Trace(u"COUNT: "_s + QString::number(matches) + u" ("_s + QString::number(duplicates) +
               u" duplicates)"_s);
@@ -130,9 +130,9 @@ void WebSearch::ExtractIDsFromText(const QString& html) {
 QString WebSearch::FetchProfile(const QString& address) {
     Trace(u"URL: "_s + address);
     QString id;
-    if (!m_app.gatheredList->IsInList(address, true)) {
+    if (!m_app.Get<GatheredList>().IsInList(address, true)) {
         m_app.controls.SetText(FetchLabel, u"Fetching "_s + VanityName(address) + u"'s ID"_s);
-        id = m_app.idResolution->FetchFriendIDInBackground(address);
+        id = m_app.Get<IdResolution>().FetchFriendIDInBackground(address);
         m_app.controls.SetText(FetchLabel, u".................................."_s);
     }
     Trace(u"ID: "_s + id);
@@ -143,14 +143,14 @@ QString WebSearch::FetchProfile(const QString& address) {
 void WebSearch::FilterWholeList() {
     const ProfileVisit visit{m_app, [this] { return Goes(); }, SecondsForProfile};
     qint32 index = 0;
-    while (Goes() && !m_app.gatheredList->IsEmpty() && index <= m_app.gatheredList->UBound()) {
+    while (Goes() && !m_app.Get<GatheredList>().IsEmpty() && index <= m_app.Get<GatheredList>().UBound()) {
         m_app.state.strCurrentID = m_app.state.arrFriendIDs.at(index);
         const bool remove = visit.Fails(m_app.state.strCurrentID);
         if (!Goes())
             return;
         const qsizetype before = m_app.state.arrFriendIDs.size();
         if (remove)
-            m_app.gatheredList->ProcessArrayAndList(u"REMOVE"_s, index, {}, u"picScanStart_Click"_s);
+            m_app.Get<GatheredList>().ProcessArrayAndList(u"REMOVE"_s, index, {}, u"picScanStart_Click"_s);
         // An entry beyond the view stays.
         if (m_app.state.arrFriendIDs.size() == before)
             ++index;

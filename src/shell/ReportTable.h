@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "campaigns/ReportRows.h"
+#include "steps/ReportRows.h"
 
 #include <QAbstractTableModel>
 

@@ -2,7 +2,7 @@
 #include "shell/WindowDialogs.h"
 
 #include "core/App.h"
-#include "core/MainForm.h"
+#include "program/MainForm.h"
 #include "shell/FormRegistry.h"
 #include "shell/frmMain.h"
 
@@ -99,7 +99,7 @@ void WindowDialogs::PlaceBeside(QDialog& form) {
 void WindowDialogs::ShowMain() {
     if (m_main) {
         // Form_Load itself knows what a second coming means.
-        m_app->mainForm->Form_Load();
+        m_app->Get<MainForm>().Form_Load();
         return;
     }
     auto* window = new frmMain(*m_app, *this, *m_views);
@@ -107,7 +107,7 @@ void WindowDialogs::ShowMain() {
     m_forms.push_back({u"frmMain"_s, window});
     if (onMainWindow)
         onMainWindow(*window);
-    m_app->mainForm->Form_Load();
+    m_app->Get<MainForm>().Form_Load();
     if (IsFormOpen(u"frmMain"_s))
         BringToFront(*window);
 }

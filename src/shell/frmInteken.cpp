@@ -2,7 +2,6 @@
 #include "shell/frmInteken.h"
 
 #include "core/App.h"
-#include "core/MainForm.h"
 #include "shell/FormParts.h"
 #include "shell/PictureIcon.h"
 #include "shell/TickBox.h"
@@ -87,7 +86,7 @@ void frmInteken::UserCloses() {
     if (m_dialogs.IsFormOpen(u"frmMain"_s))
         Form::UserCloses();
     else
-        m_app.mainForm->Unload();
+        m_app.Close();
 }
 
 } // namespace qlm

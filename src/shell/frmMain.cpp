@@ -2,6 +2,8 @@
 #include "shell/frmMain.h"
 
 #include "core/App.h"
+#include "core/SettingsFields.h"
+#include "program/MainForm.h"
 #include "shell/AddressBar.h"
 #include "shell/BrowserStack.h"
 #include "shell/FormParts.h"
@@ -91,15 +93,15 @@ frmMain::frmMain(App& app, WindowDialogs& dialogs, BrowserViews& views)
 
 frmMain::~frmMain() {
     m_app.controls.RemoveListener(m_listener);
-    m_app.mainForm->getPlace = nullptr;
-    m_app.mainForm->setPlace = nullptr;
-    m_app.mainForm->setTitle = nullptr;
+    m_app.Get<SettingsFields>().getPlace = nullptr;
+    m_app.Get<SettingsFields>().setPlace = nullptr;
+    m_app.Get<MainForm>().setTitle = nullptr;
 }
 
 void frmMain::ConnectMainForm() {
-    m_app.mainForm->getPlace = [this] { return Place(); };
-    m_app.mainForm->setPlace = [this](const WindowPlace& place) { SetPlace(place); };
-    m_app.mainForm->setTitle = [this](const QString& title) { setWindowTitle(title); };
+    m_app.Get<SettingsFields>().getPlace = [this] { return Place(); };
+    m_app.Get<SettingsFields>().setPlace = [this](const WindowPlace& place) { SetPlace(place); };
+    m_app.Get<MainForm>().setTitle = [this](const QString& title) { setWindowTitle(title); };
 }
 
 // Each panel goes by the caption of its tab.
@@ -151,7 +153,7 @@ void frmMain::picCollapse_Click() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    if (!m_app.mainForm->Form_Unload()) {
+    if (!m_app.Get<MainForm>().Form_Unload()) {
         event->ignore();
         return;
     }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/MainForm.h"
+#include "core/WindowPlace.h"
 #include "shell/ControlBinder.h"
 
 #include <QMainWindow>

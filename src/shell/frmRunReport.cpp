@@ -46,13 +46,13 @@ frmRunReport::frmRunReport(const FormContext& context)
         {NewButton("cmdClose"_L1, u"&Close"_s), NewButton("cmdSaveCSV"_L1, u"&Save as CSV..."_s)}));
     resize(StartingSize.boundedTo(screen()->availableSize()));
 
-    ReportDialog& report = m_app.sendRuns->ReportWindow();
+    ReportDialog& report = m_app.Get<SendRuns>().ReportWindow();
     report.onRows = [this, &report] { m_rows->SetRows(report.Rows()); };
     report.onRows();
 }
 
 frmRunReport::~frmRunReport() {
-    m_app.sendRuns->ReportWindow().onRows = {};
+    m_app.Get<SendRuns>().ReportWindow().onRows = {};
 }
 
 QWidget* frmRunReport::NewTable() {

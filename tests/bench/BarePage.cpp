@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "BarePage.h"
-
 #include "Figures.h"
 
 #include <QEventLoop>

@@ -197,7 +197,7 @@ void GatherLists::PressSave(const Plain& plain) {
 
 void GatherLists::Round() {
     App& app = m_program.app;
-    GatheredList& list = *app.gatheredList;
+    GatheredList& list = app.Get<GatheredList>();
     Plain plain;
     const std::string path = m_listFile.toStdString();
     app.controls.SetTicked("chkSaveScanned"_L1, true);
@@ -212,7 +212,7 @@ void GatherLists::Round() {
         "shuffle", [&] { list.Shuffle(); },
         [&] { std::shuffle(plain.list.begin(), plain.list.end(), random); });
     Time(
-        "save at the end", [&] { app.settingsFields->SaveListsAndSettings(); },
+        "save at the end", [&] { app.Get<SettingsFields>().SaveListsAndSettings(); },
         [&] { plain.Save(m_folder.filePath(u"plain.txt"_s).toStdString()); });
     PressSave(plain);
     Time(
@@ -273,11 +273,11 @@ void GatherLists::MeasureMemory() {
 
 void GatherLists::MeasureBlackList() {
     App& app = m_program.app;
-    app.files.CopyFile(m_blackFile, app.blackList->Path());
+    app.files.CopyFile(m_blackFile, app.Get<BlackList>().Path());
     m_heartbeat.Begin();
     m_blackFillMs = MsOf([&] {
-        app.blackList->FillBlacklist(app.blackList->Path(), false, false);
-        app.blackList->FillArrayFromFile(u"arrBlacklistIDs"_s, app.blackList->Path());
+        app.Get<BlackList>().FillBlacklist(app.Get<BlackList>().Path(), false, false);
+        app.Get<BlackList>().FillArrayFromFile(u"arrBlacklistIDs"_s, app.Get<BlackList>().Path());
     });
     m_blackUnansweredMs = m_heartbeat.EndMs();
     m_found += IsInArray(u"5"_s, app.state.arrBlacklistIDs);

@@ -2,7 +2,6 @@
 // What the look-up of one target in a log of a million lines costs, beside grep on the same file. The two
 // take turns, so that whatever else the machine does meets both.
 #include "Figures.h"
-
 #include "campaigns/SentLog.h"
 #include "core/App.h"
 #include "platform/sim/RecordingDialogs.h"
@@ -59,13 +58,13 @@ double Least(const std::vector<double>& times) {
 }
 
 void Measure(App& app, const char* what, const QByteArray& id, bool expected) {
-    const QByteArray path = app.sentLog->PathFor(u"FR"_s).toLocal8Bit();
+    const QByteArray path = app.Get<SentLog>().PathFor(u"FR"_s).toLocal8Bit();
     std::vector<double> ours;
     std::vector<double> greps;
     std::vector<double> starts;
     for (int round = 0; round < Rounds; ++round) {
         ours.push_back(Milliseconds([&] {
-            if (app.sentLog->LogEntryExists(QString::fromLatin1(id)) != expected)
+            if (app.Get<SentLog>().LogEntryExists(QString::fromLatin1(id)) != expected)
                 throw std::runtime_error("the look-up answers something else");
         }));
         // Its lines end in a carriage return too, which grep takes as part of the line.
@@ -96,7 +95,7 @@ int main() {
     app.state.DataFolder = folder.path();
     app.state.CurrentAction = u"FR"_s;
     app.state.blnCheckLog = true;
-    WriteLog(app.sentLog->PathFor(u"FR"_s));
+    WriteLog(app.Get<SentLog>().PathFor(u"FR"_s));
     Measure(app, "a target that isn't in the log: all of it is read", "523456789", false);
     Measure(app, "the target of the middle line", IdAt(Lines / 2), true);
     return 0;

@@ -6,11 +6,11 @@
 #include "Figures.h"
 #include "LoopbackServer.h"
 #include "UsedProgram.h"
-#include "browser/StepDispatcher.h"
 #include "core/App.h"
-#include "core/StopResume.h"
 #include "platform/qt/EngineProfile.h"
 #include "shell/DesktopDialogs.h"
+#include "steps/StepDispatcher.h"
+#include "steps/StopResume.h"
 
 #include <QApplication>
 #include <cstdio>
@@ -145,7 +145,7 @@ double PassCost::Pass(const Expectation& expectation, qint64& calls) {
     app.Pump().Queue().EndTurn();
     const qint64 before = app.WebBrowser1().EngineCalls();
     const long long start = NowNs();
-    app.stepDispatcher->CheckLinkFound();
+    app.Get<StepDispatcher>().CheckLinkFound();
     const double ms = static_cast<double>(NowNs() - start) / 1e6;
     calls = std::max(calls, app.WebBrowser1().EngineCalls() - before);
     state.CurrentAction.clear();

@@ -85,7 +85,7 @@ void ScanCost::Pass(const Design& design, int links) {
 
     const qint64 callsBefore = m_app.WebBrowser1().EngineCalls();
     long long startNs = NowNs();
-    m_app.linkScanner->GatherPageProfiles();
+    m_app.Get<LinkScanner>().GatherPageProfiles();
     const double passMs = static_cast<double>(NowNs() - startNs) / 1e6;
     const auto calls = static_cast<double>(m_app.WebBrowser1().EngineCalls() - callsBefore);
     if (m_app.state.arrFriendIDs.size() != links)

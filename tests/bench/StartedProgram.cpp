@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "StartedProgram.h"
-
 #include "Figures.h"
 #include "UsedProgram.h"
 #include "core/App.h"
-#include "core/StartUp.h"
 #include "platform/qt/EngineProfile.h"
+#include "program/StartUp.h"
 #include "shell/DesktopDialogs.h"
 #include "shell/Look.h"
 
@@ -98,7 +97,7 @@ int RunStartedProgram(int argc, char** argv, long long startNs) {
     dialogs.Attach(app, views);
     FirstPaints paints(startNs, app);
     application.installEventFilter(&paints);
-    QTimer::singleShot(0, &application, [&app] { app.startUp->Main(); });
+    QTimer::singleShot(0, &application, [&app] { app.Get<StartUp>().Main(); });
     const int status = QApplication::exec();
     dialogs.Detach();
     return status;

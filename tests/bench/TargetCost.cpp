@@ -5,10 +5,10 @@
 #include "Figures.h"
 #include "RunningProgram.h"
 #include "SiteProcess.h"
-#include "browser/StepDispatcher.h"
-#include "core/StopResume.h"
 #include "gather/GatheredList.h"
 #include "platform/qt/EngineProfile.h"
+#include "steps/StepDispatcher.h"
+#include "steps/StopResume.h"
 
 #include <QApplication>
 #include <cstdio>
@@ -118,7 +118,7 @@ void TargetCost::PlanBlock() {
 
 void TargetCost::Send() {
     folders.SaveList(NextTargets());
-    program.app.gatheredList->FillScannedList({}, true, false);
+    program.app.Get<GatheredList>().FillScannedList({}, true, false);
     callsBefore = program.app.WebBrowser1().EngineCalls();
     startedNs = NowNs();
     program.driver.Press("frmMain", "piccmdAddFriends");
@@ -149,13 +149,13 @@ void TargetCost::CountPasses() {
         app.state.blnLinkFound = false;
         app.Pump().Queue().EndTurn();
         const qint64 before = app.WebBrowser1().EngineCalls();
-        if (!app.stepDispatcher->CheckLinkFound())
+        if (!app.Get<StepDispatcher>().CheckLinkFound())
             throw std::runtime_error("the page is no confirmation");
         return app.WebBrowser1().EngineCalls() - before;
     };
     firstPassCalls = pass();
     laterPassCalls = pass();
-    app.stopResume->StopAll(u"BENCH"_s);
+    app.Get<StopResume>().StopAll(u"BENCH"_s);
     program.driver.End({});
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Judge.h"
-
 #include "campaigns/SendRuns.h"
+#include "steps/RunReport.h"
 
 #include <QFile>
 
@@ -50,8 +50,8 @@ bool Judge::IsNoted(const QString& id) const {
     return file.open(QIODevice::ReadOnly) && file.readAll().split('\n').contains(id.toLatin1() + "\t.\r");
 }
 
-// A turn after the page check has found the confirmation, the disk knows of it. What it has found on the older page is
-// the button at first, which the user may press before the step has looked.
+// A turn after the page check has found the confirmation, the disk knows of it. What it has found on the
+// older page is the button at first, which the user may press before the step has looked.
 void Judge::Watch(App& app, bool diskRefuses) {
     const RunState& state = app.state;
     const bool mayShow = state.CurrentAction == u"FR"_s && state.intFRStep == 8 && state.blnLinkFound &&
@@ -225,7 +225,7 @@ void Judge::OnEnd(App& app) {
 // The report and the log tell the same story. Of more runs than it keeps, only the other way round.
 void Judge::CheckReport(App& app) {
     constexpr qsizetype keptRuns = 20;
-    const QList<ReportedRun> runs = app.sendRuns->Report().Runs();
+    const QList<ReportedRun> runs = app.Get<RunReport>().Runs();
     QSet<QString> reported;
     for (const ReportedRun& run : runs)
         for (const ReportRow& row : run.rows) {

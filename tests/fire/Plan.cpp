@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "Plan.h"
-
 #include "practice/Refusals.h"
 
 namespace qlm::fire {

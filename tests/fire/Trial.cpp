@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Trial.h"
-
 #include "accounts/AccountFile.h"
-#include "core/MainForm.h"
-#include "core/StartUp.h"
+#include "program/MainForm.h"
+#include "program/StartUp.h"
 #include "tests/support/SimulatedSite.h"
 
 #include <QDir>
@@ -64,7 +63,7 @@ Dialogs::Answer FormsWithoutWidgets::ShowMessage(const QString& text, const QStr
 void FormsWithoutWidgets::ShowForm(const QString& form) {
     RecordingDialogs::ShowForm(form);
     if (form == u"frmMain"_s)
-        app->mainForm->Form_Load();
+        app->Get<MainForm>().Form_Load();
 }
 
 Trial::Trial(quint64 seed, int targets, bool isTraced)
@@ -175,7 +174,7 @@ void Trial::StartProgram() {
     m_judge.OnStart();
     Trace(u"the program starts"_s);
     m_platform->Pump().Queue().Post([this] {
-        m_app->startUp->Main();
+        m_app->Get<StartUp>().Main();
         m_app->commands.Run(u"frmInteken.cmdContinue_Click"_s);
     });
     m_platform->Pump().Queue().PostAt(m_world.clock.NowMs() + LookEveryMs, [this] { Look(); });

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "Check.h"
-
 #include "Arguments.h"
 #include "CommandTable.h"
 #include "KnownNames.h"

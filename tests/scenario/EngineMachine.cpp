@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "EngineMachine.h"
-
 #include "EnginePages.h"
 #include "platform/qt/EngineProfile.h"
 #include "platform/qt/QtBrowser.h"

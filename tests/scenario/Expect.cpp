@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "Expect.h"
-
 #include "Arguments.h"
 
 namespace qlm::scenario {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "KnownNames.h"
-
 #include "Stage.h"
 #include "shell/FormRegistry.h"
 

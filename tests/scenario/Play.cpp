@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "Play.h"
-
 #include "Arguments.h"
 #include "CommandTable.h"
 #include "Stage.h"

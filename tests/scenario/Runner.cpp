@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "Runner.h"
-
 #include "Check.h"
 #include "KnownNames.h"
 #include "Parser.h"

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "ScenarioDialogs.h"
-
 #include "Arguments.h"
 #include "Play.h"
 

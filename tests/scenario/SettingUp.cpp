@@ -100,8 +100,8 @@ void List(Stage& stage, Arguments& arguments) {
     App& app = stage.TheApp();
     const QStringList ids = arguments.TakeAll();
     app.state.arrFriendIDs = ids.isEmpty() ? IdList{QString()} : IdList(ids);
-    app.gatheredList->ArrayToListBox(u"scenario"_s);
-    app.gatheredList->SetScannedLabel();
+    app.Get<GatheredList>().ArrayToListBox(u"scenario"_s);
+    app.Get<GatheredList>().SetScannedLabel();
 }
 
 void State(Stage& stage, Arguments& arguments) {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Stage.h"
-
 #include "Arguments.h"
 #include "Widgets.h"
-#include "core/MainForm.h"
-#include "core/StartUp.h"
+#include "program/MainForm.h"
+#include "program/StartUp.h"
 
 #include <QApplication>
 #include <QDir>
@@ -92,7 +91,7 @@ void Stage::Build() {
 
 void Stage::Start() {
     Build();
-    m_app->startUp->Main();
+    m_app->Get<StartUp>().Main();
 }
 
 void Stage::DropProgram() {
@@ -116,7 +115,7 @@ void Stage::Close() {
     if (dialogs.IsFormOpen(u"frmMain"_s))
         dialogs.CloseForm(u"frmMain"_s);
     else
-        m_app->mainForm->Unload();
+        m_app->Close();
 }
 
 bool Stage::HasEnded() {

@@ -3,8 +3,8 @@
 #include "Stage.h"
 #include "accounts/AccountFile.h"
 #include "core/SettingsFields.h"
-#include "core/StartUp.h"
-#include "core/StopResume.h"
+#include "program/StartUp.h"
+#include "steps/StopResume.h"
 
 namespace qlm::scenario {
 
@@ -27,7 +27,7 @@ void ShowLoggedInAs(App& app) {
 void Stage::OpenMainWindow(const QString& email) {
     Build();
     dialogs.quiet = true;
-    m_app->startUp->Main();
+    m_app->Get<StartUp>().Main();
     dialogs.CloseForm(u"frmInteken"_s);
     m_app->state.AccountEmail = email;
     dialogs.ShowForm(u"frmMain"_s);
@@ -41,17 +41,17 @@ void Stage::LogIn(const QString& email, const QString& ownID) {
     if (HasEnded()) {
         OpenMainWindow(account);
     } else {
-        m_app->settingsFields->SaveListsAndSettings();
+        m_app->Get<SettingsFields>().SaveListsAndSettings();
         m_app->state.AccountEmail = account;
-        m_app->settingsFields->RestoreAccountSettings();
-        m_app->settingsFields->RestoreAccountSpecificFields();
+        m_app->Get<SettingsFields>().RestoreAccountSettings();
+        m_app->Get<SettingsFields>().RestoreAccountSpecificFields();
     }
-    m_app->state.AccountPassword = m_app->accountFile->GetPasswordFromEmail(account);
+    m_app->state.AccountPassword = m_app->Get<AccountFile>().GetPasswordFromEmail(account);
     m_app->state.MyProfileID = ownID;
     m_app->state.blnNewLayout = true;
     m_app->state.AccountsLoadedOnce = false;
     ShowLoggedInAs(*m_app);
-    m_app->stopResume->StopAll(u"ILA"_s);
+    m_app->Get<StopResume>().StopAll(u"ILA"_s);
     Browser(BrowserName::WebBrowser1).Stop();
     Browser(BrowserName::WebBrowser1).Navigate(u"about:blank"_s);
     ThePump().PumpMessages();

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "StateFields.h"
-
 #include "Arguments.h"
 
 #include <QHash>

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "Widgets.h"
-
 #include "Arguments.h"
 
 #include <QAbstractButton>

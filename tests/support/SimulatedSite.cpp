@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/SimulatedSite.h"
-
 #include "platform/sim/SimAddress.h"
 
 #include <QUrl>

@@ -4,7 +4,7 @@
 #include "ProgramProcess.h"
 #include "SiteProcess.h"
 #include "UsedProgram.h"
-#include "campaigns/ReportRows.h"
+#include "steps/ReportRows.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "Gatherer.h"
-
 #include "GatheringProgram.h"
 
 namespace qlm {

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "GatheringProgram.h"
-
 #include "Waiting.h"
-#include "core/StartUp.h"
+#include "program/StartUp.h"
 
 #include <QApplication>
 #include <QThread>
@@ -44,7 +43,7 @@ GatheringProgram::GatheringProgram(int clockRate) {
                 [&isIn] { isIn = true; }});
     QTimer::singleShot(0, qApp, [this] {
         m_program->driver.Start();
-        Program().startUp->Main();
+        Program().Get<StartUp>().Main();
     });
     if (!WaitUntil([&] { return isIn; }))
         throw std::runtime_error("the program did not log in");

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "RunningProgram.h"
-
-#include "core/StartUp.h"
+#include "program/StartUp.h"
 
 #include <QApplication>
 
@@ -40,7 +39,7 @@ void RunningProgram::PlanReport(int limitSeconds) {
 bool RunningProgram::Run() {
     QTimer::singleShot(0, qApp, [this] {
         driver.Start();
-        app.startUp->Main();
+        app.Get<StartUp>().Main();
     });
     QApplication::exec();
     return driver.ExitCode() == 0;

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "UsedProgram.h"
-
 #include "accounts/AccountFile.h"
 #include "core/FileSystem.h"
 

@@ -195,7 +195,8 @@ TEST_F(QtSettingsTest, WhatIsSyncedIsOnTheDiskWithItsNameInTheFolder) {
     hears = true;
     settings.Sync();
     hears = false;
-    // The file's contents, which have no name yet or one of their own, and then the folder; the lock is nobody's loss.
+    // The file's contents, which have no name yet or one of their own, and then the folder; the lock is
+    // nobody's loss.
     synced.removeAll(u"quillmere.ini.lock"_s);
     ASSERT_EQ(synced.size(), 2) << synced.join(u", "_s).toStdString();
     EXPECT_NE(synced[0], u"Quillmere"_s);

@@ -12,7 +12,7 @@ namespace {
 
 class AccountFileTest : public SimulatedProgram {
 protected:
-    AccountFile& File() { return *app->accountFile; }
+    AccountFile& File() { return app->Get<AccountFile>(); }
 
     void Store(const QStringList& plainLines) {
         QStringList encoded;

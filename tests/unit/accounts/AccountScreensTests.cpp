@@ -11,7 +11,7 @@ namespace {
 
 class AccountScreensTest : public SimulatedProgram {
 protected:
-    AccountScreensTest() { app->accountFile->Add(u"a@example.com"_s, u"secret"_s); }
+    AccountScreensTest() { app->Get<AccountFile>().Add(u"a@example.com"_s, u"secret"_s); }
 
     void ReplaceByFolder(const QString& path) {
         QFile::remove(path);
@@ -28,20 +28,20 @@ protected:
 };
 
 TEST_F(AccountScreensTest, AListThatCannotBeReadIsReportedAndTheScreenComesUp) {
-    ReplaceByFolder(app->accountFile->Path());
-    app->accountScreens->ShowLoginScreen();
+    ReplaceByFolder(app->Get<AccountFile>().Path());
+    app->Get<AccountScreens>().ShowLoginScreen();
     EXPECT_EQ(Reported(), QStringList{u"FillAccountsList - frmInteken"_s});
     EXPECT_TRUE(app->platform.Dialogs().IsFormOpen(u"frmInteken"_s));
 }
 
 TEST_F(AccountScreensTest, TheSwitchScreensListHasItsOwnName) {
-    ReplaceByFolder(app->accountFile->Path());
+    ReplaceByFolder(app->Get<AccountFile>().Path());
     app->commands.Run(u"mnuSwitchLogin_Click"_s);
     EXPECT_EQ(Reported(), QStringList{u"FillAccountsList - frmSwitchAccount"_s});
 }
 
 TEST_F(AccountScreensTest, ADeleteThatFailsLeavesTheList) {
-    app->accountScreens->ShowLoginScreen();
+    app->Get<AccountScreens>().ShowLoginScreen();
     world.gate.readOnlyFolders = {world.installationFolder};
     app->commands.Run(u"frmInteken.cmdDelete_Click"_s);
     EXPECT_EQ(Reported(), QStringList{u"cmdDelete_Click - frmInteken"_s});
@@ -49,9 +49,9 @@ TEST_F(AccountScreensTest, ADeleteThatFailsLeavesTheList) {
 }
 
 TEST_F(AccountScreensTest, AContinueThatFailsIsReported) {
-    app->accountScreens->ShowLoginScreen();
+    app->Get<AccountScreens>().ShowLoginScreen();
     app->controls.SetTicked("frmInteken.chkTOS"_L1, true);
-    ReplaceByFolder(app->accountFile->Path());
+    ReplaceByFolder(app->Get<AccountFile>().Path());
     app->commands.Run(u"frmInteken.cmdContinue_Click"_s);
     EXPECT_EQ(Reported(), QStringList{u"cmdContinue_Click"_s});
     EXPECT_TRUE(app->platform.Dialogs().IsFormOpen(u"frmInteken"_s));
@@ -62,7 +62,7 @@ TEST_F(AccountScreensTest, ALoginScreenThatCannotBeFilledComesUp) {
         if (control.name == "frmInteken.lblHeading"_L1)
             throw std::runtime_error("no window");
     });
-    app->accountScreens->ShowLoginScreen();
+    app->Get<AccountScreens>().ShowLoginScreen();
     EXPECT_EQ(Reported(), QStringList{u"Form_Load - frmInteken"_s});
     EXPECT_TRUE(app->platform.Dialogs().IsFormOpen(u"frmInteken"_s));
 }
@@ -71,14 +71,14 @@ TEST_F(AccountScreensTest, ALoginScreenThatCannotBeFilledComesUp) {
 TEST_F(AccountScreensTest, AnImportThatFailsIsReported) {
     const QString path = folder.filePath(u"list.txt"_s);
     app->files.WriteBytes(path, "b@example.com;word\r\n");
-    const QByteArray before = app->files.ReadBytes(app->accountFile->Path());
+    const QByteArray before = app->files.ReadBytes(app->Get<AccountFile>().Path());
     world.gate.readOnlyFolders = {world.installationFolder};
     dialogs.answers = {Dialogs::Answer::Yes};
     dialogs.files = {path};
     app->commands.Run(u"frmSwitchAccount.cmdImport_Click"_s);
     EXPECT_EQ(Reported(), QStringList{u"cmdImport_Click"_s});
     EXPECT_EQ(app->controls.Items("frmSwitchAccount.lstAccounts"_L1), QStringList{u"b@example.com"_s});
-    EXPECT_EQ(app->files.ReadBytes(app->accountFile->Path()), before);
+    EXPECT_EQ(app->files.ReadBytes(app->Get<AccountFile>().Path()), before);
 }
 
 TEST_F(AccountScreensTest, AnExportThatFailsIsReported) {
@@ -91,7 +91,7 @@ TEST_F(AccountScreensTest, AnExportThatFailsIsReported) {
 
 // The list takes a double click also while the main window is being loaded.
 TEST_F(AccountScreensTest, AContinueThatIsUnderWayIsNotBegunAgain) {
-    app->accountScreens->ShowLoginScreen();
+    app->Get<AccountScreens>().ShowLoginScreen();
     app->controls.SetTicked("frmInteken.chkTOS"_L1, true);
     app->controls.SetEnabled("frmInteken.cmdContinue"_L1, false);
     app->commands.Run(u"frmInteken.lstAccounts_DblClick"_s);
@@ -123,7 +123,7 @@ TEST_F(AccountScreensTest, TheDetailsShowThatTheyAreBusy) {
 }
 
 TEST_F(AccountScreensTest, WithoutASelectionContinueAsksForOne) {
-    app->accountScreens->ShowLoginScreen();
+    app->Get<AccountScreens>().ShowLoginScreen();
     app->controls.SetTicked("frmInteken.chkTOS"_L1, true);
     app->controls.SetSelected("frmInteken.lstAccounts"_L1, -1);
     app->commands.Run(u"frmInteken.cmdContinue_Click"_s);
@@ -133,8 +133,8 @@ TEST_F(AccountScreensTest, WithoutASelectionContinueAsksForOne) {
 
 // A list of blank lines alone is not an empty list, though there is nothing to choose.
 TEST_F(AccountScreensTest, BlankLinesAreEntriesOfTheLoginScreenAlone) {
-    app->files.WriteBytes(app->accountFile->Path(), "\r\n  \r\n");
-    app->accountScreens->ShowLoginScreen();
+    app->files.WriteBytes(app->Get<AccountFile>().Path(), "\r\n  \r\n");
+    app->Get<AccountScreens>().ShowLoginScreen();
     EXPECT_EQ(app->controls.Items("frmInteken.lstAccounts"_L1).size(), 2);
     dialogs.onModal[u"frmSwitchAccount"_s] = [this] {
         EXPECT_TRUE(app->controls.Items("frmSwitchAccount.lstAccounts"_L1).isEmpty());

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "accounts/LoginForm.h"
-
-#include "../browser/BrowserTest.h"
+#include "BrowserTest.h"
 #include "accounts/LoginFlow.h"
+#include "accounts/LoginForm.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -117,23 +116,23 @@ TEST_F(LoginFormTest, APageWithoutFieldsStaysAsItIs) {
 TEST_F(LoginFormTest, TheOwnIdIsReadOnAForeignPageTooAndTheLanguageTold) {
     Show(u"<a href=\"/\">Home</a>Mitglieder-Login {UserId:\"4711\", x}"_s);
     State().CurrentAction = u"LOGIN"_s;
-    EXPECT_EQ(app->loginFlow->GetUsersID2(), u"4711"_s);
+    EXPECT_EQ(app->Get<LoginFlow>().GetUsersID2(), u"4711"_s);
     EXPECT_TRUE(Said(u"UID3 - LANG"_s));
     EXPECT_EQ(dialogs.messages.size(), 1U);
 }
 
 TEST_F(LoginFormTest, TheScriptsOfTheNamedBrowserAreReadAnEmptyKeyMeansTheShownProfile) {
     Show(u"<a href=\"/\">Home</a><script>x={\"UserId\":\"11\",\"DisplayFriendId\":22,y}</script>"_s);
-    EXPECT_EQ(app->loginFlow->GetPageScriptValue(u"WebBrowser1"_s, u"UserId"_s), u"11"_s);
-    EXPECT_EQ(app->loginFlow->GetPageScriptValue(u"WebBrowser1"_s, {}), u"22"_s);
+    EXPECT_EQ(app->Get<LoginFlow>().GetPageScriptValue(u"WebBrowser1"_s, u"UserId"_s), u"11"_s);
+    EXPECT_EQ(app->Get<LoginFlow>().GetPageScriptValue(u"WebBrowser1"_s, {}), u"22"_s);
     app->webHide().Navigate(u"about:blank"_s);
-    EXPECT_EQ(app->loginFlow->GetPageScriptValue(u"webHide"_s, u"UserId"_s), QString());
+    EXPECT_EQ(app->Get<LoginFlow>().GetPageScriptValue(u"webHide"_s, u"UserId"_s), QString());
 }
 
 TEST_F(LoginFormTest, TheFirstScriptWithTheKeyDecidesAndTheReportLinkHelps) {
     Show(u"<a href=\"/\">Home</a><script>UserId = 1</script><script>UserId:none, x</script>"
          "<script>UserId:33, x</script><a href=\"/r?reportedUserId=44&x\">r</a>"_s);
-    EXPECT_EQ(app->loginFlow->GetPageScriptValue(u"WebBrowser1"_s, u"UserId"_s), u"44"_s);
+    EXPECT_EQ(app->Get<LoginFlow>().GetPageScriptValue(u"WebBrowser1"_s, u"UserId"_s), u"44"_s);
 }
 
 TEST_F(LoginFormTest, StepsWithoutAMeaningDoNothing) {
@@ -142,7 +141,7 @@ TEST_F(LoginFormTest, StepsWithoutAMeaningDoNothing) {
     for (qint16 step = 5; step <= 9; ++step) {
         State().intLoginStep = step;
         Browser().TakeVisited();
-        app->loginFlow->IterateLoginAccount();
+        app->Get<LoginFlow>().IterateLoginAccount();
         EXPECT_EQ(State().intLoginStep, step);
         EXPECT_EQ(State().strLinkValue, QString());
         EXPECT_EQ(Browser().TakeVisited(), QStringList());
@@ -157,7 +156,7 @@ TEST_F(LoginFormTest, EveryStepShowsTheBrowserAndForgetsTheLastPage) {
     State().strLastPageHref = u"y"_s;
     Browser().SetSilent(false);
     Browser().SetVisible(false);
-    app->loginFlow->IterateLoginAccount();
+    app->Get<LoginFlow>().IterateLoginAccount();
     EXPECT_TRUE(Browser().Silent());
     EXPECT_TRUE(Browser().Visible());
     EXPECT_EQ(State().strLastPageText + State().strLastPageHref, QString());
@@ -186,7 +185,7 @@ TEST_F(LoginFormTest, AStepThatFailsIsReportedUnderItsNameAndRepeated) {
             if (control.text == row.failsAt)
                 throw std::runtime_error("no window");
         });
-        app->loginFlow->IterateLoginAccount();
+        app->Get<LoginFlow>().IterateLoginAccount();
         app->controls.RemoveListener(listener);
         EXPECT_EQ(app->files.ReadLines(State().ErrorLogPath).filter(u"Proc: "_s), QStringList{row.reported});
         EXPECT_EQ(State().intLoginStep, row.step);

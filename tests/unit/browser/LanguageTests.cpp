@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "BrowserTest.h"
+#include "browser/PageSigns.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -11,7 +12,7 @@ protected:
     bool IsForeign(const QString& text, const QString& action = u"LOGIN"_s) {
         Show(u"<p>"_s + text + u"</p>"_s);
         State().CurrentAction = action;
-        return app->pageTests->IsNotEnglishPage();
+        return app->Get<PageSigns>().IsNotEnglishPage();
     }
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "BrowserTest.h"
 #include "browser/PageBoxes.h"
+#include "steps/BrowserHost.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -11,27 +12,27 @@ using PageBoxesTest = BrowserTest;
 
 TEST_F(PageBoxesTest, AWindowIsClosedByItsTitle) {
     dialogs.windowTitles = {u"Login problem"_s, u"Message from webpage"_s};
-    app->pageBoxes->ClosePopup(u"Login problem"_s);
+    app->Get<PageBoxes>().ClosePopup(u"Login problem"_s);
     EXPECT_EQ(State().ClosePopupResult, u"CLOSED"_s);
     EXPECT_EQ(dialogs.windowTitles, QStringList{u"Message from webpage"_s});
-    app->pageBoxes->ClosePopup(u"Login problem"_s);
+    app->Get<PageBoxes>().ClosePopup(u"Login problem"_s);
     EXPECT_EQ(State().ClosePopupResult, u"NOT FOUND"_s);
     EXPECT_EQ(dialogs.windowTitles, QStringList{u"Message from webpage"_s});
 }
 
 TEST_F(PageBoxesTest, WithoutATitleTheScriptsBoxIsMeantAndThenTheBrowsers) {
     dialogs.windowTitles = {u"windows internet explorer"_s, u"Message from webpage"_s, u"Login problem"_s};
-    app->pageBoxes->ClosePopup({});
+    app->Get<PageBoxes>().ClosePopup({});
     EXPECT_EQ(dialogs.windowTitles, (QStringList{u"windows internet explorer"_s, u"Login problem"_s}));
-    app->pageBoxes->ClosePopup({});
+    app->Get<PageBoxes>().ClosePopup({});
     EXPECT_EQ(State().ClosePopupResult, u"CLOSED"_s);
     EXPECT_EQ(dialogs.windowTitles, QStringList{u"Login problem"_s});
-    app->pageBoxes->ClosePopup({});
+    app->Get<PageBoxes>().ClosePopup({});
     EXPECT_EQ(State().ClosePopupResult, u"NOT FOUND"_s);
 }
 
 TEST_F(PageBoxesTest, WhileSendingThePagesMenuIsForCaptchasAlone) {
-    app->browserHost->Attach();
+    app->Get<BrowserHost>().Attach();
     auto comesUp = [this](const QString& action) {
         State().CurrentAction = action;
         return Browser().events.contextMenu();
@@ -47,7 +48,7 @@ TEST_F(PageBoxesTest, WhileSendingThePagesMenuIsForCaptchasAlone) {
 }
 
 TEST_F(PageBoxesTest, APageThatIsStillToComeHasNoMenuInARun) {
-    app->browserHost->Attach();
+    app->Get<BrowserHost>().Attach();
     Show(u"{SiteRootHost}/page"_s, u"x"_s, SimFault::NoBody);
     State().CurrentAction = u"FR"_s;
     const qint64 startMs = app->Pump().NowMs();

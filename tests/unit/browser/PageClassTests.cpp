@@ -81,7 +81,7 @@ protected:
         State().CurrentAction = action;
         State().blnSkipCurrentID = false;
         State().blnDailyLimitHit = false;
-        isErrorPage = app->pageClassifier->ClassifyErrorPage();
+        isErrorPage = app->Get<PageClassifier>().ClassifyErrorPage();
         return State().intPageClass;
     }
     static QString TextOf(int pageClass) {
@@ -188,7 +188,7 @@ TEST_F(PageClassTest, APageIsJudgedWhenItHasADocument) {
     Browser().Navigate(url);
     platform->Pump().RunFor(500);
     State().CurrentAction = u"FR"_s;
-    app->pageClassifier->ClassifyErrorPage();
+    app->Get<PageClassifier>().ClassifyErrorPage();
     EXPECT_EQ(State().intPageClass, 1);
 }
 

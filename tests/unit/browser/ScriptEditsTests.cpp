@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "BrowserTest.h"
 #include "browser/ScriptEdits.h"
+#include "steps/BrowserHost.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -50,7 +51,7 @@ TEST_F(ScriptEditsTest, AScriptOfBothKindsIsEditedForEach) {
 }
 
 TEST_F(ScriptEditsTest, OnlyTheComposePageIsEditedWhenItIsLeft) {
-    app->browserHost->Attach();
+    app->Get<BrowserHost>().Attach();
     const QString compose = u"{MessagingHost}/index.cfm?fuseaction=mail.message"_s;
     ShowScripts({Onload}, compose + u"&friendID=1"_s);
     EXPECT_FALSE(LeaveFor(u"http://www.site.example.com/ann"_s));

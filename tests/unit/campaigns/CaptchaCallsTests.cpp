@@ -27,7 +27,7 @@ protected:
 
 TEST_F(CaptchaCallsTest, WithAllTickedTheUserIsCalledInOrder) {
     TickAll();
-    app->captchaCalls->CallUser();
+    app->Get<CaptchaCalls>().CallUser();
     ASSERT_EQ(platform->Attention().calls.size(), 3);
     EXPECT_TRUE(platform->Attention().calls[0].startsWith(u"sound "_s));
     EXPECT_TRUE(platform->Attention().calls[0].endsWith(u"/blip.wav"_s));
@@ -42,7 +42,7 @@ TEST_F(CaptchaCallsTest, WithNothingTickedTheWindowFlashesAndTheFieldHasTheFocus
     TickAll(false);
     app->webHide().ZOrder(0);
     app->timers->tmrAutoResume.SetEnabled(true);
-    app->captchaCalls->CallUser();
+    app->Get<CaptchaCalls>().CallUser();
     EXPECT_EQ(platform->Attention().calls, QStringList{u"flash"_s});
     EXPECT_TRUE(dialogs.messages.empty());
     EXPECT_EQ(app->Status(), u"Waiting for user to enter and submit CAPTCHA..."_s);
@@ -68,14 +68,14 @@ TEST_F(CaptchaCallsTest, SoundAndRestoreStartTickedAndTheBoxDoesNot) {
 TEST_F(CaptchaCallsTest, ThePageTakesTheWindowsFocusOnceForEachPageThatLoads) {
     int taken = 0;
     app->WebBrowser1().onTakeFocus = [&taken] { ++taken; };
-    app->captchaCalls->CallUser();
+    app->Get<CaptchaCalls>().CallUser();
     EXPECT_EQ(taken, 1);
     // Where the user goes from there is theirs.
-    app->captchaCalls->FocusAnswerField();
+    app->Get<CaptchaCalls>().FocusAnswerField();
     EXPECT_EQ(taken, 1);
     app->WebBrowser1().Navigate(u"http://www.example.com/captcha"_s);
     platform->Pump().RunFor(1000);
-    app->captchaCalls->FocusAnswerField();
+    app->Get<CaptchaCalls>().FocusAnswerField();
     EXPECT_EQ(taken, 2);
     EXPECT_EQ(Focused(), u"answer"_s);
 }
@@ -86,7 +86,7 @@ TEST_F(CaptchaCallsTest, APageWithoutAFieldTakesTheFocusToo) {
     app->WebBrowser1().Navigate(u"http://www.example.com/other"_s);
     platform->Pump().RunFor(1000);
     app->WebBrowser1().onTakeFocus = [&taken] { ++taken; };
-    app->captchaCalls->CallUser();
+    app->Get<CaptchaCalls>().CallUser();
     EXPECT_EQ(taken, 1);
 }
 
@@ -96,7 +96,7 @@ TEST_F(CaptchaCallsTest, TheOtherNameOfTheFieldGetsTheFocusToo) {
                       "<input name='x_captcha_text' id='words'></body></html>"_s);
     app->WebBrowser1().Navigate(u"http://www.example.com/words"_s);
     platform->Pump().RunFor(1000);
-    app->captchaCalls->FocusAnswerField();
+    app->Get<CaptchaCalls>().FocusAnswerField();
     EXPECT_EQ(Focused(), u"words"_s);
 }
 
@@ -128,7 +128,7 @@ protected:
 TEST_F(MessagingCaptchaTest, ACaptchaCallsTheUserOnce) {
     TickAll(false);
     Show(u"Type the two words:"_s);
-    app->captchaCalls->MessagingCAPTCHAReached();
+    app->Get<CaptchaCalls>().MessagingCAPTCHAReached();
     EXPECT_EQ(platform->Attention().calls, QStringList{u"flash"_s});
     EXPECT_EQ(app->Status(), u"Waiting for user to enter and submit CAPTCHA..."_s);
     EXPECT_TRUE(app->timers->tmrAutoResume.Enabled());
@@ -140,7 +140,7 @@ TEST_F(MessagingCaptchaTest, ACaptchaCallsTheUserOnce) {
     app->timers->tmrAutoResume.SetEnabled(true);
     app->state.blnLinkFound = true;
     app->SetStatus(u"something else"_s);
-    app->captchaCalls->MessagingCAPTCHAReached();
+    app->Get<CaptchaCalls>().MessagingCAPTCHAReached();
     EXPECT_EQ(app->Status(), u"Waiting for user to enter and submit CAPTCHA..."_s);
     EXPECT_EQ(platform->Attention().calls, QStringList{u"flash"_s});
     EXPECT_FALSE(app->timers->tmrAutoResume.Enabled());
@@ -160,7 +160,7 @@ TEST_F(MessagingCaptchaTest, APageThatIsStillLoadingIsWaitedForWithThePageCheckH
     const qint64 startMs = world.clock.NowMs();
     app->WebBrowser1().Navigate(u"http://www.example.com/late"_s);
     platform->Pump().PumpMessages();
-    app->captchaCalls->MessagingCAPTCHAReached();
+    app->Get<CaptchaCalls>().MessagingCAPTCHAReached();
     EXPECT_TRUE(wasHeld);
     EXPECT_GE(world.clock.NowMs() - startMs, 5000);
     EXPECT_FALSE(app->state.blnHoldLinkCheck);
@@ -175,7 +175,7 @@ TEST_F(MessagingCaptchaTest, AStopEndsTheWaitAndArmsNothing) {
         if (app->state.blnHoldLinkCheck)
             app->state.CurrentAction.clear();
     };
-    app->captchaCalls->MessagingCAPTCHAReached();
+    app->Get<CaptchaCalls>().MessagingCAPTCHAReached();
     EXPECT_FALSE(app->timers->tmrCheckLinkLoaded.Enabled());
     EXPECT_TRUE(app->state.blnHoldLinkCheck);
 }
@@ -183,7 +183,7 @@ TEST_F(MessagingCaptchaTest, AStopEndsTheWaitAndArmsNothing) {
 TEST_F(MessagingCaptchaTest, BehindARightAnswerTheConfirmationIsAwaited) {
     Show(u"Your message has been sent!"_s);
     app->state.blnWaitingForCaptcha = true;
-    app->captchaCalls->MessagingCAPTCHAReached();
+    app->Get<CaptchaCalls>().MessagingCAPTCHAReached();
     EXPECT_EQ(app->Status(), u"Message sent, waiting for confirmation page..."_s);
     EXPECT_TRUE(app->timers->tmrAutoResume.Enabled());
     EXPECT_EQ(app->state.strLinkType + app->state.strLinkValue, u"Textyour message has been sent"_s);
@@ -194,7 +194,7 @@ TEST_F(MessagingCaptchaTest, AnyOtherPageGivesTheTargetToTheStepBehind) {
     app->state.blnLoggingEnabled = true;
     Show(u"Something else"_s);
     app->state.blnHoldLinkCheck = true;
-    app->captchaCalls->MessagingCAPTCHAReached();
+    app->Get<CaptchaCalls>().MessagingCAPTCHAReached();
     EXPECT_EQ(app->state.intMsgStep, 8);
     EXPECT_FALSE(app->state.blnHoldLinkCheck);
     const QString trail = app->files.ReadLines(app->DataFile(u"debugmsg.txt"_s)).join(u'\n');
@@ -205,7 +205,7 @@ TEST_F(CaptchaCallsTest, TheStatusLineSaysItBeforeTheBoxComesUp) {
     TickAll();
     QString behind;
     dialogs.onMessage = [&] { behind = app->Status(); };
-    app->captchaCalls->CallUser();
+    app->Get<CaptchaCalls>().CallUser();
     EXPECT_EQ(behind, u"Waiting for user to enter and submit CAPTCHA..."_s);
 }
 
@@ -215,7 +215,7 @@ TEST_F(CaptchaCallsTest, TheFieldOfTheNewerPageHasTheFocusToo) {
                       "<input name='captcha_text' id='newer'></body></html>"_s);
     app->WebBrowser1().Navigate(u"http://www.example.com/newer"_s);
     platform->Pump().RunFor(1000);
-    app->captchaCalls->FocusAnswerField();
+    app->Get<CaptchaCalls>().FocusAnswerField();
     EXPECT_EQ(Focused(), u"newer"_s);
 }
 

@@ -11,7 +11,7 @@ namespace {
 class ContentChoiceTest : public SimulatedProgram {
 protected:
     void Write(ContentKind kind, const QStringList& lines) {
-        app->files.WriteLines(app->contentLists->PathOf(kind), lines);
+        app->files.WriteLines(app->Get<ContentLists>().PathOf(kind), lines);
     }
     void SetRandom(ContentKind kind) {
         static const QString keys[] = {u"optMessagesListRandomize"_s, u"optCommentsListRandomize"_s,

@@ -29,7 +29,7 @@ protected:
 TEST_F(CountersTest, TheSameDayGoesOn) {
     StoreDay(u"2009-06-02"_s);
     StoreCount(u"Daily Friends Count"_s, u"17"_s);
-    app->counters->Restore();
+    app->Get<Counters>().Restore();
     EXPECT_EQ(app->state.lngDailyFR, 17);
     EXPECT_EQ(app->controls.Text("lblFrTotalToday"_L1), u"Total Today: 17"_s);
 }
@@ -39,7 +39,7 @@ TEST_F(CountersTest, AnEarlierDayClearsAndStoresToday) {
     for (const QString& key :
          {u"Daily Friends Count"_s, u"Daily Statuses Count"_s, u"Daily Group Invites Count"_s})
         StoreCount(key, u"9"_s);
-    app->counters->Restore();
+    app->Get<Counters>().Restore();
     EXPECT_EQ(app->state.lngDailyFR, 0);
     EXPECT_EQ(app->state.lngDailyStatus, 0);
     EXPECT_EQ(Stored(u"Daily Friends Count"_s), u"0"_s);
@@ -51,7 +51,7 @@ TEST_F(CountersTest, AnEarlierDayClearsAndStoresToday) {
 TEST_F(CountersTest, TheStoredStatusCountSurvivesTheReset) {
     StoreDay(u"2009-06-01"_s);
     StoreCount(u"Daily Statuses Count"_s, u"9"_s);
-    app->counters->Restore();
+    app->Get<Counters>().Restore();
     EXPECT_EQ(Stored(u"Daily Statuses Count"_s), u"9"_s);
     EXPECT_EQ(Stored(u"Daily Status Updates Count"_s), u"0"_s);
 }
@@ -59,12 +59,12 @@ TEST_F(CountersTest, TheStoredStatusCountSurvivesTheReset) {
 TEST_F(CountersTest, ALaterStoredDayCountsAsToday) {
     StoreDay(u"2009-07-01"_s);
     StoreCount(u"Daily Friends Count"_s, u"3"_s);
-    app->counters->Restore();
+    app->Get<Counters>().Restore();
     EXPECT_EQ(app->state.lngDailyFR, 3);
 }
 
 TEST_F(CountersTest, AFirstLoginStoresTheDay) {
-    app->counters->Restore();
+    app->Get<Counters>().Restore();
     EXPECT_EQ(Day(), u"2009-06-02"_s);
     EXPECT_EQ(app->state.lngDailyFR, 0);
 }
@@ -73,7 +73,7 @@ TEST_F(CountersTest, AServerDayThatIsNoDateChangesAndStoresNothing) {
     world.http.Set(u"http://product.example.com/dateandtime.php"_s, u"<html>soon</html>"_s);
     StoreDay(u"2009-06-01"_s);
     StoreCount(u"Daily Friends Count"_s, u"17"_s);
-    app->counters->Restore();
+    app->Get<Counters>().Restore();
     EXPECT_EQ(app->state.lngDailyFR, 17);
     EXPECT_EQ(Day(), u"2009-06-01"_s);
 }
@@ -81,7 +81,7 @@ TEST_F(CountersTest, AServerDayThatIsNoDateChangesAndStoresNothing) {
 TEST_F(CountersTest, OneRequestCountsForTheDayAndTheRunAndIsStoredAtOnce) {
     app->state.lngDailyFR = 4;
     const int syncsBefore = world.settings.syncs;
-    EXPECT_TRUE(app->counters->AddFriendCount());
+    EXPECT_TRUE(app->Get<Counters>().AddFriendCount());
     EXPECT_EQ(Stored(u"Daily Friends Count"_s), u"5"_s);
     EXPECT_EQ(app->controls.Text("lblFrTotalToday"_L1), u"Total Today: 5"_s);
     EXPECT_EQ(app->controls.Text("lblFrSentCount"_L1), u"Friends Requested: 1"_s);
@@ -90,8 +90,8 @@ TEST_F(CountersTest, OneRequestCountsForTheDayAndTheRunAndIsStoredAtOnce) {
 
 TEST_F(CountersTest, ALimitOfOneCountsOneAndStopsAtTheNext) {
     app->controls.SetText("txtFriendRequestsToSend"_L1, u"1"_s);
-    EXPECT_TRUE(app->counters->AddFriendCount());
-    EXPECT_FALSE(app->counters->AddFriendCount());
+    EXPECT_TRUE(app->Get<Counters>().AddFriendCount());
+    EXPECT_FALSE(app->Get<Counters>().AddFriendCount());
     EXPECT_TRUE(app->state.CurrentAction.isEmpty());
     EXPECT_EQ(app->state.lngSessionFR, 1);
     EXPECT_EQ(dialogs.Texts(), QStringList{u"Your specified limit has been reached"_s});
@@ -101,10 +101,10 @@ TEST_F(CountersTest, PerDayLooksAtTheDay) {
     app->controls.SetText("txtFriendRequestsToSend"_L1, u"10"_s);
     app->controls.SetText("cboFRPerDayOrSession"_L1, u"per day"_s);
     app->state.lngDailyFR = 10;
-    EXPECT_FALSE(app->counters->AddFriendCount());
+    EXPECT_FALSE(app->Get<Counters>().AddFriendCount());
     app->state.CurrentAction = u"FR"_s;
     app->controls.SetText("cboFRPerDayOrSession"_L1, u"this session"_s);
-    EXPECT_TRUE(app->counters->AddFriendCount());
+    EXPECT_TRUE(app->Get<Counters>().AddFriendCount());
 }
 
 // A message or comment is counted first and the limit tested behind it.
@@ -122,20 +122,20 @@ TEST_F(CountersTest, MessagesAndCommentsStopAtExactlyTheirLimit) {
         app->state.CurrentAction = word;
         dialogs.messages.clear();
         app->controls.SetText(each.limit, u"2"_s);
-        (*app->counters.*each.add)();
-        EXPECT_FALSE(app->counters->StopAtLimit(word));
-        (*app->counters.*each.add)();
-        EXPECT_TRUE(app->counters->StopAtLimit(word));
+        (app->Get<Counters>().*each.add)();
+        EXPECT_FALSE(app->Get<Counters>().StopAtLimit(word));
+        (app->Get<Counters>().*each.add)();
+        EXPECT_TRUE(app->Get<Counters>().StopAtLimit(word));
         EXPECT_TRUE(app->state.CurrentAction.isEmpty());
         EXPECT_EQ(dialogs.Texts(), QStringList{u"Your specified limit has been reached"_s});
         EXPECT_EQ(app->controls.Selected("TabStrip1"_L1), 0);
         // Another run, with two of today: only the day is full.
         app->state.lngSessionMsg = app->state.lngSessionCom = 0;
-        EXPECT_FALSE(app->counters->StopAtLimit(word));
+        EXPECT_FALSE(app->Get<Counters>().StopAtLimit(word));
         app->controls.SetText(each.period, u"per day"_s);
-        EXPECT_TRUE(app->counters->StopAtLimit(word));
+        EXPECT_TRUE(app->Get<Counters>().StopAtLimit(word));
         app->controls.SetText(each.limit, {});
-        EXPECT_FALSE(app->counters->StopAtLimit(word));
+        EXPECT_FALSE(app->Get<Counters>().StopAtLimit(word));
     }
 }
 
@@ -175,7 +175,7 @@ TEST_F(CountersTest, EachCampaignCountsUnderItsKeyAndInItsWords) {
          }) {
         app->state.*each.daily = 7;
         app->state.*each.session = 1;
-        app->counters->Count(QString::fromUtf16(each.word));
+        app->Get<Counters>().Count(QString::fromUtf16(each.word));
         EXPECT_EQ(Stored(QString::fromUtf16(each.key)), u"8"_s);
         EXPECT_EQ(app->state.*each.session, 2);
         EXPECT_EQ(app->controls.Text(each.sentLabel), QString::fromUtf16(each.sent));
@@ -187,20 +187,20 @@ TEST_F(CountersTest, EachCampaignCountsUnderItsKeyAndInItsWords) {
 
 TEST_F(CountersTest, AMessageThatBelongsToARequestOrAnAcceptRunCountsNothing) {
     app->state.blnMsgAfterFR = true;
-    app->counters->AddMessageCount();
+    app->Get<Counters>().AddMessageCount();
     app->state.blnMsgAfterFR = false;
     app->state.strAcceptMode = u"MSG"_s;
-    app->counters->AddMessageCount();
-    app->counters->AddCommentCount();
+    app->Get<Counters>().AddMessageCount();
+    app->Get<Counters>().AddCommentCount();
     app->state.strAcceptMode.clear();
     app->state.strFRResumeURL = u"http://www.example.com/"_s;
-    app->counters->AddMessageCount();
+    app->Get<Counters>().AddMessageCount();
     EXPECT_EQ(app->state.lngDailyMsg, 0);
     EXPECT_EQ(app->state.lngSessionMsg, 0);
     EXPECT_EQ(app->state.lngDailyCom, 0);
     app->state.strFRResumeURL.clear();
-    app->counters->AddMessageCount();
-    app->counters->AddCommentCount();
+    app->Get<Counters>().AddMessageCount();
+    app->Get<Counters>().AddCommentCount();
     EXPECT_EQ(app->state.lngDailyMsg, 1);
     EXPECT_EQ(app->state.lngDailyCom, 1);
 }
@@ -210,7 +210,7 @@ TEST_F(CountersTest, AtTheLimitAChainGoesOnWithoutAWord) {
     app->commands.Add(u"LoginNextCycleAccount"_s, [&handedOver] { ++handedOver; });
     app->state.blnChaining = true;
     app->controls.SetText("txtFriendRequestsToSend"_L1, u"0"_s);
-    EXPECT_FALSE(app->counters->AddFriendCount());
+    EXPECT_FALSE(app->Get<Counters>().AddFriendCount());
     EXPECT_EQ(handedOver, 1);
     EXPECT_TRUE(dialogs.Texts().isEmpty());
 }
@@ -218,7 +218,7 @@ TEST_F(CountersTest, AtTheLimitAChainGoesOnWithoutAWord) {
 TEST_F(CountersTest, ALimitThatIsReachedWhenTheProgramIsToExitEndsItWithoutAWord) {
     app->state.blnExitWhenFinished = true;
     app->controls.SetText("txtFriendRequestsToSend"_L1, u"0"_s);
-    EXPECT_FALSE(app->counters->AddFriendCount());
+    EXPECT_FALSE(app->Get<Counters>().AddFriendCount());
     EXPECT_TRUE(app->state.blnClosing);
     EXPECT_TRUE(dialogs.Texts().isEmpty());
 }
@@ -244,14 +244,14 @@ TEST_F(CountersTest, EveryCounterIsReadAndClearedUnderItsKey) {
     for (const Case& row : rows)
         StoreCount(QString::fromUtf16(row.key), QString::number(++number));
     StoreDay(u"2009-06-02"_s);
-    app->counters->Restore();
+    app->Get<Counters>().Restore();
     number = 10;
     for (const Case& row : rows)
         EXPECT_EQ(app->state.*row.count, ++number);
     EXPECT_EQ(app->controls.Text("lblMsgTotalToday"_L1), u"Total Today: 12"_s);
     EXPECT_EQ(app->controls.Text("lblComTotalToday"_L1), u"Total Today: 13"_s);
     StoreDay(u"2009-06-01"_s);
-    app->counters->Restore();
+    app->Get<Counters>().Restore();
     for (const Case& row : rows) {
         EXPECT_EQ(app->state.*row.count, 0);
         EXPECT_EQ(Stored(QString::fromUtf16(row.resetKey)), u"0"_s);
@@ -265,7 +265,7 @@ TEST_F(CountersTest, OnTheAlternateServerTheDayComesFromItsOwnPage) {
     world.http.Set(u"http://product2.example.com/dateandtime.htm"_s, u"6/3/2009 10:00:00 AM"_s);
     StoreDay(u"2009-06-02"_s);
     StoreCount(u"Daily Friends Count"_s, u"9"_s);
-    app->counters->Restore();
+    app->Get<Counters>().Restore();
     EXPECT_EQ(Day(), u"2009-06-03"_s);
     EXPECT_EQ(app->state.lngDailyFR, 0);
 }
@@ -275,10 +275,10 @@ TEST_F(CountersTest, ACounterStaysAtTheMostThatItHolds) {
     for (const QString& stored : {u"2147483647"_s, u"2147483648"_s, u"99999999999999999999"_s}) {
         StoreDay(u"2009-06-02"_s);
         StoreCount(u"Daily Friends Count"_s, stored);
-        app->counters->Restore();
+        app->Get<Counters>().Restore();
         EXPECT_EQ(app->state.lngDailyFR, most);
         app->state.lngSessionFR = most;
-        app->counters->Count(u"FR"_s);
+        app->Get<Counters>().Count(u"FR"_s);
         EXPECT_EQ(app->state.lngDailyFR, most);
         EXPECT_EQ(app->state.lngSessionFR, most);
         EXPECT_EQ(Stored(u"Daily Friends Count"_s), u"2147483647"_s);
@@ -286,7 +286,7 @@ TEST_F(CountersTest, ACounterStaysAtTheMostThatItHolds) {
         app->state.CurrentAction = u"FR"_s;
         app->controls.SetText("txtFriendRequestsToSend"_L1, u"10"_s);
         app->controls.SetText("cboFRPerDayOrSession"_L1, u"per day"_s);
-        EXPECT_FALSE(app->counters->AddFriendCount());
+        EXPECT_FALSE(app->Get<Counters>().AddFriendCount());
     }
 }
 
@@ -294,7 +294,7 @@ TEST_F(CountersTest, WhatIsNoCountIsNone) {
     StoreDay(u"2009-06-02"_s);
     for (const QString& stored : {u"-5"_s, u"-99999999999"_s, u"many"_s, u""_s}) {
         StoreCount(u"Daily Friends Count"_s, stored);
-        app->counters->Restore();
+        app->Get<Counters>().Restore();
         EXPECT_EQ(app->state.lngDailyFR, 0);
     }
 }
@@ -304,7 +304,7 @@ protected:
     UnsavedCountTest() {
         app->controls.SetText("txtFriendRequestsToSend"_L1, u"5"_s);
         world.settings.problem = u"The settings could not be saved."_s;
-        EXPECT_TRUE(app->counters->AddFriendCount());
+        EXPECT_TRUE(app->Get<Counters>().AddFriendCount());
     }
     int TimesTold() {
         return static_cast<int>(
@@ -314,7 +314,7 @@ protected:
 
 TEST_F(UnsavedCountTest, StopsARunWithALimitPerDay) {
     app->controls.SetText("cboFRPerDayOrSession"_L1, u"per day"_s);
-    EXPECT_TRUE(app->counters->StopUncounted(u"FR"_s));
+    EXPECT_TRUE(app->Get<Counters>().StopUncounted(u"FR"_s));
     EXPECT_TRUE(app->state.CurrentAction.isEmpty());
     EXPECT_EQ(
         dialogs.Texts(),
@@ -325,16 +325,16 @@ TEST_F(UnsavedCountTest, StopsARunWithALimitPerDay) {
 TEST_F(UnsavedCountTest, IsToldOnceAndOtherRunsGoOn) {
     EXPECT_EQ(TimesTold(), 1);
     EXPECT_EQ(dialogs.shownForms, QStringList{u"frmError"_s});
-    EXPECT_FALSE(app->counters->StopUncounted(u"FR"_s));
+    EXPECT_FALSE(app->Get<Counters>().StopUncounted(u"FR"_s));
     app->controls.SetText("cboFRPerDayOrSession"_L1, u"per day"_s);
     app->controls.SetText("txtFriendRequestsToSend"_L1, {});
-    EXPECT_FALSE(app->counters->StopUncounted(u"FR"_s));
-    EXPECT_TRUE(app->counters->AddFriendCount());
+    EXPECT_FALSE(app->Get<Counters>().StopUncounted(u"FR"_s));
+    EXPECT_TRUE(app->Get<Counters>().AddFriendCount());
     EXPECT_EQ(TimesTold(), 1);
     EXPECT_EQ(app->state.CurrentAction, u"FR"_s);
     // The store tells of its first failure alone; the counts stay unsaved.
     app->controls.SetText("txtFriendRequestsToSend"_L1, u"5"_s);
-    EXPECT_TRUE(app->counters->StopUncounted(u"FR"_s));
+    EXPECT_TRUE(app->Get<Counters>().StopUncounted(u"FR"_s));
 }
 
 } // namespace

@@ -14,16 +14,16 @@ class CursorTest : public SimulatedProgram {
 protected:
     void Fill(const QStringList& ids) {
         for (const QString& id : ids)
-            app->gatheredList->ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
+            app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
         app->state.CurrentAction = u"FR"_s;
     }
     void RemoveAfterSent() { app->controls.SetTicked("chkRemoveAfterSent"_L1, true); }
     QStringList Walk() {
         QStringList walked;
-        while (app->sendRuns->TargetLeft() && walked.size() < 10) {
-            app->sendRuns->BeginTarget();
+        while (app->Get<SendRuns>().TargetLeft() && walked.size() < 10) {
+            app->Get<SendRuns>().BeginTarget();
             walked.append(app->state.strCurrentID + u' ' + app->controls.Text("lblProgress"_L1));
-            app->sendRuns->AdvanceAfterUse(u"test"_s);
+            app->Get<SendRuns>().AdvanceAfterUse(u"test"_s);
         }
         return walked;
     }
@@ -39,7 +39,7 @@ TEST_F(CursorTest, WithRemovalWalksTheHeadAndKeepsTheNumbering) {
     Fill({u"11"_s, u"12"_s, u"13"_s});
     RemoveAfterSent();
     EXPECT_EQ(Walk(), (QStringList{u"11 ID 1 of 3"_s, u"12 ID 2 of 3"_s, u"13 ID 3 of 3"_s}));
-    EXPECT_TRUE(app->gatheredList->IsEmpty());
+    EXPECT_TRUE(app->Get<GatheredList>().IsEmpty());
 }
 
 // An import of one line fills the array and not the box; REMOVE needs a row.
@@ -52,21 +52,21 @@ TEST_F(CursorTest, AnEntryThatCannotBeRemovedDoesNotHoldTheWalk) {
 TEST_F(CursorTest, AnEntryTheUserHasTakenAwayHimselfIsNotTakenTwice) {
     Fill({u"11"_s, u"12"_s});
     RemoveAfterSent();
-    app->sendRuns->BeginTarget();
-    app->gatheredList->ProcessArrayAndList(u"REMOVE"_s, 0, {}, u"lstFriendIDs_KeyDown"_s);
-    app->sendRuns->RemoveUsedTarget(u"test"_s);
+    app->Get<SendRuns>().BeginTarget();
+    app->Get<GatheredList>().ProcessArrayAndList(u"REMOVE"_s, 0, {}, u"lstFriendIDs_KeyDown"_s);
+    app->Get<SendRuns>().RemoveUsedTarget(u"test"_s);
     EXPECT_EQ(app->state.arrFriendIDs.ToStringList(), QStringList{u"12"_s});
 }
 
 TEST_F(CursorTest, TheEmptyListHasNoTarget) {
-    EXPECT_FALSE(app->sendRuns->TargetLeft());
+    EXPECT_FALSE(app->Get<SendRuns>().TargetLeft());
 }
 
 TEST_F(CursorTest, TheEndTellsWhatWasPassedOver) {
     Fill({u"11"_s});
     app->state.lngSkippedCount = 2;
     app->state.lngFilteredCount = 1;
-    app->sendRuns->Finish(u"IAF"_s);
+    app->Get<SendRuns>().Finish(u"IAF"_s);
     EXPECT_EQ(
         dialogs.Texts(),
         QStringList{u"Finished sending friend requests.\n\n2 ID's were skipped because you sent to them "
@@ -78,7 +78,7 @@ TEST_F(CursorTest, TheEndOfAChainedRunTellsNoCounts) {
     Fill({u"11"_s});
     app->state.lngSkippedCount = 2;
     app->state.blnChaining = true;
-    app->sendRuns->Finish(u"IAF"_s);
+    app->Get<SendRuns>().Finish(u"IAF"_s);
     EXPECT_EQ(dialogs.Texts(), QStringList{u"Finished sending friend requests."_s});
     EXPECT_FALSE(app->state.blnChaining);
 }
@@ -95,7 +95,7 @@ TEST_F(CursorTest, EachCampaignEndsInItsWordsAndACommentRunLeavesTheChain) {
         dialogs.messages.clear();
         app->state.CurrentAction = QString::fromUtf16(each.word);
         app->state.blnChaining = true;
-        app->sendRuns->Finish(u"IAF"_s);
+        app->Get<SendRuns>().Finish(u"IAF"_s);
         EXPECT_EQ(dialogs.Texts(), QStringList{QString::fromUtf16(each.text)});
         EXPECT_EQ(app->state.blnChaining, each.chaining);
     }
@@ -104,7 +104,7 @@ TEST_F(CursorTest, EachCampaignEndsInItsWordsAndACommentRunLeavesTheChain) {
 TEST_F(CursorTest, TheEndTellsNothingWhenTheProgramExits) {
     Fill({u"11"_s});
     app->state.blnExitWhenFinished = true;
-    app->sendRuns->Finish(u"IAF"_s);
+    app->Get<SendRuns>().Finish(u"IAF"_s);
     EXPECT_TRUE(dialogs.Texts().isEmpty());
     EXPECT_TRUE(app->state.blnClosing);
 }
@@ -118,7 +118,7 @@ TEST_F(CursorTest, InAcceptModeTheAcceptedFriendsAreTheTargets) {
     EXPECT_EQ(Walk(), (QStringList{u"21 ID 1 of 2"_s, u"22 ID 2 of 2"_s}));
     EXPECT_EQ(app->state.arrFriendIDs, QStringList{u"11"_s});
     EXPECT_TRUE(app->controls.Items("lstAcceptIDs"_L1).isEmpty());
-    EXPECT_FALSE(app->sendRuns->TargetLeft());
+    EXPECT_FALSE(app->Get<SendRuns>().TargetLeft());
 }
 
 TEST_F(CursorTest, InAcceptModeTheEndGoesBackToAcceptingWithoutAWord) {
@@ -126,7 +126,7 @@ TEST_F(CursorTest, InAcceptModeTheEndGoesBackToAcceptingWithoutAWord) {
     app->state.CurrentAction = u"COM"_s;
     app->state.intComStep = 5;
     app->state.strAcceptMode = u"COM"_s;
-    app->sendRuns->Finish(u"ISC"_s);
+    app->Get<SendRuns>().Finish(u"ISC"_s);
     EXPECT_EQ(app->state.CurrentAction, u"ACC"_s);
     EXPECT_EQ(app->state.intAccStep, 2);
     EXPECT_EQ(app->state.intComStep, 0);
@@ -136,14 +136,14 @@ TEST_F(CursorTest, InAcceptModeTheEndGoesBackToAcceptingWithoutAWord) {
 }
 
 TEST_F(CursorTest, InAcceptModeALoggedFriendIsPassedOverOnlyByWishAndForComments) {
-    app->files.WriteLines(app->sentLog->PathFor(u"COM"_s), {u"21"_s});
-    app->files.WriteLines(app->sentLog->PathFor(u"MSG"_s), {u"21"_s});
+    app->files.WriteLines(app->Get<SentLog>().PathFor(u"COM"_s), {u"21"_s});
+    app->files.WriteLines(app->Get<SentLog>().PathFor(u"MSG"_s), {u"21"_s});
     app->state.strAcceptMode = u"COM"_s;
     auto taken = [this](const QString& action, bool byWish) {
         app->state.CurrentAction = action;
         app->controls.SetTicked("mnuAddToLogWhenAccepting"_L1, byWish);
         app->controls.SetItems("lstAcceptIDs"_L1, {u"21"_s, u"22"_s});
-        EXPECT_EQ(app->sendRuns->TakeTarget(u"test"_s), SendRuns::Took::Target);
+        EXPECT_EQ(app->Get<SendRuns>().TakeTarget(u"test"_s), SendRuns::Took::Target);
         return app->state.strCurrentID;
     };
     EXPECT_EQ(taken(u"COM"_s, false), u"21"_s);
@@ -154,14 +154,14 @@ TEST_F(CursorTest, InAcceptModeALoggedFriendIsPassedOverOnlyByWishAndForComments
 TEST_F(CursorTest, ASkipLeavesAStatusLineThatSaysSoAlready) {
     Fill({u"11"_s, u"12"_s});
     app->state.blnCheckLog = true;
-    app->files.WriteLines(app->sentLog->PathFor(u"FR"_s), {u"11"_s, u"12"_s});
+    app->files.WriteLines(app->Get<SentLog>().PathFor(u"FR"_s), {u"11"_s, u"12"_s});
     app->SetStatus(u"Skipping for another reason"_s);
-    EXPECT_EQ(app->sendRuns->TakeTarget(u"test"_s), SendRuns::Took::End);
+    EXPECT_EQ(app->Get<SendRuns>().TakeTarget(u"test"_s), SendRuns::Took::End);
     EXPECT_EQ(app->Status(), u"Skipping for another reason"_s);
     EXPECT_EQ(app->state.lngSkippedCount, 2);
     app->state.intCurrentIDIndex = 0;
     app->SetStatus(u"Working"_s);
-    app->sendRuns->TakeTarget(u"test"_s);
+    app->Get<SendRuns>().TakeTarget(u"test"_s);
     EXPECT_EQ(app->Status(), u"Skipping ID's you've sent to before..."_s);
 }
 
@@ -184,7 +184,7 @@ protected:
         for (const auto& field : {"txtMsgSubject"_L1, "txtMsgMessage"_L1, "txtComment"_L1})
             app->controls.SetText(field, u"text"_s);
     }
-    void Start() { app->sendRuns->Start(QString::fromUtf16(GetParam().word)); }
+    void Start() { app->Get<SendRuns>().Start(QString::fromUtf16(GetParam().word)); }
 };
 
 TEST_P(StartTest, ResetsTheRunAndEntersItsFirstStep) {
@@ -255,7 +255,7 @@ INSTANTIATE_TEST_SUITE_P(Campaigns, StartTest,
 TEST_F(CursorTest, AFriendRequestRunAlwaysLooksInTheLog) {
     Fill({u"11"_s});
     app->state.CurrentAction.clear();
-    app->sendRuns->Start(u"FR"_s);
+    app->Get<SendRuns>().Start(u"FR"_s);
     EXPECT_TRUE(app->state.blnCheckLog);
     EXPECT_EQ(app->controls.Text("lblFrSentCount"_L1), u"Friends requested: 0"_s);
 }

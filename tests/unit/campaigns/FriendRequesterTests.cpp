@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
 #include "campaigns/FriendRequester.h"
 #include "campaigns/OpenNotes.h"
 #include "campaigns/SendRuns.h"
 #include "gather/GatheredList.h"
+#include "steps/RunReport.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -16,7 +17,7 @@ protected:
     FriendRequesterTest() {
         app->state.blnNewLayout = true;
         for (const QString& id : {u"1001"_s, u"1002"_s}) {
-            app->gatheredList->ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
+            app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
             world.web.SetPage(u"http://www.example.com/my/friends/addtofriends/"_s + id,
                               u"<html><body><a href='/'>Home</a>Request Sent!</body></html>"_s);
         }
@@ -33,7 +34,7 @@ protected:
     }
 
     QStringList Run() {
-        app->sendRuns->cmdAddFriends_Click();
+        app->Get<SendRuns>().cmdAddFriends_Click();
         platform->Pump().RunUntil([this] { return app->state.CurrentAction != u"FR"_s; }, 600'000);
         return platform->Browser(BrowserName::WebBrowser1).TakeVisited();
     }
@@ -161,12 +162,12 @@ TEST_F(FriendRequesterTest, AListOfCategoriesIsWaitedForUntilTheButtonIsPressedA
 }
 
 TEST_F(FriendRequesterTest, TheNoticeOfTheErrorRedirectComesOnceARun) {
-    app->friendRequester->NoticeErrorRedirect();
-    app->friendRequester->NoticeErrorRedirect();
+    app->Get<FriendRequester>().NoticeErrorRedirect();
+    app->Get<FriendRequester>().NoticeErrorRedirect();
     EXPECT_EQ(dialogs.shownForms, QStringList{u"frmTempMySpaceErrorFR"_s});
     app->commands.Run(u"frmTempMySpaceErrorFR.cmdOK_Click"_s);
     Run();
-    app->friendRequester->NoticeErrorRedirect();
+    app->Get<FriendRequester>().NoticeErrorRedirect();
     EXPECT_EQ(dialogs.shownForms.count(u"frmTempMySpaceErrorFR"_s), 2);
 }
 
@@ -175,7 +176,7 @@ TEST_F(FriendRequesterTest, EachEntryOfTheStepMakesBothBrowsersSilent) {
     app->state.strLastPageText = app->state.strLastPageHref = u"old"_s;
     app->WebBrowser1().SetSilent(false);
     app->webHide().SetSilent(false);
-    app->friendRequester->IterateAddFriends();
+    app->Get<FriendRequester>().IterateAddFriends();
     EXPECT_TRUE(app->WebBrowser1().Silent());
     EXPECT_TRUE(app->webHide().Silent());
     EXPECT_EQ(app->state.strLastPageText + app->state.strLastPageHref, QString());
@@ -187,7 +188,7 @@ TEST_F(FriendRequesterTest, AStartForgetsWhatAnEarlierRunLeft) {
     state.intBlankTicks = state.intFRLimitHits = 2;
     state.lngFailedCount = state.lngRemovedCount = state.lngSessionFR = 5;
     app->timers->Timer1.Restart();
-    app->sendRuns->cmdAddFriends_Click();
+    app->Get<SendRuns>().cmdAddFriends_Click();
     EXPECT_FALSE(state.blnInDelay || state.blnMsgAfterFR || state.blnFRSkipMessage ||
                  state.blnErrorRedirectTold);
     EXPECT_EQ(state.intBlankTicks + state.intFRLimitHits, 0);
@@ -215,7 +216,7 @@ TEST_F(FilteringTest, AProfileThatDoesNotFitIsLeftAndReported) {
                                   u"http://www.example.com/1002/classic"_s}));
     EXPECT_EQ(app->state.lngFilteredCount, 2);
     EXPECT_EQ(Address(), u"about:blank"_s);
-    const QList<ReportRow> rows = app->sendRuns->Report().Runs().constLast().rows;
+    const QList<ReportRow> rows = app->Get<RunReport>().Runs().constLast().rows;
     ASSERT_EQ(rows.size(), 2);
     EXPECT_EQ(ResultText(rows[1].result) + u", "_s + rows[1].why,
               u"Skipped, Doesn't match your filter settings"_s);
@@ -242,14 +243,14 @@ TEST_F(FriendRequesterTest, ASuccessForgetsTheLimitPagesAndTheSkippedCaptchas) {
     app->state.intFRLimitHits = app->state.intCaptchaSkips = 2;
     app->WebBrowser1().Navigate(u"http://www.example.com/my/friends/addtofriends/1002"_s);
     platform->Pump().RunFor(500);
-    app->friendRequester->IterateAddFriends();
+    app->Get<FriendRequester>().IterateAddFriends();
     EXPECT_FALSE(app->state.blnDailyLimitHit);
     EXPECT_EQ(app->state.intFRLimitHits + app->state.intCaptchaSkips, 0);
 }
 
 // The page of the first was found a moment ago: its tick is due when Skip opens the second.
 TEST_F(FriendRequesterTest, SkipTakesNoStepOfTheNextProfile) {
-    app->sendRuns->cmdAddFriends_Click();
+    app->Get<SendRuns>().cmdAddFriends_Click();
     app->timers->Timer1.Restart();
     world.clock.Advance(500);
     app->commands.Run(u"picSkip_Click"_s);
@@ -282,12 +283,12 @@ TEST_F(FriendRequesterTest, AStartSilencesTheBrowsersAndUncoversThemBeforeItChec
         EXPECT_TRUE(app->webHide().Silent());
         EXPECT_EQ(app->webHide().Position(), 1);
     };
-    app->sendRuns->cmdAddFriends_Click();
+    app->Get<SendRuns>().cmdAddFriends_Click();
     EXPECT_TRUE(asked);
 }
 
 TEST_F(FriendRequesterTest, TheThirdLimitPageEndsAProgramThatIsToExit) {
-    app->gatheredList->ProcessArrayAndList(u"ADD"_s, 0, u"1003"_s, u"test"_s);
+    app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, u"1003"_s, u"test"_s);
     for (const QString& id : {u"1001"_s, u"1002"_s, u"1003"_s})
         world.web.SetPage(u"http://www.example.com/my/friends/addtofriends/"_s + id,
                           u"<html><body><a href='/'>Home</a>You have reached the maximum limit of friend "
@@ -314,7 +315,7 @@ TEST_F(FriendRequesterTest, BehindAnAnswerTheNextPageIsWaitedForUntilItIsComplet
         if (answeredMs < 0 || stillWaits || world.clock.NowMs() - answeredMs < 60'000)
             return;
         stillWaits =
-            app->pageTests->IsTextInPage(u"One moment"_s) && !app->timers->tmrCheckLinkLoaded.Enabled();
+            app->Get<PageSigns>().IsTextInPage(u"One moment"_s) && !app->timers->tmrCheckLinkLoaded.Enabled();
         app->commands.Run(u"piccmdAddFriendsStop_Click"_s);
     };
     Run();
@@ -342,7 +343,7 @@ TEST_F(FriendRequesterTest, CutOffAtAnyWriteNobodyWhoIsNotedIsOpenedAgain) {
         StartOn(deployment);
         app->state.blnNewLayout = true;
         for (const QString& id : {u"1001"_s, u"1002"_s})
-            app->gatheredList->ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
+            app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
         for (const QString& opened : Run())
             EXPECT_FALSE((noted + logged).contains(opened.section(u'/', -1))) << write;
         app->files.DeleteFile(log);

@@ -12,7 +12,7 @@ namespace {
 class LogDialogTest : public SimulatedProgram {
 protected:
     void Show(const QString& action) { dialog.Show(action); }
-    QString Path(const QString& action = u"FR"_s) { return app->sentLog->PathFor(action); }
+    QString Path(const QString& action = u"FR"_s) { return app->Get<SentLog>().PathFor(action); }
     void Press(const QString& button) { app->commands.Run(u"frmLog."_s + button + u"_Click"_s); }
 
     LogDialog dialog{*app};

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
+#include "browser/Cover.h"
 #include "campaigns/Pacing.h"
-#include "core/StopResume.h"
+#include "steps/StopResume.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,14 +19,14 @@ protected:
     void SetBounds(const QString& from, const QString& to) {
         world.settings.SaveSetting(u"General"_s, u"TimeDelayFrom"_s, from);
         world.settings.SaveSetting(u"General"_s, u"TimeDelayTo"_s, to);
-        app->pacing->ReadBounds();
-        app->pacing->UpdateTimeDelayLabel();
+        app->Get<Pacing>().ReadBounds();
+        app->Get<Pacing>().UpdateTimeDelayLabel();
         app->state.CurrentAction = u"FR"_s;
     }
 
     qint64 SecondsOfDelay() {
         const qint64 startMs = world.clock.NowMs();
-        app->pacing->DoDelay();
+        app->Get<Pacing>().DoDelay();
         return (world.clock.NowMs() - startMs) / 1000;
     }
 
@@ -62,7 +63,7 @@ TEST_F(PacingTest, TheDelayHoldsThePageCheckAndLiftsTheHoldAtItsEnd) {
         alwaysHeld = alwaysHeld && app->state.blnHoldLinkCheck && app->state.blnInDelay &&
                      !app->timers->tmrAutoResume.Enabled();
     };
-    app->pacing->DoDelay();
+    app->Get<Pacing>().DoDelay();
     EXPECT_TRUE(alwaysHeld);
     EXPECT_FALSE(app->state.blnHoldLinkCheck || app->state.blnInDelay);
     EXPECT_TRUE(app->timers->tmrAutoResume.Enabled());
@@ -84,7 +85,7 @@ TEST_F(PacingTest, ASingleBoundStillWaits) {
 
 TEST_F(PacingTest, WithoutBoundsNothingIsWaitedAndNothingCovered) {
     SetBounds(u"0"_s, u"0"_s);
-    app->pacing->HideCover();
+    app->Get<Cover>().Hide();
     EXPECT_EQ(SecondsOfDelay(), 0);
     EXPECT_EQ(app->webHide().Position(), 1);
     EXPECT_EQ(Label(), u"Time Delay: OFF"_s);
@@ -105,7 +106,7 @@ TEST_F(PacingTest, TheCountdownShowsMinutesAndSecondsOverTheCover) {
     });
     bool covered = false;
     platform->Pump().onPump = [&] { covered = covered || app->webHide().Position() == 0; };
-    app->pacing->DoDelay();
+    app->Get<Pacing>().DoDelay();
     EXPECT_TRUE(covered);
     EXPECT_TRUE(shown.contains(u"Time Delay: 01:10"_s));
     EXPECT_TRUE(shown.contains(u"Time Delay: 00:09"_s));
@@ -114,7 +115,7 @@ TEST_F(PacingTest, TheCountdownShowsMinutesAndSecondsOverTheCover) {
 
 TEST_F(PacingTest, SkipEndsTheDelayAndLiftsTheHold) {
     SetBounds(u"60"_s, u"60"_s);
-    platform->Pump().onPump = [&] { app->stopResume->SkipProfile(); };
+    platform->Pump().onPump = [&] { app->Get<StopResume>().SkipProfile(); };
     EXPECT_EQ(SecondsOfDelay(), 0);
     EXPECT_FALSE(app->state.blnSkipRequested);
     EXPECT_FALSE(app->state.blnHoldLinkCheck);
@@ -122,7 +123,7 @@ TEST_F(PacingTest, SkipEndsTheDelayAndLiftsTheHold) {
 
 TEST_F(PacingTest, StopEndsTheDelayAndItsHoldStays) {
     SetBounds(u"60"_s, u"60"_s);
-    platform->Pump().onPump = [&] { app->stopResume->StopAll(u"MAINSTOP"_s); };
+    platform->Pump().onPump = [&] { app->Get<StopResume>().StopAll(u"MAINSTOP"_s); };
     EXPECT_EQ(SecondsOfDelay(), 0);
     EXPECT_TRUE(app->state.blnHoldLinkCheck);
     EXPECT_FALSE(app->state.blnInDelay);
@@ -130,14 +131,14 @@ TEST_F(PacingTest, StopEndsTheDelayAndItsHoldStays) {
 
 TEST_F(PacingTest, WhileItIsLentTheCoverCoversNothingAndShowsNoOtherPage) {
     SetBounds(u"5"_s, u"5"_s);
-    app->pacing->LendCover();
-    app->pacing->ShowCover();
+    app->Get<Cover>().Lend();
+    app->Get<Cover>().Show();
     EXPECT_EQ(app->webHide().Position(), 1);
     app->webHide().Navigate(u"http://www.example.com/fetched"_s);
-    app->pacing->ClearCover();
+    app->Get<Cover>().Clear();
     EXPECT_EQ(SecondsOfDelay(), 6);
     EXPECT_FALSE(platform->Browser(BrowserName::webHide).TakeVisited().join(u' ').contains(u"timedelay"_s));
-    app->pacing->TakeCoverBack();
+    app->Get<Cover>().TakeBack();
     EXPECT_EQ(app->webHide().Position(), 1);
     // Taken back within a delay, it covers again.
     bool wasLent = false;
@@ -147,11 +148,11 @@ TEST_F(PacingTest, WhileItIsLentTheCoverCoversNothingAndShowsNoOtherPage) {
             covered = covered || app->webHide().Position() == 0;
             return;
         }
-        app->pacing->LendCover();
+        app->Get<Cover>().Lend();
         EXPECT_EQ(app->webHide().Position(), 1);
-        app->pacing->TakeCoverBack();
+        app->Get<Cover>().TakeBack();
     };
-    app->pacing->DoDelay();
+    app->Get<Pacing>().DoDelay();
     EXPECT_TRUE(covered);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
 #include "campaigns/RequestFields.h"
-#include "core/StopResume.h"
+#include "steps/StopResume.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -155,7 +155,7 @@ TEST_F(CategoryTest, IsWaitedForOnlyWhileTheStepLasts) {
     fields.ApplyCategory();
     EXPECT_LT(world.clock.NowMs() - startMs, 1000);
     app->state.intFRStep = 8;
-    platform->Pump().Queue().Post([this] { app->stopResume->StopAll(u"ADDSTOP"_s); });
+    platform->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(u"ADDSTOP"_s); });
     fields.ApplyCategory();
     EXPECT_LT(world.clock.NowMs() - startMs, 1000);
     EXPECT_TRUE(ById(u"b"_s).IsNull());

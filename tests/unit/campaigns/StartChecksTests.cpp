@@ -47,7 +47,7 @@ protected:
         app->state.blnWaitForLoginFirst = true;
     }
     void Write(ContentKind kind, const QString& line) {
-        app->files.WriteLines(app->contentLists->PathOf(kind), {line});
+        app->files.WriteLines(app->Get<ContentLists>().PathOf(kind), {line});
     }
     QString m_focus;
 
@@ -293,8 +293,8 @@ TEST_F(StartChecksTest, ALogInUtf16RefusesTheStartAndOneWithAMarkOrBareReturnsDo
     EXPECT_EQ(Refusal(), QString());
     app->state.CurrentAction = u"FR"_s;
     app->state.blnCheckLog = true;
-    EXPECT_TRUE(app->sentLog->LogEntryExists(u"10"_s));
-    EXPECT_TRUE(app->sentLog->LogEntryExists(u"11"_s));
+    EXPECT_TRUE(app->Get<SentLog>().LogEntryExists(u"10"_s));
+    EXPECT_TRUE(app->Get<SentLog>().LogEntryExists(u"11"_s));
 }
 
 // A refused start has silenced the browsers and lifted the cover already.

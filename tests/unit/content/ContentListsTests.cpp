@@ -36,7 +36,7 @@ const KindCase Kinds[] = {
 
 class ContentListsTest : public SimulatedProgram {
 protected:
-    ContentLists& Lists() { return *app->contentLists; }
+    ContentLists& Lists() { return app->Get<ContentLists>(); }
     void Write(ContentKind kind, const QStringList& lines) {
         app->files.WriteLines(Lists().PathOf(kind), lines);
     }
@@ -58,12 +58,12 @@ TEST_F(ContentListsTest, EachKindHasItsFileInTheScopeOfItsCategory) {
     for (const KindCase& each : Kinds)
         EXPECT_EQ(Lists().PathOf(each.kind), app->ProgramFile(QString::fromUtf16(each.file)));
     app->state.AccountEmail = u"a@example.com"_s;
-    app->settingsFields->ChangeGlobalFlags({});
+    app->Get<SettingsFields>().ChangeGlobalFlags({});
     for (const KindCase& each : Kinds)
         EXPECT_EQ(Lists().PathOf(each.kind),
                   app->ProgramFile(u"ACCOUNTS/a@example.com/"_s + QString::fromUtf16(each.file)));
     for (const KindCase& each : Kinds) {
-        app->settingsFields->ChangeGlobalFlags({QString::fromLatin1(each.flag)});
+        app->Get<SettingsFields>().ChangeGlobalFlags({QString::fromLatin1(each.flag)});
         EXPECT_EQ(Lists().PathOf(each.kind), app->ProgramFile(QString::fromUtf16(each.file)));
     }
 }
@@ -153,7 +153,7 @@ TEST_F(ContentListsTest, TheOrderIsReadFromTheStoreInTheScopeOfTheAccount) {
         EXPECT_TRUE(Lists().Randomizes(each.kind));
     }
     app->state.AccountEmail = u"a@example.com"_s;
-    app->settingsFields->ChangeGlobalFlags({});
+    app->Get<SettingsFields>().ChangeGlobalFlags({});
     for (const KindCase& each : Kinds) {
         EXPECT_FALSE(Lists().Randomizes(each.kind));
         world.settings.SaveSetting(u"Field Entries\\a@example.com"_s, QString::fromUtf16(each.orderKey),
@@ -279,7 +279,7 @@ TEST_F(ContentListsTest, TheTabShowsTheSelectedEntries) {
     Write(ContentKind::Comment, {u"one%cln%a%nl%b&usenonhtml=0&nonhtmlcomment=&Selected=1"_s,
                                  u"two&UseNonHTML=1&nonhtmlcomment=x&Selected=0"_s});
     Write(ContentKind::Status, {u"one%nl%b%cln%&Selected=1"_s, u"two&selected=0"_s, u"%nl%c&Selected=1"_s});
-    app->contentLists->FillMainLists();
+    app->Get<ContentLists>().FillMainLists();
     EXPECT_EQ(app->controls.Items(Kinds[0].mainList), (QStringList{u"one;%nl%"_s, u"two"_s}));
     EXPECT_EQ(app->controls.Items(Kinds[1].mainList), QStringList{u"one;a"_s});
     EXPECT_EQ(app->controls.Items(Kinds[2].mainList), QStringList{u"one;"_s});
@@ -309,10 +309,10 @@ TEST_F(ContentListsTest, ALineWithoutMarkerEndsTheFillingAndIsReported) {
 
 TEST_F(ContentListsTest, RestoringAnAccountShowsItsLists) {
     Write(ContentKind::Message, {u"shared&Message=x&Selected=1"_s});
-    app->settingsFields->RestoreAccountSpecificFields();
+    app->Get<SettingsFields>().RestoreAccountSpecificFields();
     EXPECT_EQ(app->controls.Items("picMessanger.lstSendList"_L1), QStringList{u"shared"_s});
     app->state.AccountEmail = u"a@example.com"_s;
-    app->settingsFields->ChangeGlobalFlags({});
+    app->Get<SettingsFields>().ChangeGlobalFlags({});
     EXPECT_EQ(app->controls.Items("picMessanger.lstSendList"_L1), QStringList{u"Your list is empty..."_s});
 }
 

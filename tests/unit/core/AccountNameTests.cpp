@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "core/AccountName.h"
-
 #include "SimulatedProgram.h"
+#include "core/AccountName.h"
 #include "core/SettingsFields.h"
 
 #include <QDir>
@@ -71,8 +70,8 @@ TEST_F(AccountFolderTest, ListsOfAnAccountStayInTheFolderOfAllAccounts) {
     StartOn({});
     world.settings.SaveSetting(u"General"_s, u"blnUseGlobalLogs"_s, u"False"_s);
     app->state.AccountEmail = u"../../outside"_s;
-    app->settingsFields->RestoreAccountSpecificFields();
-    const QString path = app->settingsFields->AccountDataPath(u"Log"_s);
+    app->Get<SettingsFields>().RestoreAccountSpecificFields();
+    const QString path = app->Get<SettingsFields>().AccountDataPath(u"Log"_s);
     EXPECT_EQ(path, u"\\ACCOUNTS\\..%2F..%2Foutside"_s);
     EXPECT_EQ(
         QDir(app->ProgramFile(u"ACCOUNTS"_s)).entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot),

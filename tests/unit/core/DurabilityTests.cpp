@@ -2,10 +2,10 @@
 // What is promised to outlast a power cut has reached the disk, in an order that leaves the old or the new
 // file whole.
 #include "SimulatedProgram.h"
-#include "campaigns/RunReport.h"
 #include "campaigns/SentLog.h"
 #include "core/SettingsFields.h"
 #include "gather/GatheredList.h"
+#include "steps/RunReport.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -48,16 +48,16 @@ protected:
 };
 
 TEST_F(DurabilityTest, ALineOfTheLogIsOnTheDiskWhenItIsWritten) {
-    EXPECT_TRUE(app->sentLog->WriteLogEntry());
+    EXPECT_TRUE(app->Get<SentLog>().WriteLogEntry());
     ExpectSteps({u"write"_s, u"sync FriendsLog.txt"_s, u"sync program"_s});
     Forget();
-    EXPECT_TRUE(app->sentLog->WriteLogEntry());
+    EXPECT_TRUE(app->Get<SentLog>().WriteLogEntry());
     ExpectSteps({u"write"_s, u"sync FriendsLog.txt"_s});
 }
 
 TEST_F(DurabilityTest, ALogThatIsMadeByLookingIntoItStandsInItsFolder) {
     app->state.blnCheckLog = true;
-    EXPECT_FALSE(app->sentLog->LogEntryExists(u"1001"_s));
+    EXPECT_FALSE(app->Get<SentLog>().LogEntryExists(u"1001"_s));
     ExpectSteps({u"sync program"_s});
 }
 
@@ -68,7 +68,7 @@ TEST_F(DurabilityTest, ANewFolderStandsInTheOneAboveIt) {
 
 TEST_F(DurabilityTest, AListIsWholeOnTheDiskBeforeItTakesTheOldOnesPlace) {
     app->state.arrFriendIDs = IdList{u"1"_s, u"2"_s};
-    EXPECT_TRUE(app->gatheredList->SaveScannedList(app->ProgramFile(u"Gathered.txt"_s)));
+    EXPECT_TRUE(app->Get<GatheredList>().SaveScannedList(app->ProgramFile(u"Gathered.txt"_s)));
     ExpectSteps({u"write"_s, u"sync Gathered.txt.new"_s, u"replace Gathered.txt"_s, u"sync program"_s});
 }
 
@@ -90,11 +90,11 @@ TEST_F(DurabilityTest, DebugLinesAreNotWaitedFor) {
 }
 
 TEST_F(DurabilityTest, SettingsAreSyncedWithTheFieldsAndWithTheWindow) {
-    app->settingsFields->RestoreAccountSpecificFields();
+    app->Get<SettingsFields>().RestoreAccountSpecificFields();
     const int before = world.settings.syncs;
-    app->settingsFields->SaveListsAndSettings();
+    app->Get<SettingsFields>().SaveListsAndSettings();
     EXPECT_EQ(world.settings.syncs, before + 1);
-    app->settingsFields->SaveGeneral();
+    app->Get<SettingsFields>().SaveGeneral();
     EXPECT_EQ(world.settings.syncs, before + 2);
 }
 
@@ -102,9 +102,9 @@ TEST_F(DurabilityTest, ASyncThatFailsIsAFailureAndTheOldListStands) {
     const QString list = app->ProgramFile(u"Gathered.txt"_s);
     app->files.WriteLines(list, {u"5"_s});
     world.gate.refusesSyncs = true;
-    EXPECT_FALSE(app->sentLog->WriteLogEntry());
+    EXPECT_FALSE(app->Get<SentLog>().WriteLogEntry());
     app->state.arrFriendIDs = IdList{u"1"_s};
-    EXPECT_FALSE(app->gatheredList->SaveScannedList(list));
+    EXPECT_FALSE(app->Get<GatheredList>().SaveScannedList(list));
     world.gate.refusesSyncs = false;
     EXPECT_EQ(app->files.ReadLines(list), QStringList{u"5"_s});
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "core/FileSystem.h"
-
 #include "platform/Platform.h"
 
 #include <QFile>

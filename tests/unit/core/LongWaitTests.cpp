@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "core/LongWait.h"
-
 #include "SimulatedProgram.h"
+#include "core/LongWait.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "core/Registry.h"
-
 #include "PrintText.h"
+#include "core/Registry.h"
 #include "platform/sim/SimServices.h"
 
 #include <gtest/gtest.h>

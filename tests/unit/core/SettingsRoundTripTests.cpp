@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Every input of the controls' table through the ends of the program: exit, another account, the two resets.
 #include "SettingsTest.h"
+#include "core/SettingsFields.h"
+#include "program/MainForm.h"
 
 #include <QMap>
 
@@ -47,7 +49,7 @@ protected:
                 Inputs().SetText(name, OtherText(row));
         }
     }
-    void Exit() { app->mainForm->Form_Unload(); }
+    void Exit() { app->Get<MainForm>().Form_Unload(); }
     void ResetBy(const char* command) {
         dialogs.answers = {Dialogs::Answer::Yes};
         app->commands.Run(QString::fromLatin1(command));
@@ -142,7 +144,7 @@ TEST_F(SettingsRoundTripTest, BehindAResetEveryInputOfEveryAccountStartsAnew) {
             const Values shown = Shown();
             for (auto it = start.begin(); it != start.end(); ++it)
                 EXPECT_EQ(shown[it.key()], it.value()) << command << ' ' << it.key().constData();
-            EXPECT_TRUE(app->settingsFields->UsesGlobal(u"Log"_s));
+            EXPECT_TRUE(app->Get<SettingsFields>().UsesGlobal(u"Log"_s));
         }
     }
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SettingsTest.h"
+#include "core/SettingsFields.h"
 
 #include <QSet>
 
@@ -165,10 +166,10 @@ TEST_F(SettingsTest, EachKindFollowsItsOwnFlag) {
         Restart();
         for (const GlobalFlag& other : SettingsFields::GlobalFlags())
             for (const char* kind : other.kinds)
-                EXPECT_EQ(app->settingsFields->UsesGlobal(QString::fromLatin1(kind)), &other != &flag)
+                EXPECT_EQ(app->Get<SettingsFields>().UsesGlobal(QString::fromLatin1(kind)), &other != &flag)
                     << kind;
         // What no other flag governs.
-        EXPECT_EQ(app->settingsFields->UsesGlobal(u"Anything"_s),
+        EXPECT_EQ(app->Get<SettingsFields>().UsesGlobal(u"Anything"_s),
                   &flag != &SettingsFields::GlobalFlags().front());
     }
 }
@@ -211,44 +212,44 @@ TEST_F(SettingsTest, AFlagThatIsOffMovesTheListsOfItsKindsAndNoOthers) {
         Restart();
         for (const char* kind : {"BookmarksList", "Log", "GatheredList", "BulletinsList", "StatusesList",
                                  "CommentsList", "MessagesList"})
-            EXPECT_EQ(app->settingsFields->AccountDataPath(QString::fromLatin1(kind)),
+            EXPECT_EQ(app->Get<SettingsFields>().AccountDataPath(QString::fromLatin1(kind)),
                       Governs(flag, kind) ? u"\\ACCOUNTS\\a@example.com"_s : QString())
                 << kind;
-        EXPECT_EQ(app->settingsFields->AccountDataPath(u"Invite"_s),
+        EXPECT_EQ(app->Get<SettingsFields>().AccountDataPath(u"Invite"_s),
                   Governs(flag, "Invite") ? u"\\a@example.com"_s : QString());
     }
 }
 
 TEST_F(SettingsTest, TheSharedFolderIsNotMadeForTheAccount) {
     Restart();
-    app->settingsFields->AccountDataPath(u"Log"_s);
+    app->Get<SettingsFields>().AccountDataPath(u"Log"_s);
     EXPECT_FALSE(QDir(folder.filePath(u"program/ACCOUNTS"_s)).exists());
 }
 
 TEST_F(SettingsTest, EverythingIsSharedUnlessTheStoreSaysNo) {
     Restart();
     for (const GlobalFlag& flag : SettingsFields::GlobalFlags())
-        EXPECT_TRUE(app->settingsFields->GlobalFlagSet(flag)) << flag.key;
+        EXPECT_TRUE(app->Get<SettingsFields>().GlobalFlagSet(flag)) << flag.key;
     EXPECT_EQ(SettingsFields::GlobalFlags().size(), 13);
     world.settings.SaveSetting(General, u"blnUseGlobalLogs"_s, u"perhaps"_s);
     Restart();
-    EXPECT_TRUE(app->settingsFields->UsesGlobal(u"Log"_s));
+    EXPECT_TRUE(app->Get<SettingsFields>().UsesGlobal(u"Log"_s));
 }
 
 TEST_F(SettingsTest, TheOwnPlaceOfAnAccount) {
     Share(false);
     Restart();
-    EXPECT_EQ(app->settingsFields->AccountDataPath(u"FriendRequest"_s), u"\\a@example.com"_s);
+    EXPECT_EQ(app->Get<SettingsFields>().AccountDataPath(u"FriendRequest"_s), u"\\a@example.com"_s);
     for (const QString& kind : {u"BookmarksList"_s, u"Log"_s, u"GatheredList"_s, u"BulletinsList"_s,
                                 u"StatusesList"_s, u"CommentsList"_s, u"MessagesList"_s})
-        EXPECT_EQ(app->settingsFields->AccountDataPath(kind), u"\\ACCOUNTS\\a@example.com"_s);
+        EXPECT_EQ(app->Get<SettingsFields>().AccountDataPath(kind), u"\\ACCOUNTS\\a@example.com"_s);
     EXPECT_TRUE(QDir(folder.filePath(u"program/ACCOUNTS/a@example.com"_s)).exists());
     app->state.AccountEmail.clear();
-    EXPECT_EQ(app->settingsFields->AccountDataPath(u"Log"_s), QString());
-    EXPECT_EQ(app->settingsFields->AccountDataPath(u"FriendRequest"_s), QString());
+    EXPECT_EQ(app->Get<SettingsFields>().AccountDataPath(u"Log"_s), QString());
+    EXPECT_EQ(app->Get<SettingsFields>().AccountDataPath(u"FriendRequest"_s), QString());
     Share(true);
     Restart();
-    EXPECT_EQ(app->settingsFields->AccountDataPath(u"Log"_s), QString());
+    EXPECT_EQ(app->Get<SettingsFields>().AccountDataPath(u"Log"_s), QString());
 }
 
 TEST_F(SettingsTest, AnotherAccountDoesNotSeeTheFirstsInputs) {
@@ -327,11 +328,11 @@ TEST_F(SettingsTest, BeforeAnAccountIsRestoredNothingIsSavedUnderIt) {
     Inputs().SetText("txtMsgSubject"_L1, u"from a"_s);
     Save();
     app->state.AccountEmail = u"b@example.com"_s;
-    app->settingsFields->RestoreAccountSettings();
-    app->settingsFields->SaveListsAndSettings();
+    app->Get<SettingsFields>().RestoreAccountSettings();
+    app->Get<SettingsFields>().SaveListsAndSettings();
     EXPECT_FALSE(world.settings.HasSection(u"Field Entries\\b@example.com"_s));
-    app->settingsFields->RestoreAccountSpecificFields();
-    app->settingsFields->SaveListsAndSettings();
+    app->Get<SettingsFields>().RestoreAccountSpecificFields();
+    app->Get<SettingsFields>().SaveListsAndSettings();
     EXPECT_TRUE(world.settings.HasSection(u"Field Entries\\b@example.com"_s));
 }
 
@@ -351,13 +352,13 @@ class WindowPlaceTest : public SettingsTest {
 protected:
     void Restore() {
         set.reset();
-        app->mainForm->getPlace = [this] { return place; };
-        app->mainForm->setPlace = [this](const WindowPlace& wanted) { set = wanted; };
-        app->settingsFields->RestoreGeneralPrevious();
+        app->Get<SettingsFields>().getPlace = [this] { return place; };
+        app->Get<SettingsFields>().setPlace = [this](const WindowPlace& wanted) { set = wanted; };
+        app->Get<SettingsFields>().RestoreGeneralPrevious();
     }
     void Close(const WindowPlace& at) {
-        app->mainForm->getPlace = [at] { return at; };
-        app->settingsFields->SaveGeneral();
+        app->Get<SettingsFields>().getPlace = [at] { return at; };
+        app->Get<SettingsFields>().SaveGeneral();
     }
     WindowPlace place{1, 2, 300, 200, false, false};
     std::optional<WindowPlace> set;
@@ -418,8 +419,8 @@ TEST_F(SettingsTest, WhatIsSavedIsWrittenToTheDiskAtOnce) {
         act();
         return world.settings.syncs - before;
     };
-    EXPECT_EQ(syncs([this] { app->settingsFields->SaveListsAndSettings(); }), 1);
-    EXPECT_EQ(syncs([this] { app->settingsFields->SaveGeneral(); }), 1);
+    EXPECT_EQ(syncs([this] { app->Get<SettingsFields>().SaveListsAndSettings(); }), 1);
+    EXPECT_EQ(syncs([this] { app->Get<SettingsFields>().SaveGeneral(); }), 1);
 }
 
 TEST_F(SettingsTest, ASoundThatIsTakenAndGivenBackIsOnTheDiskAtOnce) {

@@ -2,9 +2,9 @@
 #include "SimulatedProgram.h"
 #include "core/BrowserSounds.h"
 #include "core/IniFile.h"
-#include "core/MainForm.h"
 #include "core/ProductServer.h"
 #include "core/SupportFiles.h"
+#include "program/MainForm.h"
 
 #include <QFile>
 
@@ -60,7 +60,7 @@ protected:
 TEST_F(ServerAnswerTest, AnAlertIsReadFromItsFile) {
     world.http.Set(u"http://product.example.com/issuealert.ini"_s,
                    u"[ALERT]\nTab=Friend Requester\nDescription=one/ntwo\n"_s);
-    app->productServer->CheckIssueAlert();
+    app->Get<ProductServer>().CheckIssueAlert();
     EXPECT_EQ(app->state.IssueAlertTab, u"Friend Requester"_s);
     EXPECT_EQ(app->state.IssueAlertText, u"one\ntwo"_s);
     EXPECT_TRUE(QFile::exists(app->DataFile(u"issuealert.ini"_s)));
@@ -70,7 +70,7 @@ TEST_F(ServerAnswerTest, WithoutAnAlertTheNextOneWillShow) {
     world.settings.SaveSetting(u"General"_s, u"AlertDontShowAgain"_s, u"1"_s);
     app->files.WriteLines(app->DataFile(u"issuealert.ini"_s), {u"[alert]"_s, u"Tab=old"_s});
     world.http.Set(u"http://product.example.com/issuealert.ini"_s, u"nothing"_s);
-    app->productServer->CheckIssueAlert();
+    app->Get<ProductServer>().CheckIssueAlert();
     EXPECT_EQ(world.settings.GetSetting(u"General"_s, u"AlertDontShowAgain"_s, {}), u"0"_s);
     EXPECT_FALSE(QFile::exists(app->DataFile(u"issuealert.ini"_s)));
     EXPECT_EQ(app->state.IssueAlertTab, QString());
@@ -84,7 +84,7 @@ TEST_F(ServerAnswerTest, TheHoursBetweenTheClocksAreWhole) {
                                             {u"6/2/2009 12:00 pm"_s, 2}};
     for (const auto& [answer, hours] : rows) {
         Answer(answer);
-        EXPECT_EQ(app->productServer->TimeDiff(), hours) << answer.toStdString();
+        EXPECT_EQ(app->Get<ProductServer>().TimeDiff(), hours) << answer.toStdString();
     }
     EXPECT_EQ(app->files.ReadLines(app->DataFile(u"debuginitial.txt"_s)).constFirst(), u"TimeDiff - 3"_s);
 }
@@ -93,7 +93,7 @@ TEST_F(ServerAnswerTest, AnAnswerWithoutATimeIsNoted) {
     app->state.blnLoggingEnabled = true;
     for (const QString& answer : {u"2009-06-02"_s, u"soon"_s, u"2009-06-02 25:00:00"_s, u"at 10:00:00"_s}) {
         Answer(answer);
-        EXPECT_EQ(app->productServer->TimeDiff(), 0);
+        EXPECT_EQ(app->Get<ProductServer>().TimeDiff(), 0);
     }
     EXPECT_EQ(app->files.ReadLines(app->DataFile(u"debuginitial.txt"_s)).count(u"TimeDiff - err"_s), 4);
 }
@@ -143,15 +143,15 @@ TEST_F(SupportFilesTest, APictureThatCannotBeTakenIsTold) {
 
 TEST_F(SupportFilesTest, DataGoesToTheTempFolderWhereItsFileCannotBeWritten) {
     const QString path = app->ProgramFile(u"list.txt"_s);
-    EXPECT_EQ(app->supportFiles->LoadDataIntoFile(u"one"_s, path), path);
+    EXPECT_EQ(app->Get<SupportFiles>().LoadDataIntoFile(u"one"_s, path), path);
     EXPECT_EQ(Bytes(path), "one");
     world.gate.readOnlyFolders = {world.installationFolder};
-    const QString instead = app->supportFiles->LoadDataIntoFile(u"two"_s, path);
+    const QString instead = app->Get<SupportFiles>().LoadDataIntoFile(u"two"_s, path);
     EXPECT_EQ(instead, app->DataFile(u"temp/list.txt"_s));
     EXPECT_EQ(Bytes(instead), "two");
     EXPECT_EQ(Bytes(path), "one");
     world.gate.readOnlyFolders += world.dataFolder;
-    EXPECT_THROW(app->supportFiles->LoadDataIntoFile(u"three"_s, path), FileError);
+    EXPECT_THROW(app->Get<SupportFiles>().LoadDataIntoFile(u"three"_s, path), FileError);
 }
 
 class BrowserSoundsTest : public SmallFilesTest {
@@ -169,7 +169,7 @@ TEST_F(BrowserSoundsTest, TheSoundIsKeptAndComesBack) {
     EXPECT_EQ(Sound(), QString());
     EXPECT_EQ(world.settings.GetSetting(u"General"_s, u"OldIESoundValue"_s, {}), u"click.wav"_s);
     // A start behind a crash must not take the silence for the user's sound.
-    app->browserSounds->Silence();
+    app->Get<BrowserSounds>().Silence();
     Click();
     EXPECT_FALSE(app->controls.Ticked("mnuDisableBrowserSounds"_L1));
     EXPECT_EQ(Sound(), u"click.wav"_s);
@@ -182,14 +182,14 @@ TEST_F(BrowserSoundsTest, SilenceAndTheRestoredSoundAreMadeDurable) {
     Click();
     const int silenced = world.settings.syncs;
     EXPECT_GT(silenced, before);
-    app->browserSounds->Restore();
+    app->Get<BrowserSounds>().Restore();
     EXPECT_GT(world.settings.syncs, silenced);
 }
 
 TEST_F(BrowserSoundsTest, TheEndPutsItBackOnlyWhenItWasTaken) {
     SetSound(u"click.wav"_s);
     Click();
-    app->mainForm->Form_Unload();
+    app->Get<MainForm>().Form_Unload();
     EXPECT_EQ(Sound(), u"click.wav"_s);
 }
 
@@ -198,14 +198,14 @@ TEST_F(BrowserSoundsTest, AResetDoesNotTakeTheUsersSoundWithIt) {
     Click();
     dialogs.answers = {Dialogs::Answer::Yes};
     app->commands.Run(u"mnuResetSettings_Click"_s);
-    app->mainForm->Form_Unload();
+    app->Get<MainForm>().Form_Unload();
     EXPECT_EQ(Sound(), u"click.wav"_s);
     EXPECT_FALSE(world.settings.HasSection(u"General"_s));
 }
 
 TEST_F(BrowserSoundsTest, AMachineWithoutTheSoundIsLeftAlone) {
     Click();
-    app->mainForm->Form_Unload();
+    app->Get<MainForm>().Form_Unload();
     EXPECT_EQ(Sound(), u"none"_s);
 }
 

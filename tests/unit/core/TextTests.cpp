@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "core/Text.h"
-
-#include "browser/PageTests.h"
+#include "browser/PageSigns.h"
 #include "core/Diagnostics.h"
 #include "core/ProductServer.h"
+#include "core/Text.h"
 
 #include <gtest/gtest.h>
 

@@ -30,8 +30,8 @@ protected:
         app->controls.SetSelected("frmBlacklist.lstFriendIDs"_L1, row);
         Press(u"cmdDelete"_s);
     }
-    void Stands(const QStringList& lines) { app->files.WriteLines(app->blackList->Path(), lines); }
-    QStringList Lines() { return app->files.ReadLines(app->blackList->Path()); }
+    void Stands(const QStringList& lines) { app->files.WriteLines(app->Get<BlackList>().Path(), lines); }
+    QStringList Lines() { return app->files.ReadLines(app->Get<BlackList>().Path()); }
     const QStringList& Rows() { return app->controls.Items("frmBlacklist.lstFriendIDs"_L1); }
     QStringList Known() { return app->state.arrBlacklistIDs.ToStringList(); }
 };
@@ -43,7 +43,7 @@ TEST_F(BlackListTest, ShowsTheLinesOfTheFileTrimmed) {
 
 TEST_F(BlackListTest, AFileThatIsMissingIsCreated) {
     Open([this] {
-        EXPECT_TRUE(app->files.FileExists(app->blackList->Path()));
+        EXPECT_TRUE(app->files.FileExists(app->Get<BlackList>().Path()));
         EXPECT_TRUE(Rows().isEmpty());
     });
     EXPECT_EQ(Known(), QStringList{QString()});
@@ -63,7 +63,7 @@ TEST_F(BlackListTest, WhileTheWindowIsFilledItCannotBeAddedToOrClosed) {
             EXPECT_FALSE(app->controls[button].enabled) << button.data();
         EXPECT_EQ(app->controls.Text("MousePointer"_L1), u"11"_s);
     };
-    app->blackList->FillBlacklist(app->blackList->Path(), false, false);
+    app->Get<BlackList>().FillBlacklist(app->Get<BlackList>().Path(), false, false);
     EXPECT_GT(turns, 0);
     for (const auto button : buttons)
         EXPECT_TRUE(app->controls[button].enabled) << button.data();
@@ -90,7 +90,7 @@ TEST_F(BlackListTest, AddWantsAnID) {
 
 TEST_F(BlackListTest, WhatIsAddedReachesTheScanWhenTheWindowIsClosed) {
     Stands({u"11"_s});
-    app->blackList->FillArrayFromFile(u"arrBlacklistIDs"_s, app->blackList->Path());
+    app->Get<BlackList>().FillArrayFromFile(u"arrBlacklistIDs"_s, app->Get<BlackList>().Path());
     Open([this] {
         Add(u"12"_s);
         EXPECT_EQ(Known(), QStringList{u"11"_s});
@@ -156,7 +156,7 @@ TEST_F(BlackListTest, WhileAFileIsAddedTheButtonsRest) {
 TEST_F(BlackListTest, TheBlackListsOwnFileIsAddedOnce) {
     Stands({u"11"_s, u"12"_s});
     Open([this] {
-        dialogs.files.push_back(app->blackList->Path());
+        dialogs.files.push_back(app->Get<BlackList>().Path());
         dialogs.answers.push_back(Dialogs::Answer::No);
         Press(u"cmdAddFromFile"_s);
     });
@@ -199,15 +199,15 @@ TEST_F(BlackListTest, ClearAsksFirst) {
 
 TEST_F(BlackListTest, AnEmptyPathDoesNothing) {
     app->state.arrBlacklistIDs = {u"5"_s};
-    app->blackList->FillArrayFromFile(u"arrBlacklistIDs"_s, {});
-    app->blackList->FillBlacklist({}, false, true);
+    app->Get<BlackList>().FillArrayFromFile(u"arrBlacklistIDs"_s, {});
+    app->Get<BlackList>().FillBlacklist({}, false, true);
     EXPECT_EQ(Known(), QStringList{u"5"_s});
 }
 
 TEST_F(BlackListTest, AnotherArraysNameChangesNothing) {
     Stands({u"11"_s});
     app->state.arrBlacklistIDs = {u"5"_s};
-    app->blackList->FillArrayFromFile(u"arrOther"_s, app->blackList->Path());
+    app->Get<BlackList>().FillArrayFromFile(u"arrOther"_s, app->Get<BlackList>().Path());
     EXPECT_EQ(Known(), QStringList{u"5"_s});
 }
 
@@ -237,7 +237,7 @@ TEST_F(BlackListTest, FiveHundredThousandLines) {
     QByteArray lines;
     for (int i = 0; i < 500000; ++i)
         lines += QByteArray::number(100000000 + i * 3) + "\n";
-    app->files.WriteBytes(app->blackList->Path(), lines);
+    app->files.WriteBytes(app->Get<BlackList>().Path(), lines);
     int turns = 0;
     platform->Pump().onPump = [&turns] { ++turns; };
     Open([this] {

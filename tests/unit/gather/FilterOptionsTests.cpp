@@ -27,8 +27,8 @@ protected:
 };
 
 TEST_F(FilterOptionsTest, StartsWithEveryFilterOff) {
-    EXPECT_TRUE(app->profileFilters->AllOff());
-    EXPECT_FALSE(app->profileFilters->ActiveWhenSending());
+    EXPECT_TRUE(app->Get<ProfileFilters>().AllOff());
+    EXPECT_FALSE(app->Get<ProfileFilters>().ActiveWhenSending());
 }
 
 TEST_F(FilterOptionsTest, OkStoresAndTheFieldsFollow) {
@@ -49,7 +49,7 @@ TEST_F(FilterOptionsTest, OkStoresAndTheFieldsFollow) {
     EXPECT_EQ(Stored(u"blnFilterAgeOn"_s), u"True"_s);
     EXPECT_EQ(Stored(u"optFilterAgeOn"_s), u"(none)"_s);
     EXPECT_EQ(Stored(u"txtFilterLastLoginDays"_s), u"7"_s);
-    EXPECT_TRUE(app->profileFilters->ActiveWhenSending());
+    EXPECT_TRUE(app->Get<ProfileFilters>().ActiveWhenSending());
 }
 
 TEST_F(FilterOptionsTest, EachOptionHasItsFieldAndItsKey) {
@@ -172,7 +172,7 @@ TEST_F(FilterOptionsTest, WithAllFiltersOffNothingIsFilteredWhenGathering) {
 TEST_F(FilterOptionsTest, TheFieldsFollowARestoredAccount) {
     platform->Settings().SaveSetting(u"Field Entries"_s, u"optFilterFemale"_s, u"True"_s);
     platform->Settings().SaveSetting(u"Field Entries"_s, u"optFilterGenderOff"_s, u"False"_s);
-    app->settingsFields->RestoreAccountSpecificFields();
+    app->Get<SettingsFields>().RestoreAccountSpecificFields();
     EXPECT_TRUE(app->state.blnFilterFemale);
     EXPECT_FALSE(app->state.blnFilterGenderOff);
 }

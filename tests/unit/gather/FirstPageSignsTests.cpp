@@ -17,7 +17,7 @@ protected:
         world.web.SetPage(url, u"<html><body>"_s + body + u"</body></html>"_s);
         app->WebBrowser1().Navigate(url);
         platform->Pump().RunFor(1000);
-        return app->pager->ShowsNextPageSign();
+        return app->Get<Pager>().ShowsNextPageSign();
     }
 };
 

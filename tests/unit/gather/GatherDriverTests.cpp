@@ -29,23 +29,23 @@ TEST_F(GatherDriverTest, StartWantsAScanOption) {
 TEST_F(GatherDriverTest, OnlyFiltersThatAskForAVisitSendTheBrowserAway) {
     RunState& state = app->state;
     state.optFilterWhenGathering = true;
-    EXPECT_FALSE(app->gatherDriver->FilterPassWanted());
+    EXPECT_FALSE(app->Get<GatherDriver>().FilterPassWanted());
     state.blnFilterLastLoginOff = false;
-    EXPECT_TRUE(app->gatherDriver->FilterPassWanted());
+    EXPECT_TRUE(app->Get<GatherDriver>().FilterPassWanted());
     state.optFilterOnlineNow = true;
-    EXPECT_FALSE(app->gatherDriver->FilterPassWanted());
+    EXPECT_FALSE(app->Get<GatherDriver>().FilterPassWanted());
     for (bool RunState::*off : {&RunState::blnFilterTypeOff, &RunState::blnFilterGenderOff,
                                 &RunState::blnFilterLocationOff, &RunState::blnFilterAgeOff}) {
         state.*off = false;
-        EXPECT_TRUE(app->gatherDriver->FilterPassWanted());
+        EXPECT_TRUE(app->Get<GatherDriver>().FilterPassWanted());
         state.*off = true;
     }
     state.blnFilterAgeOff = false;
     state.blnComparingIDs = true;
-    EXPECT_FALSE(app->gatherDriver->FilterPassWanted());
+    EXPECT_FALSE(app->Get<GatherDriver>().FilterPassWanted());
     state.blnComparingIDs = false;
     state.optFilterWhenGathering = false;
-    EXPECT_FALSE(app->gatherDriver->FilterPassWanted());
+    EXPECT_FALSE(app->Get<GatherDriver>().FilterPassWanted());
 }
 
 // The first search for the next page, by the address; a page that is none of these has nothing of it.
@@ -56,7 +56,7 @@ TEST_F(GatherDriverTest, TheFirstSearchForTheNextPage) {
     auto found = [&](const QString& path, const QString& body) {
         app->state.blnClickNextLink = false;
         Show(u"http://www.example.com"_s + path, body);
-        return app->pager->GetNextPageHref();
+        return app->Get<Pager>().GetNextPageHref();
     };
     EXPECT_EQ(found(u"/7/friends"_s, dead + next), u"http://x.example.com/2"_s);
     EXPECT_EQ(found(u"/7/friends"_s, dead), QString());
@@ -111,7 +111,7 @@ TEST_F(GatherDriverTest, TheWaitForTheNextPage) {
         app->state.CurrentAction = u"SCANNING"_s;
         app->state.intGatherStep = 4;
         app->state.strNextPageLink = next;
-        app->gatherDriver->IterateGatherProfiles();
+        app->Get<GatherDriver>().IterateGatherProfiles();
         platform->Pump().onPump = {};
         app->diagnostics.onLine = {};
         return words.join(u',');
@@ -138,10 +138,10 @@ TEST_F(GatherDriverTest, TheWaitForTheNextPage) {
 TEST_F(GatherDriverTest, AnotherPagesNextLinkIsClickedOrGoneTo) {
     app->state.CurrentAction = u"SCANNING"_s;
     Show(u"http://www.example.com/any"_s, u"<a href='javascript:void(0)'>Next</a>"_s);
-    EXPECT_EQ(app->pager->FindNextLink(), u"Next"_s);
+    EXPECT_EQ(app->Get<Pager>().FindNextLink(), u"Next"_s);
     EXPECT_TRUE(app->state.blnClickNextLink);
     Show(u"http://www.example.com/any"_s, u"<a href='http://x.example.com/y?a&page=2'>Next ›</a>"_s);
-    EXPECT_EQ(app->pager->FindNextLink(), u"http://x.example.com/y?a&page=2"_s);
+    EXPECT_EQ(app->Get<Pager>().FindNextLink(), u"http://x.example.com/y?a&page=2"_s);
     EXPECT_FALSE(app->state.blnClickNextLink);
 }
 
@@ -156,7 +156,7 @@ TEST_F(GatherDriverTest, TheSearchForTheNextPageIsStoppedAndEndsWithThePage) {
         app->state.CurrentAction = u"SCANNING"_s;
         Show(u"http://www.example.com/7/friends"_s, links + next);
         const qint64 startMs = platform->Pump().NowMs();
-        EXPECT_EQ((*app->pager.*search)(), u"http://www.example.com/friends/page/2"_s);
+        EXPECT_EQ((app->Get<Pager>().*search)(), u"http://www.example.com/friends/page/2"_s);
         EXPECT_NEAR(static_cast<double>(platform->Pump().NowMs() - startMs), 510.0, 5.0);
 
         int turns = 0;
@@ -164,7 +164,7 @@ TEST_F(GatherDriverTest, TheSearchForTheNextPageIsStoppedAndEndsWithThePage) {
             if (++turns == 20)
                 app->WebBrowser1().Navigate(u"about:blank"_s);
         };
-        EXPECT_THROW((*app->pager.*search)(), BrowserError);
+        EXPECT_THROW((app->Get<Pager>().*search)(), BrowserError);
         platform->Pump().onPump = {};
 
         Show(u"http://www.example.com/7/friends"_s, links + next);
@@ -173,7 +173,7 @@ TEST_F(GatherDriverTest, TheSearchForTheNextPageIsStoppedAndEndsWithThePage) {
             if (++turns == 20)
                 app->state.CurrentAction.clear();
         };
-        EXPECT_EQ((*app->pager.*search)(), QString());
+        EXPECT_EQ((app->Get<Pager>().*search)(), QString());
         EXPECT_EQ(turns, 20);
         platform->Pump().onPump = {};
     }
@@ -188,7 +188,7 @@ TEST_F(GatherDriverTest, TheFirstLinkWithTheCaptionIsClicked) {
     auto clicked = [&](const QString& action, const QString& newHref, const QString& body) {
         app->state.CurrentAction = action;
         Show(form, body);
-        const bool found = app->pager->ClickNextPageLink(u"next"_s, newHref);
+        const bool found = app->Get<Pager>().ClickNextPageLink(u"next"_s, newHref);
         platform->Pump().RunFor(1000);
         EXPECT_EQ(found, app->WebBrowser1().LocationURL() != form);
         return app->WebBrowser1().LocationURL();
@@ -208,11 +208,11 @@ TEST_F(GatherDriverTest, AChartWithoutAPageNumberHasNoNextPage) {
     Show(u"http://www.example.com/music/charts/songs"_s,
          u"<p id=showMoreChartItems><a href='http://x.example.com/charts'>More</a></p>"
          "<a href='http://x.example.com/charts/2'>More</a>"_s);
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(app->state.strNextPageLink, QString());
     Show(u"http://www.example.com/music/charts/songs"_s,
          u"<a href='http://x.example.com/charts/2'>More</a>"_s);
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(app->state.strNextPageLink, u"http://x.example.com/charts/5"_s);
 }
 
@@ -237,15 +237,15 @@ TEST_F(GatherDriverTest, EachPromptShowsUntilItsBoxWasTicked) {
             app->commands.Run(prompt.form + u".cmdOK_Click"_s);
             EXPECT_FALSE(dialogs.IsFormOpen(prompt.form));
         };
-        EXPECT_TRUE(app->gatherDriver->ShowPrompt(prompt.form));
+        EXPECT_TRUE(app->Get<GatherDriver>().ShowPrompt(prompt.form));
         EXPECT_EQ(stored(), u"0"_s);
         tick = true;
-        EXPECT_TRUE(app->gatherDriver->ShowPrompt(prompt.form));
+        EXPECT_TRUE(app->Get<GatherDriver>().ShowPrompt(prompt.form));
         EXPECT_EQ(stored(), u"1"_s);
-        EXPECT_FALSE(app->gatherDriver->ShowPrompt(prompt.form));
+        EXPECT_FALSE(app->Get<GatherDriver>().ShowPrompt(prompt.form));
         // It comes up unticked again however it was left.
         platform->Settings().SaveSetting(u"General"_s, prompt.key, u"0"_s);
-        EXPECT_TRUE(app->gatherDriver->ShowPrompt(prompt.form));
+        EXPECT_TRUE(app->Get<GatherDriver>().ShowPrompt(prompt.form));
     }
 }
 

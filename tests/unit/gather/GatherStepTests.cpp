@@ -23,7 +23,7 @@ protected:
     }
     void Enter(qint16 step) {
         app->state.intGatherStep = step;
-        app->gatherDriver->IterateGatherProfiles();
+        app->Get<GatherDriver>().IterateGatherProfiles();
     }
 };
 

@@ -13,7 +13,7 @@ constexpr int ShownRows = 30001;
 
 class GatheredListTest : public SimulatedProgram {
 protected:
-    GatheredList& List() { return *app->gatheredList; }
+    GatheredList& List() { return app->Get<GatheredList>(); }
     QStringList Ids() const { return app->state.arrFriendIDs.ToStringList(); }
     const QStringList& Rows() const { return app->controls.Items("lstFriendIDs"_L1); }
     QString Label() const { return app->controls.Text("lblProfilesGathered"_L1); }

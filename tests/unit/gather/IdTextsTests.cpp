@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
+#include "browser/ProfileLinkRules.h"
 #include "gather/IdResolution.h"
-#include "gather/ProfileLinkRules.h"
 
 #include <stdexcept>
 
@@ -22,10 +22,6 @@ TEST(IdTexts, TheTrailingNumberOfAnAddress) {
     EXPECT_EQ(TrailingNumber(u"http://www.example.com/123/"_s), u"123"_s);
     EXPECT_EQ(TrailingNumber(u"http://www.example.com/band7"_s), u"7"_s);
     EXPECT_EQ(TrailingNumber(u"http://www.example.com/ann"_s), QString());
-}
-
-TEST(IdTexts, TheLastPart) {
-    EXPECT_EQ(LastPart(u"http://www.example.com/music/charts/songs"_s, u"/"_s), u"songs"_s);
 }
 
 TEST(IdTexts, TheFirstNumberInAText) {
@@ -51,19 +47,19 @@ class IdResolutionTest : public SimulatedProgram {
 protected:
     IdResolutionTest() { app->state.blnNewLayout = true; }
     QString Resolve() {
-        return app->idResolution->GetFriendIDFromLink(app->WebBrowser1().Document().Links().front());
+        return app->Get<IdResolution>().GetFriendIDFromLink(app->WebBrowser1().Document().Links().front());
     }
     bool Panel() { return app->controls["ucpanelFullGatherIDNotify"_L1].visible; }
 };
 
 TEST_F(IdResolutionTest, TheKeyIsFoundInAnyCase) {
-    EXPECT_EQ(app->idResolution->ExtractFriendID(u"http://x/index.cfm?FriendID=123&y=2"_s), u"123"_s);
+    EXPECT_EQ(app->Get<IdResolution>().ExtractFriendID(u"http://x/index.cfm?FriendID=123&y=2"_s), u"123"_s);
 }
 
 TEST_F(IdResolutionTest, InTheNewLayoutTheMessageAddressNamesTheIDToo) {
-    EXPECT_EQ(app->idResolution->ExtractFriendID(u"http://x/my/mail/new?t=55"_s), u"55"_s);
+    EXPECT_EQ(app->Get<IdResolution>().ExtractFriendID(u"http://x/my/mail/new?t=55"_s), u"55"_s);
     app->state.blnNewLayout = false;
-    EXPECT_EQ(app->idResolution->ExtractFriendID(u"http://x/my/mail/new?t=55"_s), QString());
+    EXPECT_EQ(app->Get<IdResolution>().ExtractFriendID(u"http://x/my/mail/new?t=55"_s), QString());
 }
 
 TEST_F(IdResolutionTest, ANumericAddress) {
@@ -207,27 +203,27 @@ TEST_F(IdResolutionTest, TheProfilesOwnMessageLinkHelpsWhenItsScriptsDoNot) {
     Show(
         u"http://www.example.com/ann"_s,
         u"<p><a href='http://www.example.com/x'>x</a><a href='http://www.example.com/my/mail/new?t=321'>m</a></p>"_s);
-    EXPECT_EQ(app->idResolution->GetFriendIDFromDocument(u"WebBrowser1"_s, {}), u"321"_s);
+    EXPECT_EQ(app->Get<IdResolution>().GetFriendIDFromDocument(u"WebBrowser1"_s, {}), u"321"_s);
 }
 
 TEST_F(IdResolutionTest, TheReportLinkHelpsWhenNoScriptNamesTheID) {
     Show(u"http://www.example.com/ann"_s,
          u"<p><a href='http://x.example.com/r?reportedUserId=654&amp;b=1'>x</a></p>"_s);
-    EXPECT_EQ(app->idResolution->GetDisplayFriendID(u"WebBrowser1"_s, {}), u"654"_s);
+    EXPECT_EQ(app->Get<IdResolution>().GetDisplayFriendID(u"WebBrowser1"_s, {}), u"654"_s);
 }
 
 TEST_F(IdResolutionTest, TheReportLinkHelpsToWhenTheScriptNamesNoNumber) {
     Show(u"http://www.example.com/ann"_s,
          u"<script>a={\"DisplayFriendId\":none,x}</script>"
          "<p><a href='http://x.example.com/r?reportedUserId=654&amp;b=1'>x</a></p>"_s);
-    EXPECT_EQ(app->idResolution->GetDisplayFriendID(u"WebBrowser1"_s, {}), u"654"_s);
+    EXPECT_EQ(app->Get<IdResolution>().GetDisplayFriendID(u"WebBrowser1"_s, {}), u"654"_s);
 }
 
 TEST_F(IdResolutionTest, AnIDOfThreeDigitsIsOne) {
     Show(u"http://www.example.com/ann"_s,
          u"<script>a={\"DisplayFriendId\":123,x}</script>"
          "<p><a href='http://www.example.com/my/mail/new?t=678'>Write</a></p>"_s);
-    EXPECT_EQ(app->idResolution->GetFriendIDFromDocument(u"WebBrowser1"_s, {}), u"123"_s);
+    EXPECT_EQ(app->Get<IdResolution>().GetFriendIDFromDocument(u"WebBrowser1"_s, {}), u"123"_s);
 }
 
 TEST_F(IdResolutionTest, AnIDOfTwoDigitsIsNoneAndAnotherKeyIsAsked) {
@@ -235,9 +231,9 @@ TEST_F(IdResolutionTest, AnIDOfTwoDigitsIsNoneAndAnotherKeyIsAsked) {
     Show(u"http://www.example.com/ann"_s,
          u"<script>a={\"DisplayFriendId\":12,\"OwnerId\":345,\"b\":1}</script>"
          "<p><a href='http://www.example.com/my/mail/new?t=678'>Write</a></p>"_s);
-    EXPECT_EQ(app->idResolution->GetFriendIDFromDocument(u"WebBrowser1"_s, {}), u"678"_s);
-    EXPECT_EQ(app->idResolution->GetDisplayFriendID(u"WebBrowser1"_s, {}), u"12"_s);
-    EXPECT_EQ(app->idResolution->GetDisplayFriendID(u"WebBrowser1"_s, u"OwnerId"_s), u"345"_s);
+    EXPECT_EQ(app->Get<IdResolution>().GetFriendIDFromDocument(u"WebBrowser1"_s, {}), u"678"_s);
+    EXPECT_EQ(app->Get<IdResolution>().GetDisplayFriendID(u"WebBrowser1"_s, {}), u"12"_s);
+    EXPECT_EQ(app->Get<IdResolution>().GetDisplayFriendID(u"WebBrowser1"_s, u"OwnerId"_s), u"345"_s);
 }
 
 TEST_F(IdResolutionTest, WhatIsAVanityAddress) {

@@ -29,12 +29,12 @@ TEST_F(LinkScannerTest, TheMemoryOfFetchedPagesIsClearedBehindAThousand) {
     app->controls.SetTicked("optFullGather"_L1, true);
     for (int i = 0; i < 1000; ++i)
         app->state.lstAlreadyFullGatheredPageIDs.append(QString::number(i));
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(app->state.lstAlreadyFullGatheredPageIDs.size(), 1000);
     app->state.lstAlreadyFullGatheredPageIDs.append(u"one more"_s);
     bool held = false;
     platform->Pump().onPump = [&] { held = held || app->WebBrowser1().RefusesNavigations(); };
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_TRUE(app->state.lstAlreadyFullGatheredPageIDs.isEmpty());
     EXPECT_FALSE(held);
 }
@@ -43,10 +43,10 @@ TEST_F(LinkScannerTest, WhoWasFetchedBeforeIsLeftOutOfAFullGatherAlone) {
     ShowProfiles({u"11"_s, u"12"_s});
     app->state.lstAlreadyFullGatheredPageIDs.append(u"http://www.example.com/11"_s);
     app->controls.SetTicked("optFullGather"_L1, true);
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(Ids(), QStringList{u"12"_s});
     app->controls.SetTicked("optQuickGather"_L1, true);
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(Ids(), (QStringList{u"12"_s, u"11"_s}));
 }
 
@@ -54,10 +54,10 @@ TEST_F(LinkScannerTest, WhoIsOnlineIsFurniture) {
     const QString body = u"<p><a id=ctl_WhosOnline1 href='http://www.example.com/11'>x</a></p>"
                          "<p><a href='http://www.example.com/12'>y</a></p>"_s;
     Show(u"http://www.example.com/any"_s, body);
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(Ids(), QStringList{u"12"_s});
     app->state.CurrentAction = u"ACC"_s;
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(app->controls.Items("lstAcceptIDs"_L1), QStringList{u"12"_s});
 }
 
@@ -69,7 +69,7 @@ TEST_F(LinkScannerTest, EachAddressIsLookedAtOnceHoweverFarApartItStands) {
     ShowProfiles(names);
     int looks = 0;
     app->diagnostics.onLine = [&](const QString& line) { looks += line.startsWith(u"GPP3 - "_s) ? 1 : 0; };
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(looks, 60);
     EXPECT_EQ(Ids().size(), 60);
 }
@@ -78,7 +78,7 @@ TEST_F(LinkScannerTest, AHeldLinkCheckEndsTheWalk) {
     ShowProfiles({u"11"_s, u"12"_s, u"13"_s});
     app->state.strNextPageLink = u"not the first page"_s;
     platform->Pump().onPump = [this] { app->state.blnHoldLinkCheck = Ids() == QStringList{u"11"_s}; };
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(Ids(), QStringList{u"11"_s});
     EXPECT_FALSE(app->state.blnRetryGatherPage);
 }
@@ -90,7 +90,7 @@ TEST_F(LinkScannerTest, ThePageMayMoveAgainBehindAFullGather) {
     platform->Pump().onPump = [&] {
         refusedInside = refusedInside || app->WebBrowser1().RefusesNavigations();
     };
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_TRUE(refusedInside);
     EXPECT_FALSE(app->WebBrowser1().RefusesNavigations());
 }
@@ -99,7 +99,7 @@ TEST_F(LinkScannerTest, EachLinkLetsTheMessageLoopTurn) {
     ShowProfiles({u"11"_s, u"12"_s, u"13"_s});
     app->state.strNextPageLink = u"not the first page"_s;
     const qint64 startMs = platform->Pump().NowMs();
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_GE(platform->Pump().NowMs() - startMs, 30);
     EXPECT_EQ(Ids(), (QStringList{u"11"_s, u"12"_s, u"13"_s}));
 }
@@ -108,10 +108,10 @@ TEST_F(LinkScannerTest, AStopEndsThePassAtOnce) {
     ShowProfiles({u"11"_s, u"12"_s, u"13"_s});
     app->state.strNextPageLink = u"not the first page"_s;
     platform->Pump().onPump = [this] {
-        if (!app->gatheredList->IsEmpty())
+        if (!app->Get<GatheredList>().IsEmpty())
             app->state.CurrentAction.clear();
     };
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(Ids(), QStringList{u"11"_s});
     EXPECT_FALSE(app->state.blnRetryGatherPage);
 }
@@ -119,12 +119,12 @@ TEST_F(LinkScannerTest, AStopEndsThePassAtOnce) {
 TEST_F(LinkScannerTest, TheFirstPageIsGivenFiveSecondsToShowItsPager) {
     ShowProfiles({u"11"_s});
     const qint64 startMs = platform->Pump().NowMs();
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_GE(platform->Pump().NowMs() - startMs, 5000);
     Show(u"http://www.example.com/any"_s, u"<p>Next ›</p>"_s);
     app->state.strNextPageLink.clear();
     const qint64 againMs = platform->Pump().NowMs();
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_LT(platform->Pump().NowMs() - againMs, 1000);
 }
 
@@ -140,7 +140,7 @@ TEST_F(LinkScannerTest, TwentyThousandLinksTakeTheirTenMillisecondsEachAndNoMore
     app->state.strNextPageLink = u"not the first page"_s;
     app->controls.SetTicked("optScanCurrentPage"_L1, true);
     const qint64 startMs = platform->Pump().NowMs();
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(Ids().size(), 20000);
     EXPECT_NEAR(static_cast<double>(platform->Pump().NowMs() - startMs), 200000.0, 1000.0);
 }
@@ -156,7 +156,7 @@ TEST_F(LinkScannerTest, LinksWithoutAnAddressFramesAndOddNamesAreNoObstacle) {
         "<p><area href='http://www.example.com/12'></p>"_s);
     world.web.SetPage(u"http://www.example.com/frame"_s,
                       u"<html><body><p><a href='http://www.example.com/13'>Framed</a></p></body></html>"_s);
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(Ids(), (QStringList{u"11"_s, u"12"_s}));
     EXPECT_FALSE(app->state.blnRetryGatherPage);
 }
@@ -169,7 +169,7 @@ TEST_F(LinkScannerTest, APageThatIsReplacedMeanwhileEndsThePassAndAsksForAnother
         if (Ids() == QStringList{u"11"_s} && app->WebBrowser1().LocationURL().endsWith(u"any"_s))
             app->WebBrowser1().Navigate(u"about:blank"_s);
     };
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(Ids(), QStringList{u"11"_s});
     EXPECT_TRUE(app->state.blnRetryGatherPage);
 }
@@ -178,14 +178,14 @@ TEST_F(LinkScannerTest, WhileAcceptingTheRequestsAreCollected) {
     app->state.CurrentAction = u"ACC"_s;
     app->state.MyProfileID = u"12"_s;
     ShowProfiles({u"11"_s, u"12"_s, u"13"_s, u"11"_s});
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(app->controls.Items("lstAcceptIDs"_L1), (QStringList{u"11"_s, u"13"_s}));
     // Whose page was fetched before is not collected again.
     app->controls.SetItems("lstAcceptIDs"_L1, {});
     app->state.lstAlreadyFullGatheredPageIDs.append(u"http://www.example.com/13"_s);
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(app->controls.Items("lstAcceptIDs"_L1), QStringList{u"11"_s});
-    EXPECT_TRUE(app->gatheredList->IsEmpty());
+    EXPECT_TRUE(app->Get<GatheredList>().IsEmpty());
 }
 
 // Top friends are no entries of the list and are forgotten, so that one counts where he stands as an entry.
@@ -198,8 +198,8 @@ TEST_F(LinkScannerTest, AForgottenAddressIsLookedAtAgain) {
         others += u"<a href='http://www.example.com/x"_s + QString::number(i) + u"'>x</a>"_s;
     for (const QString& between : {QString(), others}) {
         Show(u"http://www.example.com/7/friends"_s, top + between + entry);
-        app->gatheredList->Clear();
-        app->linkScanner->GatherPageProfiles();
+        app->Get<GatheredList>().Clear();
+        app->Get<LinkScanner>().GatherPageProfiles();
         EXPECT_EQ(Ids(), QStringList{u"11"_s});
     }
 }
@@ -209,7 +209,7 @@ TEST_F(LinkScannerTest, APassBeginsWithoutWhatTheLastLeft) {
     app->state.strNextPageLink = u"not the first page"_s;
     app->state.blnClickNextLink = true;
     app->timers->tmrAutoResume.SetEnabled(false);
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(app->state.strNextPageLink, QString());
     EXPECT_FALSE(app->state.blnClickNextLink);
     EXPECT_TRUE(app->timers->tmrAutoResume.Enabled());
@@ -226,7 +226,7 @@ TEST_F(LinkScannerTest, OfACommentsPageTheNewPartIsScannedAndNoPagerSought) {
     app->state.lngPageScanOffset = static_cast<qint32>(html.lastIndexOf(u"<div"_s));
     app->controls.SetTicked("optScanFollowing"_L1, true);
     const qint64 startMs = platform->Pump().NowMs();
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_LT(platform->Pump().NowMs() - startMs, 4000);
     EXPECT_EQ(Ids(), QStringList{u"12"_s});
     const QString newPart = html.mid(app->state.lngPageScanOffset);
@@ -240,7 +240,7 @@ TEST_F(LinkScannerTest, TheReminderIsForAQuickGatherOfThisPageThatFoundNobody) {
     auto reminded = [&] {
         const qsizetype before = dialogs.shownForms.count(u"frmFullGatherReminder"_s);
         state.strNextPageLink = u"not the first page"_s;
-        app->linkScanner->GatherPageProfiles();
+        app->Get<LinkScanner>().GatherPageProfiles();
         return dialogs.shownForms.count(u"frmFullGatherReminder"_s) > before;
     };
     EXPECT_FALSE(reminded());
@@ -269,21 +269,21 @@ TEST_F(LinkScannerTest, AStopDuringAFetchCollectsNothingMore) {
         if (app->controls["ucpanelFullGatherIDNotify"_L1].visible)
             app->state.CurrentAction.clear();
     };
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(app->controls.Items("lstAcceptIDs"_L1), QStringList{u"11"_s});
     platform->Pump().onPump = {};
     app->state.CurrentAction = u"ACC"_s;
     app->state.lstAlreadyFullGatheredPageIDs.clear();
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(app->controls.Items("lstAcceptIDs"_L1), (QStringList{u"11"_s, u"4711"_s}));
 }
 
 TEST_F(LinkScannerTest, ComparingTakesOutTheFirstExactMatchAlone) {
     app->state.blnComparingIDs = true;
     for (const QString& id : {u"1"_s, u"11"_s, u"111"_s, u"11"_s})
-        app->gatheredList->ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
+        app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
     ShowProfiles({u"11"_s, u"12"_s});
-    app->linkScanner->GatherPageProfiles();
+    app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(Ids(), (QStringList{u"1"_s, u"111"_s, u"11"_s}));
 }
 

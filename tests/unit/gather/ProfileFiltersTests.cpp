@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
+#include "browser/ProfileLinkRules.h"
 #include "gather/ProfileFilters.h"
-#include "gather/ProfileLinkRules.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,7 +22,7 @@ protected:
                           u"<html><body>"_s + body + u"</body></html>"_s);
         app->WebBrowser1().Navigate(u"http://www.example.com/5/classic"_s);
         platform->Pump().RunFor(1000);
-        return app->profileFilters->IsFilteredProfile();
+        return app->Get<ProfileFilters>().IsFilteredProfile();
     }
     static QString Person(const QString& gender, const QString& age, const QString& town) {
         return QString(300, u'x') + u"<div class=profileInfo>xxxxxxxxxx</div><b>"_s + gender +
@@ -113,7 +113,7 @@ TEST_F(ProfileFiltersTest, InTheNewLayoutThePlaceIsWaitedForByTheGenderThatStand
                       u"<html><body>"_s + NewLayout + facts + u"</body></html>"_s);
     app->WebBrowser1().Navigate(u"http://www.example.com/5/classic"_s);
     platform->Pump().RunFor(1000);
-    EXPECT_TRUE(app->profileFilters->IsFilteredProfile());
+    EXPECT_TRUE(app->Get<ProfileFilters>().IsFilteredProfile());
 }
 
 TEST_F(ProfileFiltersTest, WhatSaysAnAgeEndsTheWaitAndAMusicPageHasNoGenderToWaitFor) {
@@ -250,7 +250,7 @@ TEST_F(ProfileFiltersTest, WhatEndsTheWaitForTheLayout) {
         app->WebBrowser1().Navigate(url);
         platform->Pump().RunFor(1000);
         const qint64 startMs = platform->Pump().NowMs();
-        EXPECT_TRUE(app->profileFilters->IsFilteredProfile());
+        EXPECT_TRUE(app->Get<ProfileFilters>().IsFilteredProfile());
         return (platform->Pump().NowMs() - startMs + 500) / 1000;
     };
     EXPECT_EQ(seconds(u"<p>The page cannot be displayed</p>"_s, SimFault::Incomplete), 15);
@@ -279,8 +279,8 @@ TEST_F(ProfileFiltersTest, OnAListTheWordsBesideTheLinkSayWhoIsOnline) {
     const auto links = app->WebBrowser1().Document().Links();
     JudgedLink there(*app, links[0]);
     JudgedLink gone(*app, links[1]);
-    EXPECT_TRUE(app->profileFilters->IsUserOnline(there));
-    EXPECT_FALSE(app->profileFilters->IsUserOnline(gone));
+    EXPECT_TRUE(app->Get<ProfileFilters>().IsUserOnline(there));
+    EXPECT_FALSE(app->Get<ProfileFilters>().IsUserOnline(gone));
 }
 
 } // namespace

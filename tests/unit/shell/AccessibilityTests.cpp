@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Every form and panel, worked by the keyboard and read out by a screen reader.
 #include "WindowTest.h"
-#include "core/StopResume.h"
 #include "shell/FormRegistry.h"
+#include "steps/StopResume.h"
 
 #include <QAccessible>
 #include <QComboBox>
@@ -80,7 +80,7 @@ TEST_F(AccessibilityTest, WhateverCanHaveTheFocusOfAFormHasANameAndIsReachedByTa
 
 TEST_F(AccessibilityTest, WhateverCanHaveTheFocusOfTheMainWindowHasANameAndIsReachedByTab) {
     dialogs.ShowForm(u"frmMain"_s);
-    app->stopResume->StopAll(u"TEST"_s);
+    app->Get<StopResume>().StopAll(u"TEST"_s);
     QWidget& window = *dialogs.FormWidget(u"frmMain"_s);
     auto* tabs = window.findChild<QTabWidget*>(u"TabStrip1"_s);
     for (int tab = 0; tab < tabs->count(); ++tab) {
@@ -96,7 +96,7 @@ TEST_F(AccessibilityTest, WhateverCanHaveTheFocusOfTheMainWindowHasANameAndIsRea
 // A key that is typed when the page calls for one goes to the page, not to the button that was pressed last.
 TEST_F(AccessibilityTest, ThePageTakesTheKeysOfTheButtonThatWasPressedLast) {
     dialogs.ShowForm(u"frmMain"_s);
-    app->stopResume->StopAll(u"TEST"_s);
+    app->Get<StopResume>().StopAll(u"TEST"_s);
     QWidget* window = dialogs.FormWidget(u"frmMain"_s);
     QApplication::setActiveWindow(window);
     window->findChild<QTabWidget*>(u"TabStrip1"_s)->setCurrentIndex(1);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // What the gather tab and its windows say, and how they are worked by the keyboard.
 #include "WindowTest.h"
-#include "core/StopResume.h"
 #include "shell/FormRegistry.h"
 #include "shell/Look.h"
+#include "steps/StopResume.h"
 
 #include <QComboBox>
 #include <QGroupBox>
@@ -17,7 +17,7 @@ class GatherFormsTest : public WindowTest {
 protected:
     QWidget* Tab() {
         dialogs.ShowForm(u"frmMain"_s);
-        app->stopResume->StopAll(u"TEST"_s);
+        app->Get<StopResume>().StopAll(u"TEST"_s);
         return dialogs.FormWidget(u"frmMain"_s)->findChild<QWidget*>(u"picScanIDs"_s);
     }
     static QStringList Captions(const QWidget& form) {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "WindowTest.h"
-#include "core/MainForm.h"
-#include "core/StopResume.h"
+#include "core/SettingsFields.h"
+#include "program/MainForm.h"
 #include "shell/Look.h"
+#include "steps/StopResume.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -28,7 +29,7 @@ class MainWindowTest : public WindowTest {
 protected:
     MainWindowTest() {
         dialogs.ShowForm(u"frmMain"_s);
-        app->stopResume->StopAll(u"TEST"_s);
+        app->Get<StopResume>().StopAll(u"TEST"_s);
         window = dialogs.FormWidget(u"frmMain"_s);
     }
 
@@ -89,7 +90,7 @@ TEST_F(MainWindowTest, ATabClickGoesThroughTheLogicAndTheLogicMovesTheTab) {
     tabs->setCurrentIndex(1);
     EXPECT_EQ(app->controls.Selected("TabStrip1"_L1), 1);
     EXPECT_TRUE(app->controls.Ticked("optScanFollowing"_L1));
-    app->mainForm->ShowTab(u"Gather ID's"_s);
+    app->ShowTab(u"Gather ID's"_s);
     EXPECT_EQ(tabs->currentIndex(), 0);
 }
 
@@ -155,8 +156,8 @@ TEST_F(MainWindowTest, TheWaitPointerShowsWhileTheLogicAsksForIt) {
 }
 
 TEST_F(MainWindowTest, ItsPlaceComesBackAsItWasTold) {
-    app->mainForm->setPlace({40, 30, 700, 500, false, false});
-    const WindowPlace place = app->mainForm->getPlace();
+    app->Get<SettingsFields>().setPlace({40, 30, 700, 500, false, false});
+    const WindowPlace place = app->Get<SettingsFields>().getPlace();
     EXPECT_EQ(place.left, 40);
     EXPECT_EQ(place.top, 30);
     EXPECT_GE(place.width, 700);
@@ -164,12 +165,12 @@ TEST_F(MainWindowTest, ItsPlaceComesBackAsItWasTold) {
 }
 
 TEST_F(MainWindowTest, APlaceOffTheScreenIsBroughtBackOntoIt) {
-    app->mainForm->setPlace({9000, 9000, 700, 500, false, false});
+    app->Get<SettingsFields>().setPlace({9000, 9000, 700, 500, false, false});
     EXPECT_TRUE(window->screen()->availableGeometry().contains(window->geometry()));
 }
 
 TEST_F(MainWindowTest, ItComesUpMaximisedThoughTheDisplayForgetsIt) {
-    app->mainForm->setPlace({40, 30, 700, 500, true, false});
+    app->Get<SettingsFields>().setPlace({40, 30, 700, 500, true, false});
     window->setWindowState(Qt::WindowNoState);
     QEvent active(QEvent::WindowActivate);
     QApplication::sendEvent(window, &active);
@@ -178,7 +179,7 @@ TEST_F(MainWindowTest, ItComesUpMaximisedThoughTheDisplayForgetsIt) {
 
 // The offscreen display draws a frame of two pixels around a window.
 TEST_F(MainWindowTest, TheFrameIsBroughtOntoTheScreenToo) {
-    app->mainForm->setPlace({0, 0, 9000, 9000, false, false});
+    app->Get<SettingsFields>().setPlace({0, 0, 9000, 9000, false, false});
     ASSERT_FALSE(window->screen()->availableGeometry().contains(window->frameGeometry()));
     QEvent active(QEvent::WindowActivate);
     QApplication::sendEvent(window, &active);
@@ -192,7 +193,7 @@ TEST_F(MainWindowTest, TheFrameIsBroughtOntoTheScreenToo) {
 TEST_F(WindowTest, ATabThatIsShownFirstLaterDoesNotPushThePage) {
     ApplyLook(*qApp);
     dialogs.ShowForm(u"frmMain"_s);
-    app->stopResume->StopAll(u"TEST"_s);
+    app->Get<StopResume>().StopAll(u"TEST"_s);
     QApplication::processEvents();
     auto* tabs = Find<QTabWidget>("frmMain", "TabStrip1");
     const int width = tabs->width();

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/RunState.h"
+
+#include <optional>
+#include <vector>
+
+namespace qlm {
+
+class App;
+
+// One row an activity: whatever differs between what the program can be busy with stands here. The ticks,
+// stop, resume, skip and the judge of pages walk the table in its order.
+struct Activity {
+    QLatin1StringView word;              // of CurrentAction
+    qint16 RunState::*step = nullptr;    // nullptr for an activity without steps
+    void (*stepRoutine)(App&) = nullptr; // nullptr when the tick runs nothing for it
+    const char* debugFile = "";          // "" for none
+    const char* stopMark = "";           // what StopAll writes before the reason; "" writes nothing
+    bool resumable = false;              // ResumeNext runs the step routine
+    // The step behind the one that sends, for Skip; 0 where the step goes on as it stands, nothing where
+    // there is no target to skip.
+    std::optional<qint16> stepAfterSkip = std::nullopt;
+    // A page that the classifier knows as an error came instead of the awaited one. nullptr: it is left
+    // alone.
+    void (*onErrorPage)(App&) = nullptr;
+    // The site confirms what was sent. nullptr: nothing is to be noted.
+    void (*onConfirmed)(App&) = nullptr;
+    // The session was lost, and the account is signed in again. nullptr: the target is passed over.
+    void (*onSignedInAgain)(App&) = nullptr;
+};
+
+// All of them; the program's own list, since it names every family.
+const std::vector<Activity>& Activities();
+// nullptr for the empty word and unknown ones.
+const Activity* FindActivity(const QString& word);
+// The debug file of that activity; empty when it has none.
+QString TrailOf(const QString& word);
+// What the running activity notes when the site confirms what was sent.
+void NoteConfirmation(App& app);
+// "MARK: " and the class of the error page into the trail of the running activity.
+void TraceErrorPage(App& app, const QString& mark);
+
+} // namespace qlm

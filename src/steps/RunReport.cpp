@@ -1,0 +1,232 @@
+// SPDX-License-Identifier: MIT
+#include "steps/RunReport.h"
+
+#include "browser/PageClassifier.h"
+#include "core/AnsiText.h"
+#include "core/App.h"
+#include "core/LineReader.h"
+#include "core/SettingsFields.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qsizetype KeptRuns = 20;
+// Of the runs before the last as many as fit: the report is read at once when its window opens.
+constexpr qint64 LargestReport = 8 << 20;
+constexpr qsizetype PartBytes = 1 << 18;
+constexpr qsizetype PassedOverAtOnce = 100;
+
+// What a reason of StopAll means to the user, and what it makes of the target that is being worked on.
+struct EndRow {
+    QLatin1StringView reason;
+    const char* how;
+    ReportResult openTarget;
+    const char* why;
+};
+
+const std::vector<EndRow>& EndRows() {
+    static const std::vector<EndRow> rows{
+        {"IAF"_L1, "All targets were gone through", ReportResult::Unfinished, ""},
+        {"AFC"_L1, "Your limit was reached", ReportResult::SentNotLogged,
+         "The request that met your limit: it is sent, but neither counted nor logged"},
+        {"UNCOUNTED"_L1, "The count of today could not be saved", ReportResult::Unfinished, ""},
+        {"LF2"_L1, "The site's daily limit was reached", ReportResult::Failed, ""},
+        {"ADDSTOP"_L1, "You pressed Stop", ReportResult::Unfinished, "You pressed Stop"},
+        {"MAINSTOP"_L1, "You pressed Stop", ReportResult::Unfinished, "You pressed Stop"},
+        {"FU"_L1, "The program was closed", ReportResult::Unfinished, "The program was closed"},
+    };
+    return rows;
+}
+
+EndRow RowFor(const QString& reason) {
+    for (const EndRow& row : EndRows())
+        if (reason == row.reason)
+            return row;
+    return {{}, "The run was ended", ReportResult::Unfinished, "The run was ended"};
+}
+
+// How many runs at the file's beginning are too many.
+qsizetype RunsTooMany(const QString& path, qsizetype mostRuns) {
+    QList<qint64> sizes;
+    LineReader reader(path);
+    while (const auto line = reader.Next()) {
+        if (IsRunLine(*line))
+            sizes.append(0);
+        if (!sizes.isEmpty())
+            sizes.last() += line->size() + 2;
+    }
+    qint64 bytes = 0;
+    qsizetype kept = 0;
+    while (kept < std::min(sizes.size(), mostRuns)) {
+        bytes += sizes[sizes.size() - 1 - kept];
+        if (kept > 0 && bytes > LargestReport)
+            break;
+        ++kept;
+    }
+    return sizes.size() - kept;
+}
+
+// The next line of the runs behind the first so many.
+std::optional<QByteArrayView> NextBehind(LineReader& reader, qsizetype& runsToLeave) {
+    auto line = reader.Next();
+    while (line && runsToLeave >= 0) {
+        if (IsRunLine(*line) && --runsToLeave < 0)
+            break;
+        line = reader.Next();
+    }
+    return line;
+}
+
+} // namespace
+
+QString RunReport::Path() {
+    const QString folder =
+        FileSystem::Join(m_app.state.ProgramFolder, m_app.Get<SettingsFields>().AccountDataPath(u"Log"_s));
+    return FileSystem::Join(folder, u"FriendsReport.txt"_s);
+}
+
+void RunReport::BeginRun() {
+    // A start over a running run gets no stop in between.
+    if (m_running)
+        EndRun(u"begun anew"_s);
+    m_running = true;
+    m_problemTold = false;
+    m_row = {};
+    if (const QString path = Path(); path != m_path) {
+        m_path = path;
+        m_lines.clear();
+    }
+    DropOldRuns();
+    m_lines.append(RunLine(m_app.NowText(), m_app.state.AccountEmail));
+    Write(Durability::Synced);
+}
+
+void RunReport::DropOldRuns() {
+    Diagnostics::IgnoreErrors([this] {
+        if (!m_app.files.FileExists(m_path))
+            return;
+        qsizetype toLeave = RunsTooMany(m_path, KeptRuns - 1);
+        if (toLeave == 0)
+            return;
+        LineReader reader(m_path);
+        const auto nextPart = [&](QByteArray& part) {
+            while (part.size() < PartBytes) {
+                const auto line = NextBehind(reader, toLeave);
+                if (!line)
+                    return false;
+                part.append(*line).append("\r\n");
+            }
+            return true;
+        };
+        m_app.files.WriteParts(m_path, nextPart, Readers::OwnerAlone, Durability::Quick);
+    });
+}
+
+void RunReport::EndRun(const QString& reason) {
+    if (!m_running)
+        return;
+    const EndRow row = RowFor(reason);
+    Close(row.openTarget, QString::fromLatin1(row.why));
+    m_lines.append(EndLine(m_app.NowText(), QString::fromLatin1(row.how)));
+    Write(Durability::Synced);
+    m_running = false;
+    Changed();
+}
+
+void RunReport::PassOver(const QString& id, const QString& why) {
+    if (!m_running)
+        return;
+    m_row = {m_row.number + 1, m_app.NowText(), id, ReportResult::Skipped, 0, why};
+    m_lines.append(ResultLine(m_row));
+    if (++m_passedOver % PassedOverAtOnce == 0)
+        Write(Durability::Quick);
+}
+
+void RunReport::Open(const QString& id) {
+    if (!m_running)
+        return;
+    Close(ReportResult::Unfinished);
+    m_row = {m_row.number + 1, m_app.NowText(), id, ReportResult::Unfinished, 0, {}};
+    m_isOpen = true;
+    m_isConfirmed = false;
+    m_lines.append(BegunLine(m_row));
+    Write(Durability::Quick);
+}
+
+void RunReport::Remark(const QString& why, int pageClass) {
+    if (!m_isOpen)
+        return;
+    m_row.why = why;
+    m_row.pageClass = pageClass;
+}
+
+void RunReport::RemarkPage(int pageClass) {
+    Remark(RefusalText(pageClass), pageClass);
+}
+
+void RunReport::Confirm() {
+    m_isConfirmed = m_isOpen;
+}
+
+void RunReport::Close(ReportResult result, const QString& why) {
+    if (!m_isOpen)
+        return;
+    m_isOpen = false;
+    const bool wasSent = m_isConfirmed && result != ReportResult::Sent;
+    m_row.result = wasSent ? ReportResult::SentNotLogged : result;
+    m_row.time = m_app.NowText();
+    if (m_row.why.isEmpty())
+        m_row.why = why;
+    m_lines.append(ResultLine(m_row));
+    Write(Durability::Synced);
+}
+
+void RunReport::Flush() {
+    if (!m_lines.isEmpty())
+        Write(Durability::Quick);
+}
+
+// Whole lines in one write, so that only the last of them can be torn.
+void RunReport::Write(Durability durability) {
+    auto write = [this, durability] {
+        m_app.files.AppendLine(m_path, m_lines.join(u"\r\n"_s), Readers::OwnerAlone, durability);
+        m_lines.clear();
+        m_problem.clear();
+    };
+    if (m_problemTold)
+        Diagnostics::Guard(
+            write, [this](const std::exception& error) { m_problem = QString::fromUtf8(error.what()); });
+    else
+        m_problem = m_app.diagnostics.Trap("WriteRunReport", write);
+    m_problemTold = m_problemTold || !m_problem.isEmpty();
+    Changed();
+}
+
+void RunReport::Changed() const {
+    if (onChange)
+        onChange();
+}
+
+QList<ReportedRun> RunReport::Runs() {
+    const QString path = m_running ? m_path : Path();
+    ReportReader report;
+    if (m_app.files.FileExists(path)) {
+        qsizetype toLeave = RunsTooMany(path, KeptRuns);
+        LineReader reader(path);
+        while (const auto line = NextBehind(reader, toLeave))
+            report.Take(FromAnsi(*line));
+    }
+    // Another account's report has nothing to do with what this one could not write.
+    if (path == m_path)
+        for (const QString& line : m_lines)
+            report.Take(line);
+    return report.Runs();
+}
+
+} // namespace qlm

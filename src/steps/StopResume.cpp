@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "steps/StopResume.h"
+
+#include "core/App.h"
+#include "core/SettingsFields.h"
+#include "steps/Activities.h"
+#include "steps/RunReport.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// The friend requester's mark alone carries no reason.
+QString StopMark(const Activity& activity, const QString& reason, const QString& now) {
+    const QString mark = QString::fromLatin1(activity.stopMark);
+    return mark.endsWith(u'(') ? mark + reason + u')' + now : mark + now;
+}
+
+} // namespace
+
+void StopResume::StopAll(const QString& reason) {
+    RunState& state = m_app.state;
+    const Activity* activity = FindActivity(state.CurrentAction);
+    if (activity && activity->stopMark[0])
+        m_app.diagnostics.DebugForAction(StopMark(*activity, reason, m_app.NowText()));
+
+    m_app.waiting.OutdateSteps();
+    for (const Activity& each : Activities())
+        if (each.step)
+            state.*each.step = 0;
+    state.CurrentAction.clear();
+
+    state.strLinkType.clear();
+    state.strLinkValue.clear();
+    state.blnLinkFound = false;
+    state.strLastPageText.clear();
+    state.strLastPageHref.clear();
+    state.strFRResumeURL.clear();
+    state.blnLastPageAsHTML = false;
+    state.blnForceAdvance = false;
+
+    m_app.timers->tmrAutoResume.SetEnabled(false);
+    m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
+    state.blnHoldLinkCheck = true;
+
+    state.strNextPageLink.clear();
+    state.blnClickNextLink = false;
+    state.lngPageScanOffset = 0;
+    state.blnComparingIDs = false;
+    state.blnRetryGatherPage = false;
+    state.intGatherRetryTicks = 0;
+    state.SwitchingAccount = false;
+    state.blnSkipCurrentID = false;
+    state.blnBulletinDeleting = false;
+    state.blnCommentFormShown = false;
+    state.intFRLimitHits = 0;
+    state.intConfirmPolls = 0;
+    state.strWaitingFor.clear();
+    for (const auto& label : {"myfraCurrentAction"_L1, "lblWaitingFor"_L1, "lblProgress"_L1})
+        Diagnostics::IgnoreErrors([&] { m_app.controls.SetText(label, {}); });
+    state.blnSkipRequested = false;
+    state.blnInDelay = false;
+    state.strCurrentID.clear();
+    state.blnBulletinWaiting = false;
+    state.blnStatusWaiting = false;
+
+    // Writes to the disk, which may fail and bring a window up: nothing runs any more by then.
+    m_app.Get<RunReport>().EndRun(reason);
+}
+
+void StopResume::ResumeNext() {
+    m_app.WebBrowser1().SetSilent(true);
+    m_app.state.blnHoldLinkCheck = false;
+    m_app.timers->tmrAutoResume.Restart();
+    const Activity* activity = FindActivity(m_app.state.CurrentAction);
+    if (!activity || !activity->resumable || !activity->stepRoutine)
+        return;
+    m_app.diagnostics.DebugForAction(u"cmdRes - "_s + m_app.NowText());
+    activity->stepRoutine(m_app);
+}
+
+void StopResume::SkipProfile() {
+    RunState& state = m_app.state;
+    m_app.WebBrowser1().SetSilent(true);
+    state.blnHoldLinkCheck = false;
+    m_app.timers->tmrAutoResume.Restart();
+    if (state.blnInDelay) {
+        state.blnInDelay = false;
+        return;
+    }
+    state.blnSkipRequested = true;
+    const Activity* activity = FindActivity(state.CurrentAction);
+    if (activity && activity->stepAfterSkip) {
+        SkipTo(*activity);
+        return;
+    }
+    // An account of a chain that can't be logged in.
+    if (state.CurrentAction == u"LOGIN"_s && state.blnChaining) {
+        m_app.diagnostics.DebugForAction(u"Skip"_s);
+        HandOverInChain();
+    }
+}
+
+bool StopResume::SkipHelps() const {
+    const Activity* activity = FindActivity(m_app.state.CurrentAction);
+    return (activity && activity->stepAfterSkip) ||
+           (m_app.state.CurrentAction == u"LOGIN"_s && m_app.state.blnChaining);
+}
+
+void StopResume::SkipTo(const Activity& activity) {
+    // A tick that is due for the page being left would take a step of the next profile.
+    m_app.timers->Timer1.SetEnabled(false);
+    if (*activity.stepAfterSkip != 0)
+        m_app.state.*activity.step = *activity.stepAfterSkip;
+    if (activity.stepRoutine)
+        activity.stepRoutine(m_app);
+}
+
+void StopResume::PauseLinkCheck() {
+    m_app.state.blnHoldLinkCheck = true;
+    m_app.timers->tmrAutoResume.SetEnabled(false);
+}
+
+void StopResume::ResumeLinkCheck() {
+    m_app.state.blnHoldLinkCheck = false;
+    m_app.timers->tmrAutoResume.SetEnabled(false);
+    m_app.timers->tmrAutoResume.SetEnabled(true);
+}
+
+bool StopResume::DoFinishedExit() {
+    if (!m_app.state.blnExitWhenFinished)
+        return false;
+    m_app.Close();
+    return true;
+}
+
+bool StopResume::HandOverInChain() {
+    if (!m_app.state.blnChaining)
+        return false;
+    m_app.Get<SettingsFields>().SaveListsAndSettings();
+    m_app.commands.Run(u"LoginNextCycleAccount"_s);
+    return true;
+}
+
+} // namespace qlm

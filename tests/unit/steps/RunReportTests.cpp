@@ -1,0 +1,226 @@
+// SPDX-License-Identifier: MIT
+#include "SimulatedProgram.h"
+#include "browser/PageClassTable.h"
+#include "browser/PageClassifier.h"
+#include "steps/RunReport.h"
+
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace qlm {
+namespace {
+
+QStringList Texts(const ReportedRun& run) {
+    QStringList texts;
+    for (const ReportRow& row : run.rows)
+        texts.append(row.id + u": "_s + ResultText(row.result) + (row.why.isEmpty() ? u""_s : u", "_s) +
+                     row.why);
+    return texts;
+}
+
+TEST(ReportRows, ALineThatWasTornIsPassedOver) {
+    const QString whole =
+        ResultLine({1, u"t"_s, u"1001"_s, ReportResult::Failed, 37, u"Is already, your friend"_s});
+    for (qsizetype length = 0; length < whole.size(); ++length) {
+        const QList<ReportedRun> runs = RunsIn({RunLine(u"t"_s, u"a@example.com"_s), whole.left(length)});
+        ASSERT_EQ(runs.size(), 1);
+        EXPECT_TRUE(runs[0].rows.isEmpty()) << length;
+    }
+    EXPECT_EQ(RunsIn({RunLine(u"t"_s, u"a"_s), whole})[0].rows.size(), 1);
+    EXPECT_EQ(RunsIn({RunLine(u"t"_s, u"a"_s).chopped(1), whole}).size(), 0);
+}
+
+TEST(ReportRows, AResultTakesThePlaceOfTheBegunLineWithItsNumber) {
+    ReportRow row{2, u"10:00"_s, u"1001"_s, ReportResult::Unfinished, 0, {}};
+    QStringList lines{RunLine(u"t"_s, u"a"_s), BegunLine(row)};
+    EXPECT_EQ(RunsIn(lines)[0].rows[0].result, ReportResult::Unfinished);
+    row.result = ReportResult::Failed;
+    row.pageClass = 37;
+    row.why = u"tab\tand\nline"_s;
+    lines << ResultLine(row) << EndLine(u"u"_s, u"over"_s);
+    const ReportedRun run = RunsIn(lines)[0];
+    ASSERT_EQ(run.rows.size(), 1);
+    EXPECT_EQ(run.rows[0].result, ReportResult::Failed);
+    EXPECT_EQ(run.rows[0].pageClass, 37);
+    EXPECT_EQ(run.rows[0].why, u"tab and line"_s);
+    EXPECT_EQ(run.ended + run.how, u"uover"_s);
+}
+
+TEST(ReportRows, EveryResultIsReadAsItWasWritten) {
+    const std::vector<std::pair<ReportResult, QString>> results{
+        {ReportResult::Sent, u"Sent"_s},       {ReportResult::SentNotLogged, u"Sent, not logged"_s},
+        {ReportResult::Skipped, u"Skipped"_s}, {ReportResult::PutOff, u"Put off"_s},
+        {ReportResult::Failed, u"Failed"_s},   {ReportResult::Unfinished, u"Unfinished"_s}};
+    for (const auto& [result, text] : results) {
+        EXPECT_EQ(ResultText(result), text);
+        const QString line = ResultLine({1, u"t"_s, u"1001"_s, result, 0, {}});
+        const ReportedRun run = RunsIn({RunLine(u"t"_s, u"a"_s), line})[0];
+        ASSERT_EQ(run.rows.size(), 1) << text.toStdString();
+        EXPECT_EQ(run.rows[0].result, result) << text.toStdString();
+    }
+}
+
+TEST(ReportRows, CsvIsQuotedAsTheStandardSays) {
+    ReportedRun run;
+    run.rows = {{1, u"2009-06-01 10:00:00"_s, u"1001"_s, ReportResult::SentNotLogged, 0, u"a, \"b\" é"_s},
+                {2, u"2009-06-01 10:00:01"_s, u"1002"_s, ReportResult::Failed, 37, u"two\nlines"_s}};
+    EXPECT_EQ(QString::fromUtf8(ReportAsCsv(run)),
+              u"Time,Profile ID,Result,Page class,Why\r\n"
+              "2009-06-01 10:00:00,1001,\"Sent, not logged\",,\"a, \"\"b\"\" é\"\r\n"
+              "2009-06-01 10:00:01,1002,Failed,37,\"two\nlines\"\r\n"_s);
+}
+
+TEST(ReportRows, EveryClassThatEndsATargetHasWords) {
+    for (const PageClassRow& row : PageClassTable()) {
+        const bool isReached = row.isErrorPage && row.pageClass != 19;
+        EXPECT_NE(RefusalText(row.pageClass).isEmpty(), isReached) << row.pageClass;
+    }
+    EXPECT_TRUE(RefusalText(0).isEmpty());
+}
+
+class RunReportTest : public SimulatedProgram {
+protected:
+    RunReport report{*app};
+    QStringList Lines() { return app->files.ReadLines(report.Path()); }
+};
+
+TEST_F(RunReportTest, TellsWhatBecameOfEachTarget) {
+    report.BeginRun();
+    report.PassOver(u"1000"_s, u"known"_s);
+    report.Open(u"1001"_s);
+    report.Close(ReportResult::Sent);
+    report.Close(ReportResult::Failed, u"too late"_s);
+    report.Open(u"1002"_s);
+    report.RemarkPage(37);
+    report.Close(ReportResult::Failed, u"a remark stands"_s);
+    report.Open(u"1003"_s);
+    report.EndRun(u"AFC"_s);
+    ASSERT_EQ(report.Runs().size(), 1);
+    EXPECT_EQ(
+        Texts(report.Runs()[0]),
+        (QStringList{u"1000: Skipped, known"_s, u"1001: Sent"_s, u"1002: Failed, Is already your friend"_s,
+                     u"1003: Sent, not logged, The request that met your limit: it is sent, but neither "
+                     "counted nor logged"_s}));
+    EXPECT_EQ(report.Runs()[0].how, u"Your limit was reached"_s);
+    // Nothing goes into the file without a run.
+    const QStringList before = Lines();
+    report.Open(u"1004"_s);
+    report.PassOver(u"1005"_s, u"known"_s);
+    report.EndRun(u"IAF"_s);
+    EXPECT_EQ(Lines(), before);
+}
+
+TEST_F(RunReportTest, TellsHowTheRunEnded) {
+    struct Row {
+        QString reason;
+        QString how;
+        QString target;
+    };
+    const QString closed = u"The program was closed"_s;
+    const QString pressed = u"You pressed Stop"_s;
+    const QString ended = u"The run was ended"_s;
+    for (
+        const Row& row : std::vector<Row>{
+            {u"IAF"_s, u"All targets were gone through"_s, u"Unfinished"_s},
+            {u"AFC"_s, u"Your limit was reached"_s,
+             u"Sent, not logged, The request that met your limit: it is sent, but neither counted nor logged"_s},
+            {u"LF2"_s, u"The site's daily limit was reached"_s, u"Failed"_s},
+            {u"ADDSTOP"_s, pressed, u"Unfinished, "_s + pressed},
+            {u"MAINSTOP"_s, pressed, u"Unfinished, "_s + pressed},
+            {u"FU"_s, closed, u"Unfinished, "_s + closed},
+            {u"GNCA"_s, ended, u"Unfinished, "_s + ended}}) {
+        report.BeginRun();
+        report.Open(u"1001"_s);
+        report.EndRun(row.reason);
+        const ReportedRun run = report.Runs().constLast();
+        EXPECT_EQ(run.how, row.how) << row.reason.toStdString();
+        EXPECT_EQ(Texts(run), QStringList{u"1001: "_s + row.target}) << row.reason.toStdString();
+    }
+}
+
+TEST_F(RunReportTest, AResultIsOnTheDiskWhenTheRunGoesOn) {
+    report.BeginRun();
+    report.Open(u"1001"_s);
+    EXPECT_TRUE(Lines().constLast().startsWith(u"at\t1\t"_s));
+    report.Close(ReportResult::Sent);
+    EXPECT_TRUE(Lines().constLast().startsWith(u"sent\t1\t"_s));
+}
+
+TEST_F(RunReportTest, PassedOverTargetsGoToTheFileByTheHundred) {
+    report.BeginRun();
+    for (int i = 0; i < 99; ++i)
+        report.PassOver(QString::number(i), u"known"_s);
+    EXPECT_EQ(Lines().size(), 1);
+    EXPECT_EQ(report.Runs()[0].rows.size(), 99);
+    report.PassOver(u"99"_s, u"known"_s);
+    EXPECT_EQ(Lines().size(), 101);
+}
+
+TEST_F(RunReportTest, ADiskThatRefusesIsToldOnceARunAndNothingIsLost) {
+    report.BeginRun();
+    world.gate.readOnlyFolders = {world.installationFolder};
+    for (const QString& id : {u"1001"_s, u"1002"_s}) {
+        report.Open(id);
+        report.Close(ReportResult::Sent);
+    }
+    EXPECT_TRUE(report.Problem().contains(world.installationFolder));
+    const QStringList errors = app->files.ReadLines(app->state.ErrorLogPath);
+    EXPECT_EQ(errors.count(u"Proc: WriteRunReport"_s), 1);
+    EXPECT_EQ(Texts(report.Runs()[0]), (QStringList{u"1001: Sent"_s, u"1002: Sent"_s}));
+    EXPECT_EQ(Lines().size(), 1);
+    world.gate.readOnlyFolders.clear();
+    report.Open(u"1003"_s);
+    EXPECT_TRUE(report.Problem().isEmpty());
+    EXPECT_EQ(Lines().size(), 6);
+}
+
+TEST_F(RunReportTest, OnlyTheLastTwentyRunsAreKept) {
+    for (int run = 1; run <= 25; ++run) {
+        report.BeginRun();
+        report.PassOver(QString::number(run), u"known"_s);
+        report.EndRun(u"IAF"_s);
+    }
+    ASSERT_EQ(report.Runs().size(), 20);
+    EXPECT_EQ(report.Runs().constFirst().rows[0].id, u"6"_s);
+    EXPECT_EQ(report.Runs().constLast().rows[0].id, u"25"_s);
+}
+
+// A report of that size would be read for seconds, and held in memory, at the start of each run.
+TEST_F(RunReportTest, OldRunsThatAreTooBigGoAndTheLastOneStays) {
+    const QString why(900, u'x');
+    for (int run = 1; run <= 4; ++run) {
+        report.BeginRun();
+        for (int target = 1; target <= 5000; ++target)
+            report.PassOver(QString::number(target), why);
+        report.EndRun(u"IAF"_s);
+    }
+    EXPECT_LT(QFileInfo(report.Path()).size(), 15'000'000);
+    report.BeginRun();
+    EXPECT_LT(QFileInfo(report.Path()).size(), 10'000'000);
+    const QList<ReportedRun> runs = report.Runs();
+    ASSERT_EQ(runs.size(), 2);
+    EXPECT_EQ(runs[0].rows.size(), 5000);
+    EXPECT_EQ(runs[0].how, u"All targets were gone through"_s);
+    EXPECT_TRUE(runs[1].rows.isEmpty());
+}
+
+TEST_F(RunReportTest, ATornLastLineIsPassedOverAndTheNextRunStandsWhole) {
+    report.BeginRun();
+    report.Open(u"1001"_s);
+    world.gate.CrashAtWrite(1);
+    EXPECT_THROW(report.Close(ReportResult::Sent), SimPowerCut);
+    world.gate.Mend();
+    RunReport next(*app);
+    ASSERT_EQ(next.Runs().size(), 1);
+    EXPECT_EQ(Texts(next.Runs()[0]), QStringList{u"1001: Unfinished"_s});
+    next.BeginRun();
+    next.Open(u"1002"_s);
+    next.Close(ReportResult::Sent);
+    ASSERT_EQ(next.Runs().size(), 2);
+    EXPECT_EQ(Texts(next.Runs()[0]), QStringList{u"1001: Unfinished"_s});
+    EXPECT_EQ(Texts(next.Runs()[1]), QStringList{u"1002: Sent"_s});
+}
+
+} // namespace
+} // namespace qlm
