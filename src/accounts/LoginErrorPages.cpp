@@ -3,6 +3,7 @@
 
 #include "core/App.h"
 #include "steps/Activities.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 namespace qlm {
@@ -12,10 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 void LoadSiteAgain(App& app) {
-    const RunMark mark = app.waiting.Mark();
     app.ClearPage();
-    if (!app.waiting.IsCurrent(mark))
-        return;
     app.WebBrowser1().Navigate(app.Expand(u"{SiteRootHost}"_s));
     app.waiting.Pump();
 }
@@ -27,7 +25,7 @@ void HandleLoginErrorPage(App& app) {
         // An account that meets an error page costs the chain no more than itself.
         TraceErrorPage(app, u"Maint1: "_s);
         app.Get<StopResume>().HandOverInChain();
-    } else if (app.state.intLoginStep == 1) {
+    } else if (app.state.intLoginStep == LoginStep::SignOut) {
         TraceErrorPage(app, u"Maint2: "_s);
         LoadSiteAgain(app);
     } else {

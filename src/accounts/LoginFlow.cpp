@@ -3,10 +3,12 @@
 
 #include "browser/Cover.h"
 #include "browser/PageSigns.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/SettingsFields.h"
 #include "core/Text.h"
 #include "steps/StepDispatcher.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 namespace qlm {
@@ -28,10 +30,6 @@ void LoginFlow::Log(const QString& text) {
     m_app.diagnostics.Debug(u"debuginitial.txt"_s, text);
 }
 
-bool LoginFlow::IsLoggingIn(int step) const {
-    return m_app.state.CurrentAction == u"LOGIN"_s && m_app.state.intLoginStep == step;
-}
-
 void LoginFlow::Await(const QString& type, const QString& value, const QString& excludedText) {
     RunState& state = m_app.state;
     state.strLinkType = type;
@@ -42,42 +40,28 @@ void LoginFlow::Await(const QString& type, const QString& value, const QString& 
     state.blnLinkFound = false;
 }
 
-void LoginFlow::IterateLoginAccount() {
-    const QString error = m_app.diagnostics.Trap("IterateLoginAccount", [this] {
-        while (RunStep())
-            continue;
-    });
-    // The machine has kept its state: with the page looked at again, the step is repeated.
-    if (error.isEmpty() || m_app.state.CurrentAction != u"LOGIN"_s)
-        return;
-    m_app.state.blnLinkFound = false;
-    m_app.timers->tmrCheckLinkLoaded.Restart();
+const StepMachine<LoginFlow>& LoginFlow::Machine() {
+    static const StepMachine<LoginFlow> machine{
+        .word = ActivityWord::Login,
+        .step = &RunState::intLoginStep,
+        .procedure = "IterateLoginAccount",
+        .begin = &LoginFlow::BeginStep,
+        .states = {{LoginStep::OpenSite, &LoginFlow::OpenSite},
+                   {LoginStep::SignOut, &LoginFlow::SignOut},
+                   {LoginStep::OpenLoginPage, &LoginFlow::OpenLoginPage},
+                   {LoginStep::SendForm, &LoginFlow::SendForm},
+                   {LoginStep::Finish, &LoginFlow::FinishLogin}},
+        .errorData = nullptr,
+    };
+    return machine;
 }
 
-// True when the machine is to run again at once.
-bool LoginFlow::RunStep() {
-    BeginStep();
-    LoginFormWins();
-    if (m_app.state.CurrentAction != u"LOGIN"_s)
-        return false;
-    switch (m_app.state.intLoginStep) {
-    case 10:
-        OpenSite();
-        return false;
-    case 1:
-        return SignOut();
-    case 2:
-        OpenLoginPage();
-        return false;
-    case 3:
-        DoLogin();
-        return false;
-    case 4:
-        FinishLogin();
-        return false;
-    default:
-        return false;
-    }
+void LoginFlow::IterateLoginAccount() {
+    if (RunSteps(m_app, *this, Machine()).isEmpty())
+        return;
+    // The machine has kept its state: with the page looked at again, the step is repeated.
+    m_app.state.blnLinkFound = false;
+    m_app.timers->tmrCheckLinkLoaded.Restart();
 }
 
 void LoginFlow::BeginStep() {
@@ -89,6 +73,7 @@ void LoginFlow::BeginStep() {
     // The site shows every account its newer pages.
     state.blnNewLayout = true;
     Log(u"ILoginAcc - "_s + m_app.NowText() + u", Code: "_s + QString::number(state.intLoginStep));
+    LoginFormWins();
 }
 
 // A login form on the screen wins over whatever the machine was waiting for.
@@ -96,11 +81,12 @@ void LoginFlow::LoginFormWins() {
     RunState& state = m_app.state;
     PageSigns& page = m_app.Get<PageSigns>();
     const bool formShown = page.IsLoggedOutPage() && !page.IsTextInPage(u"Login again?"_s);
-    if (!formShown || state.CurrentAction != u"LOGIN"_s || state.intLoginStep == 3)
+    if (!formShown || state.intLoginStep == LoginStep::SendForm)
         return;
     const bool skipsRestoring =
-        (state.intLoginStep == 10 || state.intLoginStep == 1) && !state.AccountsLoadedOnce;
-    state.intLoginStep = 3;
+        (state.intLoginStep == LoginStep::OpenSite || state.intLoginStep == LoginStep::SignOut) &&
+        !state.AccountsLoadedOnce;
+    state.intLoginStep = LoginStep::SendForm;
     Log(u"ILP! Change!"_s);
     // Otherwise the new account would work, and save, with the fields and counters of the one before it.
     if (skipsRestoring)
@@ -108,28 +94,30 @@ void LoginFlow::LoginFormWins() {
 }
 
 void LoginFlow::RestoreAccount() {
-    m_app.Get<SettingsFields>().RestoreAccountSettings();
-    m_app.Get<SettingsFields>().RestoreAccountSpecificFields();
+    {
+        // Half of an account's fields would be saved as another's.
+        const Waiting::Unowned whole(m_app.waiting);
+        m_app.Get<SettingsFields>().RestoreAccountSettings();
+        m_app.Get<SettingsFields>().RestoreAccountSpecificFields();
+    }
+    m_app.waiting.LeaveIfObsolete();
 }
 
-void LoginFlow::OpenSite() {
+Next LoginFlow::OpenSite() {
     RestoreAccount();
-    if (!IsLoggingIn(10))
-        return;
     m_app.state.AccountsLoadedOnce = true;
     m_app.SetStatus(u"Waiting for the MySpace homepage to load..."_s);
     m_app.controls.SetText("lblLoggedInAs"_L1, u"busy logging in..."_s);
-    m_app.state.intLoginStep = 1;
+    m_app.state.intLoginStep = LoginStep::SignOut;
     Await(u"Link"_s, u"home"_s);
     m_app.WebBrowser1().Navigate(m_app.Expand(u"{SiteRootHost}"_s));
     m_app.timers->tmrCheckLinkLoaded.Restart();
+    return Next::Wait;
 }
 
-bool LoginFlow::SignOut() {
+Next LoginFlow::SignOut() {
     if (!m_app.state.AccountsLoadedOnce)
         RestoreAccount();
-    if (!IsLoggingIn(1))
-        return false;
     m_app.state.AccountsLoadedOnce = false;
     m_app.controls.SetText("lblLoggedInAs"_L1, u"busy logging in..."_s);
     bool loggedIn = false;
@@ -137,64 +125,62 @@ bool LoginFlow::SignOut() {
         const QString href = link.Href();
         loggedIn = loggedIn || Has(href, u"/signout?"_s) || Has(href, u"index.cfm?fuseaction=signout"_s);
     }
-    m_app.state.intLoginStep = 2;
+    m_app.state.intLoginStep = LoginStep::OpenLoginPage;
     if (!loggedIn)
-        return true;
+        return Next::Again;
     m_app.SetStatus(u"Logging out of the current account..."_s);
     Await(u"Text"_s, u"sign up"_s);
-    if (ClickSignOutLink()) {
-        m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
-        m_app.timers->tmrCheckLinkLoaded.Restart();
-    }
-    return false;
+    ClickSignOutLink();
+    m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
+    m_app.timers->tmrCheckLinkLoaded.Restart();
+    return Next::Wait;
 }
 
-bool LoginFlow::ClickSignOutLink() {
+void LoginFlow::ClickSignOutLink() {
     bool told = false;
     m_app.waiting.WaitFor(u"a link that signs out"_s, [this, &told] {
-        if (!IsLoggingIn(2) || m_app.Get<PageSigns>().ClickLinkFromHref(u"/signout?"_s, u"WebBrowser1"_s))
+        if (m_app.Get<PageSigns>().ClickLinkFromHref(u"/signout?"_s, u"WebBrowser1"_s))
             return false;
         if (!told)
             Log(u"ILoginAcc 1.3.2... CLICK AGAIN!!"_s);
         told = true;
         return true;
     });
-    return IsLoggingIn(2);
 }
 
-void LoginFlow::OpenLoginPage() {
+Next LoginFlow::OpenLoginPage() {
     m_app.SetStatus(u"Waiting for the MySpace homepage to load..."_s);
-    m_app.state.intLoginStep = 3;
+    m_app.state.intLoginStep = LoginStep::SendForm;
     Await(u"Text"_s, u"password?"_s);
     m_app.ClearPage();
-    if (!IsLoggingIn(3))
-        return;
     m_app.WebBrowser1().Navigate(m_app.Expand(u"{HomeHost}/index.cfm?fuseaction=home"_s));
     m_app.state.blnLinkFound = false;
     m_app.timers->tmrCheckLinkLoaded.Restart();
+    return Next::Wait;
 }
 
-void LoginFlow::FinishLogin() {
-    const RunMark mark = m_app.waiting.Mark();
-    if (!WaitUntilIdle() || !IsLoggingIn(4))
-        return;
+Next LoginFlow::SendForm() {
+    DoLogin();
+    return Next::Wait;
+}
+
+Next LoginFlow::FinishLogin() {
+    WaitUntilIdle();
     Log(u"ILoginAcc 4 - "_s + m_app.WebBrowser1().Document().BodyHTML());
     StopProblemTimer();
     m_app.SetStatus(u"Login successful, retrieving your Profile ID..."_s);
     ReadProfileID();
-    m_app.waiting.LeaveUnlessCurrent(mark);
-    if (!IsLoggingIn(4))
-        return;
     Log(m_app.state.MyProfileID);
     ShowLoggedInAs();
     m_app.state.AccountsLoadedOnce = false;
     if (m_app.state.blnChaining) {
         goOnInChain();
-        return;
+        return Next::Wait;
     }
     m_app.Get<StopResume>().StopAll(u"ILA"_s);
     m_app.SetStatus(u"Login successful!"_s);
     m_app.Get<StopResume>().DoFinishedExit();
+    return Next::Wait;
 }
 
 void LoginFlow::ShowLoggedInAs() {
@@ -220,9 +206,9 @@ void LoginFlow::LogInSpecifiedAccount(const QString& email, const QString& passw
         m_app.timers->Timer1.SetEnabled(false);
         // What a login that came to no end has restored belongs to another account.
         state.AccountsLoadedOnce = false;
-        state.CurrentAction = u"LOGIN"_s;
+        state.CurrentAction = ActivityWord::Login;
         state.blnHoldLinkCheck = false;
-        state.intLoginStep = 1;
+        state.intLoginStep = LoginStep::SignOut;
         IterateLoginAccount();
     });
 }

@@ -1,22 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "steps/StepMachine.h"
+
 #include <QString>
 #include <functional>
 
 namespace qlm {
 
-class App;
 class Element;
 
-// Brings the browser from any page to a session logged in as AccountEmail. Runs while CurrentAction is
-// "LOGIN": each step sets what it awaits and returns; the action tick calls the machine again when the page
-// is there.
+// Brings the browser from any page to a session logged in as AccountEmail. Each step sets what it awaits and
+// returns; the action tick calls the machine again when the page is there.
 class LoginFlow {
 public:
     explicit LoginFlow(App& app);
 
-    // One step of the machine: 10, 1, 2, 3, 4.
+    // The step routine.
     void IterateLoginAccount();
     // Fills and submits the login form of the page now shown. Also the silent login of a run that was logged
     // out: then CurrentAction is that run's.
@@ -33,28 +33,28 @@ public:
     std::function<void()> goOnInChain;
 
 private:
-    bool RunStep();
+    static const StepMachine<LoginFlow>& Machine();
     void BeginStep();
     void LoginFormWins();
     void RestoreAccount();
 
-    void OpenSite();         // 10
-    bool SignOut();          // 1; true when there is nobody to sign out
-    bool ClickSignOutLink(); // false when the login was stopped meanwhile
-    void OpenLoginPage();    // 2
-    void FinishLogin();      // 4
+    Next OpenSite();
+    Next SignOut();
+    void ClickSignOutLink();
+    Next OpenLoginPage();
+    Next SendForm();
+    Next FinishLogin();
 
     void FillAndSubmit();
     void WaitForCompletePage();
     void Press(const Element& button, bool stopFirst);
-    bool WaitUntilIdle();
+    void WaitUntilIdle();
     void ReadProfileID();
     void ShowLoggedInAs();
     void StopProblemTimer();
     void tmrLoginProblem_Timer();
 
     void Await(const QString& type, const QString& value, const QString& excludedText = {});
-    bool IsLoggingIn(int step) const;
     void Log(const QString& text);
 
     App& m_app;

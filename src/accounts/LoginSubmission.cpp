@@ -3,7 +3,9 @@
 #include "accounts/LoginForm.h"
 #include "browser/PageBoxes.h"
 #include "browser/PageSigns.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
+#include "steps/Steps.h"
 
 namespace qlm {
 
@@ -17,18 +19,17 @@ constexpr int NextProblemLookMs = 2000;
 
 void LoginFlow::DoLogin() {
     const QString error = m_app.diagnostics.Trap("DoLogin", [this] { FillAndSubmit(); });
-    if (!error.isEmpty() && m_app.state.CurrentAction == u"LOGIN"_s)
+    if (!error.isEmpty() && m_app.state.CurrentAction == ActivityWord::Login)
         m_app.timers->tmrCheckLinkLoaded.Restart();
 }
 
 void LoginFlow::FillAndSubmit() {
     RunState& state = m_app.state;
-    const RunMark mark = m_app.waiting.Mark();
+    const Waiting::Owned owned(m_app.waiting);
     m_app.WebBrowser1().SetSilent(true);
     m_app.SetStatus(u"Waiting for the page to load completely..."_s);
     WaitForCompletePage();
-    if (!m_app.waiting.IsCurrent(mark) || !WaitUntilIdle())
-        return;
+    WaitUntilIdle();
     const QString zone = u"Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\Zones\\3"_s;
     Log(u"Submit Nonencrypted Form Data - "_s +
         m_app.platform.Settings().GetSetting(zone, u"1601"_s, u"x"_s));
@@ -39,8 +40,6 @@ void LoginFlow::FillAndSubmit() {
     if (isFilled)
         if (const LoginButton button = FindLoginButton(m_app.deployment, document); button.element)
             Press(button.element, button.stopFirst);
-    if (!m_app.waiting.IsCurrent(mark))
-        return;
     state.blnLinkFound = false;
     m_app.timers->tmrCheckLinkLoaded.Restart();
     m_app.SetStatus(
@@ -50,13 +49,12 @@ void LoginFlow::FillAndSubmit() {
 }
 
 void LoginFlow::WaitForCompletePage() {
-    const RunMark mark = m_app.waiting.Mark();
     qint64 lastLogged = 0;
     m_app.waiting.WaitWhile(
-        [this, &mark, &lastLogged] {
+        [this, &lastLogged] {
             const int ready = m_app.WebBrowser1().ReadyState();
             const qint64 second = m_app.Pump().Now().toSecsSinceEpoch();
-            if (ready == 4 || !m_app.waiting.IsCurrent(mark))
+            if (ready == 4)
                 return false;
             if (second % 5 == 0 && second != lastLogged) {
                 Log(u"waiting for readystate: "_s + QString::number(ready));
@@ -67,19 +65,14 @@ void LoginFlow::WaitForCompletePage() {
         CompletePageSeconds);
 }
 
-// False when another run has taken over meanwhile, or none.
-bool LoginFlow::WaitUntilIdle() {
-    const RunMark mark = m_app.waiting.Mark();
-    m_app.waiting.WaitFor(u"the page to be complete"_s, [this, &mark] {
-        return m_app.WebBrowser1().Busy() && m_app.waiting.IsCurrent(mark);
-    });
-    return m_app.waiting.IsCurrent(mark);
+void LoginFlow::WaitUntilIdle() {
+    m_app.waiting.WaitFor(u"the page to be complete"_s, [this] { return m_app.WebBrowser1().Busy(); });
 }
 
 void LoginFlow::Press(const Element& button, bool stopFirst) {
     if (stopFirst)
         m_app.WebBrowser1().Stop();
-    m_app.state.intLoginStep = 4;
+    m_app.state.intLoginStep = LoginStep::Finish;
     Await(u"Link"_s, u"signout"_s, u"password?"_s);
     if (!m_app.state.blnChaining) {
         m_app.timers->tmrLoginProblem.SetInterval(FirstProblemLookMs);

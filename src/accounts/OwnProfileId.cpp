@@ -26,7 +26,7 @@ void LoginFlow::ReadProfileID() {
                 id = GetUsersID2();
         });
         m_app.waiting.Turn();
-    } while (IsLoggingIn(4) && !IsNumeric(id) && m_app.waiting.SecondsSince(startMs) < ProfileIDSeconds);
+    } while (!IsNumeric(id) && m_app.waiting.SecondsSince(startMs) < ProfileIDSeconds);
 }
 
 QString LoginFlow::GetPageScriptValue(const QString& browserName, const QString& key) {

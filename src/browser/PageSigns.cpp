@@ -42,16 +42,19 @@ void PageSigns::WaitForDocument(BrowserControl& browser) {
 // has come.
 void PageSigns::SpinForWebBrowser1() {
     const RunMark mark = m_app.waiting.Mark();
-    const QScopedValueRollback spins(m_spins, m_spins + 1);
-    qint64 sinceMs = m_app.Pump().NowMs();
-    SpinFor(m_app.WebBrowser1(), [&] {
-        BrowserControl& browser = m_app.WebBrowser1();
-        const bool isUsersLoad = !m_app.waiting.IsCurrent(mark) && browser.Busy();
-        if (isUsersLoad || m_app.waiting.SecondsSince(sinceMs) <= SecondsWithoutBody)
-            return;
-        browser.Refresh();
-        sinceMs = m_app.Pump().NowMs();
-    });
+    {
+        const Waiting::Unowned helping(m_app.waiting);
+        const QScopedValueRollback spins(m_spins, m_spins + 1);
+        qint64 sinceMs = m_app.Pump().NowMs();
+        SpinFor(m_app.WebBrowser1(), [&] {
+            BrowserControl& browser = m_app.WebBrowser1();
+            const bool isUsersLoad = !m_app.waiting.IsCurrent(mark) && browser.Busy();
+            if (isUsersLoad || m_app.waiting.SecondsSince(sinceMs) <= SecondsWithoutBody)
+                return;
+            browser.Refresh();
+            sinceMs = m_app.Pump().NowMs();
+        });
+    }
     m_app.waiting.LeaveUnlessCurrent(mark);
 }
 

@@ -3,10 +3,12 @@
 
 #include "browser/Cover.h"
 #include "campaigns/FriendRequester.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "steps/Activities.h"
 #include "steps/RunReport.h"
 #include "steps/StepDispatcher.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 namespace qlm {
@@ -53,7 +55,7 @@ void HandleRequesterErrorPage(App& app) {
     // The site reports an error although the request has gone out.
     app.Get<FriendRequester>().NoticeErrorRedirect();
     app.Get<Cover>().Show();
-    app.state.intFRStep = 9;
+    app.state.intFRStep = FriendStep::AfterSend;
     app.Get<StopResume>().ResumeNext();
 }
 
@@ -61,19 +63,19 @@ void HandleMessengerErrorPage(App& app) {
     RunState& state = app.state;
     TraceErrorPage(app, u"Maint: "_s);
     if (state.strFRResumeURL.isEmpty()) {
-        state.intMsgStep = 8;
+        state.intMsgStep = MessageStep::AfterSend;
         app.Get<StopResume>().ResumeNext();
         return;
     }
-    state.CurrentAction = u"FR"_s;
+    state.CurrentAction = ActivityWord::FriendRequests;
     state.strLinkType = u"Text"_s;
     state.strLinkValue = u"Request Sent!"_s;
     state.blnLinkFound = false;
     app.timers->tmrCheckLinkLoaded.Restart();
     app.WebBrowser1().Navigate(state.strFRResumeURL);
     state.strFRResumeURL.clear();
-    state.intMsgStep = 0;
-    state.intFRStep = 8;
+    state.intMsgStep = MessageStep::None;
+    state.intFRStep = FriendStep::Submit;
 }
 
 void HandleCommenterErrorPage(App& app) {
@@ -81,13 +83,13 @@ void HandleCommenterErrorPage(App& app) {
     TraceErrorPage(app, u"Maint: "_s);
     if (state.blnDailyLimitHit) {
         state.blnDailyLimitHit = false;
-        state.intComStep = 0;
+        state.intComStep = CommentStep::None;
         app.commands.Run(u"picCmdComStop_Click"_s);
         return;
     }
-    if (state.intComStep != 8)
+    if (state.intComStep != CommentStep::AfterSend)
         state.blnSkipCurrentID = true;
-    state.intComStep = 8;
+    state.intComStep = CommentStep::AfterSend;
     app.Get<StopResume>().ResumeNext();
 }
 

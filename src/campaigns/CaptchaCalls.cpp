@@ -5,6 +5,7 @@
 #include "browser/PageSigns.h"
 #include "core/App.h"
 #include "core/Text.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 namespace qlm {
@@ -53,8 +54,7 @@ void CaptchaCalls::CallUser() {
     m_app.SetStatus(WaitingForUser);
     if (m_app.controls.Ticked("mnuCaptchaPopup"_L1))
         m_app.ShowMessage(u"Please enter the CAPTCHA code to continue"_s);
-    if (!m_app.waiting.IsCurrent(mark))
-        return;
+    m_app.waiting.LeaveUnlessCurrent(mark);
     if (m_app.controls.Ticked("mnuCaptchaRestoreIfMinimized"_L1))
         attention.RestoreWindow();
     FocusAnswerField();
@@ -102,7 +102,7 @@ void CaptchaCalls::MessagingCAPTCHAReached() {
             m_app.SetStatus(u"Message sent, waiting for confirmation page..."_s);
             m_app.timers->tmrAutoResume.Restart();
             state.blnWaitingForCaptcha = false;
-            state.intMsgStep = 8;
+            state.intMsgStep = MessageStep::AfterSend;
             state.strLinkType = u"Text"_s;
             state.strLinkValue = MessageSent;
             state.blnLinkFound = false;
@@ -110,7 +110,7 @@ void CaptchaCalls::MessagingCAPTCHAReached() {
             return;
         }
         m_app.diagnostics.DebugForAction(m_app.WebBrowser1().Document().BodyHTML());
-        state.intMsgStep = 8;
+        state.intMsgStep = MessageStep::AfterSend;
         m_app.Get<StopResume>().ResumeNext();
     });
 }

@@ -27,8 +27,7 @@ void GoOnInChain(App& app) {
     if (app.controls.Ticked("chkSaveScanned"_L1))
         app.Get<GatheredList>().FillScannedList(app.Get<GatheredList>().ScopedPath(), true, false);
     // A long list takes a while, in which the user may have pressed Stop.
-    if (app.state.CurrentAction != u"LOGIN"_s)
-        return;
+    app.waiting.LeaveIfObsolete();
     app.state.CurrentAction.clear();
     for (const ChainedStart& start : ChainedStarts)
         if (app.state.ChainedCampaign == start.campaign)

@@ -4,6 +4,7 @@
 #include "browser/Cover.h"
 #include "browser/PageSigns.h"
 #include "campaigns/Pacing.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/SettingsFields.h"
 #include "core/Text.h"
@@ -54,7 +55,7 @@ bool FriendCategories::IsCurrent(int entry) const {
 }
 
 void FriendCategories::piccmdFRRefreshCategories_Click() {
-    if (m_app.state.CurrentAction == u"LOGIN"_s) {
+    if (m_app.state.CurrentAction == ActivityWord::Login) {
         m_app.ShowMessage(u"Please wait for the login process to finish"_s);
         return;
     }

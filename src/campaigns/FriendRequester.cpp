@@ -5,11 +5,13 @@
 #include "campaigns/Pacing.h"
 #include "campaigns/SendRuns.h"
 #include "campaigns/StartChecks.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/SettingsFields.h"
 #include "core/Text.h"
 #include "gather/ProfileFilters.h"
 #include "steps/RunReport.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 namespace qlm {
@@ -31,11 +33,21 @@ bool IsBusyBrowser(const QString& error) {
 
 } // namespace
 
-const FriendRequester::State FriendRequester::States[] = {
-    {5, &FriendRequester::TakeNextTarget}, {6, &FriendRequester::EndRun},
-    {7, &FriendRequester::DecideFilter},   {8, &FriendRequester::SubmitFriend},
-    {9, &FriendRequester::AfterSend},
-};
+const StepMachine<FriendRequester>& FriendRequester::Machine() {
+    static const StepMachine<FriendRequester> machine{
+        .word = ActivityWord::FriendRequests,
+        .step = &RunState::intFRStep,
+        .procedure = "IterateAddFriends",
+        .begin = &FriendRequester::BeginStep,
+        .states = {{FriendStep::NextTarget, &FriendRequester::TakeNextTarget},
+                   {FriendStep::End, &FriendRequester::EndRun},
+                   {FriendStep::DecideFilter, &FriendRequester::DecideFilter},
+                   {FriendStep::Submit, &FriendRequester::SubmitFriend},
+                   {FriendStep::AfterSend, &FriendRequester::AfterSend}},
+        .errorData = nullptr,
+    };
+    return machine;
+}
 
 FriendRequester::FriendRequester(App& app) : m_app(app), m_categories(app) {
     app.commands.Add(u"frmTempMySpaceErrorFR.cmdOK_Click"_s, [this] {
@@ -61,10 +73,6 @@ void FriendRequester::NoticeErrorRedirect() {
     m_app.platform.Dialogs().ShowForm(u"frmTempMySpaceErrorFR"_s);
 }
 
-bool FriendRequester::IsCurrent(qint32 target) const {
-    return m_app.state.CurrentAction == u"FR"_s && m_app.state.lngTargetNumber == target;
-}
-
 void FriendRequester::Await(const QString& type, const QString& value) {
     m_app.state.strLinkType = type;
     m_app.state.strLinkValue = value;
@@ -72,75 +80,49 @@ void FriendRequester::Await(const QString& type, const QString& value) {
 }
 
 void FriendRequester::IterateAddFriends() {
-    while (m_app.state.CurrentAction == u"FR"_s) {
-        const QString error = m_app.diagnostics.Trap("IterateAddFriends", [this] {
-            while (RunStep() == Next::Again)
-                continue;
-        });
-        if (error.isEmpty())
-            return;
-        if (!IsBusyBrowser(error)) {
-            // The page is looked at again; an empty one for long repeats the step.
-            if (m_app.state.CurrentAction == u"FR"_s)
-                m_app.timers->tmrCheckLinkLoaded.Restart();
-            return;
-        }
-        if (!WaitForBusyBrowser())
-            return;
-    }
+    QString error;
+    do
+        error = RunSteps(m_app, *this, Machine());
+    while (IsBusyBrowser(error) && WaitForBusyBrowser());
+    // The page is looked at again; an empty one for long repeats the step.
+    if (!error.isEmpty() && !IsBusyBrowser(error))
+        m_app.timers->tmrCheckLinkLoaded.Restart();
 }
 
 // False when the run has moved on or ended meanwhile.
 bool FriendRequester::WaitForBusyBrowser() {
-    const qint32 target = m_app.state.lngTargetNumber;
-    const qint16 step = m_app.state.intFRStep;
-    m_app.waiting.WaitWhile([this, target] { return IsCurrent(target); }, BusyBrowserSeconds);
-    if (!IsCurrent(target) || m_app.state.intFRStep != step)
+    const RunMark mark = m_app.waiting.Mark();
+    m_app.waiting.WaitWhile([this, &mark] { return m_app.waiting.IsCurrent(mark); }, BusyBrowserSeconds);
+    if (!m_app.waiting.IsCurrent(mark))
         return false;
     // A target that could not be opened is taken again.
-    if (step == 5)
+    if (m_app.state.intFRStep == FriendStep::NextTarget)
         m_app.Get<SendRuns>().MoveCursorBack();
     return true;
 }
 
-FriendRequester::Next FriendRequester::RunStep() {
-    RunState& state = m_app.state;
-    if (state.CurrentAction != u"FR"_s)
-        return Next::Wait;
-    state.strLastPageText.clear();
-    state.strLastPageHref.clear();
+void FriendRequester::BeginStep() {
+    m_app.state.strLastPageText.clear();
+    m_app.state.strLastPageHref.clear();
     m_app.WebBrowser1().SetSilent(true);
     m_app.webHide().SetSilent(true);
-    for (const State& each : States)
-        if (each.step == state.intFRStep)
-            return (this->*each.run)();
-    return Next::Wait;
 }
 
-FriendRequester::Next FriendRequester::TakeNextTarget() {
+Next FriendRequester::TakeNextTarget() {
     m_app.state.blnWaitingForCaptcha = false;
     m_app.Get<Cover>().Hide();
     m_movedToEnd = false;
-    switch (m_app.Get<SendRuns>().TakeTarget(u"IterateAddFriends - 1"_s)) {
-    case SendRuns::Took::Target:
+    if (m_app.Get<SendRuns>().TakeTarget(u"IterateAddFriends - 1"_s))
         return OpenTarget();
-    case SendRuns::Took::Obsolete:
-        return Next::Wait;
-    case SendRuns::Took::End:
-        break;
-    }
-    m_app.state.intFRStep = 6;
+    m_app.state.intFRStep = FriendStep::End;
     return Next::Again;
 }
 
-FriendRequester::Next FriendRequester::OpenTarget() {
-    const qint32 target = m_app.state.lngTargetNumber;
+Next FriendRequester::OpenTarget() {
     m_app.Get<RunReport>().Open(m_app.state.strCurrentID);
     m_app.WebBrowser1().Navigate(u"about:blank"_s);
     m_app.Get<SendRuns>().MoveCursor();
     m_app.waiting.Pump();
-    if (!IsCurrent(target))
-        return Next::Wait;
     if (m_app.Get<ProfileFilters>().ActiveWhenSending())
         OpenProfile();
     else
@@ -153,7 +135,7 @@ void FriendRequester::OpenProfile() {
     m_app.SetStatus(u"Navigating to ID "_s + id +
                     u"'s profile page to see if it matches your filter settings..."_s);
     m_app.WebBrowser1().Navigate(m_app.Expand(u"{SiteRootHost}/"_s) + id + u"/classic"_s);
-    m_app.state.intFRStep = 7;
+    m_app.state.intFRStep = FriendStep::DecideFilter;
     Await(u"Text"_s, u"View"_s);
     m_app.timers->tmrCheckLinkLoaded.Restart();
 }
@@ -166,7 +148,7 @@ void FriendRequester::OpenRequestPage() {
                              ? u"{SiteRootHost}/my/friends/addtofriends/"_s
                              : u"{FriendsHost}/index.cfm?fuseaction=invite.addfriend_verify&friendID="_s;
     m_app.WebBrowser1().Navigate(m_app.Expand(page) + id);
-    m_app.state.intFRStep = 8;
+    m_app.state.intFRStep = FriendStep::Submit;
     if (newLayout)
         Await(u"Text"_s, u"Request Sent!"_s);
     else
@@ -174,33 +156,27 @@ void FriendRequester::OpenRequestPage() {
     m_app.timers->tmrCheckLinkLoaded.Restart();
 }
 
-FriendRequester::Next FriendRequester::EndRun() {
+Next FriendRequester::EndRun() {
     m_app.Get<SendRuns>().Finish(u"IAF"_s);
     return Next::Wait;
 }
 
-FriendRequester::Next FriendRequester::DecideFilter() {
+Next FriendRequester::DecideFilter() {
     RunState& state = m_app.state;
-    const qint32 target = state.lngTargetNumber;
     m_app.Get<Cover>().Hide();
-    const bool passes = m_app.Get<ProfileFilters>().IsFilteredProfile();
-    if (!IsCurrent(target) || state.intFRStep != 7)
-        return Next::Wait;
-    if (!passes) {
+    if (!m_app.Get<ProfileFilters>().IsFilteredProfile()) {
         ++state.lngFilteredCount;
         m_app.Get<RunReport>().Close(ReportResult::Skipped, u"Doesn't match your filter settings"_s);
         m_app.Get<SendRuns>().ShowCounts();
         m_app.ClearPage();
-        if (!IsCurrent(target))
-            return Next::Wait;
         m_app.Get<SendRuns>().RemoveUsedTarget(u"IterateAddFriends - 2"_s);
-        state.intFRStep = 5;
+        state.intFRStep = FriendStep::NextTarget;
         return Next::Again;
     }
     m_app.SetStatus(u"ID "_s + state.strCurrentID +
                     u" matches your filter settings, proceeding to send friend request..."_s);
     // Unlike the direct way, this one uses the new address on both layouts.
-    state.intFRStep = 8;
+    state.intFRStep = FriendStep::Submit;
     Await(u"Text"_s, u"Request Sent!"_s);
     m_app.WebBrowser1().Navigate(m_app.Expand(u"{SiteRootHost}/my/friends/addtofriends/"_s) +
                                  state.strCurrentID);
@@ -208,12 +184,12 @@ FriendRequester::Next FriendRequester::DecideFilter() {
     return Next::Wait;
 }
 
-FriendRequester::Next FriendRequester::AfterSend() {
+Next FriendRequester::AfterSend() {
     const RunState& state = m_app.state;
     CloseReport();
     const bool messageFollows =
         m_app.controls.Ticked("chkFrSendMessage"_L1) && !state.blnFRSkipMessage && !state.blnSkipRequested;
-    return messageFollows ? SendMessageBehind() : GoOnBehindTarget();
+    return messageFollows ? SendMessageAfter() : GoOnAfterTarget();
 }
 
 // A request that was logged has its result already.
@@ -228,16 +204,13 @@ void FriendRequester::CloseReport() {
         report.Close(ReportResult::Failed, u"You pressed Skip"_s);
 }
 
-FriendRequester::Next FriendRequester::GoOnBehindTarget() {
+Next FriendRequester::GoOnAfterTarget() {
     RunState& state = m_app.state;
-    const qint32 target = state.lngTargetNumber;
-    state.intFRStep = 5;
+    state.intFRStep = FriendStep::NextTarget;
     const bool givenUp = state.blnSkipCurrentID || state.blnSkipRequested;
     if (!givenUp) {
         m_app.SetStatus(u"Friend request successfully sent"_s);
         m_app.Get<Pacing>().DoDelay();
-        if (!IsCurrent(target))
-            return Next::Wait;
     } else if (!m_movedToEnd) {
         ++state.lngFailedCount;
         m_app.Get<SendRuns>().ShowCounts();
@@ -249,20 +222,17 @@ FriendRequester::Next FriendRequester::GoOnBehindTarget() {
     return Next::Again;
 }
 
-FriendRequester::Next FriendRequester::SendMessageBehind() {
+Next FriendRequester::SendMessageAfter() {
     RunState& state = m_app.state;
-    const qint32 target = state.lngTargetNumber;
     state.blnMsgAfterFR = true;
-    state.intFRStep = 0;
-    state.intMsgStep = 7;
+    state.intFRStep = FriendStep::None;
+    state.intMsgStep = MessageStep::Submit;
     m_app.SetStatus(u"Friend request successfully sent"_s);
     m_app.Get<Pacing>().DoDelay();
-    if (!IsCurrent(target))
-        return Next::Wait;
     // The message step moves the cursor on.
     if (!m_app.controls.Ticked("chkRemoveAfterSent"_L1))
         --state.intCurrentIDIndex;
-    state.CurrentAction = u"MSG"_s;
+    state.CurrentAction = ActivityWord::Messages;
     m_app.SetStatus(u"Proceeding to send message after friend request..."_s);
     Await(u"Button"_s, u"send"_s);
     const QString page = state.blnNewLayout

@@ -6,6 +6,7 @@
 #include "core/Text.h"
 #include "steps/StopResume.h"
 
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 
 #include <cmath>
@@ -43,18 +44,14 @@ void Pacing::UpdateTimeDelayLabel() {
 
 void Pacing::DoDelay() {
     RunState& state = m_app.state;
-    const RunMark mark = m_app.waiting.Mark();
     m_app.diagnostics.Trap("DoDelay", [this, &state] {
+        const auto label = qScopeGuard([this] { UpdateTimeDelayLabel(); });
         state.blnInDelay = true;
         m_app.diagnostics.DebugForAction(u"Delay start - "_s + QString::number(state.lngTimeDelayFrom) +
                                          u", "_s + QString::number(state.lngTimeDelayTo));
         if (state.lngTimeDelayFrom != 0 || state.lngTimeDelayTo != 0)
             WaitCovered();
     });
-    UpdateTimeDelayLabel();
-    // The hold that a stop has set is the last word, and the next run's delay is its own.
-    if (!m_app.waiting.IsCurrent(mark))
-        return;
     m_app.Get<StopResume>().ResumeLinkCheck();
     m_app.diagnostics.DebugForAction(u"Delay finished"_s);
     state.blnInDelay = false;
@@ -69,7 +66,6 @@ void Pacing::WaitCovered() {
 }
 
 void Pacing::CountDown(qint64 lengthSeconds) {
-    const RunMark mark = m_app.waiting.Mark();
     const qint64 startMs = m_app.Pump().NowMs();
     qint64 shown = -1;
     qint64 remaining = lengthSeconds;
@@ -81,7 +77,7 @@ void Pacing::CountDown(qint64 lengthSeconds) {
             m_app.controls.SetText("lblTimeDelay"_L1, u"Time Delay: "_s + LeadingZero(remaining / 60) + u':' +
                                                           LeadingZero(remaining % 60));
         shown = remaining;
-    } while (remaining >= 1 && m_app.state.blnInDelay && m_app.waiting.IsCurrent(mark));
+    } while (remaining >= 1 && m_app.state.blnInDelay);
 }
 
 } // namespace qlm

@@ -14,8 +14,7 @@ class Pacing {
 public:
     explicit Pacing(App& app);
 
-    // Blocks its caller, the message loop turning, for a random time within the bounds. Skip and every stop
-    // end it; the caller then has to look whether its run is still there.
+    // Blocks its step, the message loop turning, for a random time within the bounds, or until Skip.
     void DoDelay();
     void UpdateTimeDelayLabel();
     // Reads TimeDelayFrom and TimeDelayTo; what cannot be read counts as 0.

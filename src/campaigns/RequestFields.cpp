@@ -4,8 +4,10 @@
 #include "browser/PageSigns.h"
 #include "campaigns/SentLog.h"
 #include "campaigns/TargetName.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/Text.h"
+#include "steps/Steps.h"
 
 namespace qlm {
 
@@ -71,7 +73,8 @@ void RequestFields::ApplyCategory() {
         const RunState& state = m_app.state;
         const qint32 target = state.lngTargetNumber;
         auto isStillAt = [&] {
-            return state.CurrentAction == u"FR"_s && state.intFRStep == 8 && state.lngTargetNumber == target;
+            return state.CurrentAction == ActivityWord::FriendRequests &&
+                   state.intFRStep == FriendStep::Submit && state.lngTargetNumber == target;
         };
         m_app.SetStatus(u"Waiting for categories to load on page..."_s);
         m_app.Get<PageSigns>().ClickLink(u"OuterHTML"_s, u"ShowHideCatsLnk"_s);
@@ -94,7 +97,7 @@ bool RequestFields::ClickRequestButton() {
         for (const Element& input : m_app.WebBrowser1().Document().GetElementsByTagName(u"input"_s)) {
             if (!IsRequestButton(input))
                 continue;
-            m_app.state.intFRStep = 9;
+            m_app.state.intFRStep = FriendStep::AfterSend;
             m_app.Get<SentLog>().WriteLogEntry();
             input.Click();
             clicked = true;

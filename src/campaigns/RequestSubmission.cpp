@@ -9,6 +9,7 @@
 #include "core/App.h"
 #include "gather/GatheredList.h"
 #include "steps/RunReport.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 #include <utility>
@@ -24,17 +25,14 @@ constexpr int SkippedCaptchasInARow = 3;
 const QString WrongAnswer = u"Security code does not match"_s;
 } // namespace
 
-FriendRequester::Next FriendRequester::SubmitFriend() {
+Next FriendRequester::SubmitFriend() {
     RunState& state = m_app.state;
     PageSigns& page = m_app.Get<PageSigns>();
-    const qint32 target = state.lngTargetNumber;
     page.WaitForDocument();
-    if (!IsCurrent(target))
-        return Next::Wait;
     const bool captcha = page.IsCaptchaPage();
     if (captcha && !state.blnWaitingForCaptcha) {
         if (MayPutTargetOff())
-            return PutTargetOff(target);
+            return PutTargetOff();
         state.intCaptchaSkips = 0;
         m_app.Get<CaptchaCalls>().CallUser();
     } else if (page.IsRequestSentPage()) {
@@ -44,9 +42,9 @@ FriendRequester::Next FriendRequester::SubmitFriend() {
         // The site has refused the answer; the user is there already.
         m_app.Get<CaptchaCalls>().FocusAnswerField();
     } else {
-        return LookAgain(target);
+        return LookAgain();
     }
-    return IsCurrent(target) ? GoOnBehindSubmit(target) : Next::Wait;
+    return GoOnAfterSubmit();
 }
 
 // Once a target: a disk that refuses is not asked again at each turn of a wait.
@@ -69,7 +67,7 @@ bool FriendRequester::RequestWasSent() {
     NoteConfirmation();
     if (!m_app.Get<Counters>().AddFriendCount())
         return false;
-    state.intFRStep = 9;
+    state.intFRStep = FriendStep::AfterSend;
     const bool logged = m_app.Get<SentLog>().WriteLogEntry();
     m_app.Get<RunReport>().Close(logged ? ReportResult::Sent : ReportResult::SentNotLogged,
                                  logged ? QString() : u"The log could not be written"_s);
@@ -78,18 +76,16 @@ bool FriendRequester::RequestWasSent() {
 
 // Neither a confirmation nor a CAPTCHA: the page may still be building. The older one has a button of its
 // own, which nobody but the user presses.
-FriendRequester::Next FriendRequester::LookAgain(qint32 target) {
+Next FriendRequester::LookAgain() {
     m_app.diagnostics.DebugForAction(m_app.WebBrowser1().Document().BodyHTML());
-    WaitNoting(target, UnknownPageSeconds);
-    if (!IsCurrent(target))
-        return Next::Wait;
+    WaitNoting(UnknownPageSeconds);
     if (AwaitsProfile()) {
         m_app.state.blnWaitingForCaptcha = false;
-        m_app.state.intFRStep = 7;
+        m_app.state.intFRStep = FriendStep::DecideFilter;
         return Next::Again;
     }
     if (!m_app.state.blnNewLayout)
-        return GoOnBehindSubmit(target);
+        return GoOnAfterSubmit();
     m_app.state.blnLinkFound = false;
     m_app.timers->tmrCheckLinkLoaded.Restart();
     return Next::Wait;
@@ -100,10 +96,10 @@ bool FriendRequester::AwaitsProfile() const {
     return m_app.state.strLinkType == u"Text"_s && m_app.state.strLinkValue == u"View"_s;
 }
 
-FriendRequester::Next FriendRequester::GoOnBehindSubmit(qint32 target) {
+Next FriendRequester::GoOnAfterSubmit() {
     const RunState& state = m_app.state;
     if (state.blnNewLayout)
-        return state.blnWaitingForCaptcha ? WaitForAnswer(target) : Next::Again;
+        return state.blnWaitingForCaptcha ? WaitForAnswer() : Next::Again;
     if (state.blnHoldLinkCheck)
         return Next::Wait;
     if (!state.blnWaitingForCaptcha)
@@ -125,18 +121,16 @@ bool FriendRequester::MayPutTargetOff() {
     return ++m_app.state.intCaptchaSkips < SkippedCaptchasInARow;
 }
 
-FriendRequester::Next FriendRequester::PutTargetOff(qint32 target) {
+Next FriendRequester::PutTargetOff() {
     RunState& state = m_app.state;
     MoveTargetToEnd();
     m_movedToEnd = true;
     m_app.Get<Cover>().Clear();
     m_app.ClearPage();
-    if (!IsCurrent(target))
-        return Next::Wait;
     if (m_app.controls.Ticked("chkFrSendMessage"_L1))
         state.blnFRSkipMessage = true;
     state.blnSkipRequested = true;
-    state.intFRStep = 9;
+    state.intFRStep = FriendStep::AfterSend;
     m_app.Get<StopResume>().ResumeNext();
     return Next::Wait;
 }
@@ -158,11 +152,10 @@ void FriendRequester::MoveTargetToEnd() {
 }
 
 // No page check runs in the waits of the step, and the page may be gone when Stop or Skip ends one.
-void FriendRequester::WaitNoting(qint32 target, int seconds) {
+void FriendRequester::WaitNoting(int seconds) {
     m_app.waiting.WaitWhile(
         [&] {
-            if (IsCurrent(target))
-                NoteWhenConfirmed();
+            NoteWhenConfirmed();
             return !m_app.state.blnHoldLinkCheck;
         },
         seconds + 1);
@@ -173,12 +166,11 @@ void FriendRequester::NoteWhenConfirmed() {
         NoteConfirmation();
 }
 
-FriendRequester::Next FriendRequester::WaitForAnswer(qint32 target) {
+Next FriendRequester::WaitForAnswer() {
     RunState& state = m_app.state;
     PageSigns& page = m_app.Get<PageSigns>();
-    auto goesOn = [this, target, &state] { return IsCurrent(target) && !state.blnHoldLinkCheck; };
     m_app.waiting.WaitFor(u"you to answer the CAPTCHA"_s, [&] {
-        if (!goesOn() || !page.IsCaptchaPage())
+        if (state.blnHoldLinkCheck || !page.IsCaptchaPage())
             return false;
         // A word that the site refuses brings another page.
         m_app.Get<CaptchaCalls>().FocusAnswerField();
@@ -186,13 +178,11 @@ FriendRequester::Next FriendRequester::WaitForAnswer(qint32 target) {
     });
     auto isComing = [&] { return m_app.WebBrowser1().ReadyState() != 4 && !page.IsTextInPage(WrongAnswer); };
     m_app.waiting.WaitFor(u"the page to be complete"_s, [&] {
-        if (goesOn())
+        if (!state.blnHoldLinkCheck)
             NoteWhenConfirmed();
-        return goesOn() && isComing();
+        return !state.blnHoldLinkCheck && isComing();
     });
-    WaitNoting(target, SettledPageSeconds);
-    if (!IsCurrent(target))
-        return Next::Wait;
+    WaitNoting(SettledPageSeconds);
     if (state.blnHoldLinkCheck) {
         m_app.timers->tmrCheckLinkLoaded.Restart();
         return Next::Wait;
@@ -201,8 +191,6 @@ FriendRequester::Next FriendRequester::WaitForAnswer(qint32 target) {
         return Next::Again;
     const bool awaitsProfile = AwaitsProfile();
     m_app.ClearPage();
-    if (!IsCurrent(target))
-        return Next::Wait;
     if (awaitsProfile) {
         OpenProfile();
         return Next::Wait;

@@ -148,15 +148,14 @@ bool SendRuns::TargetLeft() const {
     return !m_app.Get<GatheredList>().IsEmpty() && index <= m_app.Get<GatheredList>().UBound();
 }
 
-SendRuns::Took SendRuns::TakeTarget(const QString& caller) {
+bool SendRuns::TakeTarget(const QString& caller) {
     while (TargetLeft()) {
         BeginTarget();
         if (!IsLogged())
-            return Took::Target;
-        if (!StayedBehindSkip(caller))
-            return Took::Obsolete;
+            return true;
+        PassOver(caller);
     }
-    return Took::End;
+    return false;
 }
 
 // A comment to a friend just accepted looks in the log only by the user's wish, and then always.
@@ -166,8 +165,7 @@ bool SendRuns::IsLogged() {
     return m_app.Get<SentLog>().LogEntryExists(m_app.state.strCurrentID, false, forced);
 }
 
-// Passes over the current target. False when the run has moved on or ended meanwhile.
-bool SendRuns::StayedBehindSkip(const QString& caller) {
+void SendRuns::PassOver(const QString& caller) {
     RunState& state = m_app.state;
     if (!m_app.Status().startsWith(u"Skipping"_s))
         m_app.SetStatus(u"Skipping ID's you've sent to before..."_s);
@@ -181,20 +179,16 @@ bool SendRuns::StayedBehindSkip(const QString& caller) {
     ShowCounts();
     AdvanceAfterUse(caller);
     if (state.lngSkippedCount % SkipsBetweenPumps != 0)
-        return true;
-    const qint32 target = state.lngTargetNumber;
-    const QString action = state.CurrentAction;
+        return;
     m_app.Get<StopResume>().PauseLinkCheck();
     m_app.waiting.Pump();
-    if (state.CurrentAction != action || state.lngTargetNumber != target)
-        return false;
     m_app.Get<StopResume>().ResumeLinkCheck();
-    return true;
 }
 
 void SendRuns::BeginTarget() {
     RunState& state = m_app.state;
     ++state.lngTargetNumber;
+    m_app.waiting.OwnTarget();
     const bool accepting = Accepting();
     const QStringList& accepted = m_app.controls.Items("lstAcceptIDs"_L1);
     const qsizetype total = accepting ? accepted.size() : state.arrFriendIDs.size();

@@ -24,14 +24,9 @@ public:
     // run goes on instead.
     void Finish(const QString& reason);
 
-    enum class Took {
-        Target,  // strCurrentID is to be contacted
-        End,     // there is none left
-        Obsolete // the run has moved on or ended meanwhile
-    };
-    // The next target that isn't in the log; passes over the others without loading a page. caller is the
-    // trace word of a removal.
-    Took TakeTarget(const QString& caller);
+    // Takes the next target that isn't in the log, and passes over the others without loading a page. False
+    // when none is left. caller is the trace word of a removal.
+    bool TakeTarget(const QString& caller);
     // A target is left: yes unless the cursor is behind the end or the list is empty.
     bool TargetLeft() const;
     // Takes the target under the cursor into strCurrentID.
@@ -57,7 +52,7 @@ private:
     void ReturnToAccepting();
     bool Accepting() const;
     bool IsLogged();
-    bool StayedBehindSkip(const QString& caller);
+    void PassOver(const QString& caller);
 
     App& m_app;
     LogDialog m_logDialog;

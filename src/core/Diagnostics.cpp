@@ -141,6 +141,11 @@ void Diagnostics::ReportError(const QString& procedure, const std::exception& er
     }
 }
 
+void Diagnostics::LeaveFurther() const {
+    if (m_app.waiting.IsOwned())
+        throw;
+}
+
 void Diagnostics::TellUser(const QString& error) {
     if (m_shown) {
         const QString line =

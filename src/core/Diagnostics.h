@@ -34,13 +34,15 @@ public:
                      const QString& data = {});
 
     // Runs the body of a procedure; an exception is reported under the procedure's name and ends it there.
-    // Answers the error's text, empty when the body ran through or its run has ended.
+    // Answers the error's text, empty when the body ran through or its run has ended; from within a step that
+    // goes on to the edge of its machine.
     template <typename Body> QString Trap(const char* procedure, Body&& body) {
         try {
             body();
         } catch (const ProgramEnding&) {
             throw;
         } catch (const RunEnded&) {
+            LeaveFurther();
             return {};
         } catch (const std::exception& error) {
             ReportError(QString::fromLatin1(procedure), error);
@@ -55,6 +57,7 @@ public:
         } catch (const ProgramEnding&) {
             throw;
         } catch (const RunEnded&) {
+            LeaveFurther();
             return {};
         } catch (const std::exception& error) {
             ReportError(QString::fromLatin1(procedure), error, {}, data());
@@ -66,6 +69,8 @@ public:
     template <typename Body, typename Handler> static void Guard(Body&& body, Handler&& onError) {
         try {
             body();
+        } catch (const RunEnded&) {
+            throw;
         } catch (const std::exception& error) {
             onError(error);
         }
@@ -76,6 +81,8 @@ public:
     template <typename Body> static void IgnoreErrors(Body&& body) {
         try {
             body();
+        } catch (const RunEnded&) {
+            throw;
         } catch (const std::exception&) {
             return;
         }
@@ -101,6 +108,8 @@ public:
 
 private:
     void TellUser(const QString& error);
+    // Within a step, throws on what is being caught.
+    void LeaveFurther() const;
 
     App& m_app;
     PasswordMask m_mask;

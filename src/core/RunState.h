@@ -9,25 +9,10 @@
 
 namespace qlm {
 
-// The run state of the program: plain fields, read and written by every step. One instance, owned by the App;
-// there is no other copy of any of it. StopAll clears what belongs to a run.
-struct RunState {
-    // Folders and the account in use.
-    QString DataFolder;
-    QString ProgramFolder; // the installation folder when it is writable, otherwise DataFolder
-    QString ErrorLogPath;
-    QString ServerBaseURL;
-    QString AccountEmail; // trimmed and lower case
-    QString AccountPassword;
-    QString MyProfileID; // digits; empty until read
-    bool blnLoggingEnabled = false;
-    bool blnWaitForLoginFirst = false;
-    bool blnNewVersionAvailable = false;
-
+// What belongs to a run: a stop clears all of it in one assignment.
+struct RunFields {
     // The running activity and its step. Values 16 bit, 0 at rest.
     QString CurrentAction;
-    qint32 lngRunNumber =
-        0; // counts starts and stops; a step that finds another number behind a wait is obsolete
     qint16 intGatherStep = 0;
     qint16 intFRStep = 0;
     qint16 intMsgStep = 0;
@@ -47,6 +32,55 @@ struct RunState {
     QString strLastPageHref;
     bool blnLastPageAsHTML = false;
     bool blnForceAdvance = false;
+
+    // Decisions about the profile being worked on.
+    QString strCurrentID;
+    bool blnSkipCurrentID = false; // the page or a step has decided that it is done with
+    bool blnSkipRequested = false; // the user pressed Skip
+    bool blnInDelay = false;
+
+    // Gathering.
+    QString strNextPageLink;
+    bool blnClickNextLink = false;
+    bool blnComparingIDs = false;
+    bool blnRetryGatherPage = false;
+    qint32 lngPageScanOffset = 0;
+    qint16 intGatherRetryTicks = 0;
+
+    // Sending.
+    QString strFRResumeURL; // the request page to go back to behind a message
+    qint16 intFRLimitHits = 0;
+    qint16 intConfirmPolls = 0;
+    bool blnBulletinDeleting = false;
+    bool blnCommentFormShown = false;
+    bool blnBulletinWaiting = false;
+    bool blnStatusWaiting = false;
+    bool SwitchingAccount = false; // the next start of a campaign goes on behind a change of account
+
+    // What the tick waits for, for the line that tells of a long wait.
+    QString strWaitingFor;
+};
+
+// The run state of the program: plain fields, read and written by every step. One instance, owned by the App;
+// there is no other copy of any of it.
+struct RunState : RunFields {
+    // Folders and the account in use.
+    QString DataFolder;
+    QString ProgramFolder; // the installation folder when it is writable, otherwise DataFolder
+    QString ErrorLogPath;
+    QString ServerBaseURL;
+    QString AccountEmail; // trimmed and lower case
+    QString AccountPassword;
+    QString MyProfileID; // digits; empty until read
+    bool blnLoggingEnabled = false;
+    bool blnWaitForLoginFirst = false;
+    bool blnNewVersionAvailable = false;
+
+    // Which step waits: a wait that comes back to another number belongs to nobody any more.
+    qint32 lngRunNumber = 0;    // counts starts and stops
+    qint32 lngTargetNumber = 0; // counts the targets begun
+    qint32 lngEntryNumber = 0;  // counts how often a machine was entered
+
     bool blnLastPageTextSeen = false; // what the last check found of the two markers
     bool blnLastPageHrefSeen = false;
 
@@ -55,11 +89,6 @@ struct RunState {
     qint16 intBlankTicks = 0;
     qint16 intPageClass = 0; // class of the last classified page, 0 a normal one
 
-    // Decisions about the profile being worked on.
-    QString strCurrentID;
-    bool blnSkipCurrentID = false; // the page or a step has decided that it is done with
-    bool blnSkipRequested = false; // the user pressed Skip
-    bool blnInDelay = false;
     bool blnDailyLimitHit = false;
     bool blnWaitingForCaptcha = false;
 
@@ -70,8 +99,7 @@ struct RunState {
 
     // Chaining of accounts.
     bool blnChaining = false;
-    QString ChainedCampaign;       // "FR", "MSG" or "BUL"
-    bool SwitchingAccount = false; // the next start of a campaign goes on behind a change of account
+    QString ChainedCampaign; // "FR", "MSG" or "BUL"
 
     // Ending the program.
     bool blnExitWhenFinished = false;
@@ -87,8 +115,6 @@ struct RunState {
     qint32 lngFilteredCount = 0;
     qint32 lngFailedCount = 0;  // targets given up without success in this run
     qint32 lngRemovedCount = 0; // entries that this run has taken off the list
-    qint32 lngTargetNumber =
-        0; // counts the targets begun; a step that finds another number behind a wait is obsolete
     bool blnErrorRedirectTold = false;
     qint32 lngSessionFR = 0;
     qint32 lngSessionMsg = 0;
@@ -103,19 +129,12 @@ struct RunState {
     qint32 lngDailyAccepted = 0;
     qint32 lngDailyEventInvites = 0;
     qint32 lngDailyGroupInvites = 0;
-    QString strAcceptMode;  // not empty while an accept run borrows the message or comment steps
-    QString strFRResumeURL; // the request page to go back to behind a message
-    qint16 intFRLimitHits = 0;
+    QString strAcceptMode; // not empty while an accept run borrows the message or comment steps
     qint16 intCaptchaSkips = 0;
-    qint16 intConfirmPolls = 0;
     bool blnMsgAfterFR = false;
     bool blnFRSkipMessage = false;
     bool blnCommentUsedEditor = false;
-    bool blnBulletinDeleting = false;
-    bool blnCommentFormShown = false;
     bool blnSubmittingComment = false; // SubmitComment is on the stack
-    bool blnBulletinWaiting = false;
-    bool blnStatusWaiting = false;
     // Last line used of each content list. Never reset: a new run goes on where the last one stopped.
     qint16 intMessageListIndex = 0;
     qint16 intCommentListIndex = 0;
@@ -131,13 +150,7 @@ struct RunState {
     IdList arrBlacklistIDs{QString()};
 
     // Gathering.
-    QString strNextPageLink;
-    bool blnClickNextLink = false;
     QString strGatherStartURL;
-    bool blnComparingIDs = false;
-    bool blnRetryGatherPage = false;
-    qint32 lngPageScanOffset = 0;
-    qint16 intGatherRetryTicks = 0;
     IdList arrSeenLinks;
     QStringList lstAlreadyFullGatheredPageIDs;
     bool blnRememberLink = false;
@@ -170,8 +183,6 @@ struct RunState {
     QString IssueAlertTab;
     QString IssueAlertText;
 
-    // What the tick waits for, for the line that tells of a long wait.
-    QString strWaitingFor;
     QString ClosePopupResult;
 };
 

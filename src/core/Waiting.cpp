@@ -5,13 +5,40 @@
 #include "core/LongWait.h"
 
 #include <QScopedValueRollback>
+#include <utility>
 
 namespace qlm {
 
+Waiting::Scope::Scope(Waiting& waiting, std::optional<RunMark> owned)
+    : m_waiting(waiting), m_around(std::exchange(waiting.m_owned, owned)) {}
+
+bool Waiting::Scope::IsCurrent() const {
+    return m_waiting.m_owned == m_waiting.Mark();
+}
+
+RunMark Waiting::NextEntry() {
+    ++m_app.state.lngEntryNumber;
+    return Mark();
+}
+
+void Waiting::LeaveIfObsolete() const {
+    if (m_owned)
+        LeaveUnlessCurrent(*m_owned);
+}
+
+void Waiting::OwnTarget() {
+    if (m_owned)
+        m_owned = Mark();
+}
+
 void Waiting::Pump() {
-    m_app.platform.Pump().PumpMessages();
+    {
+        const Unowned handlers(*this);
+        m_app.platform.Pump().PumpMessages();
+    }
     if (m_app.state.blnClosing)
         throw ProgramEnding();
+    LeaveIfObsolete();
 }
 
 void Waiting::Turn() {
@@ -24,11 +51,7 @@ qint64 Waiting::SecondsSince(qint64 startMs) const {
 }
 
 RunMark Waiting::Mark() const {
-    return {m_app.state.lngRunNumber, m_app.state.lngTargetNumber};
-}
-
-bool Waiting::IsCurrent(const RunMark& mark) const {
-    return mark.run == m_app.state.lngRunNumber && mark.target == m_app.state.lngTargetNumber;
+    return {m_app.state.lngRunNumber, m_app.state.lngTargetNumber, m_app.state.lngEntryNumber};
 }
 
 void Waiting::LeaveUnlessCurrent(const RunMark& mark) const {

@@ -4,20 +4,24 @@
 #include <QString>
 #include <exception>
 #include <functional>
+#include <optional>
 
 namespace qlm {
 
 class App;
 class LongWait;
 
-// What a step has to find unchanged behind a wait: no stop and no start, and no other target, meanwhile.
+// What a step has to find unchanged after a wait: no stop and no start, no other target, and no later entry
+// into a machine, meanwhile.
 struct RunMark {
     qint32 run = 0;
     qint32 target = 0;
+    qint32 entry = 0;
+    bool operator==(const RunMark&) const = default;
 };
 
-// Thrown by a step that finds its run or its target gone, so that nothing more is done for it. It is no
-// error: traps end there and tell nobody.
+// Thrown by a wait that comes back to a run that is no longer its own, so that nothing more is done for it.
+// It is no error, and ends at the edge of the machine, or at the trap of who waits without one.
 class RunEnded : public std::exception {
 public:
     const char* what() const noexcept override { return "the run has ended"; }
@@ -29,11 +33,52 @@ class Waiting {
 public:
     explicit Waiting(App& app) : m_app(app) {}
 
+    // Until it goes, every wait of its procedure throws RunEnded when it comes back to another mark. What the
+    // turns of a wait deliver has nothing to do with it.
+    class Scope {
+    public:
+        ~Scope() { m_waiting.m_owned = m_around; }
+        Scope(const Scope&) = delete;
+        Scope& operator=(const Scope&) = delete;
+        bool IsCurrent() const;
+
+    protected:
+        Scope(Waiting& waiting, std::optional<RunMark> owned);
+
+    private:
+        Waiting& m_waiting;
+        const std::optional<RunMark> m_around;
+    };
+    // The steps of a machine: an earlier entry that still waits is obsolete.
+    struct Entry : Scope {
+        explicit Entry(Waiting& waiting) : Scope(waiting, waiting.NextEntry()) {}
+    };
+    // Whatever else belongs to the present run.
+    struct Owned : Scope {
+        explicit Owned(Waiting& waiting) : Scope(waiting, waiting.Mark()) {}
+    };
+    // Outlives its run, for what has to come to its end whatever happens. LeaveIfObsolete() after it.
+    struct Unowned : Scope {
+        explicit Unowned(Waiting& waiting) : Scope(waiting, std::nullopt) {}
+    };
+    // The edge of a machine: whoever leaves a run that has ended comes out here.
+    template <typename Body> static void LeaveHere(Body&& body) {
+        try {
+            body();
+        } catch (const RunEnded&) {
+            return;
+        }
+    }
+    bool IsOwned() const { return m_owned.has_value(); }
+    void LeaveIfObsolete() const; // throws RunEnded
+    // The step itself has taken up the next target.
+    void OwnTarget();
+
     void Turn();
     void Pump();
-    // Taken before a wait; behind it IsCurrent() tells whether the step may go on.
+    // Taken before a wait; after it IsCurrent() tells whether the step may go on.
     RunMark Mark() const;
-    bool IsCurrent(const RunMark& mark) const;
+    bool IsCurrent(const RunMark& mark) const { return mark == Mark(); }
     void LeaveUnlessCurrent(const RunMark& mark) const; // throws RunEnded
     // Whatever waits is obsolete from here on: its mark is none any more, and the page may move again.
     void OutdateSteps();
@@ -53,7 +98,10 @@ public:
     qint64 SecondsSince(qint64 startMs) const;
 
 private:
+    RunMark NextEntry();
+
     App& m_app;
+    std::optional<RunMark> m_owned; // by the innermost scope
     const LongWait* m_innermost = nullptr;
 };
 

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "gather/BlackList.h"
 
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "gather/GatherDriver.h"
 #include "gather/GatheredList.h"
 #include "gather/ListFiles.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 namespace qlm {
@@ -41,6 +43,7 @@ void BlackList::picRemoveFriends_Click() {
             return;
         m_app.diagnostics.Debug(u"debuggather.txt"_s, u"REMOVE FRIENDS START"_s, true);
         m_app.Get<StopResume>().StopAll(u"REMFR"_s);
+        const Waiting::Owned owned(m_app.waiting);
         m_app.SetStatus(u"Waiting for friends page to load..."_s);
         m_app.ClearPage();
         state.strGatherStartURL =
@@ -50,9 +53,9 @@ void BlackList::picRemoveFriends_Click() {
         m_app.controls.SetTicked("optScanFollowing"_L1, true);
         state.blnComparingIDs = true;
         m_app.Get<GatheredList>().SetScannedLabel();
-        state.CurrentAction = u"SCANNING"_s;
+        state.CurrentAction = ActivityWord::Gathering;
         state.blnHoldLinkCheck = false;
-        state.intGatherStep = 3;
+        state.intGatherStep = GatherStep::ScanPage;
         if (state.blnNewLayout) {
             m_app.Get<GatherDriver>().ScanPageToCome();
             return;

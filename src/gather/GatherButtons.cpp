@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/Text.h"
 #include "gather/GatherDriver.h"
@@ -63,7 +64,7 @@ bool GatherDriver::RefuseDuringLogin() {
 }
 
 bool GatherDriver::RefuseDuringAnyLogin() {
-    const bool refuse = m_app.state.CurrentAction == u"LOGIN"_s;
+    const bool refuse = m_app.state.CurrentAction == ActivityWord::Login;
     if (refuse)
         m_app.ShowMessage(u"Please wait for the login process to finish"_s);
     return refuse;

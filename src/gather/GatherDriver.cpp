@@ -2,6 +2,7 @@
 #include "gather/GatherDriver.h"
 
 #include "browser/PageSigns.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/Text.h"
 #include "gather/GatheredList.h"
@@ -9,15 +10,16 @@
 #include "gather/WebSearch.h"
 #include "steps/FullListRules.h"
 #include "steps/StepDispatcher.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
+
+#include <QScopeGuard>
 
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-constexpr qint16 StepScan = 3;
-constexpr qint16 StepTurn = 4;
 constexpr int SecondsBeforeRetry = 5;
 } // namespace
 
@@ -30,10 +32,6 @@ GatherDriver::GatherDriver(App& app) : m_app(app), m_standingPage(app) {
 
 void GatherDriver::Trace(const QString& text) {
     m_app.diagnostics.Debug(u"debuggather.txt"_s, text);
-}
-
-bool GatherDriver::Goes(int entry) const {
-    return m_app.state.CurrentAction == u"SCANNING"_s && entry == m_lastEntry;
 }
 
 QString GatherDriver::OptionsTrace() const {
@@ -55,7 +53,7 @@ void GatherDriver::picScanStart_Click() {
             return;
         m_app.Get<StopResume>().StopAll(u"GATHERSTART1"_s);
         m_app.Get<GatheredList>().SetScannedLabel();
-        state.CurrentAction = u"SCANNING"_s;
+        state.CurrentAction = ActivityWord::Gathering;
         state.strNextPageLink.clear();
         state.lstAlreadyFullGatheredPageIDs.clear();
         state.blnWaitingForCaptcha = false;
@@ -69,7 +67,7 @@ void GatherDriver::picScanStart_Click() {
         state.strLinkValue.clear();
         state.blnLinkFound = false;
         state.blnHoldLinkCheck = false;
-        state.intGatherStep = StepScan;
+        state.intGatherStep = GatherStep::ScanPage;
         m_pageIsToCome = false;
         IterateGatherProfiles();
     });
@@ -107,17 +105,26 @@ void GatherDriver::picScanStop_Click() {
     });
 }
 
+const StepMachine<GatherDriver>& GatherDriver::Machine() {
+    static const StepMachine<GatherDriver> machine{
+        .word = ActivityWord::Gathering,
+        .step = &RunState::intGatherStep,
+        .procedure = "IterateGatherProfiles",
+        .begin = &GatherDriver::BeginStep,
+        .states = {{GatherStep::ScanPage, &GatherDriver::ScanPage},
+                   {GatherStep::TurnPage, &GatherDriver::TurnPage}},
+        .errorData = &GatherDriver::Address,
+    };
+    return machine;
+}
+
+QString GatherDriver::Address() const {
+    return m_app.Get<PageSigns>().LocationURL();
+}
+
 void GatherDriver::IterateGatherProfiles() {
-    const int entry = BeginEntry();
     m_returnedToList = false;
-    const QString error = m_app.diagnostics.Trap(
-        "IterateGatherProfiles",
-        [this, entry] {
-            while (RunStep(entry) == Next::GoOn && Goes(entry)) {
-            }
-        },
-        [this] { return m_app.Get<PageSigns>().LocationURL(); });
-    if (!error.isEmpty() && Goes(entry))
+    if (!RunSteps(m_app, *this, Machine()).isEmpty())
         AwaitList();
 }
 
@@ -147,50 +154,54 @@ void GatherDriver::ReturnToList() {
     AwaitList();
 }
 
-GatherDriver::Next GatherDriver::RunStep(int entry) {
+void GatherDriver::BeginStep() {
     RunState& state = m_app.state;
     m_app.WebBrowser1().SetSilent(true);
     state.strLastPageText.clear();
     state.strLastPageHref.clear();
     state.blnLastPageAsHTML = false;
     Trace(u"IGP - "_s + m_app.NowText());
-    if (state.intGatherStep == StepScan)
-        return ScanPage(entry);
-    return state.intGatherStep == StepTurn ? TurnPage(entry) : Next::Return;
 }
 
-GatherDriver::Next GatherDriver::ScanPage(int entry) {
+Next GatherDriver::ScanPage() {
     RunState& state = m_app.state;
     Trace(u"IGP3.1 - Curr: "_s + OptionsTrace());
-    if (!WaitForPageToCome(entry) || !WaitForMailPage(entry))
-        return Next::Return;
+    WaitForPageToCome();
+    WaitForMailPage();
     state.blnCommentFormShown = false;
     m_app.SetStatus(state.blnComparingIDs ? u"Comparing ID's on the current page to the gathered list..."_s
                                           : u"Gathering ID's from the current page..."_s);
     m_app.waiting.Pump();
-    if (!Goes(entry))
-        return Next::Return;
-    // Asked now: a stop clears compare mode.
-    const bool filterPass = FilterPassWanted();
-    m_app.Get<LinkScanner>().GatherPageProfiles();
-    if (Goes(entry) && state.blnRetryGatherPage) {
-        m_app.waiting.WaitSeconds(SecondsBeforeRetry);
-        if (Goes(entry))
-            m_app.Get<LinkScanner>().GatherPageProfiles();
-    }
-    if (filterPass && entry == m_lastEntry && state.CurrentAction.isEmpty()) {
-        Trace(u"IGP3.2"_s);
-        m_app.Get<StopResume>().StopAll(u"IGP1"_s);
-    }
-    if (!Goes(entry))
-        return Next::Return;
+    GatherFromPage();
+    m_app.waiting.LeaveIfObsolete();
     state.blnRetryGatherPage = false;
     m_app.Get<GatheredList>().SetScannedLabel();
-    state.intGatherStep = StepTurn;
-    if (FilterPassWanted())
-        return ReturnFromFilterPass();
+    state.intGatherStep = GatherStep::TurnPage;
+    if (FilterPassWanted()) {
+        ReturnFromFilterPass();
+        return Next::Wait;
+    }
     Trace(u"IGP3.4"_s);
-    return Next::GoOn;
+    return Next::Again;
+}
+
+void GatherDriver::GatherFromPage() {
+    RunState& state = m_app.state;
+    // Asked now: a stop clears compare mode.
+    const bool filterPass = FilterPassWanted();
+    const qint32 entry = state.lngEntryNumber;
+    const auto stoppedWhileFiltering = qScopeGuard([&] {
+        if (!filterPass || entry != state.lngEntryNumber || !state.CurrentAction.isEmpty())
+            return;
+        Trace(u"IGP3.2"_s);
+        m_app.Get<StopResume>().StopAll(u"IGP1"_s);
+    });
+    m_app.Get<LinkScanner>().GatherPageProfiles();
+    m_app.waiting.LeaveIfObsolete();
+    if (!state.blnRetryGatherPage)
+        return;
+    m_app.waiting.WaitSeconds(SecondsBeforeRetry);
+    m_app.Get<LinkScanner>().GatherPageProfiles();
 }
 
 void GatherDriver::ScanPageToCome() {
@@ -198,35 +209,28 @@ void GatherDriver::ScanPageToCome() {
     IterateGatherProfiles();
 }
 
-bool GatherDriver::WaitForPageToCome(int entry) {
+void GatherDriver::WaitForPageToCome() {
     const auto isHere = [this] {
         return m_app.Get<PageSigns>().LocationURL() != u"about:blank"_s &&
                (m_app.WebBrowser1().ReadyState() == 4 || IsGatherPageComplete(m_app));
     };
     m_app.waiting.WaitFor(u"the page to be complete"_s, [&] {
-        if (!Goes(entry))
-            return false;
         Diagnostics::IgnoreErrors([&] { m_pageIsToCome = m_pageIsToCome && !isHere(); });
         return m_pageIsToCome;
     });
-    return Goes(entry);
 }
 
-bool GatherDriver::WaitForMailPage(int entry) {
+void GatherDriver::WaitForMailPage() {
     PageSigns& page = m_app.Get<PageSigns>();
     if (!page.AddressContains(u"http://{MessagingHost}/index.cfm?fuseaction=mail."_s) ||
         page.AddressContains(u"http://{MessagingHost}/index.cfm?fuseaction=mail.notifications"_s) ||
         page.AddressContains(u"V3"_s))
-        return true;
+        return;
     m_app.SetStatus(u"Waiting for the page to finish loading..."_s);
     Trace(u"IGP - waiting for page"_s);
     m_app.Get<StopResume>().PauseLinkCheck();
-    m_app.waiting.WaitFor(u"the page to be complete"_s,
-                          [&] { return Goes(entry) && m_app.WebBrowser1().ReadyState() < 4; });
-    if (!Goes(entry))
-        return false;
+    m_app.waiting.WaitFor(u"the page to be complete"_s, [&] { return m_app.WebBrowser1().ReadyState() < 4; });
     m_app.Get<StopResume>().ResumeLinkCheck();
-    return true;
 }
 
 bool GatherDriver::FilterPassWanted() const {
@@ -244,19 +248,16 @@ void GatherDriver::AwaitListOfIDs() {
 }
 
 // The visits have taken the browser away from the page: back to it, and on when its list stands again.
-GatherDriver::Next GatherDriver::ReturnFromFilterPass() {
+void GatherDriver::ReturnFromFilterPass() {
     RunState& state = m_app.state;
     Trace(u"IGP3.3"_s);
     if (m_app.Get<PageSigns>().LocationURL() != state.strGatherStartURL) {
         const QString url = state.strGatherStartURL;
-        const RunMark mark = m_app.waiting.Mark();
         m_app.ClearPage();
-        m_app.waiting.LeaveUnlessCurrent(mark);
         m_app.WebBrowser1().Navigate(url);
         m_app.SetStatus(u"Filtering finished... going back to where you were gathering from."_s);
     }
     AwaitList();
-    return Next::Return;
 }
 
 } // namespace qlm

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "gather/StandingPage.h"
+#include "steps/StepMachine.h"
 
 #include <QString>
 #include <functional>
@@ -9,9 +10,7 @@
 
 namespace qlm {
 
-class App;
-
-// The state machine of "SCANNING": scan the page, turn to the next, until there is none; and the buttons of
+// The state machine of gathering: scan the page, turn to the next, until there is none; and the buttons of
 // the tab.
 class GatherDriver {
 public:
@@ -19,9 +18,8 @@ public:
 
     void picScanStart_Click();
     void picScanStop_Click();
-    // The step routine: 3 scans the page in the browser, 4 turns it. In the new layout it goes on over all
-    // pages by itself; otherwise it returns and the tick enters it again. A later entry takes over from one
-    // that still waits.
+    // The step routine: scans the page in the browser, and turns it. In the new layout it goes on over all
+    // pages by itself; otherwise it returns and the tick enters it again.
     void IterateGatherProfiles();
     // The same once the page is there that the browser has just been sent to; what it shows until then is
     // not scanned.
@@ -41,29 +39,26 @@ public:
     bool RefuseDuringLogin();
     // During any login, whether the program must wait for it or not.
     bool RefuseDuringAnyLogin();
-    // For a gather that doesn't go over the pages in the browser: takes over from whatever still waits.
-    int BeginEntry() { return ++m_lastEntry; }
-    // False when the run is over or a later entry has taken over.
-    bool Goes(int entry) const;
     // Shows one of the prompts with a "Don't show again" box, unless it has been ticked. True when it was
     // shown.
     bool ShowPrompt(const QString& form);
 
 private:
-    // What a step answers: whether the next is to follow at once.
-    enum class Next { Return, GoOn };
+    static const StepMachine<GatherDriver>& Machine();
+    QString Address() const;
+    void BeginStep();
 
-    Next RunStep(int entry);
-    Next ScanPage(int entry);
-    bool WaitForPageToCome(int entry);
-    bool WaitForMailPage(int entry);
-    Next ReturnFromFilterPass();
+    Next ScanPage();
+    void WaitForPageToCome();
+    void WaitForMailPage();
+    void GatherFromPage();
+    void ReturnFromFilterPass();
     void AwaitList();
-    Next TurnPage(int entry);
-    void GrowInPlace(int entry);
+    Next TurnPage();
+    void GrowInPlace();
     void FinishGathering();
-    bool OpenNextPage(int entry);
-    bool ClickCaption(int entry);
+    bool OpenNextPage();
+    void ClickCaption();
     void SetMustNotHaveTexts();
     QString LastPageMarkup();
     bool WarnBeforeStart();
@@ -72,15 +67,15 @@ private:
     // The waits of WaitPageLoad: a kind of page, known by what its address contains, and its way of waiting.
     struct PageWait {
         const char16_t* address;
-        void (*wait)(GatherDriver& driver, int entry, const QString& oldURL);
+        void (*wait)(GatherDriver& driver, const QString& oldURL);
     };
     static const std::vector<PageWait>& PageWaits();
-    void WaitOnPage(int entry, const std::function<bool()>& stillWaiting);
-    void WaitPageLoad(int entry, const QString& oldURL);
-    void WaitForAddress(int entry, const QString& oldURL, const QString& markup, bool checkErrors);
-    void WaitForBrowsePage(int entry);
-    void WaitForChart(int entry, const QString& oldURL);
-    void WaitForOtherPage(int entry);
+    void WaitOnPage(const std::function<bool()>& stillWaiting);
+    void WaitPageLoad(const QString& oldURL);
+    void WaitForAddress(const QString& oldURL, const QString& markup, bool checkErrors);
+    void WaitForBrowsePage();
+    void WaitForChart(const QString& oldURL);
+    void WaitForOtherPage();
     bool LastPageStands();
 
     void Trace(const QString& text);
@@ -92,7 +87,6 @@ private:
     void ClosePrompt(const QString& form);
 
     App& m_app;
-    int m_lastEntry = 0;
     bool m_pageIsToCome = false;
     StandingPage m_standingPage;
     bool m_returnedToList = false; // and no step has run since

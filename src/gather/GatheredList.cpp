@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gather/GatheredList.h"
 
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/SettingsFields.h"
 #include "gather/ListFiles.h"
@@ -71,7 +72,7 @@ void GatheredList::Remove(qint32 index) {
 bool GatheredList::IsInList(const QString& id, bool fullGatherList) {
     if (fullGatherList)
         return m_app.state.lstAlreadyFullGatheredPageIDs.contains(id);
-    if (m_app.state.CurrentAction == u"ACC"_s)
+    if (m_app.state.CurrentAction == ActivityWord::Accepting)
         return m_app.controls.Items("lstAcceptIDs"_L1).contains(id);
     return m_app.state.arrFriendIDs.contains(id);
 }
@@ -102,6 +103,8 @@ QString GatheredList::ScopedPath() {
 }
 
 void GatheredList::FillScannedList(const QString& path, bool clearFirst, bool checkDuplicates) {
+    // A list that is read by half would be saved by half.
+    const Waiting::Unowned whole(m_app.waiting);
     m_app.diagnostics.Trap("FillScannedList", [&] {
         if (path.isEmpty() && !m_app.controls.Ticked("chkSaveScanned"_L1)) {
             m_app.state.blnFillingList = false;
@@ -146,6 +149,7 @@ bool GatheredList::SaveScannedList(const QString& path) {
 }
 
 bool GatheredList::WriteList(const QString& path, bool turns) {
+    const Waiting::Unowned whole(m_app.waiting);
     const QString error = m_app.diagnostics.Trap("SaveScannedList - form1", [&] {
         m_app.files.CreateFolder(QFileInfo(path).path());
         const IdList asItIs = turns ? m_app.state.arrFriendIDs : IdList();

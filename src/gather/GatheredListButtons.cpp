@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "gather/GatheredList.h"
 #include "gather/ListFiles.h"
+#include "steps/Activities.h"
 
 namespace qlm {
 
@@ -48,18 +50,17 @@ void GatheredList::Clear() {
 
 void GatheredList::Shuffle() {
     m_app.diagnostics.Trap("picRandomize_Click", [this] {
-        static const QStringList busy{u"FR"_s, u"SCANNING"_s, u"COM"_s, u"MSG"_s};
         RunState& state = m_app.state;
         if (RefuseWhileFilling())
             return;
-        if (busy.contains(state.CurrentAction)) {
+        if (const Activity* activity = FindActivity(state.CurrentAction); activity && activity->worksOnList) {
             m_app.ShowMessage(u"You cannot randomize the list of ID's while sending. Please stop the current "
                               "operation and try again."_s);
             return;
         }
         if (m_app.controls.Items("lstFriendIDs"_L1).isEmpty())
             return;
-        state.CurrentAction = u"RANDOMIZING"_s;
+        state.CurrentAction = ActivityWord::Shuffling;
         const auto pointer = ShowWaitPointer(m_app);
         // The list may change while the message loop turns; what is left of it is shuffled then.
         for (qint32 i = UBound(); i > 0; i = std::min(i - 1, UBound())) {
@@ -69,7 +70,7 @@ void GatheredList::Shuffle() {
                 m_app.waiting.Pump();
         }
         ArrayToListBox(u"Randomize"_s);
-        if (state.CurrentAction == u"RANDOMIZING"_s)
+        if (state.CurrentAction == ActivityWord::Shuffling)
             state.CurrentAction.clear();
     });
 }

@@ -4,6 +4,7 @@
 #include "browser/PageSigns.h"
 #include "browser/ProfileLinkRules.h"
 #include "browser/ScriptValues.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/Text.h"
 
@@ -40,7 +41,8 @@ BrowserControl& IdResolution::BrowserOf(const QString& name) const {
 
 bool IdResolution::MayFetch() const {
     return m_app.controls.Ticked("optFullGather"_L1) ||
-           m_app.controls.Ticked("optImportClickedProfiles"_L1) || m_app.state.CurrentAction == u"ACC"_s;
+           m_app.controls.Ticked("optImportClickedProfiles"_L1) ||
+           m_app.state.CurrentAction == ActivityWord::Accepting;
 }
 
 QString IdResolution::GetFriendIDFromLink(const Element& link) {
@@ -92,7 +94,7 @@ QString IdResolution::FetchWithNotice(JudgedLink& link) {
     const QString href = link.facts.Href();
     const QString name = NameToShow(link.facts.Text(), VanityName(href));
     Trace(u"GFID2 - "_s + name);
-    const bool accepting = m_app.state.CurrentAction == u"ACC"_s;
+    const bool accepting = m_app.state.CurrentAction == ActivityWord::Accepting;
     m_app.controls.SetText("ucpanelFullGatherIDNotify"_L1,
                            accepting ? u"Accepting Friend Requests"_s : u"Full Gather"_s);
     m_app.controls.SetText("lblFullGatherIDNotify"_L1,
@@ -105,6 +107,8 @@ QString IdResolution::FetchWithNotice(JudgedLink& link) {
 
 QString IdResolution::FetchFriendIDInBackground(const QString& href) {
     BrowserControl& browser = m_app.webHide();
+    // The hidden browser is left blank, however the run ends.
+    const Waiting::Unowned tidy(m_app.waiting);
     const RunMark mark = m_app.waiting.Mark();
     auto goes = [this, &mark] { return m_app.waiting.IsCurrent(mark); };
     QString id;

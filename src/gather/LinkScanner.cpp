@@ -4,6 +4,7 @@
 #include "browser/PageSigns.h"
 #include "browser/ProfileLinkRules.h"
 #include "browser/ProfileLinks.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/Text.h"
 #include "gather/GatherDriver.h"
@@ -33,29 +34,21 @@ void LinkScanner::Trace(const QString& text) {
     m_app.diagnostics.Debug(u"debuggather.txt"_s, text);
 }
 
-// A later pass, begun from within this one's message loop, takes the page over.
-bool LinkScanner::Goes(const Pass& pass) const {
-    const QString& action = m_app.state.CurrentAction;
-    return (action == u"SCANNING"_s || action == u"ACC"_s) && pass.number == m_lastPass;
-}
-
 void LinkScanner::GatherPageProfiles() {
-    Pass pass;
-    pass.number = ++m_lastPass;
-    Diagnostics::Guard([&] { RunPass(pass); },
-                       [&](const std::exception& error) { HandleError(pass, error); });
+    const Waiting::Owned owned(m_app.waiting);
+    Diagnostics::Guard([&] { RunPass(); }, [&](const std::exception& error) { HandleError(error); });
 }
 
-void LinkScanner::HandleError(const Pass& pass, const std::exception& error) {
-    if (!Goes(pass))
-        return;
+void LinkScanner::HandleError(const std::exception& error) {
+    m_app.waiting.LeaveIfObsolete();
     Trace(u"GPP ERROR: "_s + Diagnostics::Numbered(error));
     if (!m_app.state.blnHoldLinkCheck)
         m_app.state.blnRetryGatherPage = true;
 }
 
-void LinkScanner::RunPass(Pass& pass) {
+void LinkScanner::RunPass() {
     RunState& state = m_app.state;
+    Pass pass;
     m_app.WebBrowser1().SetSilent(true);
     pass.lngStartCount = static_cast<qint32>(m_app.controls.Items("lstFriendIDs"_L1).size());
     pass.lngArrayCount = static_cast<qint32>(state.arrFriendIDs.size());
@@ -65,9 +58,8 @@ void LinkScanner::RunPass(Pass& pass) {
     Trace(u"GPP0a0a0 - "_s + QString::number(m_app.Get<GatheredList>().UBound()) + u", "_s +
           QString::number(state.arrBlacklistIDs.size() - 1));
     if (state.strNextPageLink.isEmpty() && !IsCommentsOrNotificationsPage())
-        WaitForFirstPage(pass);
-    if (!Goes(pass))
-        return;
+        WaitForFirstPage();
+    m_app.waiting.LeaveIfObsolete();
     m_app.timers->tmrAutoResume.Restart();
     state.strNextPageLink.clear();
     state.strGatherStartURL = m_app.Get<PageSigns>().LocationURL();
@@ -76,17 +68,13 @@ void LinkScanner::RunPass(Pass& pass) {
     PrepareFullGather(pass);
     ShowScanStatus();
     m_app.waiting.Pump();
-    if (Goes(pass))
-        ScanLinks(pass);
-    if (!Goes(pass))
-        return;
+    ScanLinks(pass);
+    m_app.waiting.LeaveIfObsolete();
     FindNextPage();
-    if (!Goes(pass))
-        return;
     RemindOfFullGather(pass);
     pass.guard.reset();
     Trace(u"GPP13 - NEXT PAGE LINK: "_s + state.strNextPageLink);
-    if (Goes(pass) && m_app.Get<GatherDriver>().FilterPassWanted())
+    if (m_app.Get<GatherDriver>().FilterPassWanted())
         FilterNewProfiles(pass);
 }
 
@@ -96,7 +84,7 @@ void LinkScanner::ShowScanStatus() {
                         : u"Gathering ID's from the current page..."_s);
 }
 
-void LinkScanner::WaitForFirstPage(const Pass& pass) {
+void LinkScanner::WaitForFirstPage() {
     m_app.SetStatus(u"Waiting for the page to finish loading..."_s);
     m_app.Get<StopResume>().PauseLinkCheck();
     m_app.waiting.WaitWhile(
@@ -104,11 +92,9 @@ void LinkScanner::WaitForFirstPage(const Pass& pass) {
             // A page that is just being replaced can't be read and shows no sign yet.
             bool shows = false;
             Diagnostics::IgnoreErrors([&] { shows = m_app.Get<Pager>().ShowsNextPageSign(); });
-            return Goes(pass) && !shows;
+            return !shows;
         },
         SecondsForFirstPage);
-    if (!Goes(pass))
-        return;
     m_app.Get<StopResume>().ResumeLinkCheck();
     Trace(u"GPP1 - "_s + m_app.WebBrowser1().Document().BodyHTML());
     Trace(u"GPP1.1"_s);
@@ -124,8 +110,6 @@ void LinkScanner::PrepareFullGather(Pass& pass) {
     }
     m_app.WebBrowser1().Stop();
     m_app.waiting.Pump();
-    if (!Goes(pass))
-        return;
     pass.guard.emplace(m_app.WebBrowser1());
     Trace(u"GPP1.3"_s);
 }
@@ -165,7 +149,7 @@ void LinkScanner::ScanLinks(Pass& pass) {
         std::vector<LinkInTurn> inTurn = JudgeLinks(document, {first, last}, page);
         for (LinkInTurn& link : inTurn) {
             m_app.waiting.Turn();
-            if (!Goes(pass) || m_app.state.blnHoldLinkCheck)
+            if (m_app.state.blnHoldLinkCheck)
                 return;
             if (!document.IsPresent())
                 throw BrowserError();
@@ -214,7 +198,7 @@ bool LinkScanner::WalkOver(Pass& pass, LinkInTurn& link) {
     }
     if (link.isProfile)
         LookAtLink(pass, *link.judged);
-    if (!Goes(pass) || m_app.state.blnHoldLinkCheck)
+    if (m_app.state.blnHoldLinkCheck)
         return false;
     m_app.state.blnRememberLink = link.remember;
     if (link.remember)
@@ -230,8 +214,8 @@ void LinkScanner::LookAtLink(Pass& pass, JudgedLink& link) {
         !m_app.Get<ProfileFilters>().IsUserOnline(link))
         return;
     const bool whosOnline = Has(link.facts.Id(), u"whosonline"_s);
-    if (state.CurrentAction == u"ACC"_s && !whosOnline) {
-        CollectRequest(pass, link);
+    if (state.CurrentAction == ActivityWord::Accepting && !whosOnline) {
+        CollectRequest(link);
         return;
     }
     QString id;
@@ -240,21 +224,19 @@ void LinkScanner::LookAtLink(Pass& pass, JudgedLink& link) {
             m_app.controls.Ticked("optFullGather"_L1) && m_app.Get<GatheredList>().IsInList(href, true);
         if (!fetchedBefore)
             id = m_app.Get<IdResolution>().GetFriendIDFromLink(link);
-        if (!Goes(pass))
-            return;
+        m_app.waiting.LeaveIfObsolete();
         Trace(u"GPP4 - "_s + id);
     }
     if (!id.trimmed().isEmpty())
         Consider(pass, id.trimmed());
 }
 
-void LinkScanner::CollectRequest(const Pass& pass, JudgedLink& link) {
+void LinkScanner::CollectRequest(JudgedLink& link) {
     if (m_app.Get<GatheredList>().IsInList(link.facts.Href(), true))
         return;
     const QString id = m_app.Get<IdResolution>().GetFriendIDFromLink(link).trimmed();
     // Fetching a profile takes a while; the run may be over.
-    if (!Goes(pass))
-        return;
+    m_app.waiting.LeaveIfObsolete();
     if (!id.isEmpty() && id != m_app.state.MyProfileID && !m_app.Get<GatheredList>().IsInList(id, false))
         m_app.controls.AddItem("lstAcceptIDs"_L1, id);
 }
@@ -302,12 +284,12 @@ void LinkScanner::Consider(Pass& pass, const QString& id) {
 void LinkScanner::FindNextPage() {
     RunState& state = m_app.state;
     if (!m_app.controls.Ticked("optScanFollowing"_L1) || !state.strNextPageLink.isEmpty() ||
-        state.CurrentAction != u"SCANNING"_s || IsCommentsOrNotificationsPage())
+        state.CurrentAction != ActivityWord::Gathering || IsCommentsOrNotificationsPage())
         return;
     m_app.SetStatus(u"Searching for the next page link..."_s);
     if (state.blnNewLayout)
         state.strNextPageLink = m_app.Get<Pager>().GetNextPageHref();
-    if (state.strNextPageLink.isEmpty() && state.CurrentAction == u"SCANNING"_s)
+    if (state.strNextPageLink.isEmpty() && state.CurrentAction == ActivityWord::Gathering)
         state.strNextPageLink = m_app.Get<Pager>().FindNextLink();
     if (state.strNextPageLink == u"DONTLOOKAGAIN"_s)
         state.strNextPageLink.clear();
@@ -317,7 +299,7 @@ void LinkScanner::RemindOfFullGather(const Pass& pass) {
     const RunState& state = m_app.state;
     const bool grew = state.arrFriendIDs.size() > pass.lngArrayCount ||
                       m_app.controls.Items("lstFriendIDs"_L1).size() > pass.lngStartCount;
-    if (!state.strNextPageLink.isEmpty() || grew || state.CurrentAction != u"SCANNING"_s ||
+    if (!state.strNextPageLink.isEmpty() || grew || state.CurrentAction != ActivityWord::Gathering ||
         !m_app.controls.Ticked("optScanCurrentPage"_L1) || !m_app.controls.Ticked("optQuickGather"_L1) ||
         (state.optFilterOnlineNow && state.optFilterWhenGathering) || state.blnComparingIDs ||
         pass.blnFoundButKnown)

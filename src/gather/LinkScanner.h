@@ -30,7 +30,6 @@ public:
 private:
     // What one pass keeps of itself.
     struct Pass {
-        int number = 0;
         qint32 lngStartCount = 0; // rows of the list at its start
         qint32 lngArrayCount = 0;
         qint32 lngRepeats = 0;
@@ -38,9 +37,8 @@ private:
         std::optional<NavigationGuard> guard; // in a full gather
     };
 
-    void RunPass(Pass& pass);
-    bool Goes(const Pass& pass) const;
-    void WaitForFirstPage(const Pass& pass);
+    void RunPass();
+    void WaitForFirstPage();
     void PrepareFullGather(Pass& pass);
     Document ChooseDocument();
     void ScanLinks(Pass& pass);
@@ -51,18 +49,17 @@ private:
     // False when the pass is to end.
     bool WalkOver(Pass& pass, LinkInTurn& link);
     void LookAtLink(Pass& pass, JudgedLink& link);
-    void CollectRequest(const Pass& pass, JudgedLink& link);
+    void CollectRequest(JudgedLink& link);
     void Consider(Pass& pass, const QString& id);
     bool IsFoundersLink(JudgedLink& link) const;
     void FindNextPage();
     void RemindOfFullGather(const Pass& pass);
     void FilterNewProfiles(Pass& pass);
-    void HandleError(const Pass& pass, const std::exception& error);
+    void HandleError(const std::exception& error);
     void ShowScanStatus();
     void Trace(const QString& text);
 
     App& m_app;
-    int m_lastPass = 0;
 };
 
 } // namespace qlm

@@ -14,10 +14,8 @@ constexpr int ProfilesOnABrowsePage = 36;
 
 // A page that is just being replaced can't be read: then what is waited for isn't there yet. One that stands
 // is taken as it is: a last page may lack what every other page of its kind has.
-void GatherDriver::WaitOnPage(int entry, const std::function<bool()>& stillWaiting) {
+void GatherDriver::WaitOnPage(const std::function<bool()>& stillWaiting) {
     m_app.waiting.WaitFor(u"the next page"_s, [&] {
-        if (!Goes(entry))
-            return false;
         bool waiting = true;
         Diagnostics::IgnoreErrors([&] { waiting = stillWaiting() && !m_standingPage.Stands(); });
         return waiting;
@@ -26,29 +24,28 @@ void GatherDriver::WaitOnPage(int entry, const std::function<bool()>& stillWaiti
 
 const std::vector<GatherDriver::PageWait>& GatherDriver::PageWaits() {
     static const std::vector<PageWait> waits{
-        {u"/friends", [](GatherDriver& d, int entry,
-                         const QString& oldURL) { d.WaitForAddress(entry, oldURL, u"/page/"_s, true); }},
-        {u"/browse/", [](GatherDriver& d, int entry, const QString&) { d.WaitForBrowsePage(entry); }},
-        {u"/search/", [](GatherDriver& d, int entry,
-                         const QString& oldURL) { d.WaitForAddress(entry, oldURL, u"&page="_s, false); }},
-        {u"/music/charts",
-         [](GatherDriver& d, int entry, const QString& oldURL) { d.WaitForChart(entry, oldURL); }},
-        {u"", [](GatherDriver& d, int entry, const QString&) { d.WaitForOtherPage(entry); }},
+        {u"/friends",
+         [](GatherDriver& d, const QString& oldURL) { d.WaitForAddress(oldURL, u"/page/"_s, true); }},
+        {u"/browse/", [](GatherDriver& d, const QString&) { d.WaitForBrowsePage(); }},
+        {u"/search/",
+         [](GatherDriver& d, const QString& oldURL) { d.WaitForAddress(oldURL, u"&page="_s, false); }},
+        {u"/music/charts", [](GatherDriver& d, const QString& oldURL) { d.WaitForChart(oldURL); }},
+        {u"", [](GatherDriver& d, const QString&) { d.WaitForOtherPage(); }},
     };
     return waits;
 }
 
-void GatherDriver::WaitPageLoad(int entry, const QString& oldURL) {
+void GatherDriver::WaitPageLoad(const QString& oldURL) {
     for (const PageWait& row : PageWaits())
         if (m_app.Get<PageSigns>().AddressContains(QString::fromUtf16(row.address))) {
-            row.wait(*this, entry, oldURL);
+            row.wait(*this, oldURL);
             break;
         }
-    WaitOnPage(entry, [this] { return m_app.Get<PageSigns>().LocationURL() == u"about:blank"_s; });
+    WaitOnPage([this] { return m_app.Get<PageSigns>().LocationURL() == u"about:blank"_s; });
 }
 
 // In markup the "&" of an address is written "&amp;".
-void GatherDriver::WaitForAddress(int entry, const QString& oldURL, const QString& markup, bool checkErrors) {
+void GatherDriver::WaitForAddress(const QString& oldURL, const QString& markup, bool checkErrors) {
     QString escaped = markup;
     escaped.replace(u"&"_s, u"&amp;"_s);
     bool wentBack = false;
@@ -60,9 +57,9 @@ void GatherDriver::WaitForAddress(int entry, const QString& oldURL, const QStrin
         return true;
     };
     Trace(u"WAITPAGELOAD1.1"_s);
-    WaitOnPage(entry, [&] { return m_app.Get<PageSigns>().LocationURL() == oldURL && mendErrorPage(); });
+    WaitOnPage([&] { return m_app.Get<PageSigns>().LocationURL() == oldURL && mendErrorPage(); });
     Trace(u"WAITPAGELOAD1.2"_s);
-    WaitOnPage(entry, [&] {
+    WaitOnPage([&] {
         return !m_app.Get<PageSigns>().IsTextInPage(markup, true) &&
                !m_app.Get<PageSigns>().IsTextInPage(escaped, true) && mendErrorPage();
     });
@@ -74,22 +71,21 @@ bool GatherDriver::LastPageStands() {
            m_app.Get<PageSigns>().HrefLoaded(state.strLastPageHref, false);
 }
 
-void GatherDriver::WaitForBrowsePage(int entry) {
+void GatherDriver::WaitForBrowsePage() {
     auto building = [this] { return m_app.WebBrowser1().ReadyState() != 4; };
     Trace(u"WAITPAGELOAD2.1"_s);
-    WaitOnPage(entry, [&] { return building() && LastPageStands(); });
-    WaitOnPage(entry, [&] {
+    WaitOnPage([&] { return building() && LastPageStands(); });
+    WaitOnPage([&] {
         return building() &&
                CountOccurrences(m_app.WebBrowser1().Document().BodyText(), u"Age:"_s) < ProfilesOnABrowsePage;
     });
 }
 
 // A chart builds its rows while it is scrolled; one that stops at the first dozen is loaded again.
-void GatherDriver::WaitForChart(int entry, const QString& oldURL) {
-    WaitOnPage(entry, [&] { return m_app.Get<PageSigns>().LocationURL() == oldURL; });
-    if (Goes(entry))
-        m_app.SetStatus(u"Waiting for page to finish loading top 200..."_s);
-    WaitOnPage(entry, [&] {
+void GatherDriver::WaitForChart(const QString& oldURL) {
+    WaitOnPage([&] { return m_app.Get<PageSigns>().LocationURL() == oldURL; });
+    m_app.SetStatus(u"Waiting for page to finish loading top 200..."_s);
+    WaitOnPage([&] {
         if (m_app.Get<PageSigns>().IsTextInPage(u"artist-200"_s, true))
             return false;
         m_app.WebBrowser1().Document().ScrollToEnd();
@@ -97,18 +93,17 @@ void GatherDriver::WaitForChart(int entry, const QString& oldURL) {
             !m_app.Get<PageSigns>().IsTextInPage(u"artist-12"_s, true)) {
             const QString url = m_app.state.strNextPageLink;
             m_app.ClearPage();
-            if (Goes(entry))
-                m_app.WebBrowser1().Navigate(url);
+            m_app.WebBrowser1().Navigate(url);
         }
         return true;
     });
 }
 
-void GatherDriver::WaitForOtherPage(int entry) {
+void GatherDriver::WaitForOtherPage() {
     Trace(u"WAITPAGELOAD3.1"_s);
-    WaitOnPage(entry, [&] { return LastPageStands(); });
+    WaitOnPage([&] { return LastPageStands(); });
     Trace(u"NEXTPAGEWAIT3"_s);
-    WaitOnPage(entry, [&] { return m_app.WebBrowser1().ReadyState() != 4; });
+    WaitOnPage([&] { return m_app.WebBrowser1().ReadyState() != 4; });
 }
 
 } // namespace qlm

@@ -6,6 +6,7 @@
 #include "gather/IdResolution.h"
 #include "gather/LinkScanner.h"
 #include "gather/Pager.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 #include <QRegularExpression>
@@ -41,26 +42,23 @@ bool AllIsShown(const QString& text) {
 
 } // namespace
 
-GatherDriver::Next GatherDriver::TurnPage(int entry) {
+Next GatherDriver::TurnPage() {
     RunState& state = m_app.state;
     state.lngPageScanOffset = 0;
     if (m_app.controls.Ticked("optScanFollowing"_L1) &&
-        m_app.Get<LinkScanner>().IsCommentsOrNotificationsPage()) {
-        GrowInPlace(entry);
-        if (!Goes(entry))
-            return Next::Return;
-    }
+        m_app.Get<LinkScanner>().IsCommentsOrNotificationsPage())
+        GrowInPlace();
     if (state.strNextPageLink.isEmpty()) {
         FinishGathering();
-        return Next::Return;
+        return Next::Wait;
     }
     // Growing: the tick waits until the old end of the list has gone, and the new part is scanned then.
     if (!state.strLastPageText.isEmpty())
-        return Next::Return;
-    return OpenNextPage(entry) ? Next::GoOn : Next::Return;
+        return Next::Wait;
+    return OpenNextPage() ? Next::Again : Next::Wait;
 }
 
-void GatherDriver::GrowInPlace(int entry) {
+void GatherDriver::GrowInPlace() {
     RunState& state = m_app.state;
     const QString address = m_app.Get<PageSigns>().LocationURL();
     const bool notifications = address.endsWith(u"/notifications"_s, Qt::CaseInsensitive);
@@ -72,8 +70,6 @@ void GatherDriver::GrowInPlace(int entry) {
         m_app.waiting.Pump();
         link.ScrollIntoView();
         m_app.waiting.Pump();
-        if (!Goes(entry))
-            return;
         const QString text = link.InnerText();
         if (notifications && AllIsShown(text))
             return;
@@ -91,7 +87,7 @@ void GatherDriver::GrowInPlace(int entry) {
     state.blnLinkFound = false;
     state.strLinkType = u"Text"_s;
     state.strLinkValue = u"e"_s;
-    state.intGatherStep = 3;
+    state.intGatherStep = GatherStep::ScanPage;
     state.strNextPageLink = u"temp"_s;
 }
 
@@ -106,25 +102,20 @@ void GatherDriver::FinishGathering() {
 }
 
 // True when the next page stands already and is to be scanned at once; otherwise the tick goes on.
-bool GatherDriver::OpenNextPage(int entry) {
+bool GatherDriver::OpenNextPage() {
     RunState& state = m_app.state;
     Trace(u"IGP4.1 - "_s + state.strNextPageLink);
-    state.intGatherStep = 3;
+    state.intGatherStep = GatherStep::ScanPage;
     SetMustNotHaveTexts();
-    if (!Goes(entry))
-        return false;
     if (!state.blnNewLayout)
         AwaitListOfIDs();
     m_standingPage.Leave();
     const QString oldURL = m_app.Get<PageSigns>().LocationURL();
     m_app.WebBrowser1().Stop();
     m_app.waiting.Pump();
-    if (!Goes(entry))
-        return false;
     m_app.SetStatus(u"Waiting for the next page to load..."_s);
     if (state.blnClickNextLink) {
-        if (!ClickCaption(entry))
-            return false;
+        ClickCaption();
     } else {
         Trace(u"IGP4.4"_s);
         if (state.strNextPageLink.contains(ClickID)) {
@@ -138,8 +129,6 @@ bool GatherDriver::OpenNextPage(int entry) {
         m_app.waiting.Pump();
     }
     Trace(u"NEXTPAGEWAIT0"_s);
-    if (!Goes(entry))
-        return false;
     if (!state.blnNewLayout) {
         state.blnLinkFound = false;
         m_app.timers->tmrCheckLinkLoaded.Restart();
@@ -148,32 +137,25 @@ bool GatherDriver::OpenNextPage(int entry) {
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     m_app.waiting.Pump();
     m_app.waiting.WaitSeconds(1);
-    if (!Goes(entry))
-        return false;
     Trace(u"NEXTPAGEWAIT1"_s);
-    WaitPageLoad(entry, oldURL);
-    if (!Goes(entry))
-        return false;
+    WaitPageLoad(oldURL);
     Trace(u"NEXTPAGEWAIT - END"_s);
     return true;
 }
 
 // A browse page is slow to take the click up; when nothing has moved after some seconds it is clicked once
 // more.
-bool GatherDriver::ClickCaption(int entry) {
+void GatherDriver::ClickCaption() {
     Trace(u"IGP4.3"_s);
     const QString caption = m_app.state.strNextPageLink;
     m_app.Get<Pager>().ClickNextPageLink(caption, {});
     if (m_app.Get<PageSigns>().AddressContains(u"/browse/"_s)) {
-        const bool taken = m_app.waiting.WaitWhile(
-            [&] { return Goes(entry) && m_app.WebBrowser1().ReadyState() == 4; }, SecondsForClick);
+        const bool taken =
+            m_app.waiting.WaitWhile([&] { return m_app.WebBrowser1().ReadyState() == 4; }, SecondsForClick);
         if (!taken)
             m_app.Get<Pager>().ClickNextPageLink(caption, {});
     }
-    if (!Goes(entry))
-        return false;
     m_app.state.blnClickNextLink = false;
-    return true;
 }
 
 void GatherDriver::SetMustNotHaveTexts() {

@@ -2,6 +2,7 @@
 #include "gather/Pager.h"
 
 #include "browser/PageSigns.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/Text.h"
 #include "gather/NextLinkRules.h"
@@ -37,11 +38,9 @@ QString Pager::CaptionToClick() {
 
 // False when the run is over.
 bool Pager::TurnOn(const Document& document) {
-    const RunMark mark = m_app.waiting.Mark();
     m_app.waiting.Turn();
-    if (m_app.state.CurrentAction != u"SCANNING"_s)
+    if (m_app.state.CurrentAction != ActivityWord::Gathering)
         return false;
-    m_app.waiting.LeaveUnlessCurrent(mark);
     if (!document.IsPresent())
         throw BrowserError();
     return true;
@@ -128,7 +127,7 @@ QString Pager::FindNextLink() {
 bool Pager::ClickNextPageLink(const QString& caption, const QString& newHref) {
     m_app.Get<PageSigns>().WaitForDocument();
     m_app.WebBrowser1().SetSilent(true);
-    const bool onEventForm = m_app.state.CurrentAction == u"INV"_s &&
+    const bool onEventForm = m_app.state.CurrentAction == ActivityWord::Invites &&
                              m_app.Get<PageSigns>().AddressContains(u"{EventsHost}/event/addedit"_s);
     const Document document = m_app.WebBrowser1().Document();
     for (const Element& link : document.Links()) {

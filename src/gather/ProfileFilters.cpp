@@ -47,14 +47,12 @@ bool ProfileFilters::ActiveWhenSending() const {
 }
 
 void ProfileFilters::WaitOnPage(const std::function<bool()>& arrived, int seconds, bool untilComplete) {
-    const RunMark mark = m_app.waiting.Mark();
     m_app.waiting.WaitWhile(
         [&] {
-            return m_app.waiting.IsCurrent(mark) && !m_app.state.blnHoldLinkCheck &&
+            return !m_app.state.blnHoldLinkCheck &&
                    (!untilComplete || m_app.WebBrowser1().ReadyState() != 4) && !arrived();
         },
         seconds);
-    m_app.waiting.LeaveUnlessCurrent(mark);
 }
 
 bool ProfileFilters::IsFilteredProfile() {

@@ -2,9 +2,9 @@
 #include "gather/WebSearch.h"
 
 #include "browser/ProfileLinkRules.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/Text.h"
-#include "gather/GatherDriver.h"
 #include "gather/GatheredList.h"
 #include "gather/IdResolution.h"
 #include "gather/ProfileFilters.h"
@@ -32,17 +32,21 @@ void WebSearch::Trace(const QString& text) {
     m_app.diagnostics.Debug(u"debuggoogle.txt"_s, text);
 }
 
+bool WebSearch::IsOwn(qint32 entry) const {
+    return m_app.state.CurrentAction == ActivityWord::Gathering && entry == m_app.state.lngEntryNumber;
+}
+
 bool WebSearch::Goes() const {
-    return m_app.Get<GatherDriver>().Goes(m_entry) && !m_app.state.blnStopGoogle;
+    return IsOwn(m_entry) && !m_app.state.blnStopGoogle;
 }
 
 void WebSearch::Run() {
     m_app.state.blnStopGoogle = false;
     m_app.state.blnHoldLinkCheck = false;
-    const int entry = m_app.Get<GatherDriver>().BeginEntry();
+    const qint32 entry = ++m_app.state.lngEntryNumber;
     const bool asked = AskForTerm();
     // Whoever has begun anew meanwhile has the window now.
-    if (!m_app.Get<GatherDriver>().Goes(entry))
+    if (!IsOwn(entry))
         return;
     m_entry = entry;
     if (asked) {
@@ -51,7 +55,7 @@ void WebSearch::Run() {
         if (m_app.state.optFilterWhenGathering && !m_app.Get<ProfileFilters>().AllOff())
             FilterWholeList();
     }
-    if (!m_app.Get<GatherDriver>().Goes(entry)) {
+    if (!IsOwn(entry)) {
         if (entry == m_entry)
             m_app.platform.Dialogs().CloseForm(u"frmGoogleSearch"_s);
         return;
@@ -59,7 +63,7 @@ void WebSearch::Run() {
     if (asked)
         Finish();
     m_app.platform.Dialogs().CloseForm(u"frmGoogleSearch"_s);
-    if (m_app.Get<GatherDriver>().Goes(entry))
+    if (IsOwn(entry))
         m_app.Get<StopResume>().StopAll(u"GATHERSTART2"_s);
 }
 
@@ -115,7 +119,7 @@ void WebSearch::ExtractIDsFromText(const QString& html) {
             if (!Goes())
                 continue;
             const QString id = quick ? m_app.Get<IdResolution>().ExtractFriendID(match) : FetchProfile(match);
-            if (id.isEmpty() || !m_app.Get<GatherDriver>().Goes(m_entry))
+            if (id.isEmpty() || !IsOwn(m_entry))
                 continue;
             if (m_app.Get<GatheredList>().IsInList(id, false))
                 ++duplicates;

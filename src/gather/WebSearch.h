@@ -14,7 +14,7 @@ class WebSearch {
 public:
     explicit WebSearch(App& app);
 
-    // Asks for the term, searches, and ends the activity "SCANNING" that has been begun for it.
+    // Asks for the term, searches, and ends the gathering that has been begun for it.
     void Run();
     void ExtractGoogleProfiles(const QString& term);
     void ExtractIDsFromText(const QString& html);
@@ -27,6 +27,9 @@ private:
     void cmdOK_Click();
     void UserCloses();
 
+    // The run is over, or a later one has taken over: no.
+    bool IsOwn(qint32 entry) const;
+    // Nor has the user stopped the search.
     bool Goes() const;
     void FilterWholeList();
     QString FetchProfile(const QString& address);
@@ -34,7 +37,7 @@ private:
     void Trace(const QString& text);
 
     App& m_app;
-    int m_entry = 0; // of the gather run that this search is
+    qint32 m_entry = 0; // of the gather run that this search is
     bool m_searchPressed = false;
 };
 

@@ -4,8 +4,10 @@
 #include "accounts/LoginFlow.h"
 #include "campaigns/CampaignErrorPages.h"
 #include "campaigns/FriendRequester.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "gather/GatherDriver.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 namespace qlm {
@@ -15,7 +17,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 void BeginPendingDeletionAnew(App& app) {
-    app.state.intDelPenStep = 1;
+    app.state.intDelPenStep = PendingStep::OpenList;
     app.Get<StopResume>().ResumeNext();
 }
 
@@ -24,60 +26,73 @@ void BeginPendingDeletionAnew(App& app) {
 // The tick compares in this order.
 const std::vector<Activity>& Activities() {
     static const std::vector<Activity> activities{
-        {.word = "SCANNING"_L1,
+        {.word = ActivityWord::Gathering,
          .step = &RunState::intGatherStep,
          .stepRoutine = [](App& app) { app.Get<GatherDriver>().IterateGatherProfiles(); },
          .debugFile = "debuggather.txt",
          .stopMark = "GATHER stop - (",
          .resumable = true,
+         .worksOnList = true,
+         .tracesFound = true,
          .onSignedInAgain = [](App& app) { app.Get<GatherDriver>().ReturnToList(); }},
-        {.word = "FR"_L1,
+        {.word = ActivityWord::FriendRequests,
          .step = &RunState::intFRStep,
          .stepRoutine = [](App& app) { app.Get<FriendRequester>().IterateAddFriends(); },
          .debugFile = "debugfr.txt",
          .stopMark = "FR stop - ",
          .resumable = true,
-         .stepAfterSkip = 9,
+         .worksOnList = true,
+         .tracesExpectation = true,
+         .tracesFound = true,
+         .stepAfterSkip = FriendStep::AfterSend,
          .onErrorPage = HandleRequesterErrorPage,
          .onConfirmed = [](App& app) { app.Get<FriendRequester>().NoteConfirmation(); }},
-        {.word = "MSG"_L1,
+        {.word = ActivityWord::Messages,
          .step = &RunState::intMsgStep,
          .debugFile = "debugmsg.txt",
          .stopMark = "MSG stop - (",
          .resumable = true,
-         .stepAfterSkip = 8,
+         .worksOnList = true,
+         .tracesExpectation = true,
+         .tracesFound = true,
+         .stepAfterSkip = MessageStep::AfterSend,
          .onErrorPage = HandleMessengerErrorPage},
-        {.word = "COM"_L1,
+        {.word = ActivityWord::Comments,
          .step = &RunState::intComStep,
          .debugFile = "debugcom.txt",
          .stopMark = "COM stop - (",
          .resumable = true,
-         .stepAfterSkip = 8,
+         .worksOnList = true,
+         .tracesExpectation = true,
+         .tracesFound = true,
+         .stepAfterSkip = CommentStep::AfterSend,
          .onErrorPage = HandleCommenterErrorPage},
-        {.word = "BUL"_L1,
+        {.word = ActivityWord::Bulletins,
          .step = &RunState::intBulStep,
          .debugFile = "debugbul.txt",
          .resumable = true,
-         .stepAfterSkip = 0,
+         .stepAfterSkip = BulletinStep::None,
          .onErrorPage = [](App& app) { TraceErrorPage(app, u"Maint: "_s); }},
-        {.word = "ACC"_L1,
+        {.word = ActivityWord::Accepting,
          .step = &RunState::intAccStep,
          .debugFile = "debugacc.txt",
          .stopMark = "ACC stop - (",
          .resumable = true},
-        {.word = "LOGIN"_L1,
+        {.word = ActivityWord::Login,
          .step = &RunState::intLoginStep,
          .stepRoutine = [](App& app) { app.Get<LoginFlow>().IterateLoginAccount(); },
          .debugFile = "debuginitial.txt",
          .stopMark = "LOGIN stop - (",
+         .checkMark = "checking: ",
+         .tracesFound = true,
          .onErrorPage = HandleLoginErrorPage},
-        {.word = "DEL PEN"_L1,
+        {.word = ActivityWord::DeletingPending,
          .step = &RunState::intDelPenStep,
          .resumable = true,
          .onErrorPage = BeginPendingDeletionAnew},
-        {.word = "INV"_L1, .debugFile = "debugevinv.txt", .stopMark = "EVINV stop - ("},
-        {.word = "STATUSUPDATES"_L1},
-        {.word = "RANDOMIZING"_L1},
+        {.word = ActivityWord::Invites, .debugFile = "debugevinv.txt", .stopMark = "EVINV stop - ("},
+        {.word = ActivityWord::StatusUpdates},
+        {.word = ActivityWord::Shuffling},
     };
     return activities;
 }

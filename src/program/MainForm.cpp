@@ -2,6 +2,7 @@
 #include "program/MainForm.h"
 
 #include "campaigns/Pacing.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/BrowserSounds.h"
 #include "core/SettingsFields.h"
@@ -9,6 +10,7 @@
 #include "gather/BlackList.h"
 #include "steps/ActionTick.h"
 #include "steps/BrowserHost.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 namespace qlm {
@@ -93,9 +95,9 @@ void MainForm::Form_Load() {
         m_app.diagnostics.Debug(u"debuginitial.txt"_s, u"frmLoad 3"_s);
         m_app.controls.SetText("lblLoggedInAs"_L1, {});
         ShowPracticeSite(m_practiceSiteRuns);
-        state.intLoginStep = 10;
+        state.intLoginStep = LoginStep::OpenSite;
         m_app.waiting.OutdateSteps();
-        state.CurrentAction = u"LOGIN"_s;
+        state.CurrentAction = ActivityWord::Login;
         m_app.timers->tmrCheckLinkLoaded.Restart();
         m_app.Get<ActionTick>().Timer1_Timer();
         m_app.waiting.Pump();

@@ -2,6 +2,7 @@
 #include "steps/ActionTick.h"
 
 #include "browser/PageSigns.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/LongWait.h"
 #include "steps/Activities.h"
@@ -60,6 +61,7 @@ void ActionTick::CheckPage() {
         m_app.Get<PageSigns>().IsAwaitingBody())
         return;
     const qint32 run = state.lngRunNumber;
+    const Waiting::Owned owned(m_app.waiting);
     const bool found = m_app.Get<StepDispatcher>().CheckLinkFound();
     // The check has ended the run itself, or another one has been begun in one of its waits.
     if (state.lngRunNumber != run)
@@ -86,13 +88,15 @@ void ActionTick::CheckPage() {
 
 void ActionTick::LogCheck(bool found) {
     const RunState& state = m_app.state;
-    if (state.CurrentAction == u"LOGIN"_s && m_app.Get<PageSigns>().IsTextInPage(u"enter the text"_s))
+    const Activity* activity = FindActivity(state.CurrentAction);
+    if (!activity)
+        return;
+    if (state.CurrentAction == ActivityWord::Login &&
+        m_app.Get<PageSigns>().IsTextInPage(u"enter the text"_s))
         m_app.diagnostics.DebugForAction(u"waiting for CAPTCHA"_s);
-    const bool withExpectation =
-        state.CurrentAction == u"FR"_s || state.CurrentAction == u"MSG"_s || state.CurrentAction == u"COM"_s;
-    QString line = state.CurrentAction == u"LOGIN"_s ? u"checking: "_s
-                   : withExpectation ? u"checking... - "_s + state.strLinkType + u", "_s + state.strLinkValue
-                                     : u"checking..."_s;
+    QString line = QString::fromLatin1(activity->checkMark);
+    if (activity->tracesExpectation)
+        line += u" - "_s + state.strLinkType + u", "_s + state.strLinkValue;
     m_app.diagnostics.DebugForAction(line + u" ... Found = "_s + Flag(found) + u" ... EX: "_s +
                                      Flag(state.blnLastPageTextSeen) + u" ... PRESSED: "_s +
                                      Flag(state.blnLastPageHrefSeen));
@@ -101,9 +105,8 @@ void ActionTick::LogCheck(bool found) {
 void ActionTick::StepIsReady() {
     RunState& state = m_app.state;
     state.intGatherRetryTicks = 0;
-    for (const auto& word : {"SCANNING"_L1, "FR"_L1, "MSG"_L1, "COM"_L1, "LOGIN"_L1})
-        if (state.CurrentAction == word)
-            m_app.diagnostics.DebugForAction(u"Link Found"_s);
+    if (const Activity* activity = FindActivity(state.CurrentAction); activity && activity->tracesFound)
+        m_app.diagnostics.DebugForAction(u"Link Found"_s);
     state.blnLinkCheckFired = true;
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     state.blnRetryGatherPage = false;

@@ -19,6 +19,12 @@ struct Activity {
     const char* debugFile = "";          // "" for none
     const char* stopMark = "";           // what StopAll writes before the reason; "" writes nothing
     bool resumable = false;              // ResumeNext runs the step routine
+    bool worksOnList = false;            // fills or walks over the gathered list, which nobody else touches
+    // What the trail says of each check of the page, and whether the expectation follows; and of one that
+    // found what was expected.
+    const char* checkMark = "checking...";
+    bool tracesExpectation = false;
+    bool tracesFound = false;
     // The step behind the one that sends, for Skip; 0 where the step goes on as it stands, nothing where
     // there is no target to skip.
     std::optional<qint16> stepAfterSkip = std::nullopt;

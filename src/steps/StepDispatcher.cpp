@@ -3,8 +3,10 @@
 
 #include "browser/PageClassifier.h"
 #include "browser/PageSigns.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "steps/Activities.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 namespace qlm {
@@ -63,7 +65,7 @@ void StepDispatcher::GiveUpRequest(App& app, bool skipCurrentID) {
         state.blnFRSkipMessage = true;
     if (skipCurrentID)
         state.blnSkipCurrentID = true;
-    state.intFRStep = 9;
+    state.intFRStep = FriendStep::AfterSend;
     app.Get<StopResume>().ResumeNext();
 }
 
@@ -73,16 +75,14 @@ Verdict StepDispatcher::ErrorPage() {
     if (!m_app.Get<PageClassifier>().ClassifyErrorPage())
         return std::nullopt;
     // While the request's own confirmation is on its way only the error redirect counts.
-    const bool awaitingConfirmation = state.CurrentAction == u"FR"_s && state.intFRStep == 9;
+    const bool awaitingConfirmation =
+        state.CurrentAction == ActivityWord::FriendRequests && state.intFRStep == FriendStep::AfterSend;
     if (awaitingConfirmation && state.intPageClass != ErrorRedirectClass)
         return std::nullopt;
-    const RunMark mark = m_app.waiting.Mark();
-    if (state.CurrentAction != u"LOGIN"_s)
+    // The refusal is that of the page that showed it: the wait ends the check for whom a Skip or a start has
+    // taken up since.
+    if (state.CurrentAction != ActivityWord::Login)
         m_app.ClearPage();
-    // The refusal is that of the page that showed it, and of nobody whom a Skip or a start has taken up
-    // since.
-    if (!m_app.waiting.IsCurrent(mark))
-        return false;
     if (const Activity* activity = FindActivity(state.CurrentAction); activity && activity->onErrorPage)
         activity->onErrorPage(m_app);
     return false;

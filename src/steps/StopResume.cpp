@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "steps/StopResume.h"
 
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/SettingsFields.h"
 #include "steps/Activities.h"
@@ -30,44 +31,14 @@ void StopResume::StopAll(const QString& reason) {
         m_app.diagnostics.DebugForAction(StopMark(*activity, reason, m_app.NowText()));
 
     m_app.waiting.OutdateSteps();
-    for (const Activity& each : Activities())
-        if (each.step)
-            state.*each.step = 0;
-    state.CurrentAction.clear();
-
-    state.strLinkType.clear();
-    state.strLinkValue.clear();
-    state.blnLinkFound = false;
-    state.strLastPageText.clear();
-    state.strLastPageHref.clear();
-    state.strFRResumeURL.clear();
-    state.blnLastPageAsHTML = false;
-    state.blnForceAdvance = false;
+    static_cast<RunFields&>(state) = {};
 
     m_app.timers->tmrAutoResume.SetEnabled(false);
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     state.blnHoldLinkCheck = true;
 
-    state.strNextPageLink.clear();
-    state.blnClickNextLink = false;
-    state.lngPageScanOffset = 0;
-    state.blnComparingIDs = false;
-    state.blnRetryGatherPage = false;
-    state.intGatherRetryTicks = 0;
-    state.SwitchingAccount = false;
-    state.blnSkipCurrentID = false;
-    state.blnBulletinDeleting = false;
-    state.blnCommentFormShown = false;
-    state.intFRLimitHits = 0;
-    state.intConfirmPolls = 0;
-    state.strWaitingFor.clear();
     for (const auto& label : {"myfraCurrentAction"_L1, "lblWaitingFor"_L1, "lblProgress"_L1})
         Diagnostics::IgnoreErrors([&] { m_app.controls.SetText(label, {}); });
-    state.blnSkipRequested = false;
-    state.blnInDelay = false;
-    state.strCurrentID.clear();
-    state.blnBulletinWaiting = false;
-    state.blnStatusWaiting = false;
 
     // Writes to the disk, which may fail and bring a window up: nothing runs any more by then.
     m_app.Get<RunReport>().EndRun(reason);
@@ -100,7 +71,7 @@ void StopResume::SkipProfile() {
         return;
     }
     // An account of a chain that can't be logged in.
-    if (state.CurrentAction == u"LOGIN"_s && state.blnChaining) {
+    if (state.CurrentAction == ActivityWord::Login && state.blnChaining) {
         m_app.diagnostics.DebugForAction(u"Skip"_s);
         HandOverInChain();
     }
@@ -109,7 +80,7 @@ void StopResume::SkipProfile() {
 bool StopResume::SkipHelps() const {
     const Activity* activity = FindActivity(m_app.state.CurrentAction);
     return (activity && activity->stepAfterSkip) ||
-           (m_app.state.CurrentAction == u"LOGIN"_s && m_app.state.blnChaining);
+           (m_app.state.CurrentAction == ActivityWord::Login && m_app.state.blnChaining);
 }
 
 void StopResume::SkipTo(const Activity& activity) {

@@ -5,6 +5,7 @@
 #include "core/App.h"
 #include "core/Text.h"
 #include "steps/BrowserHost.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 namespace qlm {
@@ -86,7 +87,7 @@ void BrowserHost::ReadTypedLogin(const NavigationRequest& request) {
         settings.SaveSetting(FieldEntries, u"Login - txtPassword"_s, typed.password);
 
     diagnostics.Debug(u"debuginitial.txt"_s, u"Navigate 3.1 (e) - "_s + Stars(typed.email));
-    if (!anotherAccount || (state.intLoginStep != 0 && state.intLoginStep != 4))
+    if (!anotherAccount || (state.intLoginStep != LoginStep::None && state.intLoginStep != LoginStep::Finish))
         return;
     state.AccountEmail = typed.email.toLower();
     state.AccountPassword = typed.password;

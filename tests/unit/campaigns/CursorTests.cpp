@@ -143,7 +143,7 @@ TEST_F(CursorTest, InAcceptModeALoggedFriendIsPassedOverOnlyByWishAndForComments
         app->state.CurrentAction = action;
         app->controls.SetTicked("mnuAddToLogWhenAccepting"_L1, byWish);
         app->controls.SetItems("lstAcceptIDs"_L1, {u"21"_s, u"22"_s});
-        EXPECT_EQ(app->Get<SendRuns>().TakeTarget(u"test"_s), SendRuns::Took::Target);
+        EXPECT_TRUE(app->Get<SendRuns>().TakeTarget(u"test"_s));
         return app->state.strCurrentID;
     };
     EXPECT_EQ(taken(u"COM"_s, false), u"21"_s);
@@ -156,7 +156,7 @@ TEST_F(CursorTest, ASkipLeavesAStatusLineThatSaysSoAlready) {
     app->state.blnCheckLog = true;
     app->files.WriteLines(app->Get<SentLog>().PathFor(u"FR"_s), {u"11"_s, u"12"_s});
     app->SetStatus(u"Skipping for another reason"_s);
-    EXPECT_EQ(app->Get<SendRuns>().TakeTarget(u"test"_s), SendRuns::Took::End);
+    EXPECT_FALSE(app->Get<SendRuns>().TakeTarget(u"test"_s));
     EXPECT_EQ(app->Status(), u"Skipping for another reason"_s);
     EXPECT_EQ(app->state.lngSkippedCount, 2);
     app->state.intCurrentIDIndex = 0;

@@ -26,7 +26,10 @@ protected:
 
     qint64 SecondsOfDelay() {
         const qint64 startMs = world.clock.NowMs();
-        app->Get<Pacing>().DoDelay();
+        Waiting::LeaveHere([this] {
+            const Waiting::Owned step(app->waiting);
+            app->Get<Pacing>().DoDelay();
+        });
         return (world.clock.NowMs() - startMs) / 1000;
     }
 

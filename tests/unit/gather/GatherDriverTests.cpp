@@ -3,6 +3,7 @@
 #include "gather/GatherDriver.h"
 #include "gather/LinkScanner.h"
 #include "gather/Pager.h"
+#include "steps/StopResume.h"
 
 #include <QRegularExpression>
 
@@ -105,8 +106,8 @@ TEST_F(GatherDriverTest, TheWaitForTheNextPage) {
         };
         const qint64 limitMs = platform->Pump().NowMs() + stopSeconds * qint64(1000);
         platform->Pump().onPump = [&] {
-            if (platform->Pump().NowMs() > limitMs)
-                app->state.CurrentAction.clear();
+            if (platform->Pump().NowMs() > limitMs && !app->state.CurrentAction.isEmpty())
+                app->Get<StopResume>().StopAll(u"TEST"_s);
         };
         app->state.CurrentAction = u"SCANNING"_s;
         app->state.intGatherStep = 4;

@@ -2,6 +2,7 @@
 #include "SimulatedProgram.h"
 #include "gather/GatheredList.h"
 #include "gather/LinkScanner.h"
+#include "steps/StopResume.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -109,9 +110,9 @@ TEST_F(LinkScannerTest, AStopEndsThePassAtOnce) {
     app->state.strNextPageLink = u"not the first page"_s;
     platform->Pump().onPump = [this] {
         if (!app->Get<GatheredList>().IsEmpty())
-            app->state.CurrentAction.clear();
+            app->Get<StopResume>().StopAll(u"TEST"_s);
     };
-    app->Get<LinkScanner>().GatherPageProfiles();
+    Waiting::LeaveHere([this] { app->Get<LinkScanner>().GatherPageProfiles(); });
     EXPECT_EQ(Ids(), QStringList{u"11"_s});
     EXPECT_FALSE(app->state.blnRetryGatherPage);
 }
@@ -267,9 +268,9 @@ TEST_F(LinkScannerTest, AStopDuringAFetchCollectsNothingMore) {
     app->controls.SetVisible("ucpanelFullGatherIDNotify"_L1, false);
     platform->Pump().onPump = [this] {
         if (app->controls["ucpanelFullGatherIDNotify"_L1].visible)
-            app->state.CurrentAction.clear();
+            app->Get<StopResume>().StopAll(u"TEST"_s);
     };
-    app->Get<LinkScanner>().GatherPageProfiles();
+    Waiting::LeaveHere([this] { app->Get<LinkScanner>().GatherPageProfiles(); });
     EXPECT_EQ(app->controls.Items("lstAcceptIDs"_L1), QStringList{u"11"_s});
     platform->Pump().onPump = {};
     app->state.CurrentAction = u"ACC"_s;

@@ -15,7 +15,15 @@ const QString Limit = u"<p>you have reached the maximum limit of friend requests
 // What an error page does to the activity that it hits.
 class ErrorPageTest : public RequestRunTest {
 protected:
-    bool Check() { return app->Get<StepDispatcher>().CheckLinkFound(); }
+    // As the tick does it.
+    bool Check() {
+        bool found = false;
+        Waiting::LeaveHere([this, &found] {
+            const Waiting::Owned owned(app->waiting);
+            found = app->Get<StepDispatcher>().CheckLinkFound();
+        });
+        return found;
+    }
     bool Check(const QString& action, const QString& page) {
         Show(page);
         State().CurrentAction = action;
