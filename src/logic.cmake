@@ -33,10 +33,10 @@ add_library(quillmere_logic STATIC
     browser/PageClassTable.cpp
     browser/PageClassifier.cpp
     browser/PageSigns.cpp
+    browser/PageView.cpp
     browser/PageWords.cpp
     browser/ProfileLinkRules.cpp
     browser/ProfileLinks.cpp
-    browser/RefusalTexts.cpp
     browser/ScriptEdits.cpp
     browser/ScriptValues.cpp
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "browser/PageSigns.h"
+#include "browser/PageView.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace qlm {
@@ -11,32 +12,32 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Each row is a group of which all members must be on the page; most groups have one member.
-const std::vector<std::vector<const char16_t*>>& ForeignMarkers() {
-    static const std::vector<std::vector<const char16_t*>> markers{
-        {u"Connecte-toi d'abord"},
-        {u"Mitglieder-Login"},
-        {u"Volver al Inicio"},
-        {u"Tienes que haber"},
-        {u"Parcourir"},
-        {u"Iniciar Sesi"},
-        {u"siste innlogging:"},
-        {u"ultimo accesso:"},
-        {u"Profilaufrufe"},
-        {u"Connexion"},
-        {u"Rester connect"},
-        {u"Todos os Direitos Reservados"},
-        {u"passwort vergessen"},
-        {u"Wachtwoord vergeten"},
-        {u"Adgangskode"},
-        {u"Salasana"},
-        {u"Iscriviti!"},
-        {u"Glemt passordet"},
-        {u"Zarejestruj"},
-        {u"Aanpassen aan je eigen smaak"},
-        {u"Postfach", u"Ausloggen"},
-        {u"Inicio", u"Correo", u"mi cuenta"},
-        {u"Mitt konto", u"Logga Ut"},
+const std::vector<PageMarks>& ForeignMarkers() {
+    using enum In;
+    static const std::vector<PageMarks> markers{
+        {{Text, u"Connecte-toi d'abord"}},
+        {{Text, u"Mitglieder-Login"}},
+        {{Text, u"Volver al Inicio"}},
+        {{Text, u"Tienes que haber"}},
+        {{Text, u"Parcourir"}},
+        {{Text, u"Iniciar Sesi"}},
+        {{Text, u"siste innlogging:"}},
+        {{Text, u"ultimo accesso:"}},
+        {{Text, u"Profilaufrufe"}},
+        {{Text, u"Connexion"}},
+        {{Text, u"Rester connect"}},
+        {{Text, u"Todos os Direitos Reservados"}},
+        {{Text, u"passwort vergessen"}},
+        {{Text, u"Wachtwoord vergeten"}},
+        {{Text, u"Adgangskode"}},
+        {{Text, u"Salasana"}},
+        {{Text, u"Iscriviti!"}},
+        {{Text, u"Glemt passordet"}},
+        {{Text, u"Zarejestruj"}},
+        {{Text, u"Aanpassen aan je eigen smaak"}},
+        {{Text, u"Postfach"}, {Text, u"Ausloggen"}},
+        {{Text, u"Inicio"}, {Text, u"Correo"}, {Text, u"mi cuenta"}},
+        {{Text, u"Mitt konto"}, {Text, u"Logga Ut"}},
     };
     return markers;
 }
@@ -44,19 +45,12 @@ const std::vector<std::vector<const char16_t*>>& ForeignMarkers() {
 } // namespace
 
 bool PageSigns::IsNotEnglishPage() {
-    if (m_app.state.CurrentAction != u"LOGIN"_s)
-        return false;
-    return std::any_of(ForeignMarkers().begin(), ForeignMarkers().end(), [this](const auto& group) {
-        return std::all_of(group.begin(), group.end(), [this](const char16_t* marker) {
-            return IsTextInPage(QString::fromUtf16(marker));
-        });
-    });
+    return m_app.state.CurrentAction == ActivityWord::Login && ShownPage(m_app).IsOneOf(ForeignMarkers());
 }
 
 void ShowLanguageMessage(App& app) {
-    app.ShowMessage(
-        u"In order to use Quillmere, your MySpace language setting must be English.\n\nPlease change "
-        "this in your account settings and restart the program."_s);
+    app.ShowMessage(u"In order to use Quillmere, your MySpace language setting must be English.\n\n"
+                    "Please change this in your account settings and restart the program."_s);
 }
 
 } // namespace qlm

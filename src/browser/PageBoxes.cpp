@@ -23,9 +23,7 @@ void PageBoxes::ClosePopup(const QString& title) {
 
 // While sending only a CAPTCHA may need it; a stray right-click must not disturb a step.
 bool PageBoxes::hGlobalDoc_oncontextmenu() {
-    const QString& action = m_app.state.CurrentAction;
-    const bool sending = action == u"COM"_s || action == u"FR"_s || action == u"MSG"_s;
-    if (!sending)
+    if (!isSending())
         return true;
     // A page that is still to come asks for none, and must not be waited for in the answer to a click.
     const Document document = m_app.WebBrowser1().Document();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 namespace qlm {
 
@@ -17,6 +18,9 @@ public:
     void ClosePopup(const QString& title);
     // May the page's own menu come up? The answer to a right-click in WebBrowser1.
     bool hGlobalDoc_oncontextmenu();
+
+    // Whether the running activity sends. Set by the program, which knows the activities.
+    std::function<bool()> isSending;
 
 private:
     App& m_app;

@@ -1,24 +1,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include "browser/PageView.h"
+#include "core/ActivitySet.h"
+
 #include <vector>
 
 namespace qlm {
 
-enum class PageCondition { None, WhileRequesting, NoLastLoginOrCommenting, NotDeletingPending, ErrorAddress };
 enum class PageEffect { None, SkipCurrentID, DailyLimit };
 
-// One class of refusal or error page. anyOf holds alternatives, each a list of markers that must all stand in
-// the page's text; markers are in lower case unless exact. An empty anyOf leaves the decision to the
-// condition.
+// One class of refusal or error page.
 struct PageClassRow {
     qint16 pageClass;
-    std::vector<std::vector<QString>> anyOf;
-    PageCondition condition = PageCondition::None;
+    PageKinds kinds;     // the marks of its page
+    const char* refusal; // what the site said, in the program's own words for the report; "" where no target
+                         // ends with it
     PageEffect effect = PageEffect::None;
-    bool isErrorPage = true; // false: noted, but the step can go on with the page
-    bool exact = false;
+    bool isErrorPage = true;                     // false: noted, but the step can go on with the page
+    ActivitySet activities = ActivitySet::Any(); // while they run
 };
 
 // In the order in which the classes are tried; the first match wins. Specific refusals come before generic

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QString>
-#include <vector>
+#include <functional>
 
 namespace qlm {
 
@@ -16,6 +16,10 @@ public:
     // Sets intPageClass, and blnSkipCurrentID or blnDailyLimitHit where the class says so. True: the step
     // can't go on with this page.
     bool ClassifyErrorPage();
+
+    // Whether the running activity notes the class in its trail. Set by the program, which knows the
+    // activities.
+    std::function<bool()> tracesClasses;
 
 private:
     App& m_app;

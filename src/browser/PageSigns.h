@@ -34,7 +34,7 @@ public:
     static Question HrefQuestion(const QString& href, bool partial);
     static std::vector<Question> ImageQuestions(const QString& name);
     bool IsHomePageURL();
-    // The words of a page that asks for a password, whoever's page it is.
+    // The words of a page that asks for a password, whosever page it is.
     bool AsksForPassword();
     static bool AsksForPassword(const QString& pageText);
     // The site's own page with its login form.

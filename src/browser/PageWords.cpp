@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "browser/PageSigns.h"
+#include "browser/PageView.h"
 #include "core/App.h"
-#include "core/Text.h"
 
 #include <algorithm>
 #include <vector>
@@ -12,44 +12,41 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-enum class KnownPage { LoggedOut, Captcha, RequestSent };
+enum class Known { LoggedOut, Captcha, RequestSent };
 
 struct PageWord {
-    KnownPage page;
+    Known page;
     const char16_t* text;
 };
 
 // One of its words is enough to know a page.
 const std::vector<PageWord>& PageWords() {
     static const std::vector<PageWord> rows{
-        {KnownPage::LoggedOut, u"forgot your password?"},
-        {KnownPage::LoggedOut, u"forgot password?"},
-        {KnownPage::Captcha, u"Please enter the text from the image"},
-        {KnownPage::Captcha, u"Please enter the image text"},
-        {KnownPage::Captcha, u"Type the two words:"},
-        {KnownPage::Captcha, u"Settings require that you solve a CAPTCHA"},
-        {KnownPage::RequestSent, u"Request Sent!"},
-        {KnownPage::RequestSent, u"fdsfsdafgsdagsdfg"}, // stands on no page; the test has always had it
+        {Known::LoggedOut, u"forgot your password?"},
+        {Known::LoggedOut, u"forgot password?"},
+        {Known::Captcha, u"Please enter the text from the image"},
+        {Known::Captcha, u"Please enter the image text"},
+        {Known::Captcha, u"Type the two words:"},
+        {Known::Captcha, u"Settings require that you solve a CAPTCHA"},
+        {Known::RequestSent, u"Request Sent!"},
+        {Known::RequestSent, u"fdsfsdafgsdagsdfg"}, // no page of the site is known to say so
     };
     return rows;
 }
 
-bool Shows(PageSigns& tests, KnownPage page) {
-    return std::any_of(PageWords().begin(), PageWords().end(), [&](const PageWord& word) {
-        return word.page == page && tests.IsTextInPage(QString::fromUtf16(word.text));
-    });
+bool Is(Known known, const PageView& page) {
+    return std::any_of(PageWords().begin(), PageWords().end(),
+                       [&](const PageWord& word) { return word.page == known && page.Shows(word.text); });
 }
 
 } // namespace
 
 bool PageSigns::AsksForPassword() {
-    return Shows(*this, KnownPage::LoggedOut);
+    return Is(Known::LoggedOut, ShownPage(m_app));
 }
 
 bool PageSigns::AsksForPassword(const QString& pageText) {
-    return std::any_of(PageWords().begin(), PageWords().end(), [&](const PageWord& word) {
-        return word.page == KnownPage::LoggedOut && Has(pageText, QString::fromUtf16(word.text));
-    });
+    return Is(Known::LoggedOut, KeptPage({.text = pageText}));
 }
 
 bool PageSigns::IsLoggedOutPage() {
@@ -57,11 +54,11 @@ bool PageSigns::IsLoggedOutPage() {
 }
 
 bool PageSigns::IsCaptchaPage() {
-    return Shows(*this, KnownPage::Captcha);
+    return Is(Known::Captcha, ShownPage(m_app));
 }
 
 bool PageSigns::IsRequestSentPage() {
-    return Shows(*this, KnownPage::RequestSent);
+    return Is(Known::RequestSent, ShownPage(m_app));
 }
 
 bool PageSigns::IsAdvertiserProfile() {

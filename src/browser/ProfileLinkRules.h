@@ -45,7 +45,7 @@ const std::vector<LinkTest>& RecognitionRules();
 // What is no profile link although it looks like one.
 struct ExclusionRule {
     LinkTest fits;
-    bool mayForget; // has a say in whether the link is remembered, so it is asked even behind one that fits
+    bool mayForget; // has a say in whether the link is remembered, so it is asked even after one that fits
 };
 const std::vector<ExclusionRule>& ExclusionRules();
 

@@ -97,6 +97,14 @@ void App::MakeFamilies() {
 void App::Connect() {
     diagnostics.trailOf = TrailOf;
     waiting.skipHelps = [this] { return Get<StopResume>().SkipHelps(); };
+    Get<PageBoxes>().isSending = [this] {
+        const Activity* activity = RunningActivity(*this);
+        return activity && activity->sends;
+    };
+    Get<PageClassifier>().tracesClasses = [this] {
+        const Activity* activity = RunningActivity(*this);
+        return activity && activity->tracesPageClasses;
+    };
     auto& list = Get<GatheredList>();
     Get<SettingsFields>().stores = {
         .restoreCounters = [this] { Get<Counters>().Restore(); },

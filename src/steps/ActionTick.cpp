@@ -95,7 +95,7 @@ void ActionTick::LogCheck(bool found) {
         m_app.Get<PageSigns>().IsTextInPage(u"enter the text"_s))
         m_app.diagnostics.DebugForAction(u"waiting for CAPTCHA"_s);
     QString line = QString::fromLatin1(activity->checkMark);
-    if (activity->tracesExpectation)
+    if (activity->sends)
         line += u" - "_s + state.strLinkType + u", "_s + state.strLinkValue;
     m_app.diagnostics.DebugForAction(line + u" ... Found = "_s + Flag(found) + u" ... EX: "_s +
                                      Flag(state.blnLastPageTextSeen) + u" ... PRESSED: "_s +

@@ -3,6 +3,8 @@
 
 #include "core/App.h"
 
+#include <algorithm>
+
 namespace qlm {
 
 const Activity* FindActivity(const QString& word) {
@@ -12,13 +14,25 @@ const Activity* FindActivity(const QString& word) {
     return nullptr;
 }
 
+const Activity* RunningActivity(const App& app) {
+    return FindActivity(app.state.CurrentAction);
+}
+
+bool IsRunning(const App& app, const ActivitySet& activities, const std::vector<qint16>& steps) {
+    if (!activities.Contains(app.state.CurrentAction))
+        return false;
+    const Activity* activity = steps.empty() ? nullptr : RunningActivity(app);
+    return steps.empty() || (activity && activity->step &&
+                             std::find(steps.begin(), steps.end(), app.state.*activity->step) != steps.end());
+}
+
 QString TrailOf(const QString& word) {
     const Activity* activity = FindActivity(word);
     return activity ? QString::fromLatin1(activity->debugFile) : QString();
 }
 
 void NoteConfirmation(App& app) {
-    if (const Activity* activity = FindActivity(app.state.CurrentAction); activity && activity->onConfirmed)
+    if (const Activity* activity = RunningActivity(app); activity && activity->onConfirmed)
         activity->onConfirmed(app);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/ActivitySet.h"
 #include "core/RunState.h"
 
 #include <optional>
@@ -20,12 +21,12 @@ struct Activity {
     const char* stopMark = "";           // what StopAll writes before the reason; "" writes nothing
     bool resumable = false;              // ResumeNext runs the step routine
     bool worksOnList = false;            // fills or walks over the gathered list, which nobody else touches
-    // What the trail says of each check of the page, and whether the expectation follows; and of one that
-    // found what was expected.
+    // What the trail says of each check of the page, and whether also of one that found what was expected.
     const char* checkMark = "checking...";
-    bool tracesExpectation = false;
     bool tracesFound = false;
-    // The step behind the one that sends, for Skip; 0 where the step goes on as it stands, nothing where
+    bool sends = false;                  // to one person after the other
+    bool tracesPageClasses = false;      // whatever page the classifier knows is noted in the debug file
+    // The step after the one that sends, for Skip; 0 where the step goes on as it stands, nothing where
     // there is no target to skip.
     std::optional<qint16> stepAfterSkip = std::nullopt;
     // A page that the classifier knows as an error came instead of the awaited one. nullptr: it is left
@@ -41,6 +42,10 @@ struct Activity {
 const std::vector<Activity>& Activities();
 // nullptr for the empty word and unknown ones.
 const Activity* FindActivity(const QString& word);
+// The row of the running activity; nullptr when none runs.
+const Activity* RunningActivity(const App& app);
+// Whether one of the activities runs, at one of the steps; without steps at whichever.
+bool IsRunning(const App& app, const ActivitySet& activities, const std::vector<qint16>& steps = {});
 // The debug file of that activity; empty when it has none.
 QString TrailOf(const QString& word);
 // What the running activity notes when the site confirms what was sent.
