@@ -6,9 +6,11 @@
 #include "browser/PageSigns.h"
 #include "browser/ProfileLinks.h"
 #include "browser/ScriptEdits.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/Text.h"
 #include "steps/ActionTick.h"
+#include "steps/Steps.h"
 
 #include <algorithm>
 #include <vector>
@@ -82,10 +84,10 @@ bool BrowserHost::WebBrowser1_BeforeNavigate2(const NavigationRequest& request) 
         return false;
     // A finished request may be redirected to an error page: that stays behind the cover until the next
     // target.
-    if (state.intFRStep == 9)
+    if (state.intFRStep == FriendStep::AfterSend)
         m_app.Get<Cover>().Show();
 
-    const bool loggingIn = state.CurrentAction == u"LOGIN"_s;
+    const bool loggingIn = state.CurrentAction == ActivityWord::Login;
     if (loggingIn && Has(request.headers, m_app.Expand(u"{CreativeHost}"_s))) {
         m_app.diagnostics.Debug(InitialTrail, u"WebBefNav-Flash-Cancel"_s);
         return true;
@@ -130,7 +132,7 @@ void BrowserHost::WebBrowser1_DocumentComplete(bool topLevel, const QString& url
         if (!timers.Timer1.Enabled())
             timers.tmrAutoResume.SetInterval(ResumeSoonIntervalMs);
     }
-    if (timers.tmrAutoResume.Enabled() && m_app.state.CurrentAction != u"INV"_s) {
+    if (timers.tmrAutoResume.Enabled() && m_app.state.CurrentAction != ActivityWord::Invites) {
         timers.tmrAutoResume.SetInterval(ResumeIntervalMs);
         timers.tmrAutoResume.Restart();
     }

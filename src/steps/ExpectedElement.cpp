@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "browser/PageSigns.h"
+#include "browser/PageView.h"
+#include "core/ActivitySet.h"
 #include "core/App.h"
 #include "core/Text.h"
 #include "steps/Activities.h"
 #include "steps/FullListRules.h"
 #include "steps/StepDispatcher.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 #include <algorithm>
@@ -37,7 +40,7 @@ Questions AboutLink(const RunState&, const QString& value) {
 Questions AboutImage(const RunState& state, const QString& value) {
     Questions questions = PageSigns::ImageQuestions(value);
     questions.push_back(InTags(u"input"_s, ElementText::Name, Contains, value));
-    if (state.intComStep == 7)
+    if (state.intComStep == CommentStep::Submit)
         questions.push_back(InTags(u"button"_s, ElementText::Value, EqualsTrimmed, u"post a comment"_s));
     return questions;
 }
@@ -58,6 +61,18 @@ bool IsAnyTrue(App& app, const Questions& questions) {
                        [&](const Question& question) { return document.Any(question); });
 }
 
+bool IsInText(App& app, const QString& value) {
+    return app.Get<PageSigns>().IsTextInPage(value);
+}
+
+bool IsInMarkup(App& app, const QString& value) {
+    return app.Get<PageSigns>().IsTextInPage(value, true);
+}
+
+bool IsNothingElse(App&, const QString&) {
+    return false;
+}
+
 bool IdIsThere(App& app, const QString& value) {
     if (value == u"ListOfIDs"_s)
         return IsGatherPageComplete(app) || app.Get<StepDispatcher>().listStands();
@@ -72,20 +87,11 @@ struct LinkTypeRow {
     bool (*isThere)(App&, const QString& value);
 };
 
-bool IsNothingElse(App&, const QString&) {
-    return false;
-}
-
 const std::vector<LinkTypeRow>& LinkTypes() {
     static const std::vector<LinkTypeRow> rows{
-        {"Text"_L1, AboutNothing,
-         [](App& app, const QString& value) { return app.Get<PageSigns>().IsTextInPage(value); }},
-        {"TextHTML"_L1, AboutNothing,
-         [](App& app, const QString& value) { return app.Get<PageSigns>().IsTextInPage(value, true); }},
-        {"Link"_L1, AboutLink, IsNothingElse},
-        {"Image"_L1, AboutImage, IsNothingElse},
-        {"Button"_L1, AboutButton, IsNothingElse},
-        {"ID"_L1, AboutNothing, IdIsThere},
+        {"Text"_L1, AboutNothing, IsInText},       {"TextHTML"_L1, AboutNothing, IsInMarkup},
+        {"Link"_L1, AboutLink, IsNothingElse},     {"Image"_L1, AboutImage, IsNothingElse},
+        {"Button"_L1, AboutButton, IsNothingElse}, {"ID"_L1, AboutNothing, IdIsThere},
     };
     return rows;
 }
@@ -97,40 +103,61 @@ Questions AboutExpectation(const RunState& state) {
     return {};
 }
 
-// Nothing to do on such a folder, whatever is waited for there.
-const std::vector<const char16_t*>& EmptyFolderTexts() {
-    static const std::vector<const char16_t*> rows{
-        u"there are 0 messages in this folder",
-        u"there are 0 requests in this folder",
-        u"You have no requests",
+bool IsCompleteWithoutCaptcha(App& app) {
+    return ShownPage(app).IsComplete() && !app.Get<PageSigns>().IsCaptchaPage();
+}
+
+bool IsRequestSent(App& app) {
+    return app.Get<PageSigns>().IsRequestSentPage();
+}
+
+bool IsRequestSentOrCaptcha(App& app) {
+    return IsRequestSent(app) || app.Get<PageSigns>().IsCaptchaPage();
+}
+
+// What counts as found in place of the awaited element.
+struct StandInRow {
+    ActivitySet activities;
+    std::vector<qint16> steps; // none: all steps
+    const char16_t* awaited;   // "" for whatever is waited for
+    PageKinds kinds;           // the page is one of these; none: any page
+    bool (*sign)(App&);        // and this holds; nullptr: nothing more is asked
+};
+
+const std::vector<StandInRow>& StandIns() {
+    using namespace ActivityWord;
+    using enum In;
+    // Nothing to do on such a folder.
+    static const PageKinds EmptyFolder{{{Text, u"there are 0 messages in this folder"}},
+                                       {{Text, u"there are 0 requests in this folder"}},
+                                       {{Text, u"You have no requests"}}};
+    static const std::vector<StandInRow> rows{
+        {{Accepting, DeletingPending}, {}, u"", EmptyFolder, nullptr},
+        // A request page that is opened once more after a refused answer may send without its button, or ask
+        // with another one.
+        {FriendRequests, {FriendStep::Submit}, u"addFrdBtn", {}, IsRequestSentOrCaptcha},
     };
     return rows;
 }
 
-bool IsFolderEmpty(App& app) {
-    return (app.state.CurrentAction == u"ACC"_s || app.state.CurrentAction == u"DEL PEN"_s) &&
-           std::any_of(EmptyFolderTexts().begin(), EmptyFolderTexts().end(), [&app](const char16_t* text) {
-               return app.Get<PageSigns>().IsTextInPage(QString::fromUtf16(text));
-           });
+bool IsAwaited(const App& app, const char16_t* awaited) {
+    return !awaited[0] ||
+           app.state.strLinkValue.compare(QString::fromUtf16(awaited), Qt::CaseInsensitive) == 0;
 }
 
-bool Awaits(const RunState& state, const QString& value) {
-    return state.strLinkValue.compare(value, Qt::CaseInsensitive) == 0;
-}
-
-bool IsCompleteWithoutCaptcha(App& app) {
-    return app.WebBrowser1().ReadyState() == 4 && !app.Get<PageSigns>().IsCaptchaPage();
+bool HasStandIn(App& app) {
+    const ShownPage page(app);
+    return std::any_of(StandIns().begin(), StandIns().end(), [&](const StandInRow& row) {
+        return IsRunning(app, row.activities, row.steps) && IsAwaited(app, row.awaited) &&
+               page.IsOneOf(row.kinds) && (!row.sign || row.sign(app));
+    });
 }
 
 // The page between form and post wants a second click, once it has stood complete for a while.
 bool ConfirmComment(App& app, bool found) {
     RunState& state = app.state;
-    if (state.CurrentAction != u"COM"_s || state.intComStep != 8 ||
-        !Awaits(state, u"your comment has been posted"_s))
-        return false;
-    const bool unconfirmed = !found &&
-                             app.Get<PageSigns>().IsTextInPage(u"click the button below to confirm"_s) &&
-                             IsCompleteWithoutCaptcha(app);
+    const bool unconfirmed =
+        !found && ShownPage(app).Shows(u"click the button below to confirm") && IsCompleteWithoutCaptcha(app);
     state.intConfirmPolls = unconfirmed ? static_cast<qint16>(state.intConfirmPolls + 1) : qint16(0);
     if (state.intConfirmPolls < CommentConfirmPolls)
         return false;
@@ -141,24 +168,20 @@ bool ConfirmComment(App& app, bool found) {
 
 // An advertiser's profile has no such line.
 bool AcceptAdvertiser(App& app, bool found) {
-    return !found && Awaits(app.state, u"last login:"_s) &&
-           (app.Get<PageSigns>().IsAdvertiserProfile() || app.Get<PageSigns>().IsTextInPage(u"view my:"_s));
+    return !found && (app.Get<PageSigns>().IsAdvertiserProfile() || ShownPage(app).Shows(u"view my:"));
 }
 
 bool BeginCommentAnew(App& app, bool found) {
-    RunState& state = app.state;
-    if (found || state.CurrentAction != u"COM"_s || state.intComStep != 8 ||
-        !StepDispatcher::IsCommentFormBack(app))
+    if (found || !StepDispatcher::IsCommentFormBack(app))
         return false;
-    state.intComStep = 4;
+    app.state.intComStep = CommentStep::NextTarget;
     return true;
 }
 
 // A message that the site doesn't confirm on one complete page after another counts as failed.
 bool GiveMessageUp(App& app, bool found) {
     RunState& state = app.state;
-    if (found || state.CurrentAction != u"MSG"_s || state.intMsgStep != 8 ||
-        !Awaits(state, u"your message has been sent"_s) || !IsCompleteWithoutCaptcha(app))
+    if (found || !IsCompleteWithoutCaptcha(app))
         return false;
     if (++state.intConfirmPolls < MessageConfirmPolls)
         return false;
@@ -168,27 +191,35 @@ bool GiveMessageUp(App& app, bool found) {
     return false;
 }
 
-// Pages on which a text test is not the whole story. Each answers whether it counts as found after all.
-using TextRider = bool (*)(App&, bool found);
+// Pages on which a text test is not the whole story.
+struct TextRiderRow {
+    ActivitySet activities;
+    std::vector<qint16> steps;           // none: all steps
+    const char16_t* awaited;             // "" for whatever is waited for
+    bool (*judge)(App& app, bool found); // answers whether it counts as found after all
+};
 
-const std::vector<TextRider>& TextRiders() {
-    static const std::vector<TextRider> rows{ConfirmComment, AcceptAdvertiser, BeginCommentAnew,
-                                             GiveMessageUp};
+const std::vector<TextRiderRow>& TextRiders() {
+    using namespace ActivityWord;
+    static const std::vector<TextRiderRow> rows{
+        {Comments, {CommentStep::AfterSend}, u"your comment has been posted", ConfirmComment},
+        {ActivitySet::Any(), {}, u"last login:", AcceptAdvertiser},
+        {Comments, {CommentStep::AfterSend}, u"", BeginCommentAnew},
+        {Messages, {MessageStep::AfterSend}, u"your message has been sent", GiveMessageUp},
+    };
     return rows;
 }
 
-// A request page that is opened once more behind a refused answer may send without its button, or ask with
-// another one.
-bool AsksOrSendsWithoutButton(App& app) {
-    return app.state.CurrentAction == u"FR"_s && app.state.intFRStep == 8 &&
-           Awaits(app.state, u"addFrdBtn"_s) &&
-           (app.Get<PageSigns>().IsRequestSentPage() || app.Get<PageSigns>().IsCaptchaPage());
+bool AskTextRiders(App& app, bool found) {
+    for (const TextRiderRow& row : TextRiders())
+        if (IsRunning(app, row.activities, row.steps) && IsAwaited(app, row.awaited))
+            found = row.judge(app, found) || found;
+    return found;
 }
 
 // The step that logs it comes 400 ms later, and Stop, Skip or the end of the process may come before.
 bool IsRequestConfirmed(App& app) {
-    return app.state.CurrentAction == u"FR"_s && app.state.intFRStep == 8 &&
-           app.Get<PageSigns>().IsRequestSentPage();
+    return IsRunning(app, ActivityWord::FriendRequests, {FriendStep::Submit}) && IsRequestSent(app);
 }
 
 } // namespace
@@ -216,11 +247,9 @@ bool FindExpectedElement(App& app) {
     const auto isType = [&state](const LinkTypeRow& row) { return state.strLinkType == row.type; };
     const auto type = std::find_if(LinkTypes().begin(), LinkTypes().end(), isType);
     bool found = IsAnyTrue(app, AboutExpectation(state)) ||
-                 (type != LinkTypes().end() && type->isThere(app, state.strLinkValue)) ||
-                 IsFolderEmpty(app) || AsksOrSendsWithoutButton(app);
+                 (type != LinkTypes().end() && type->isThere(app, state.strLinkValue)) || HasStandIn(app);
     if (state.strLinkType == u"Text"_s)
-        for (const TextRider rider : TextRiders())
-            found = rider(app, found) || found;
+        found = AskTextRiders(app, found);
     if (!found)
         return false;
     state.blnLinkFound = true;

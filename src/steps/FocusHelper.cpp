@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "browser/PageSigns.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/Text.h"
 #include "steps/BrowserHost.h"
@@ -14,7 +15,7 @@ const QString MainWindow = u"frmMain"_s;
 constexpr int HelperIntervalMs = 1000;
 } // namespace
 
-// The comment form takes the input focus; a user who works in another window gets it back.
+// The comment form takes the input focus; users who work in another window get it back.
 void BrowserHost::NoteFocusWindow(const QString& url) {
     if (!m_app.Get<PageSigns>().AddressContains(CommentForm, Qt::CaseSensitive) || !Has(url, u"comment"_s) ||
         m_app.WebBrowser1().Document().IsNull())
@@ -28,7 +29,8 @@ void BrowserHost::NoteFocusWindow(const QString& url) {
 
 void BrowserHost::tmrHelper_Timer() {
     RunState& state = m_app.state;
-    if (state.CurrentAction != u"COM"_s || !m_app.Get<PageSigns>().AddressContains(CommentForm)) {
+    if (state.CurrentAction != ActivityWord::Comments ||
+        !m_app.Get<PageSigns>().AddressContains(CommentForm)) {
         m_app.timers->tmrHelper.SetEnabled(false);
         return;
     }

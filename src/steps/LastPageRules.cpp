@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "browser/PageSigns.h"
+#include "browser/PageView.h"
+#include "core/ActivitySet.h"
 #include "core/App.h"
 #include "core/Text.h"
+#include "steps/Activities.h"
 #include "steps/StepDispatcher.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 #include <vector>
@@ -16,34 +20,23 @@ namespace {
 constexpr int RepeatedPageLimit = 10;
 
 bool AwaitsApproveButton(App& app) {
-    const RunState& state = app.state;
-    return state.CurrentAction == u"ACC"_s && (state.intAccStep == 2 || state.intAccStep == 3) &&
-           state.strLinkValue == u"spanapprovebottom"_s;
+    return app.state.strLinkValue == u"spanapprovebottom"_s;
 }
 
 // The list that approving has emptied looks like the one before.
 bool PassEmptyList(App& app) {
-    if (!app.Get<PageSigns>().IsTextInPage(u"You have no requests"_s))
+    if (!ShownPage(app).Shows(u"You have no requests"))
         return false;
     app.state.blnLinkFound = true;
     app.state.blnForceAdvance = true;
     return true;
 }
 
-bool IsThrownBackToForm(App& app) {
-    return app.state.CurrentAction == u"COM"_s && app.state.intComStep == 11 &&
-           StepDispatcher::IsCommentFormBack(app);
-}
-
 bool BeginCommentAnew(App& app) {
     app.diagnostics.DebugForAction(u"GONE BACK - "_s + app.WebBrowser1().Document().BodyText());
-    app.state.intComStep = 4;
+    app.state.intComStep = CommentStep::NextTarget;
     app.state.blnLinkFound = true;
     return true;
-}
-
-bool IsTurningListPages(App& app) {
-    return app.state.CurrentAction == u"SCANNING"_s && app.state.intGatherStep == 3;
 }
 
 bool CountRepeatedPage(App& app) {
@@ -53,14 +46,10 @@ bool CountRepeatedPage(App& app) {
         return false;
     app.Get<StopResume>().StopAll(u"LF2"_s);
     if (!app.Get<StopResume>().DoFinishedExit())
-        app.ShowMessage(
-            u"MySpace only displays the first 1000 pages, after which the same ID's just repeat page "
-            "after page.\n\nThe gathering process has been stopped."_s);
+        app.ShowMessage(u"MySpace only displays the first 1000 pages, "
+                        "after which the same ID's just repeat page after page.\n\n"
+                        "The gathering process has been stopped."_s);
     return false;
-}
-
-bool TellsOfLastPage(App& app) {
-    return app.state.CurrentAction == u"COM"_s || app.state.CurrentAction == u"FR"_s;
 }
 
 bool TellOfLastPage(App& app) {
@@ -70,16 +59,19 @@ bool TellOfLastPage(App& app) {
 }
 
 struct LastPageRow {
-    bool (*applies)(App&);
-    bool (*act)(App&); // answers whether the element counts as found
+    ActivitySet activities;
+    std::vector<qint16> steps; // none: all steps
+    bool (*sign)(App&);        // nullptr: nothing more is asked
+    bool (*act)(App&);         // answers whether the element counts as found
 };
 
 const std::vector<LastPageRow>& LastPageRules() {
+    using namespace ActivityWord;
     static const std::vector<LastPageRow> rows{
-        {AwaitsApproveButton, PassEmptyList},
-        {IsThrownBackToForm, BeginCommentAnew},
-        {IsTurningListPages, CountRepeatedPage},
-        {TellsOfLastPage, TellOfLastPage},
+        {Accepting, {AcceptStep::OpenList, AcceptStep::Approve}, AwaitsApproveButton, PassEmptyList},
+        {Comments, {CommentStep::Confirm}, StepDispatcher::IsCommentFormBack, BeginCommentAnew},
+        {Gathering, {GatherStep::ScanPage}, nullptr, CountRepeatedPage},
+        {{Comments, FriendRequests}, {}, nullptr, TellOfLastPage},
     };
     return rows;
 }
@@ -95,7 +87,7 @@ Verdict JudgeLastPage(App& app) {
     if (!state.blnLastPageTextSeen && !state.blnLastPageHrefSeen)
         return std::nullopt;
     for (const LastPageRow& row : LastPageRules())
-        if (row.applies(app))
+        if (IsRunning(app, row.activities, row.steps) && (!row.sign || row.sign(app)))
             return row.act(app);
     return false;
 }

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "browser/Cover.h"
 #include "browser/PageSigns.h"
+#include "browser/PageView.h"
+#include "core/ActivitySet.h"
 #include "core/App.h"
 #include "core/SettingsFields.h"
+#include "core/Text.h"
 #include "steps/Activities.h"
 #include "steps/RunReport.h"
 #include "steps/StepDispatcher.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 #include <vector>
@@ -16,320 +20,306 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct Page {
-    App& app;
-    RunState& state;
-    bool captcha;
+// Signs: what else may make a detour of a page.
 
-    bool Is(const char* action) const { return state.CurrentAction == QLatin1StringView(action); }
-    bool Requesting(qint16 step) const { return Is("FR") && state.intFRStep == step; }
-    bool LoggingIn(qint16 step) const { return Is("LOGIN") && state.intLoginStep == step; }
-    bool Shows(const char16_t* text) const {
-        return app.Get<PageSigns>().IsTextInPage(QString::fromUtf16(text));
-    }
-    bool At(const char16_t* address) const {
-        return app.Get<PageSigns>().AddressContains(QString::fromUtf16(address));
-    }
-    bool Complete() const { return app.WebBrowser1().ReadyState() == 4; }
-    void Trace(const QString& text) const { app.diagnostics.DebugForAction(text); }
-    void Remark(const char* why) const { app.Get<RunReport>().Remark(QString::fromLatin1(why)); }
-    QString Body() const { return app.WebBrowser1().Document().BodyText(); }
-};
+bool IsSitesLoginForm(App& app) {
+    return app.Get<PageSigns>().IsLoggedOutPage();
+}
 
-void LoadHomePage(const Page& page) {
-    const RunMark mark = page.app.waiting.Mark();
-    page.app.ClearPage();
-    if (!page.app.waiting.IsCurrent(mark))
+bool AsksForPassword(App& app) {
+    return app.Get<PageSigns>().AsksForPassword();
+}
+
+bool IsRequestSent(App& app) {
+    return app.Get<PageSigns>().IsRequestSentPage();
+}
+
+bool IsHomePage(App& app) {
+    return app.Get<PageSigns>().IsHomePageURL();
+}
+
+bool IsForeign(App& app) {
+    return app.Get<PageSigns>().IsNotEnglishPage();
+}
+
+bool IsComplete(App& app) {
+    return ShownPage(app).IsComplete();
+}
+
+bool IsCompleteUnsent(App& app) {
+    return IsComplete(app) && !app.state.blnSubmittingComment;
+}
+
+bool IsStillAwaited(App& app) {
+    return !app.state.blnLinkFound;
+}
+
+bool IsLimitHit(App& app) {
+    return app.state.blnDailyLimitHit && !app.state.blnLinkFound;
+}
+
+bool AwaitsCaptcha(App& app) {
+    return app.state.blnWaitingForCaptcha;
+}
+
+bool AwaitsNoCaptcha(App& app) {
+    return !app.state.blnWaitingForCaptcha;
+}
+
+void Trace(App& app, const QString& text) {
+    app.diagnostics.DebugForAction(text);
+}
+
+void Remark(App& app, const char* why) {
+    app.Get<RunReport>().Remark(QString::fromLatin1(why));
+}
+
+void LoadHomePage(App& app) {
+    const RunMark mark = app.waiting.Mark();
+    app.ClearPage();
+    if (!app.waiting.IsCurrent(mark))
         return;
-    page.app.WebBrowser1().Navigate(page.app.Expand(u"{HomeHost}/index.cfm?fuseaction=home"_s));
-    page.app.waiting.Pump();
+    app.WebBrowser1().Navigate(app.Expand(u"{HomeHost}/index.cfm?fuseaction=home"_s));
+    app.waiting.Pump();
 }
 
-void RunLoginStep(const Page& page) {
-    FindActivity(u"LOGIN"_s)->stepRoutine(page.app);
+void RunLoginStep(App& app) {
+    FindActivity(ActivityWord::Login)->stepRoutine(app);
 }
 
-// The step goes to the after-send state with the target given up.
-bool GiveUpRequest(const Page& page, const QString& trace, bool skipCurrentID) {
-    page.Trace(trace);
-    StepDispatcher::GiveUpRequest(page.app, skipCurrentID);
-    return false;
+void SkipTarget(App& app) {
+    app.state.blnSkipCurrentID = true;
+    app.Get<StopResume>().SkipProfile();
 }
 
-bool LogInAgain(const Page& page) {
-    const RunMark mark = page.app.waiting.Mark();
-    page.state.blnLinkFound = true;
-    page.Remark("The session was lost; you were signed in again");
-    page.app.Get<StepDispatcher>().logInAgain();
-    page.app.waiting.WaitFor(u"the page to be complete"_s, [&] {
-        return page.app.WebBrowser1().Busy() && page.app.waiting.IsCurrent(mark);
-    });
-    // A stop meanwhile is the last word; and the page behind the login may have given the target up already.
-    if (!page.app.waiting.IsCurrent(mark))
-        return false;
-    if (const Activity* activity = FindActivity(page.state.CurrentAction);
-        activity && activity->onSignedInAgain) {
-        activity->onSignedInAgain(page.app);
-        return false;
-    }
-    page.state.blnSkipCurrentID = true;
-    page.app.Get<StopResume>().SkipProfile();
-    return false;
+void LogInAgain(App& app) {
+    const RunMark mark = app.waiting.Mark();
+    app.state.blnLinkFound = true;
+    Remark(app, "The session was lost; you were signed in again");
+    app.Get<StepDispatcher>().logInAgain();
+    app.waiting.WaitFor(u"the page to be complete"_s,
+                        [&] { return app.WebBrowser1().Busy() && app.waiting.IsCurrent(mark); });
+    // A stop meanwhile is the last word; and the page after the login may have given the target up already.
+    if (!app.waiting.IsCurrent(mark))
+        return;
+    if (const Activity* activity = RunningActivity(app); activity && activity->onSignedInAgain)
+        activity->onSignedInAgain(app);
+    else
+        SkipTarget(app);
 }
 
-// A stranger's page that looks like the site's own: whoever asks there for a password gets none.
-bool LeaveTheTrap(const Page& page) {
-    page.Remark("A page that is not the site's asked for your password; nothing was typed into it");
-    page.state.blnSkipCurrentID = true;
-    page.app.Get<StopResume>().SkipProfile();
-    return false;
+// A stranger's page that looks like the site's own: who asks there for a password gets none.
+void LeaveTheTrap(App& app) {
+    Remark(app, "A page that is not the site's asked for your password; nothing was typed into it");
+    SkipTarget(app);
 }
 
-bool ConfirmedWhileWaiting(const Page& page) {
-    page.Trace(page.Body() + u"FR LF2"_s);
-    NoteConfirmation(page.app);
-    page.app.Get<Cover>().Hide();
-    page.app.Get<StopResume>().ResumeNext();
-    return false;
+void TakeLateConfirmation(App& app) {
+    Trace(app, app.WebBrowser1().Document().BodyText() + u"FR LF2"_s);
+    NoteConfirmation(app);
+    app.Get<Cover>().Hide();
+    app.Get<StopResume>().ResumeNext();
 }
 
-bool RedirectedHome(const Page& page) {
-    page.Trace(u"FR LF3"_s);
-    page.Remark("The site showed your home page instead of a confirmation");
-    page.app.Get<Cover>().Show();
-    page.app.Get<StopResume>().ResumeNext();
-    return false;
+void GoOnFromHomePage(App& app) {
+    Trace(app, u"FR LF3"_s);
+    Remark(app, "The site showed your home page instead of a confirmation");
+    app.Get<Cover>().Show();
+    app.Get<StopResume>().ResumeNext();
 }
 
-bool MessageLandedHome(const Page& page) {
-    page.state.intMsgStep = 8;
-    page.state.blnSkipCurrentID = true;
-    page.app.Get<StopResume>().ResumeNext();
-    return false;
+void GiveUpRequestAtHome(App& app) {
+    Remark(app, "The site showed your home page instead of the request page");
+    Trace(app, u"FR LF-Homepage3"_s);
+    StepDispatcher::GiveUpRequest(app, true);
 }
 
-bool LandedOnProfile(const Page& page) {
-    page.Trace(u"FR LF-Homepage2 (chinese?)"_s);
-    page.Remark("The site showed a profile instead of a confirmation");
-    page.app.Get<StopResume>().ResumeNext();
-    return false;
+void GiveUpMessage(App& app) {
+    app.state.intMsgStep = MessageStep::AfterSend;
+    app.state.blnSkipCurrentID = true;
+    app.Get<StopResume>().ResumeNext();
 }
 
-bool CommentLandedHome(const Page& page) {
-    // This line has always gone to the friend requester's trail.
-    page.app.diagnostics.Debug(u"debugfr.txt"_s, u"FR LF-Homepage3"_s);
-    page.state.blnSkipCurrentID = true;
-    page.app.Get<StopResume>().SkipProfile();
-    return false;
+void PassProfile(App& app) {
+    Trace(app, u"FR LF-Homepage2 (chinese?)"_s);
+    Remark(app, "The site showed a profile instead of a confirmation");
+    app.Get<StopResume>().ResumeNext();
 }
 
-bool CommentPageUnknown(const Page& page) {
-    page.Trace(u"PROBLEM!"_s);
-    page.app.Get<StopResume>().ResumeNext();
-    return false;
+// Noted where the friend requester's landings on the home page are, whose pages these are, too.
+void GiveUpComment(App& app) {
+    app.diagnostics.Debug(TrailOf(ActivityWord::FriendRequests), u"FR LF-Homepage3"_s);
+    SkipTarget(app);
 }
 
-bool ReloadForum(const Page& page) {
-    const QString address = page.app.Get<PageSigns>().LocationURL();
-    const RunMark mark = page.app.waiting.Mark();
-    page.app.ClearPage();
-    if (page.app.waiting.IsCurrent(mark))
-        page.app.WebBrowser1().Navigate(address);
-    return false;
+void GoOnFromUnknownPage(App& app) {
+    Trace(app, u"PROBLEM!"_s);
+    app.Get<StopResume>().ResumeNext();
 }
 
-bool RefuseLanguage(const Page& page) {
-    // The tick goes on behind the box and would bring the same one up again.
-    page.app.Get<StopResume>().PauseLinkCheck();
-    ShowLanguageMessage(page.app);
-    page.app.Get<StopResume>().StopAll(u"LF1"_s);
-    page.app.Get<StopResume>().DoFinishedExit();
-    return false;
+void GiveUpRequestAtInbox(App& app) {
+    Remark(app, "The site showed your inbox instead of a confirmation");
+    Trace(app, u"FR LF-Inbox"_s);
+    StepDispatcher::GiveUpRequest(app, false);
 }
 
-bool BackThroughTheSite(const Page& page) {
-    page.state.blnLoginCacheRetry = true;
-    page.Trace(u"LF - 'return to myspace'..."_s);
-    page.app.Get<SettingsFields>().SaveListsAndSettings();
-    page.state.intLoginStep = 1;
-    RunLoginStep(page);
-    return false;
+void ReloadForum(App& app) {
+    const QString address = app.Get<PageSigns>().LocationURL();
+    const RunMark mark = app.waiting.Mark();
+    app.ClearPage();
+    if (app.waiting.IsCurrent(mark))
+        app.WebBrowser1().Navigate(address);
 }
 
-bool AlreadyLoggedIn(const Page& page) {
-    page.Trace(u"LF - MS Homepage..."_s);
-    LoadHomePage(page);
-    return false;
+void RefuseLanguage(App& app) {
+    // The tick goes on under the box and would bring the same one up again.
+    app.Get<StopResume>().PauseLinkCheck();
+    ShowLanguageMessage(app);
+    app.Get<StopResume>().StopAll(u"LF1"_s);
+    app.Get<StopResume>().DoFinishedExit();
 }
 
-bool CachedPage(const Page& page) {
-    auto word = [](bool seen) { return seen ? u"True"_s : u"False"_s; };
-    page.Trace(u"LF - Cache... try again - "_s + word(page.Shows(u"Show My:")) + u", "_s +
-               word(page.Shows(u"View My:")));
-    page.state.intLoginStep = page.state.blnLoginCacheRetry ? 4 : 1;
-    RunLoginStep(page);
-    return false;
+void BeginLoginAnew(App& app) {
+    app.state.blnLoginCacheRetry = true;
+    Trace(app, u"LF - 'return to myspace'..."_s);
+    app.Get<SettingsFields>().SaveListsAndSettings();
+    app.state.intLoginStep = LoginStep::SignOut;
+    RunLoginStep(app);
 }
 
-bool PassBirthdayNotice(const Page& page) {
-    page.app.WebBrowser1().Navigate(page.app.Expand(u"{LoginHost}/index.cfm?fuseaction=login"_s));
-    page.state.blnLinkFound = true;
-    return false;
+void GoHomeLoggedIn(App& app) {
+    Trace(app, u"LF - MS Homepage..."_s);
+    LoadHomePage(app);
 }
 
-bool StopAtLimit(const Page& page) {
-    page.state.blnDailyLimitHit = false;
-    page.state.blnLinkFound = true;
-    page.app.Get<StopResume>().StopAll(u"LF2"_s);
-    if (!page.app.Get<StopResume>().HandOverInChain())
-        page.app.Get<StopResume>().DoFinishedExit();
-    return false;
+void LeaveCachedPage(App& app) {
+    const ShownPage page(app);
+    Trace(app, u"LF - Cache... try again - "_s + FromBoolean(page.Shows(u"Show My:")) + u", "_s +
+                   FromBoolean(page.Shows(u"View My:")));
+    app.state.intLoginStep = app.state.blnLoginCacheRetry ? LoginStep::Finish : LoginStep::SignOut;
+    RunLoginStep(app);
 }
 
-bool ExplainCertificate(const Page& page) {
-    const QString value = page.app.platform.Settings().GetSetting(
-        u"Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings"_s, u"CertificateRevocation"_s,
-        u"x"_s);
-    page.Trace(u"Security Certificate Error - "_s + value);
-    const RunMark mark = page.app.waiting.Mark();
-    page.app.Get<StopResume>().PauseLinkCheck();
-    page.app.ShowMessage(u"A current bug in Internet Explorer or MySpace may be causing the error you see on "
-                         u"this page. There are two "
-                         "ways to solve this problem:\n\n1) Please check your computer's date is "
-                         "correct\n\n2) If the date is current "
-                         "and the problem persists then you need to change an Internet Explorer setting. "
-                         "Launch Internet Explorer then "
-                         "go to Tools -> Internet Options. On the 'Advanced' tab near the bottom make sure "
-                         "the 'check for server "
-                         "certificate revocation*' setting is unchecked.\n\nAfter that close any Internet "
-                         "Explorer windows and restart "
-                         "Quillmere"_s,
-                         u"Login error"_s);
-    if (page.app.waiting.IsCurrent(mark))
-        page.app.Get<StopResume>().ResumeLinkCheck();
-    return false;
+void PassBirthdayNotice(App& app) {
+    app.WebBrowser1().Navigate(app.Expand(u"{LoginHost}/index.cfm?fuseaction=login"_s));
+    app.state.blnLinkFound = true;
 }
 
-bool SkipMailSetUp(const Page& page) {
-    page.Trace(u"LINKFOUND: CREATE EMAIL PAGE - SKIP!"_s);
-    page.app.Get<StopResume>().SkipProfile();
-    return false;
+void StopAtLimit(App& app) {
+    app.state.blnDailyLimitHit = false;
+    app.state.blnLinkFound = true;
+    app.Get<StopResume>().StopAll(u"LF2"_s);
+    if (!app.Get<StopResume>().HandOverInChain())
+        app.Get<StopResume>().DoFinishedExit();
 }
 
-bool RequestCaptcha(const Page& page) {
-    page.state.intFRStep = 8;
-    page.state.blnLinkFound = true;
-    return true;
+void ExplainCertificate(App& app) {
+    const QString key = u"Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings"_s;
+    Trace(app, u"Security Certificate Error - "_s +
+                   app.platform.Settings().GetSetting(key, u"CertificateRevocation"_s, u"x"_s));
+    const RunMark mark = app.waiting.Mark();
+    app.Get<StopResume>().PauseLinkCheck();
+    app.ShowMessage(
+        u"A current bug in Internet Explorer or MySpace may be causing the error you see on this page. "
+        "There are two ways to solve this problem:\n\n"
+        "1) Please check your computer's date is correct\n\n"
+        "2) If the date is current and the problem persists then you need to change "
+        "an Internet Explorer setting. Launch Internet Explorer then go to Tools -> Internet Options. "
+        "On the 'Advanced' tab near the bottom make sure "
+        "the 'check for server certificate revocation*' setting is unchecked.\n\n"
+        "After that close any Internet Explorer windows and restart Quillmere"_s,
+        u"Login error"_s);
+    if (app.waiting.IsCurrent(mark))
+        app.Get<StopResume>().ResumeLinkCheck();
 }
 
-bool MessageCaptcha(const Page& page) {
-    page.state.intMsgStep = 9;
-    page.state.blnLinkFound = true;
-    return true;
+void SkipMailSetUp(App& app) {
+    Trace(app, u"LINKFOUND: CREATE EMAIL PAGE - SKIP!"_s);
+    app.Get<StopResume>().SkipProfile();
 }
+
+void TakeRequestCaptcha(App& app) {
+    app.state.intFRStep = FriendStep::Submit;
+    app.state.blnLinkFound = true;
+}
+
+void TakeMessageCaptcha(App& app) {
+    app.state.intMsgStep = MessageStep::Captcha;
+    app.state.blnLinkFound = true;
+}
+
+enum class Answer { NotFound, Found };
+enum class Captcha { OrNot, Asked };
 
 struct DetourRow {
-    bool (*applies)(const Page&);
-    bool (*take)(const Page&); // answers whether the element counts as found
+    ActivitySet activities;
+    std::vector<qint16> steps; // none: all steps
+    PageKinds kinds;           // the page is one of these; none: any page
+    bool (*sign)(App&);        // and this holds; nullptr: nothing more is asked
+    void (*act)(App&);
+    Answer answer = Answer::NotFound; // does the awaited element count as found?
+    Captcha captcha = Captcha::OrNot; // Asked: on a page with a CAPTCHA alone
 };
 
 const std::vector<DetourRow>& Detours() {
+    using namespace ActivityWord;
+    using enum In;
+    using enum Answer;
+    using enum Captcha;
+    static const ActivitySet AllButLogin = ActivitySet::AllBut({Login});
+    static const ActivitySet Any = ActivitySet::Any();
+    static const PageKinds DomainPage{{{AddressEnd, u".com/"}}};
+    static const PageKinds RootPage{{{ExactAddress, u"{SiteRootHost}/"}}};
+    static const PageKinds FailedForumPage{{{Text, u"Sorry! an unexpected error has occurred"},
+                                            {AddressStart, u"{ForumHost}"},
+                                            {Address, u"&page"}}};
+    static const PageKinds CachedPage{{{Text, u"Show My:"}}, {{Text, u"View My:"}}};
+    static const PageKinds MailSetUp{
+        {{ExactAddress, u"{MessagingHost}/index.cfm?fuseaction=mailsetup.createaccount"}}};
     static const std::vector<DetourRow> rows{
-        // The session has been lost.
-        {[](const Page& p) {
-             return !p.Is("LOGIN") && p.app.Get<PageSigns>().IsLoggedOutPage() &&
-                    p.app.Get<PageSigns>().LocationURL().endsWith(u".com/"_s, Qt::CaseInsensitive);
-         },
-         LogInAgain},
-        {[](const Page& p) {
-             return !p.Is("LOGIN") && p.app.Get<PageSigns>().AsksForPassword() &&
-                    p.app.Get<PageSigns>().LocationURL().endsWith(u".com/"_s, Qt::CaseInsensitive);
-         },
-         LeaveTheTrap},
-        {[](const Page& p) { return p.Requesting(9) && p.app.Get<PageSigns>().IsRequestSentPage(); },
-         ConfirmedWhileWaiting},
-        {[](const Page& p) { return p.Requesting(9) && p.app.Get<PageSigns>().IsHomePageURL(); },
-         RedirectedHome},
-        {[](const Page& p) {
-             return (p.Requesting(7) || p.Requesting(8)) && p.app.Get<PageSigns>().IsHomePageURL();
-         },
-         [](const Page& p) {
-             p.Remark("The site showed your home page instead of the request page");
-             return GiveUpRequest(p, u"FR LF-Homepage3"_s, true);
-         }},
-        {[](const Page& p) {
-             return p.Is("MSG") && p.state.intMsgStep == 9 && p.app.Get<PageSigns>().IsHomePageURL();
-         },
-         MessageLandedHome},
-        {[](const Page& p) { return p.Requesting(9) && p.At(u"fuseaction=user.viewprofile"); },
-         LandedOnProfile},
-        {[](const Page& p) {
-             return p.Is("COM") && (p.state.intComStep == 6 || p.state.intComStep == 7) &&
-                    p.app.Get<PageSigns>().AddressEquals(u"{SiteRootHost}/"_s);
-         },
-         CommentLandedHome},
-        {[](const Page& p) {
-             return p.Is("COM") && p.state.intComStep == 7 && p.Complete() && !p.state.blnSubmittingComment;
-         },
-         CommentPageUnknown},
-        {[](const Page& p) { return p.Is("FR") && p.At(u"fuseaction=mail.inbox"); },
-         [](const Page& p) {
-             p.Remark("The site showed your inbox instead of a confirmation");
-             return GiveUpRequest(p, u"FR LF-Inbox"_s, false);
-         }},
-        {[](const Page& p) {
-             return p.Is("SCANNING") && p.Shows(u"Sorry! an unexpected error has occurred") && p.Complete() &&
-                    p.app.Get<PageSigns>().AddressBeginsWith(u"{ForumHost}"_s) && p.At(u"&page");
-         },
-         ReloadForum},
-        {[](const Page& p) { return p.Is("LOGIN") && p.Shows(u"Skip this Advertisement"); },
-         [](const Page& p) {
-             LoadHomePage(p);
-             return false;
-         }},
-        {[](const Page& p) { return p.Is("LOGIN") && p.app.Get<PageSigns>().IsNotEnglishPage(); },
-         RefuseLanguage},
-        {[](const Page& p) { return p.LoggingIn(4) && p.Shows(u"return to myspace"); }, BackThroughTheSite},
-        {[](const Page& p) { return p.LoggingIn(4) && p.Shows(u"! You are logged in."); }, AlreadyLoggedIn},
-        {[](const Page& p) { return p.LoggingIn(3) && (p.Shows(u"Show My:") || p.Shows(u"View My:")); },
-         CachedPage},
-        {[](const Page& p) {
-             return !p.state.blnLinkFound && p.Shows(u"allow others to see when it's my birthday");
-         },
-         PassBirthdayNotice},
-        {[](const Page& p) { return p.state.blnDailyLimitHit && !p.state.blnLinkFound; }, StopAtLimit},
-        {[](const Page& p) {
-             return p.Is("LOGIN") && p.Shows(u"we are moving myspace music players and video players");
-         },
-         [](const Page& p) {
-             LoadHomePage(p);
-             return false;
-         }},
-        {[](const Page& p) { return p.Is("LOGIN") && p.Shows(u"security certificate"); }, ExplainCertificate},
-        {[](const Page& p) {
-             return (p.Is("ACC") || p.Is("MSG")) &&
-                    p.app.Get<PageSigns>().AddressEquals(
-                        u"{MessagingHost}/index.cfm?fuseaction=mailsetup.createaccount"_s);
-         },
-         SkipMailSetUp},
-        {[](const Page& p) { return p.Is("FR") && p.captcha && !p.state.blnWaitingForCaptcha; },
-         RequestCaptcha},
-        {[](const Page& p) {
-             return p.Is("MSG") &&
-                    (p.captcha || (p.state.blnWaitingForCaptcha && p.Shows(u"your message has been sent")));
-         },
-         MessageCaptcha},
+        {AllButLogin, {}, DomainPage, IsSitesLoginForm, LogInAgain},
+        {AllButLogin, {}, DomainPage, AsksForPassword, LeaveTheTrap},
+        {FriendRequests, {FriendStep::AfterSend}, {}, IsRequestSent, TakeLateConfirmation},
+        {FriendRequests, {FriendStep::AfterSend}, {}, IsHomePage, GoOnFromHomePage},
+        {FriendRequests, {FriendStep::DecideFilter, FriendStep::Submit}, {}, IsHomePage, GiveUpRequestAtHome},
+        {Messages, {MessageStep::Captcha}, {}, IsHomePage, GiveUpMessage},
+        {FriendRequests, {FriendStep::AfterSend}, At(u"fuseaction=user.viewprofile"), nullptr, PassProfile},
+        {Comments, {CommentStep::DecideFilter, CommentStep::Submit}, RootPage, nullptr, GiveUpComment},
+        {Comments, {CommentStep::Submit}, {}, IsCompleteUnsent, GoOnFromUnknownPage},
+        {FriendRequests, {}, At(u"fuseaction=mail.inbox"), nullptr, GiveUpRequestAtInbox},
+        {Gathering, {}, FailedForumPage, IsComplete, ReloadForum},
+        {Login, {}, Says(u"Skip this Advertisement"), nullptr, LoadHomePage},
+        {Login, {}, {}, IsForeign, RefuseLanguage},
+        {Login, {LoginStep::Finish}, Says(u"return to myspace"), nullptr, BeginLoginAnew},
+        {Login, {LoginStep::Finish}, Says(u"! You are logged in."), nullptr, GoHomeLoggedIn},
+        {Login, {LoginStep::SendForm}, CachedPage, nullptr, LeaveCachedPage},
+        {Any, {}, Says(u"allow others to see when it's my birthday"), IsStillAwaited, PassBirthdayNotice},
+        {Any, {}, {}, IsLimitHit, StopAtLimit},
+        {Login, {}, Says(u"we are moving myspace music players and video players"), nullptr, LoadHomePage},
+        {Login, {}, Says(u"security certificate"), nullptr, ExplainCertificate},
+        {{Accepting, Messages}, {}, MailSetUp, nullptr, SkipMailSetUp},
+        {FriendRequests, {}, {}, AwaitsNoCaptcha, TakeRequestCaptcha, Found, Asked},
+        {Messages, {}, {}, nullptr, TakeMessageCaptcha, Found, Asked},
+        {Messages, {}, Says(u"your message has been sent"), AwaitsCaptcha, TakeMessageCaptcha, Found},
     };
     return rows;
+}
+
+bool Applies(const DetourRow& row, App& app, const PageView& page, bool captchaPage) {
+    return IsRunning(app, row.activities, row.steps) && (captchaPage || row.captcha == Captcha::OrNot) &&
+           page.IsOneOf(row.kinds) && (!row.sign || row.sign(app));
 }
 
 } // namespace
 
 Verdict TakeDetour(App& app, bool captchaPage) {
-    const Page page{app, app.state, captchaPage};
-    for (const DetourRow& row : Detours())
-        if (row.applies(page))
-            return row.take(page);
+    const ShownPage page(app);
+    for (const DetourRow& row : Detours()) {
+        if (!Applies(row, app, page, captchaPage))
+            continue;
+        row.act(app);
+        return row.answer == Answer::Found;
+    }
     return std::nullopt;
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user may log in by hand, in the page: what he typed becomes the account in use.
+// The user may log in by hand, in the page: what they typed becomes the account in use.
 #include "browser/PageSigns.h"
 #include "core/AccountName.h"
 #include "core/App.h"
