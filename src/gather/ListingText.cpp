@@ -2,8 +2,8 @@
 #include "gather/ListingText.h"
 
 #include "browser/PageSigns.h"
+#include "browser/PageView.h"
 #include "core/App.h"
-#include "core/Text.h"
 #include "gather/GatherDriver.h"
 
 #include <vector>
@@ -14,34 +14,35 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-enum class In { Address, AddressEnd, Text };
+enum class Source { Text, Markup };
+enum class Slice { AsItIs, Trimmed };
 
-struct Condition {
-    In where;
-    const char16_t* text;
-};
-using AllOf = std::vector<Condition>;
-
-// One kind of page: any group of its conditions must hold. The label runs from the last of the start markers,
-// each sought behind the one before, to the first end marker that is there. A second way of starting is tried
-// when the first isn't there.
+// The label of a kind of page runs from the last of the start markers, each sought after the one before, to
+// the first end marker that is there. A second way of starting is tried when the first isn't there. {Role}s
+// in starts are replaced.
 struct ListingRow {
-    std::vector<AllOf> page;
-    bool inMarkup;
+    PageKinds kinds;
+    Source source;
     std::vector<std::vector<const char16_t*>> starts;
     std::vector<const char16_t*> ends;
-    bool trimmed = false;
+    Slice slice = Slice::AsItIs;
 };
 
-const std::vector<ListingRow>& Rows() {
+const std::vector<ListingRow>& ListingRows() {
     using enum In;
+    constexpr auto FromText = Source::Text;
+    constexpr auto FromMarkup = Source::Markup;
     static const std::vector<ListingRow> rows{
-        {{{{Text, u"add comment"}, {Address, u"/comments?"}}}, true, {{u"listing "}}, {u"of"}},
+        {{{{Text, u"add comment"}, {Address, u"/comments?"}}}, FromMarkup, {{u"listing "}}, {u"of"}},
         {{{{Text, u"Return to event page"}, {Text, u"Comments"}}},
-         true,
+         FromMarkup,
          {{u"friendID=", u"font-weight: bold;"}},
          {u"</span>"}},
-        {{{{Text, u"Mail Center"}}, {{Text, u"Mail Centre"}}}, true, {{u"Listing "}}, {u"</div>"}, true},
+        {{{{Text, u"Mail Center"}}, {{Text, u"Mail Centre"}}},
+         FromMarkup,
+         {{u"Listing "}},
+         {u"</div>"},
+         Slice::Trimmed},
         {{{{Address, u"http://{VideoHost}"}, {Text, u"add comment"}},
           {{Address, u"http://{ForumHost}"}},
           {{Address, u"http://{BulletinsHost}/index.cfm?fuseaction=bulletin"}},
@@ -49,67 +50,37 @@ const std::vector<ListingRow>& Rows() {
           {{Address, u"fuseaction=user.viewComments"}},
           {{Address, u"http://{BrowseUsersHost}"}},
           {{Address, u"http://{MusicHost}"}}},
-         true,
+         FromMarkup,
          {{u"listing "}, {u"displaying "}},
          {u"of"}},
         {{{{Address, u"http://{SearchServiceHost}"}, {Address, u"&type=Music&"}}},
-         false,
+         FromText,
          {{u"View All (", u"{SiteRootHost}/"}},
          {u"matches on", u"of"}},
-        {{{{Address, u"http://{SearchServiceHost}"}}}, false, {{u"displaying "}}, {u"of"}},
-        {{{{Address, u"/friends?p="}}, {{AddressEnd, u"/friends"}}}, false, {{u"listing "}}, {u"of"}},
+        {{{{Address, u"http://{SearchServiceHost}"}}}, FromText, {{u"displaying "}}, {u"of"}},
+        {{{{Address, u"/friends?p="}}, {{AddressEnd, u"/friends"}}}, FromText, {{u"listing "}}, {u"of"}},
         {{{{Address, u"fuseaction=groups.updateMembers"}},
           {{Address, u"fuseaction=groups.viewMembers"}},
           {{Address, u"{GroupsHost}"}},
           {{Address, u"{SingularGroupHost}"}}},
-         false,
+         FromText,
          {{u"listing "}},
          {u"of"}},
         {{{{Address, u".{SiteDomain}/index.cfm?fuseaction=groups.groupInvite&groupID="}},
           {{Address, u"{EventsHost}/Event/"}}},
-         false,
+         FromText,
          {{u"listing "}},
          {u"of"}},
-        {{{}}, false, {{u"showing "}}, {u"of"}},
+        {{}, FromText, {{u"showing "}}, {u"of"}},
     };
     return rows;
 }
 
-// The host of single groups is that of the groups with its first "groups" read as "group".
-QString Expand(const ListingPage& page, const char16_t* text) {
-    const QString wide = QString::fromUtf16(text);
-    if (wide != u"{SingularGroupHost}"_s)
-        return page.expand(wide);
-    QString host = page.expand(u"{GroupsHost}"_s);
-    const qsizetype plural = host.indexOf(u"groups"_s);
-    return plural < 0 ? host : host.replace(plural, 6, u"group"_s);
-}
-
-bool Holds(const Condition& condition, const ListingPage& page) {
-    const QString text = Expand(page, condition.text);
-    switch (condition.where) {
-    case In::Address:
-        return Has(page.address, text);
-    case In::AddressEnd:
-        return page.address.endsWith(text, Qt::CaseInsensitive);
-    case In::Text:
-        return Has(page.text, text);
-    }
-    return false;
-}
-
-bool IsPage(const ListingRow& row, const ListingPage& page) {
-    return std::any_of(row.page.begin(), row.page.end(), [&](const AllOf& group) {
-        return std::all_of(group.begin(), group.end(), [&](const Condition& c) { return Holds(c, page); });
-    });
-}
-
-qsizetype StartOf(const std::vector<const char16_t*>& markers, const QString& source,
-                  const ListingPage& page) {
+qsizetype StartOf(const std::vector<const char16_t*>& markers, const QString& source, const PageView& page) {
     qsizetype at = -1;
     qsizetype from = 0;
     for (const char16_t* marker : markers) {
-        at = source.indexOf(Expand(page, marker), from, Qt::CaseInsensitive);
+        at = source.indexOf(page.Expand(QString::fromUtf16(marker)), from, Qt::CaseInsensitive);
         if (at < 0)
             return -1;
         from = at + 1;
@@ -117,8 +88,8 @@ qsizetype StartOf(const std::vector<const char16_t*>& markers, const QString& so
     return at;
 }
 
-QString Slice(const ListingRow& row, const ListingPage& page) {
-    const QString& source = row.inMarkup ? page.html : page.text;
+QString LabelOf(const ListingRow& row, const PageView& page) {
+    const QString source = row.source == Source::Markup ? page.Markup() : page.Text();
     for (const auto& markers : row.starts) {
         const qsizetype start = StartOf(markers, source, page);
         if (start < 0)
@@ -126,8 +97,8 @@ QString Slice(const ListingRow& row, const ListingPage& page) {
         for (const char16_t* end : row.ends)
             if (const qsizetype stop = source.indexOf(QString::fromUtf16(end), start, Qt::CaseInsensitive);
                 stop >= 0)
-                return row.trimmed ? source.mid(start, stop - start).trimmed()
-                                   : source.mid(start, stop - start);
+                return row.slice == Slice::Trimmed ? source.mid(start, stop - start).trimmed()
+                                                   : source.mid(start, stop - start);
     }
     return {};
 }
@@ -140,43 +111,35 @@ QString Between(const QString& text, const QString& first, const QString& second
 
 } // namespace
 
-QString ListingText(const ListingPage& page) {
-    for (const ListingRow& row : Rows())
-        if (IsPage(row, page))
-            if (const QString slice = Slice(row, page); !slice.isEmpty())
-                return slice;
+QString ListingText(const PageView& page) {
+    for (const ListingRow& row : ListingRows())
+        if (page.IsOneOf(row.kinds))
+            if (const QString label = LabelOf(row, page); !label.isEmpty())
+                return label;
     return {};
 }
 
-QString ListingMarkup(const ListingPage& page) {
-    auto at = [&page](const QString& part) { return Has(page.address, page.expand(part)); };
-    if (at(u"{SiteDomain}/search/"_s) || at(u"{SiteDomain}/browse"_s))
-        return Has(page.html, u"miniProfile"_s) ? Between(page.html, u"miniProfile"_s, u"<ul>"_s)
-                                                : Between(page.html, u"gapAddFriend"_s, u"gapAddFriend"_s);
-    if (at(u"{SiteDomain}/my/requests"_s)) {
-        const qsizetype start = page.html.indexOf(u"is now your friend"_s, 0, Qt::CaseInsensitive) - 50;
-        return start < 0 ? QString() : page.html.mid(start, 73);
+QString ListingMarkup(const PageView& page) {
+    if (page.At(u"{SiteDomain}/search/") || page.At(u"{SiteDomain}/browse"))
+        return page.Has({In::Markup, u"miniProfile"})
+                   ? Between(page.Markup(), u"miniProfile"_s, u"<ul>"_s)
+                   : Between(page.Markup(), u"gapAddFriend"_s, u"gapAddFriend"_s);
+    if (page.At(u"{SiteDomain}/my/requests")) {
+        const QString markup = page.Markup();
+        const qsizetype start = markup.indexOf(u"is now your friend"_s, 0, Qt::CaseInsensitive) - 50;
+        return start < 0 ? QString() : markup.mid(start, 73);
     }
-    return at(u"{SiteDomain}/forums/t/"_s) ? Between(page.html, u"Reply_"_s, u" "_s) : QString();
+    return page.At(u"{SiteDomain}/forums/t/") ? Between(page.Markup(), u"Reply_"_s, u" "_s) : QString();
 }
-
-namespace {
-
-ListingPage PresentPage(App& app) {
-    app.Get<PageSigns>().WaitForDocument();
-    const Document document = app.WebBrowser1().Document();
-    return {app.Get<PageSigns>().LocationURL(), document.BodyText(), document.BodyHTML(),
-            [&app](const QString& text) { return app.Expand(text); }};
-}
-
-} // namespace
 
 QString GatherDriver::GetListingText() {
-    return ListingText(PresentPage(m_app));
+    m_app.Get<PageSigns>().WaitForDocument();
+    return ListingText(ShownPage(m_app));
 }
 
 QString GatherDriver::LastPageMarkup() {
-    return ListingMarkup(PresentPage(m_app));
+    m_app.Get<PageSigns>().WaitForDocument();
+    return ListingMarkup(ShownPage(m_app));
 }
 
 } // namespace qlm

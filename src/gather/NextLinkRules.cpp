@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gather/NextLinkRules.h"
 
+#include "browser/PageView.h"
 #include "core/Text.h"
 #include "gather/IdResolution.h"
 
@@ -10,17 +11,18 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-enum class Where { Contains, ContainsExact, BeginsWith };
+enum class HrefTest { Contains, ContainsExact, BeginsWith };
 
-struct Mark {
+// {Role}s are replaced.
+struct HrefMark {
     const char16_t* text;
-    Where where = Where::Contains;
+    HrefTest test = HrefTest::Contains;
 };
-using AllOf = std::vector<Mark>;
+using HrefMarks = std::vector<HrefMark>;
 
 enum class TextTest { Any, Is, Contains, BeginsWith };
 
-using Extra = bool (*)(const NextLinkCandidate&, const NextLinkPage&);
+using LinkSign = bool (*)(const NextLinkCandidate&);
 using Store = std::optional<NextLink> (*)(const NextLinkCandidate&);
 
 std::optional<NextLink> Href(const NextLinkCandidate& c) {
@@ -45,40 +47,28 @@ std::optional<NextLink> ChartPage(const NextLinkCandidate& c) {
     return NextLink{ChartPageFive(c.href), false};
 }
 
-bool At(const NextLinkPage& page, const QString& part) {
-    return Has(page.address, page.expand(part));
-}
-
-bool PagingAllowed(const NextLinkCandidate& c, const NextLinkPage&) {
+bool IsPagingAllowed(const NextLinkCandidate& c) {
     return !Has(c.outerHTML(), u"disablePaging"_s);
 }
 
-bool IsMailWithNextPage(const NextLinkCandidate&, const NextLinkPage& page) {
-    return At(page, u"fuseaction=mail."_s) && page.hasNextPageElement();
+bool IsShort(const NextLinkCandidate& c) {
+    return c.text.size() <= 5;
 }
 
-bool IsVideoPage(const NextLinkCandidate&, const NextLinkPage& page) {
-    return At(page, u"http://{VideoHost}"_s);
-}
-
-bool IsChartWithMore(const NextLinkCandidate& c, const NextLinkPage& page) {
-    return c.text.size() <= 5 && At(page, u"{SiteDomain}/music/charts"_s);
-}
-
-// texts: one of them must pass the test. hrefs: one group must hold, all of its marks; none means any
-// address.
 struct NextLinkRow {
     TextTest test;
-    std::vector<const char16_t*> texts;
-    std::vector<AllOf> hrefs;
+    std::vector<const char16_t*> texts; // one of them passes the test
+    std::vector<HrefMarks> hrefs;       // all marks of one group hold; none: any address
     Store store = Href;
-    Extra extra = nullptr;
+    PageKinds pages = {};    // that the link stands on; none: any page
+    LinkSign sign = nullptr; // and this holds; nullptr: nothing more is asked
 };
 
-const std::vector<NextLinkRow>& Rows() {
+const std::vector<NextLinkRow>& NextLinkRows() {
     using enum TextTest;
-    constexpr Where Exact = Where::ContainsExact;
-    constexpr Where Begins = Where::BeginsWith;
+    constexpr HrefTest Exact = HrefTest::ContainsExact;
+    constexpr HrefTest Begins = HrefTest::BeginsWith;
+    static const PageKinds MailWithNextPage{{{In::Address, u"fuseaction=mail."}, {In::Element, u"nextPage"}}};
     static const std::vector<NextLinkRow> rows{
         {Is, {u"next"}, {{{u"javascript: gotopage", Begins}}}},
         {Is, {u"next"}, {{{u"javascript:nextpage", Begins}}}},
@@ -105,8 +95,8 @@ const std::vector<NextLinkRow>& Rows() {
           {{u"gotonextpage()"}},
           {{u"requestlist.GoToPage("}}}},
         {Is, {u"next"}, {{{u"messagingMain$MessageList_Skin$pagingTop','"}}}},
-        {Is, {u"next"}, {{{u"javascript:"}}}, Click, PagingAllowed},
-        {Any, {}, {}, ClickElement, IsMailWithNextPage},
+        {Is, {u"next"}, {{{u"javascript:"}}}, Click, {}, IsPagingAllowed},
+        {Any, {}, {}, ClickElement, MailWithNextPage},
         {Is,
          {u"next >", u"next ›"},
          {{{u"$cpMain$Browse.skin$PagingTop','", Exact}},
@@ -126,8 +116,8 @@ const std::vector<NextLinkRow>& Rows() {
         {Is, {u"next >", u"next ›"}, {{{u"ctl00$Main$pager"}}}},
         {Is, {u"next >", u"next ›"}, {{{u"ctl00$cpMain$BirthdayList$PagerTop"}}}},
         {Is, {u"next"}, {{{u"notificationslist.GoToPage("}}}},
-        {Is, {u"next »"}, {}, VideoPage, IsVideoPage},
-        {BeginsWith, {u"more"}, {}, ChartPage, IsChartWithMore},
+        {Is, {u"next »"}, {}, VideoPage, At(u"http://{VideoHost}")},
+        {BeginsWith, {u"more"}, {}, ChartPage, At(u"{SiteDomain}/music/charts"), IsShort},
     };
     return rows;
 }
@@ -143,34 +133,38 @@ bool TextFits(const NextLinkRow& row, const QString& lower) {
     });
 }
 
-bool MarkHolds(const Mark& mark, const QString& href, const NextLinkPage& page) {
-    const QString text = page.expand(QString::fromUtf16(mark.text));
-    switch (mark.where) {
-    case Where::Contains:
+bool Holds(const HrefMark& mark, const QString& href, const PageView& page) {
+    const QString text = page.Expand(QString::fromUtf16(mark.text));
+    switch (mark.test) {
+    case HrefTest::Contains:
         return Has(href, text);
-    case Where::ContainsExact:
+    case HrefTest::ContainsExact:
         return href.contains(text);
-    case Where::BeginsWith:
+    case HrefTest::BeginsWith:
         return href.startsWith(text, Qt::CaseInsensitive);
     }
     return false;
 }
 
-bool HrefFits(const NextLinkRow& row, const QString& href, const NextLinkPage& page) {
+bool HrefFits(const NextLinkRow& row, const QString& href, const PageView& page) {
     if (row.hrefs.empty())
         return true;
-    return std::any_of(row.hrefs.begin(), row.hrefs.end(), [&](const AllOf& group) {
+    return std::any_of(row.hrefs.begin(), row.hrefs.end(), [&](const HrefMarks& group) {
         return std::all_of(group.begin(), group.end(),
-                           [&](const Mark& mark) { return MarkHolds(mark, href, page); });
+                           [&](const HrefMark& mark) { return Holds(mark, href, page); });
     });
+}
+
+bool Fits(const NextLinkRow& row, const NextLinkCandidate& candidate, const PageView& page) {
+    return TextFits(row, candidate.lower) && HrefFits(row, candidate.href, page) && page.IsOneOf(row.pages) &&
+           (!row.sign || row.sign(candidate));
 }
 
 } // namespace
 
-std::optional<NextLink> MatchNextLink(const NextLinkCandidate& candidate, const NextLinkPage& page) {
-    for (const NextLinkRow& row : Rows())
-        if (TextFits(row, candidate.lower) && HrefFits(row, candidate.href, page) &&
-            (!row.extra || row.extra(candidate, page)))
+std::optional<NextLink> MatchNextLink(const NextLinkCandidate& candidate, const PageView& page) {
+    for (const NextLinkRow& row : NextLinkRows())
+        if (Fits(row, candidate, page))
             if (const std::optional<NextLink> found = row.store(candidate))
                 return found;
     return std::nullopt;

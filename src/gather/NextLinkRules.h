@@ -8,6 +8,8 @@
 
 namespace qlm {
 
+class PageView;
+
 // A link as the ordered table of next-page links sees it.
 struct NextLinkCandidate {
     QString href;  // %20 and &amp; undone, trimmed
@@ -16,20 +18,13 @@ struct NextLinkCandidate {
     std::function<QString()> outerHTML;
 };
 
-// The page that the candidates stand on.
-struct NextLinkPage {
-    QString address;
-    std::function<QString(const QString&)> expand; // replaces the {Role}s
-    std::function<bool()> hasNextPageElement;      // an element with the id "nextPage" exists
-};
-
 struct NextLink {
     QString link;
     bool click = false; // link is a caption to click, not an address
 };
 
-// The first row of the table that fits the link answers; nothing when none does.
-std::optional<NextLink> MatchNextLink(const NextLinkCandidate& candidate, const NextLinkPage& page);
+// The first row of the table that fits the link on its page answers; nothing when none does.
+std::optional<NextLink> MatchNextLink(const NextLinkCandidate& candidate, const PageView& page);
 
 // Undoes what the address may have been escaped with.
 QString PlainHref(const QString& href);

@@ -2,6 +2,7 @@
 #include "gather/Pager.h"
 
 #include "browser/PageSigns.h"
+#include "browser/PageView.h"
 #include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/Text.h"
@@ -107,11 +108,11 @@ std::vector<NextLinkCandidate> Candidates(const Document& document) {
 
 QString Pager::FindNextLink() {
     const Document document = m_app.WebBrowser1().Document();
-    const bool hasNextPage = !document.GetElementById(u"nextPage"_s).IsNull();
-    NextLinkPage page;
-    page.address = m_app.Get<PageSigns>().LocationURL();
-    page.expand = [this](const QString& text) { return m_app.Expand(text); };
-    page.hasNextPageElement = [hasNextPage] { return hasNextPage; };
+    const QString nextPage = u"nextPage"_s;
+    const bool hasNextPage = !document.GetElementById(nextPage).IsNull();
+    const KeptPage page({.address = m_app.Get<PageSigns>().LocationURL(),
+                         .ids = hasNextPage ? QStringList{nextPage} : QStringList()},
+                        [this](const QString& text) { return m_app.Expand(text); });
     for (const NextLinkCandidate& candidate : Candidates(document)) {
         if (!TurnOn(document))
             return {};

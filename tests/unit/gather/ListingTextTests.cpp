@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
+#include "browser/PageView.h"
 #include "gather/ListingText.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -22,8 +23,8 @@ QString Expand(const QString& text) {
         .replace(u"{EventsHost}"_s, u"events.example.com"_s);
 }
 
-ListingPage Page(const QString& address, const QString& text, const QString& html) {
-    return {address, text, html, Expand};
+KeptPage Page(const QString& address, const QString& text, const QString& html) {
+    return KeptPage({.address = address, .text = text, .markup = html}, Expand);
 }
 
 QString OfText(const QString& address, const QString& text) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
+#include "browser/PageView.h"
 #include "gather/NextLinkRules.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -31,7 +32,9 @@ TEST_P(NextLinkRule, StoresWhatTheRowSays) {
     const Case& c = GetParam();
     NextLinkCandidate candidate{PlainHref(c.href), c.text.trimmed(), c.text.trimmed().toLower(),
                                 [&c] { return c.outerHTML; }};
-    const NextLinkPage page{c.address, Expand, [&c] { return c.nextPageElement; }};
+    const KeptPage page(
+        {.address = c.address, .ids = c.nextPageElement ? QStringList{u"nextPage"_s} : QStringList()},
+        Expand);
     const std::optional<NextLink> found = MatchNextLink(candidate, page);
     const QString stored = !found ? QString() : found->click ? u"click:"_s + found->link : found->link;
     EXPECT_EQ(stored, c.stored) << c.text.toStdString() << " | " << c.href.toStdString();
@@ -149,7 +152,7 @@ struct RowAround {
 
 QString Stored(const QString& text, const QString& href) {
     const NextLinkCandidate candidate{href, text, text.toLower(), [] { return QString(); }};
-    const NextLinkPage page{u"http://www.example.com/x"_s, Expand, [] { return false; }};
+    const KeptPage page({.address = u"http://www.example.com/x"_s}, Expand);
     const std::optional<NextLink> found = MatchNextLink(candidate, page);
     return !found ? QString() : found->click ? u"click:"_s + found->link : found->link;
 }
