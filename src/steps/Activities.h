@@ -24,8 +24,8 @@ struct Activity {
     // What the trail says of each check of the page, and whether also of one that found what was expected.
     const char* checkMark = "checking...";
     bool tracesFound = false;
-    bool sends = false;                  // to one person after the other
-    bool tracesPageClasses = false;      // whatever page the classifier knows is noted in the debug file
+    bool sends = false;             // to one person after the other
+    bool tracesPageClasses = false; // whatever page the classifier knows is noted in the debug file
     // The step after the one that sends, for Skip; 0 where the step goes on as it stands, nothing where
     // there is no target to skip.
     std::optional<qint16> stepAfterSkip = std::nullopt;

@@ -20,7 +20,15 @@ namespace MessageStep {
 enum : qint16 { None = 0, NextTarget = 4, End = 5, DecideFilter = 6, Submit = 7, AfterSend = 8, Captcha = 9 };
 }
 namespace CommentStep {
-enum : qint16 { None = 0, NextTarget = 4, End = 5, DecideFilter = 6, Submit = 7, AfterSend = 8, Confirm = 11 };
+enum : qint16 {
+    None = 0,
+    NextTarget = 4,
+    End = 5,
+    DecideFilter = 6,
+    Submit = 7,
+    AfterSend = 8,
+    Confirm = 11
+};
 }
 namespace BulletinStep {
 enum : qint16 { None = 0, Open = 2, Submit = 3, Posted = 6, DeleteLast = 8 };
