@@ -79,7 +79,7 @@ private:
     int m_spins = 0; // waits for WebBrowser1's document on the stack
 };
 
-// Finds of needle in text, each search beginning one character behind the last find's start. 16 bit.
+// Finds of needle in text, each search beginning one character after the last find's start. 16 bit.
 qint16 CountOccurrences(const QString& text, const QString& needle);
 QString WithoutScheme(const QString& address);
 // The box for a site that isn't in English.

@@ -72,7 +72,7 @@ qsizetype RunsTooMany(const QString& path, qsizetype mostRuns) {
     return sizes.size() - kept;
 }
 
-// The next line of the runs behind the first so many.
+// The next line of the runs after the first so many.
 std::optional<QByteArrayView> NextBehind(LineReader& reader, qsizetype& runsToLeave) {
     auto line = reader.Next();
     while (line && runsToLeave >= 0) {

@@ -7,6 +7,27 @@ using namespace Qt::Literals::StringLiterals;
 namespace qlm {
 namespace {
 
+const QStringList Words{u"Connecte-toi d'abord"_s,
+                        u"Mitglieder-Login"_s,
+                        u"Volver al Inicio"_s,
+                        u"Tienes que haber"_s,
+                        u"Parcourir"_s,
+                        u"Iniciar Sesi"_s,
+                        u"siste innlogging:"_s,
+                        u"ultimo accesso:"_s,
+                        u"Profilaufrufe"_s,
+                        u"Connexion"_s,
+                        u"Rester connect"_s,
+                        u"Todos os Direitos Reservados"_s,
+                        u"passwort vergessen"_s,
+                        u"Wachtwoord vergeten"_s,
+                        u"Adgangskode"_s,
+                        u"Salasana"_s,
+                        u"Iscriviti!"_s,
+                        u"Glemt passordet"_s,
+                        u"Zarejestruj"_s,
+                        u"Aanpassen aan je eigen smaak"_s};
+
 class LanguageTest : public BrowserTest {
 protected:
     bool IsForeign(const QString& text, const QString& action = u"LOGIN"_s) {
@@ -17,26 +38,7 @@ protected:
 };
 
 TEST_F(LanguageTest, OneWordOfManyIsEnough) {
-    for (const QString& word : {u"Connecte-toi d'abord"_s,
-                                u"Mitglieder-Login"_s,
-                                u"Volver al Inicio"_s,
-                                u"Tienes que haber"_s,
-                                u"Parcourir"_s,
-                                u"Iniciar Sesi"_s,
-                                u"siste innlogging:"_s,
-                                u"ultimo accesso:"_s,
-                                u"Profilaufrufe"_s,
-                                u"Connexion"_s,
-                                u"Rester connect"_s,
-                                u"Todos os Direitos Reservados"_s,
-                                u"passwort vergessen"_s,
-                                u"Wachtwoord vergeten"_s,
-                                u"Adgangskode"_s,
-                                u"Salasana"_s,
-                                u"Iscriviti!"_s,
-                                u"Glemt passordet"_s,
-                                u"Zarejestruj"_s,
-                                u"Aanpassen aan je eigen smaak"_s}) {
+    for (const QString& word : Words) {
         EXPECT_TRUE(IsForeign(u"x "_s + word + u" x"_s)) << word.toStdString();
         EXPECT_TRUE(IsForeign(word.toUpper())) << word.toStdString();
     }
@@ -48,6 +50,7 @@ TEST_F(LanguageTest, SomeWordsCountOnlyTogether) {
                                     {u"Mitt konto"_s, u"Logga Ut"_s}};
     for (const QStringList& group : groups) {
         EXPECT_TRUE(IsForeign(group.join(u" - "_s)));
+        EXPECT_TRUE(IsForeign(group.join(u" - "_s).toUpper()));
         for (qsizetype left = 0; left < group.size(); ++left) {
             QStringList rest = group;
             rest.removeAt(left);
@@ -63,7 +66,15 @@ TEST_F(LanguageTest, OnlyALoginAsks) {
 }
 
 TEST_F(LanguageTest, MarkupDoesNotCount) {
-    EXPECT_FALSE(IsForeign(u"<a title='Parcourir'>Browse</a>"_s));
+    for (const QString& word : Words)
+        EXPECT_FALSE(IsForeign(u"<a title=\""_s + word + u"\">Browse</a>"_s)) << word.toStdString();
+    EXPECT_FALSE(IsForeign(u"Ausloggen<a title=Postfach>Browse</a>"_s));
+    EXPECT_FALSE(IsForeign(u"Postfach<a title=Ausloggen>Browse</a>"_s));
+    EXPECT_FALSE(IsForeign(u"Correo, mi cuenta<a title=Inicio>Browse</a>"_s));
+    EXPECT_FALSE(IsForeign(u"Inicio, mi cuenta<a title=Correo>Browse</a>"_s));
+    EXPECT_FALSE(IsForeign(u"Inicio, Correo<a title='mi cuenta'>Browse</a>"_s));
+    EXPECT_FALSE(IsForeign(u"Logga Ut<a title='Mitt konto'>Browse</a>"_s));
+    EXPECT_FALSE(IsForeign(u"Mitt konto<a title='Logga Ut'>Browse</a>"_s));
 }
 
 } // namespace

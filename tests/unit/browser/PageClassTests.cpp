@@ -112,6 +112,42 @@ TEST_F(PageClassTest, LetterCaseCountsForTheFirstClassAlone) {
     }
 }
 
+TEST_F(PageClassTest, WhatStandsInTheMarkupAloneIsNoText) {
+    for (const ClassRow& row : Classes) {
+        SCOPED_TRACE(row.pageClass);
+        const QString text = QString::fromUtf16(row.text);
+        EXPECT_EQ(ClassOf(u"<i title=\""_s + text + u"\">x</i>"_s), 0);
+    }
+    EXPECT_EQ(ClassOf(TextOf(16) + u"<i title='last login'>x</i>"_s), 16);
+    EXPECT_EQ(ClassOf(u"<i title=\""_s + TextOf(16) + u"\">x</i>"_s, u"COM"_s), 0);
+}
+
+TEST_F(PageClassTest, APrivateProfileIsKnownInAnyLetterCaseForCommentsToo) {
+    EXPECT_EQ(ClassOf(TextOf(16).toUpper() + u" last login"_s, u"COM"_s), 16);
+}
+
+TEST_F(PageClassTest, EveryErrorPageHasWordsForTheReport) {
+    for (const ClassRow& row : Classes)
+        EXPECT_NE(RefusalText(row.pageClass).isEmpty(), row.isErrorPage) << row.pageClass;
+    EXPECT_FALSE(RefusalText(32).isEmpty());
+}
+
+// The halves of a class of two texts in the markup.
+TEST_F(PageClassTest, AClassOfTwoTextsNeedsBothAsText) {
+    const QList<QStringList> classes{{u"invalid id"_s, u"go to user profile"_s},
+                                     {u"friend to send"_s, u"you must be"_s, u"a message"_s},
+                                     {u"LinkContent1"_s, u"ReturnMessage1"_s},
+                                     {u"invalid user"_s, u"send a message"_s},
+                                     {u"You have blocked"_s, u"and removed them from your friends list"_s},
+                                     {u"sorry, the profile of"_s, u"is only viewable by friends"_s}};
+    for (const QStringList& texts : classes)
+        for (qsizetype hidden = 0; hidden < texts.size(); ++hidden) {
+            QStringList shown = texts;
+            shown[hidden] = u"<i title='"_s + shown[hidden] + u"'>x</i>"_s;
+            EXPECT_EQ(ClassOf(shown.join(u' ')), 0) << shown.join(u' ').toStdString();
+        }
+}
+
 // A page that carries the texts of two classes belongs to the one that is tried first.
 TEST_F(PageClassTest, OfTwoClassesTheFirstWins) {
     for (int first = 1; first < 50; ++first) {

@@ -10,7 +10,7 @@ namespace {
 
 const QString NoPrompt = u"window.onbeforeunload = function(){}"_s;
 
-// The scripts of the page, before and behind an edit.
+// The scripts of the page, before and after an edit.
 class ScriptEditsTest : public BrowserTest {
 protected:
     void ShowScripts(const QStringList& scripts, const QString& address = u"{SiteRootHost}/page"_s) {

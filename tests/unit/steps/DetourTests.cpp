@@ -69,7 +69,6 @@ TEST_F(DetourTest, AForumPageThatShowsIsGatheredFrom) {
     EXPECT_TRUE(TakesNone());
 }
 
-// Row 1
 TEST_F(DetourTest, ALostSessionIsLoggedInAgainAndTheTargetSkipped) {
     Show(Root, u"<p>Forgot Password?</p>"_s);
     State().CurrentAction = u"MSG"_s;
@@ -132,7 +131,6 @@ TEST_F(DetourTest, ALostSessionComesBeforeAConfirmation) {
     EXPECT_EQ(State().lngFailedCount, 1);
 }
 
-// Row 2
 TEST_F(DetourTest, AConfirmationThatCameLateGoesOn) {
     Show(Home, u"<p>Request Sent!</p>"_s);
     BeginRequests(9);
@@ -150,7 +148,6 @@ TEST_F(DetourTest, AConfirmationBelongsToTheStepThatAwaitsIt) {
     EXPECT_TRUE(TakesNone());
 }
 
-// Row 3
 TEST_F(DetourTest, TheHomePageBehindARequestStaysUnderTheCover) {
     Show(Home, u"x"_s);
     BeginRequests(9);
@@ -161,7 +158,6 @@ TEST_F(DetourTest, TheHomePageBehindARequestStaysUnderTheCover) {
     EXPECT_TRUE(WentOn());
 }
 
-// Row 4
 TEST_F(DetourTest, TheHomePageInPlaceOfARequestGivesItUp) {
     app->controls.SetTicked("chkFrSendMessage"_L1, true);
     for (qint16 step : {7, 8}) {
@@ -178,7 +174,6 @@ TEST_F(DetourTest, TheHomePageInPlaceOfARequestGivesItUp) {
     EXPECT_TRUE(TakesNone());
 }
 
-// Row 5
 TEST_F(DetourTest, TheHomePageBehindAMessageGivesItUp) {
     Show(Home, u"x"_s);
     State().CurrentAction = u"MSG"_s;
@@ -189,7 +184,6 @@ TEST_F(DetourTest, TheHomePageBehindAMessageGivesItUp) {
     EXPECT_TRUE(TakesNone());
 }
 
-// Row 6
 TEST_F(DetourTest, AProfileBehindARequestGoesOn) {
     const QString profile = u"{ProfileHost}/index.cfm?fuseaction=user.viewProfile&x=1"_s;
     Show(profile, u"x"_s);
@@ -202,7 +196,6 @@ TEST_F(DetourTest, AProfileBehindARequestGoesOn) {
     EXPECT_TRUE(TakesNone());
 }
 
-// Row 7
 TEST_F(DetourTest, TheFrontPageInPlaceOfACommentSkipsTheTarget) {
     for (qint16 step : {6, 7}) {
         Show(Root, u"x"_s);
@@ -218,7 +211,6 @@ TEST_F(DetourTest, TheFrontPageInPlaceOfACommentSkipsTheTarget) {
     EXPECT_TRUE(TakesNone());
 }
 
-// Row 8
 TEST_F(DetourTest, AnUnknownPageBehindACommentIsAProblem) {
     Show(u"x"_s);
     State().CurrentAction = u"COM"_s;
@@ -237,7 +229,6 @@ TEST_F(DetourTest, AnUnknownPageBehindACommentIsAProblem) {
     EXPECT_TRUE(TakesNone());
 }
 
-// Row 9
 TEST_F(DetourTest, TheInboxInPlaceOfARequestGoesOnWithoutItsMessage) {
     app->controls.SetTicked("chkFrSendMessage"_L1, true);
     Show(u"{MessagingHost}/index.cfm?fuseaction=mail.inbox"_s, u"x"_s);
@@ -251,7 +242,6 @@ TEST_F(DetourTest, TheInboxInPlaceOfARequestGoesOnWithoutItsMessage) {
     EXPECT_TRUE(TakesNone());
 }
 
-// Row 10
 TEST_F(DetourTest, AForumPageThatFailedIsLoadedAgain) {
     const QString text = u"<p>Sorry! An unexpected error has occurred</p>"_s;
     State().CurrentAction = u"SCANNING"_s;
@@ -269,7 +259,6 @@ TEST_F(DetourTest, AForumPageThatFailedIsLoadedAgain) {
     EXPECT_TRUE(TakesNone());
 }
 
-// Rows 11 and 18
 TEST_F(DetourTest, AnInterstitialOfTheLoginIsPassedByTheHomePage) {
     for (const QString& text :
          {u"Skip this advertisement"_s, u"We are moving MySpace music players and video players"_s}) {
@@ -319,9 +308,8 @@ TEST_F(DetourTest, AnAdvertisementComesBeforeTheLanguage) {
     EXPECT_TRUE(dialogs.messages.empty());
 }
 
-// Row 12
 TEST_F(DetourTest, AForeignSiteEndsTheLogin) {
-    // It comes before the row behind it.
+    // It comes before the next row.
     Show(u"Parcourir, return to myspace"_s);
     LogIn(4);
     EXPECT_TRUE(TakesUnfound());
@@ -334,7 +322,6 @@ TEST_F(DetourTest, AForeignSiteEndsTheLogin) {
     EXPECT_FALSE(State().blnLoginCacheRetry);
 }
 
-// Row 1
 TEST_F(DetourTest, ALostSessionIsWaitedForAndCountsAsFound) {
     Show(Root, u"<p>Forgot Password?</p>"_s);
     State().CurrentAction = u"MSG"_s;
@@ -352,9 +339,8 @@ TEST_F(DetourTest, ALostSessionIsWaitedForAndCountsAsFound) {
     EXPECT_FALSE(Browser().Busy());
 }
 
-// Row 13
 TEST_F(DetourTest, AWayBackToTheSiteBeginsTheLoginAnew) {
-    // It comes before the row behind it.
+    // It comes before the next row.
     Show(u"return to myspace! You are logged in."_s);
     LogIn(4);
     EXPECT_TRUE(TakesUnfound());
@@ -368,7 +354,6 @@ TEST_F(DetourTest, AWayBackToTheSiteBeginsTheLoginAnew) {
     EXPECT_TRUE(TakesNone());
 }
 
-// Row 14
 TEST_F(DetourTest, AConfirmedLoginGoesToTheHomePage) {
     Show(u"Welcome! You are logged in."_s);
     LogIn(4);
@@ -380,7 +365,6 @@ TEST_F(DetourTest, AConfirmedLoginGoesToTheHomePage) {
     EXPECT_TRUE(TakesNone());
 }
 
-// Row 15
 TEST_F(DetourTest, APageOfTheCacheBeginsTheLoginAnewOrEndsIt) {
     struct Row {
         QString text;
@@ -391,7 +375,7 @@ TEST_F(DetourTest, APageOfTheCacheBeginsTheLoginAnewOrEndsIt) {
     const std::vector<Row> rows{
         {u"Show My: x"_s, false, u"LF - Cache... try again - True, False"_s, u", Code: 1"_s},
         {u"View My: x"_s, true, u"LF - Cache... try again - False, True"_s, u", Code: 4"_s},
-        // It comes before the row behind it.
+        // It comes before the next row.
         {u"show my: allow others to see when it's my birthday"_s, false,
          u"LF - Cache... try again - True, False"_s, u", Code: 1"_s}};
     for (const Row& row : rows) {
@@ -410,11 +394,10 @@ TEST_F(DetourTest, APageOfTheCacheBeginsTheLoginAnewOrEndsIt) {
     EXPECT_TRUE(TakesNone());
 }
 
-// Row 16
 TEST_F(DetourTest, TheBirthdayNoticeIsPassedOnceAWait) {
     Show(u"Allow others to see when it's my birthday"_s);
     State().CurrentAction = u"BUL"_s;
-    // It comes before the row behind it.
+    // It comes before the next row.
     State().blnDailyLimitHit = true;
     EXPECT_TRUE(TakesUnfound());
     EXPECT_TRUE(State().blnLinkFound);
@@ -424,9 +407,8 @@ TEST_F(DetourTest, TheBirthdayNoticeIsPassedOnceAWait) {
     EXPECT_TRUE(TakesNone());
 }
 
-// Row 17
 TEST_F(DetourTest, ADailyLimitStopsTheRun) {
-    // It comes before the row behind it.
+    // It comes before the next row.
     Show(u"we are moving myspace music players and video players"_s);
     LogIn(3);
     State().blnDailyLimitHit = true;
@@ -465,7 +447,6 @@ TEST_F(DetourTest, InAChainADailyLimitHandsOver) {
     EXPECT_FALSE(State().blnClosing);
 }
 
-// Row 19
 TEST_F(DetourTest, ACertificateErrorIsExplained) {
     Show(u"There is a problem with this site's security certificate"_s);
     LogIn(1);
@@ -489,7 +470,6 @@ TEST_F(DetourTest, ACertificateErrorIsExplained) {
     EXPECT_TRUE(TakesNone());
 }
 
-// Row 20
 TEST_F(DetourTest, AnAccountWithoutMailSkipsTheTarget) {
     const QString address = u"{MessagingHost}/index.cfm?fuseaction=mailsetup.createaccount"_s;
     for (const QString& action : {u"ACC"_s, u"MSG"_s}) {
@@ -507,7 +487,6 @@ TEST_F(DetourTest, AnAccountWithoutMailSkipsTheTarget) {
     EXPECT_TRUE(TakesNone());
 }
 
-// Row 21
 TEST_F(DetourTest, ACaptchaOfARequestIsFound) {
     Show(u"x"_s);
     BeginRequests(7);
@@ -520,7 +499,6 @@ TEST_F(DetourTest, ACaptchaOfARequestIsFound) {
     EXPECT_TRUE(TakesNone(false));
 }
 
-// Row 22
 TEST_F(DetourTest, ACaptchaOfAMessageAndItsEndAreFound) {
     Show(u"Your message has been sent"_s);
     State().CurrentAction = u"MSG"_s;
@@ -535,6 +513,56 @@ TEST_F(DetourTest, ACaptchaOfAMessageAndItsEndAreFound) {
     EXPECT_TRUE(TakesNone(false));
     State().CurrentAction = u"COM"_s;
     EXPECT_TRUE(TakesNone(true));
+}
+
+// What a page says counts in any letter case, and not when its markup alone says it.
+TEST_F(DetourTest, ANoticeIsWhatThePageShows) {
+    struct Notice {
+        QString action;
+        qint16 step;
+        QString text;
+        QString address = u"{SiteRootHost}/page"_s;
+    };
+    const std::vector<Notice> notices{
+        {u"SCANNING"_s, 0, u"Sorry! an unexpected error has occurred"_s, u"{ForumHost}/t?x=1&page=2"_s},
+        {u"LOGIN"_s, 1, u"Skip this Advertisement"_s},
+        {u"LOGIN"_s, 4, u"return to myspace"_s},
+        {u"LOGIN"_s, 4, u"! You are logged in."_s},
+        {u"LOGIN"_s, 3, u"Show My:"_s},
+        {u"LOGIN"_s, 3, u"View My:"_s},
+        {u"BUL"_s, 0, u"allow others to see when it's my birthday"_s},
+        {u"LOGIN"_s, 1, u"we are moving myspace music players and video players"_s},
+        {u"LOGIN"_s, 1, u"security certificate"_s},
+        {u"MSG"_s, 0, u"your message has been sent"_s},
+    };
+    State().blnWaitingForCaptcha = true;
+    State().AccountsLoadedOnce = true;
+    for (const Notice& notice : notices) {
+        SCOPED_TRACE(notice.text.toStdString());
+        auto isTaken = [&](const QString& body) {
+            Show(notice.address, body);
+            State().CurrentAction = notice.action;
+            State().intLoginStep = notice.step;
+            State().blnLinkFound = false;
+            return Take().has_value();
+        };
+        EXPECT_TRUE(isTaken(u"<p>"_s + notice.text.toUpper() + u"</p>"_s));
+        EXPECT_FALSE(isTaken(u"<p title=\""_s + notice.text + u"\">x</p>"_s));
+    }
+}
+
+TEST_F(DetourTest, AnAddressWithinAnotherOneIsNoPageOfTheSite) {
+    const QString elsewhere = u"stranger.com/go?to="_s;
+    const QString mail = u"{MessagingHost}/index.cfm?fuseaction=mailsetup.createaccount"_s;
+    for (const QString& address : {elsewhere + Root, elsewhere + mail}) {
+        Show(address, u"x"_s);
+        State().CurrentAction = address.endsWith(mail) ? u"MSG"_s : u"COM"_s;
+        State().intComStep = 6;
+        EXPECT_TRUE(TakesNone()) << address.toStdString();
+    }
+    Show(elsewhere + u"{ForumHost}/t?x=1&page=2"_s, u"Sorry! an unexpected error has occurred"_s);
+    State().CurrentAction = u"SCANNING"_s;
+    EXPECT_TRUE(TakesNone());
 }
 
 TEST_F(DetourTest, AMissingMailAccountComesBeforeTheCaptcha) {

@@ -106,6 +106,15 @@ TEST_F(ExpectedElementTest, AnEmptyFolderIsFoundWhateverIsWaitedFor) {
     }
 }
 
+TEST_F(ExpectedElementTest, AnEmptyFolderSaysSoInItsText) {
+    State().CurrentAction = u"ACC"_s;
+    for (const QString& text : {u"there are 0 messages in this folder"_s,
+                                u"there are 0 requests in this folder"_s, u"You have no requests"_s}) {
+        EXPECT_TRUE(Find(u"Link"_s, u"nowhere"_s, u"<p>"_s + text.toUpper() + u"</p>"_s));
+        EXPECT_FALSE(Find(u"Link"_s, u"nowhere"_s, u"<p title='"_s + text + u"'>x</p>"_s));
+    }
+}
+
 TEST_F(ExpectedElementTest, AnAdvertisersProfileCountsForTheLastLogin) {
     EXPECT_TRUE(Find(u"Text"_s, u"Last Login:"_s, u"<i class=advertiserprofile></i>"_s));
     EXPECT_TRUE(Find(u"Text"_s, u"last login:"_s, u"<p>View My: pics</p>"_s));

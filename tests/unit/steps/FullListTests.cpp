@@ -223,6 +223,71 @@ TEST_F(GatherPageTest, PagesOfTheOtherHostsNeedTheirNumber) {
     EXPECT_FALSE(IsFull(Plain, u"view all members"_s, 99));
 }
 
+// A kind of list that is full: what its page says, and what stands in its markup.
+struct FullPage {
+    QString address;
+    QStringList texts;
+    QString markup;
+    int links;
+};
+
+// What a page says counts in any letter case, and not when its markup alone says it; its address counts
+// within another one, too.
+TEST_F(GatherPageTest, AKindOfListIsKnownByWhatItShows) {
+    const QString eighth = u"<i id=x_ctl08_regularItemView></i>"_s;
+    const QString thirtySecond = u"<i id=x_ctl32></i>"_s;
+    const QString post =
+        u"<i id=ctl00_ctl00_ctl00_cpMain_cpMain_bcr_PostList_ctl01_PostView_PostNameAnchor></i>"_s;
+    const std::vector<FullPage> pages{
+        {Plain, {u"set browse criteria"_s, u"First Name:"_s, u"Gender:"_s}, eighth, 0},
+        {Plain, {u"set advanced browse criteria"_s, u"First Name:"_s, u"Gender:"_s}, eighth, 0},
+        {Plain, {u"set browse criteria"_s, u"Gender:"_s}, thirtySecond, 0},
+        {Plain, {u"set advanced browse criteria"_s, u"Gender:"_s}, thirtySecond, 0},
+        {u"{ForumHost}/forums?x=1&PageIndex=2"_s, {}, post, 0},
+        {u"{ForumHost}/t?x=1&page=2"_s, {}, u"<i id=UserDataNode2></i>"_s, 0},
+        {Plain, {u"band name:"_s}, u"<i id=UserDataNode29></i>"_s, 0},
+        {Plain, {u"Return to event page"_s}, {}, 0},
+        {Plain, {u"you can search for display name"_s, u"display:"_s}, {}, 33},
+        {Plain, {u"search within friends is disabled"_s, u"display:"_s}, {}, 33},
+        {u"{SiteDomain}/browse/people"_s, {}, {}, 36},
+        {u"{BrowseUsersHost}/Browse/Browse.aspx?x"_s, {}, {}, 36},
+        {u"{SiteDomain}/browse/people"_s, {}, u"<i class=gapAddFriend></i>"_s, 8},
+        {u"{SiteDomain}/x?fuseaction=mail.notifications&x"_s, {}, u"<i id=tr7></i>"_s, 0},
+        {Plain, {u"Artist Signup"_s, u"Set Search Criteria"_s}, {}, 9},
+        {u"{SiteDomain}/my/mail/inbox"_s, {}, {}, 1},
+        {u"{MessagingHost}/index.cfm?fuseaction=mail.inbox"_s, {}, {}, 1},
+        {Plain, {u"find a friend"_s, u"results for"_s}, u"<i id=x_ctl08_y></i>"_s, 0},
+        {Plain, {u"Show Bulletins I've Posted"_s}, u"<i id=bulletins_Repeater_ctl12></i>"_s, 0},
+        {Plain, {u"view all friends"_s, u"listing "_s, u" : friends ("_s}, {}, 33},
+        {u"{SchoolHost}/x"_s, {u"members ("_s}, {}, 17},
+        {u"{TopArtistsHost}/x"_s, {}, {}, 10},
+        {u"{MusicHost}/x"_s, {u"shows in your area"_s}, {}, 8},
+        {u"{GroupsHost}/x"_s, {u"view all members"_s}, {}, 20},
+        {u"group.site.example.com/x"_s, {u"view all members"_s}, {}, 20},
+    };
+    for (const FullPage& page : pages) {
+        SCOPED_TRACE((page.address + u' ' + page.texts.join(u' ') + page.markup).toStdString());
+        const QString texts = page.texts.join(u" x "_s) + u" x "_s;
+        EXPECT_TRUE(IsFull(page.address, texts.toUpper() + page.markup, page.links));
+        EXPECT_TRUE(IsFull(u"stranger.com/go?to="_s + page.address, texts + page.markup, page.links));
+        for (const QString& hidden : page.texts) {
+            QStringList shown = page.texts;
+            shown.removeOne(hidden);
+            const QString body = shown.join(u" x "_s) + u" x <u title=\""_s + hidden + u"\">x</u> "_s;
+            EXPECT_FALSE(IsFull(page.address, body + page.markup, page.links)) << hidden.toStdString();
+        }
+    }
+}
+
+TEST_F(GatherPageTest, AnElementIsKnownByItsID) {
+    for (const QString& id :
+         {u"ctl00_Main_browseList_ctl08_regularItemView"_s, u"UserDataNode2"_s, u"UserDataNode29"_s,
+          u"ctl00_ctl00_ctl00_cpMain_cpMain_bcr_PostList_ctl01_PostView_PostNameAnchor"_s})
+        EXPECT_FALSE(IsFull(u"{ForumHost}/forums?x=1&PageIndex=2&page=2"_s,
+                            u"band name: <i class="_s + id + u"></i>"_s, 99))
+            << id.toStdString();
+}
+
 TEST_F(GatherPageTest, AnyOtherPageIsNotReady) {
     EXPECT_FALSE(IsFull(Plain, u"x"_s, 99));
 }
