@@ -22,7 +22,7 @@ LongWait::LongWait(App& app, const QString& what, const LongWait* around, const 
 
 // Another wait may have the line by now.
 LongWait::~LongWait() {
-    if (!m_shown.isEmpty() && m_app.controls.Text(Line) == m_shown)
+    if (m_app.controls.Text(Line) == m_shown)
         m_app.controls.SetText(Line, {});
 }
 
@@ -31,16 +31,19 @@ void LongWait::Tell() {
     if ((m_app.state.CurrentAction.isEmpty() && m_help.isEmpty()) ||
         m_app.waiting.SecondsSince(m_sinceMs) < SecondsUntilTold)
         return;
-    m_shown = Sentence();
+    // Every turn comes by here; the words are put together anew only when another button helps.
+    if (const QString help = Help(); m_shown.isEmpty() || !m_shown.endsWith(help))
+        m_shown =
+            u"Waiting since "_s + m_since.toString(u"hh:mm:ss"_s) + u" for "_s + m_what + u". "_s + help;
     if (m_app.controls.Text(Line) != m_shown)
         m_app.controls.SetText(Line, m_shown);
 }
 
-QString LongWait::Sentence() const {
-    const QString help = !m_help.isEmpty()           ? m_help
-                         : m_app.waiting.skipHelps() ? u"Press Skip or Stop to go on without it."_s
-                                                     : u"Press Stop to go on without it."_s;
-    return u"Waiting since "_s + m_since.toString(u"hh:mm:ss"_s) + u" for "_s + m_what + u". "_s + help;
+QString LongWait::Help() const {
+    if (!m_help.isEmpty())
+        return m_help;
+    return m_app.waiting.skipHelps() ? u"Press Skip or Stop to go on without it."_s
+                                     : u"Press Stop to go on without it."_s;
 }
 
 } // namespace qlm

@@ -23,7 +23,7 @@ public:
     void Tell();
 
 private:
-    QString Sentence() const;
+    QString Help() const;
 
     App& m_app;
     const QString m_what;
