@@ -53,6 +53,23 @@ TEST_F(AccountFileTest, AddingLeavesTheDialogsTemporaryFileBehind) {
     EXPECT_TRUE(OwnerAloneReads(app->ProgramFile(u"scalemodelight_Temp"_s)));
 }
 
+TEST_F(AccountFileTest, AListThatIsNotThereIsCreatedEmpty) {
+    const QString path = folder.filePath(u"none.txt"_s);
+    EXPECT_FALSE(File().Emails(path, false, false).hadLines);
+    EXPECT_TRUE(app->files.FileExists(path));
+}
+
+TEST_F(AccountFileTest, AddingAndEditingLeaveTheirMarks) {
+    app->state.blnLoggingEnabled = true;
+    QStringList marks;
+    app->diagnostics.onLine = [&marks](const QString& line) { marks += line; };
+    File().Add(u"a@example.com"_s, u"x"_s);
+    EXPECT_EQ(marks, (QStringList{u"AddAcc8"_s, u"AddAcc9"_s, u"AddAcc10"_s, u"AddAcc11"_s, u"AddAcc12"_s}));
+    marks.clear();
+    File().Edit(u"a@example.com"_s, u"b@example.com"_s, u"y"_s);
+    EXPECT_EQ(marks, (QStringList{u"AddAcc8"_s, u"AddAcc9"_s, u"AddAcc13"_s, u"AddAcc14"_s, u"AddAcc15"_s}));
+}
+
 TEST_F(AccountFileTest, EditingReplacesEveryLineOfTheEmailAsTyped) {
     Store({u"A@example.com;1"_s, u"b@example.com;2"_s, u"a@example.com;3"_s});
     File().Edit(u"a@example.com"_s, u"New@example.com"_s, u"PassWord"_s);

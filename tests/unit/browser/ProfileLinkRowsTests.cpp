@@ -146,6 +146,8 @@ INSTANTIATE_TEST_SUITE_P(
         Row{u"chart furniture"_s, Chart, u"<div><p>"_s + Ann, false, false, false},
         Row{u"chart furniture behind another"_s, Chart, u"<div><p>"_s + Link(u"im"_s), false, false, false},
         Row{u"chart artist"_s, Chart, u"<div class=artistImg><p>"_s + Ann, true, false},
+        Row{u"chart artist one level further up"_s, Chart, u"<div class=artistImg><div><p>"_s + Ann, false,
+            false, false},
         Row{u"added by friends"_s, Chart, u"<div>Added by your friends<div><div><div><div><div><p>"_s + Ann,
             true, false},
         Row{u"more"_s, u"/any"_s, u"<div>More friends<p>"_s + Ann, false},

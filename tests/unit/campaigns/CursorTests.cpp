@@ -196,6 +196,7 @@ TEST_P(StartTest, ResetsTheRunAndEntersItsFirstStep) {
     state.strLinkType = state.strLinkValue = state.strFRResumeURL = u"old"_s;
     app->timers->tmrCheckLinkLoaded.Restart();
     app->webHide().ZOrder(0);
+    app->controls.SetText(GetParam().sentLabel, u"of the run before"_s);
     Start();
     EXPECT_EQ(state.CurrentAction, QString::fromUtf16(GetParam().word));
     EXPECT_EQ(state.*GetParam().step, GetParam().firstStep);

@@ -72,6 +72,26 @@ TEST_F(FileSystemTest, LinesThatSpanReadChunksComeWhole) {
     EXPECT_EQ(next, 100000);
 }
 
+TEST_F(FileSystemTest, AFileThatIsTooBigForTheMemoryIsAnError) {
+    const QString path = Path(u"big.txt"_s);
+    constexpr qint64 line = 1024 * 1024, lines = 256;
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    for (qint64 i = 1; i <= lines; ++i)
+        ASSERT_TRUE(file.seek(i * line - 1) && file.write("\n") == 1);
+    file.close();
+    EXPECT_EQ(m_files.ReadBytes(path).size(), lines * line);
+    ASSERT_TRUE(file.open(QIODevice::Append) && file.write(QByteArray(lines + 1, 'x')) == lines + 1);
+    file.close();
+    EXPECT_THROW(m_files.ReadBytes(path), FileError);
+    EXPECT_THROW(m_files.ReadLines(path), FileError);
+}
+
+TEST_F(FileSystemTest, WhatCannotBeDeletedIsAnError) {
+    EXPECT_THROW(m_files.DeleteFile(u"/proc/version"_s), FileError); // which nobody can
+    EXPECT_NO_THROW(m_files.DeleteFile(Path(u"nothing"_s)));
+}
+
 TEST_F(FileSystemTest, AVisitorThatSaysNoEndsTheReading) {
     m_files.WriteLines(Path(u"a.txt"_s), {u"1"_s, u"2"_s, u"3"_s});
     int seen = 0;

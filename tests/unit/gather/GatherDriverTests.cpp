@@ -201,6 +201,13 @@ TEST_F(GatherDriverTest, TheFirstLinkWithTheCaptionIsClicked) {
     EXPECT_EQ(clicked(u"INV"_s, {}, links.section(u"<a "_s, 4).prepend(u"<a "_s)),
               u"http://x.example.com/4"_s);
     EXPECT_EQ(clicked(u"INV"_s, {}, links.section(u"<a "_s, 0, 2)), form);
+    app->state.blnLoggingEnabled = true;
+    QStringList trail;
+    app->diagnostics.onLine = [&trail](const QString& line) { trail += line; };
+    EXPECT_EQ(clicked(u"SCANNING"_s, {}, u"<a href='http://x.example.com/1'>Other</a>"_s), form);
+    EXPECT_EQ(trail.filter(u"CNPL3 (NOT CLICKED) - "_s).size(), 1);
+    EXPECT_TRUE(
+        trail.filter(u"CNPL3 (NOT CLICKED) - "_s).value(0).contains(u"Other</a>"_s, Qt::CaseInsensitive));
 }
 
 // The chart's own word keeps the table of all pages from being asked.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
 #include "gather/GatherDriver.h"
+#include "steps/StopResume.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -151,6 +152,40 @@ TEST_F(GatherStepTest, EachRunBeginsItsTrailAnew) {
         app->controls.SetTicked("optImportClickedProfiles"_L1, true);
         app->commands.Run(button);
         EXPECT_TRUE(app->files.ReadLines(trail).value(0).startsWith(first)) << first.toStdString();
+    }
+}
+
+// Stop at a line of the trail that the turn of a page writes: nothing of the turn comes after it.
+TEST_F(GatherStepTest, AStopEndsTheTurnOfAPageWhereItIs) {
+    struct Row {
+        QString line;
+        bool opensThePage;
+    };
+    for (const Row& row : {Row{u"IGP4.2"_s, false}, Row{u"NEXTPAGEWAIT0"_s, true}}) {
+        app->state.CurrentAction = u"SCANNING"_s;
+        app->state.blnNewLayout = false;
+        app->state.strNextPageLink = u"http://x.example.com/2"_s;
+        app->state.blnClickNextLink = false;
+        Show(u"http://www.example.com/any"_s, u"<a href='/1'>x</a>"_s);
+        platform->Browser(BrowserName::WebBrowser1).TakeVisited();
+        app->timers->tmrCheckLinkLoaded.Restart();
+        QStringList after;
+        bool stopped = false;
+        app->diagnostics.onLine = [&](const QString& line) {
+            if (stopped)
+                after += line;
+            if (stopped || !line.startsWith(row.line))
+                return;
+            app->Get<StopResume>().StopAll(u"SCANSTOP"_s);
+            stopped = true;
+        };
+        Enter(4);
+        app->diagnostics.onLine = {};
+        EXPECT_TRUE(stopped);
+        EXPECT_EQ(after, QStringList()) << row.line.toStdString();
+        EXPECT_EQ(platform->Browser(BrowserName::WebBrowser1).TakeVisited().isEmpty(), !row.opensThePage);
+        EXPECT_EQ(app->state.strLinkValue, QString());
+        EXPECT_FALSE(app->timers->tmrCheckLinkLoaded.Enabled());
     }
 }
 

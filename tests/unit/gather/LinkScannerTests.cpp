@@ -2,6 +2,7 @@
 #include "SimulatedProgram.h"
 #include "gather/GatheredList.h"
 #include "gather/LinkScanner.h"
+#include "gather/ProfileVisit.h"
 #include "steps/StopResume.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -49,6 +50,30 @@ TEST_F(LinkScannerTest, WhoWasFetchedBeforeIsLeftOutOfAFullGatherAlone) {
     app->controls.SetTicked("optQuickGather"_L1, true);
     app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(Ids(), (QStringList{u"12"_s, u"11"_s}));
+}
+
+TEST_F(LinkScannerTest, APassSilencesThePageFirst) {
+    ShowProfiles({u"11"_s});
+    app->state.blnLoggingEnabled = true;
+    app->WebBrowser1().SetSilent(false);
+    QList<bool> silent;
+    app->diagnostics.onLine = [&](const QString& line) {
+        if (line.startsWith(u"GPP0a0a0"_s))
+            silent += app->WebBrowser1().Silent();
+    };
+    app->Get<LinkScanner>().GatherPageProfiles();
+    EXPECT_EQ(silent, QList<bool>{true});
+}
+
+TEST_F(LinkScannerTest, AVisitThatIsStoppedAtItsBeginningOpensNoProfile) {
+    ShowProfiles({u"11"_s});
+    const ProfileVisit visit{*app, [this] { return !app->state.CurrentAction.isEmpty(); }, 20};
+    platform->Browser(BrowserName::WebBrowser1).TakeVisited();
+    app->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(u"SCANSTOP"_s); });
+    visit.Fails(u"11"_s);
+    platform->Pump().RunFor(1000);
+    EXPECT_EQ(platform->Browser(BrowserName::WebBrowser1).TakeVisited(), QStringList());
+    EXPECT_EQ(app->Status(), QString());
 }
 
 TEST_F(LinkScannerTest, WhoIsOnlineIsFurniture) {

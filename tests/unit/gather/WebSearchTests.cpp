@@ -264,5 +264,17 @@ TEST_F(WebSearchTest, AProfileThatDoesNotComeIsGivenFifteenSecondsAndJudgedThen)
     EXPECT_TRUE(app->Get<GatheredList>().IsEmpty());
 }
 
+TEST_F(WebSearchTest, AfterASearchAnotherTermCanBeTyped) {
+    Answer(Results(u"ann"_s, 0), u"friendID=11"_s);
+    Search(u"ann"_s);
+    ASSERT_FALSE(app->controls["frmGoogleSearch.txtGoogleTerm"_L1].enabled);
+    bool enabled = false;
+    dialogs.onModal[u"frmGoogleSearch"_s] = [&] {
+        enabled = app->controls["frmGoogleSearch.txtGoogleTerm"_L1].enabled;
+    };
+    app->commands.Run(u"picScanStart_Click"_s);
+    EXPECT_TRUE(enabled);
+}
+
 } // namespace
 } // namespace qlm

@@ -79,6 +79,31 @@ TEST_F(StartUpTest, AServerThatCannotBeReachedEndsTheProgram) {
     EXPECT_FALSE(LoginScreenIsUp());
 }
 
+TEST_F(StartUpTest, TheNoticeOfASlowServerComesUpOnce) {
+    world.http.Hang(Alternate + u"/online.htm"_s);
+    Start();
+    EXPECT_EQ(dialogs.shownForms.count(u"frmStarting"_s), 1);
+    EXPECT_FALSE(dialogs.IsFormOpen(u"frmStarting"_s));
+}
+
+TEST_F(StartUpTest, NoNoticeComesUpBehindTheWordsOnAServerThatCannotBeReached) {
+    world.http.Fail(Main + u"/version.htm"_s);
+    dialogs.onMessage = [this] { platform->Pump().RunFor(100); };
+    Start();
+    ASSERT_EQ(dialogs.messages.size(), 1);
+    platform->Pump().RunFor(5000);
+    EXPECT_FALSE(dialogs.shownForms.contains(u"frmStarting"_s));
+}
+
+TEST_F(StartUpTest, SettingsThatCannotBeReadAreToldBehindTheLoginScreen) {
+    world.settings.problem = u"The settings are damaged."_s;
+    bool hadScreen = false;
+    dialogs.onMessage = [&] { hadScreen = LoginScreenIsUp(); };
+    Start();
+    EXPECT_EQ(dialogs.Texts(), QStringList{u"The settings are damaged."_s});
+    EXPECT_TRUE(hadScreen);
+}
+
 TEST_F(StartUpTest, AnEmptyLoginMessageMeansToWaitForTheLogin) {
     Start();
     EXPECT_FALSE(app->state.blnWaitForLoginFirst);

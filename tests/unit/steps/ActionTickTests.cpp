@@ -47,6 +47,19 @@ TEST_F(ActionTickTest, AMissingElementIsLookedForAgain) {
     EXPECT_FALSE(The().Timer1.Enabled());
 }
 
+TEST_F(ActionTickTest, ACheckDoesNotWaitForTheFirstPage) {
+    State().CurrentAction = u"BUL"_s;
+    Await(u"Text"_s, u"wanted"_s);
+    ASSERT_TRUE(Browser().Document().IsNull());
+    const qint64 beforeMs = app->Pump().NowMs();
+    // A check that waits would do it until this page is there.
+    app->Pump().Queue().PostAt(beforeMs + 1000,
+                               [this] { Browser().Navigate(u"http://www.site.example.com/"_s); });
+    Tick();
+    EXPECT_EQ(app->Pump().NowMs(), beforeMs);
+    EXPECT_TRUE(trail.isEmpty());
+}
+
 TEST_F(ActionTickTest, AHeldCheckLooksAtNothing) {
     Begin(u"BUL"_s, u"wanted"_s);
     State().blnHoldLinkCheck = true;

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "RequestRun.h"
+#include "core/SettingsFields.h"
+#include "steps/RunReport.h"
 #include "steps/StopResume.h"
 
 #include <QFile>
@@ -354,6 +356,19 @@ TEST_F(DetourTest, AWayBackToTheSiteBeginsTheLoginAnew) {
     EXPECT_TRUE(TakesNone());
 }
 
+// The login that begins anew restores the account: what the user has typed meanwhile is saved before.
+TEST_F(DetourTest, AWayBackToTheSiteSavesWhatWasTyped) {
+    State().AccountEmail = u"a@example.com"_s;
+    app->Get<SettingsFields>().RestoreAccountSpecificFields();
+    app->controls.SetText("txtFRNote"_L1, u"typed"_s);
+    Show(u"return to myspace"_s);
+    LogIn(4);
+    State().AccountsLoadedOnce = false;
+    EXPECT_TRUE(TakesUnfound());
+    EXPECT_EQ(app->controls.Text("txtFRNote"_L1), u"typed"_s);
+    EXPECT_EQ(world.settings.GetSetting(u"Field Entries"_s, u"txtFRNote"_s, {}), u"typed"_s);
+}
+
 TEST_F(DetourTest, AConfirmedLoginGoesToTheHomePage) {
     Show(u"Welcome! You are logged in."_s);
     LogIn(4);
@@ -569,6 +584,36 @@ TEST_F(DetourTest, AMissingMailAccountComesBeforeTheCaptcha) {
     Show(u"{MessagingHost}/index.cfm?fuseaction=mailsetup.createaccount"_s, u"x"_s);
     State().CurrentAction = u"MSG"_s;
     EXPECT_TRUE(TakesUnfound(true));
+}
+
+// Why a target was left is read in the report later.
+TEST_F(DetourTest, TheReportSaysWhyATargetWasLeft) {
+    struct Row {
+        QString address;
+        QString body;
+        qint16 step;
+        const char* why;
+    };
+    for (const Row& row : std::vector<Row>{
+             {Root, u"Forgot Password?"_s, 8, "The session was lost; you were signed in again"},
+             {u"{SiteRootHost}.stranger.com/"_s, u"Forgot Password?"_s, 8,
+              "A page that is not the site's asked for your password; nothing was typed into it"},
+             {Home, u"x"_s, 9, "The site showed your home page instead of a confirmation"},
+             {Home, u"x"_s, 8, "The site showed your home page instead of the request page"},
+             {u"{ProfileHost}/index.cfm?fuseaction=user.viewProfile&x=1"_s, u"x"_s, 9,
+              "The site showed a profile instead of a confirmation"},
+             {u"{MessagingHost}/index.cfm?fuseaction=mail.inbox"_s, u"x"_s, 8,
+              "The site showed your inbox instead of a confirmation"}}) {
+        RunReport& report = app->Get<RunReport>();
+        report.BeginRun();
+        report.Open(u"1001"_s);
+        Show(row.address, row.body);
+        BeginRequests(row.step);
+        EXPECT_TRUE(TakesUnfound());
+        const ReportedRun run = report.Runs().constLast();
+        ASSERT_FALSE(run.rows.isEmpty());
+        EXPECT_EQ(run.rows.constFirst().why, QString::fromLatin1(row.why));
+    }
 }
 
 } // namespace

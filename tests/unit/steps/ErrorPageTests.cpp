@@ -64,6 +64,14 @@ TEST_F(ErrorPageTest, ARefusedRequestTakesItsMessageWithIt) {
     EXPECT_TRUE(WentOn());
 }
 
+// The step of a request that awaits its confirmation says nothing while another activity runs.
+TEST_F(ErrorPageTest, ARequestsStepKeepsNoOtherActivityFromAnErrorPage) {
+    State().intFRStep = 9;
+    State().intMsgStep = 9;
+    EXPECT_FALSE(Check(u"MSG"_s, Refusal));
+    EXPECT_EQ(State().intMsgStep, 8);
+}
+
 TEST_F(ErrorPageTest, TheThirdLimitPageIsBelieved) {
     BeginRequests(8);
     for (int page = 1; page <= 2; ++page) {
