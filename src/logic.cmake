@@ -94,15 +94,19 @@ add_library(quillmere_logic STATIC
     content/MessageFile.cpp
 
     campaigns/BulletinDots.cpp
+    campaigns/Bulletins.cpp
     campaigns/CampaignErrorPages.cpp
     campaigns/Campaigns.cpp
     campaigns/CaptchaCalls.cpp
     campaigns/ChainedStart.cpp
+    campaigns/Comments.cpp
     campaigns/ContentChoice.cpp
     campaigns/Counters.cpp
     campaigns/FriendCategories.cpp
     campaigns/FriendRequester.cpp
+    campaigns/FriendRequests.cpp
     campaigns/LogDialog.cpp
+    campaigns/Messages.cpp
     campaigns/OpenNotes.cpp
     campaigns/Pacing.cpp
     campaigns/ReportDialog.cpp
@@ -111,6 +115,7 @@ add_library(quillmere_logic STATIC
     campaigns/SendRuns.cpp
     campaigns/SentLog.cpp
     campaigns/StartChecks.cpp
+    campaigns/StatusUpdates.cpp
     campaigns/TargetName.cpp
     campaigns/TimeDelayDialog.cpp
 

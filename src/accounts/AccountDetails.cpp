@@ -36,7 +36,8 @@ private:
 } // namespace
 
 AccountDetails::AccountDetails(App& app) : m_app(app) {
-    app.commands.Add(u"frmAccountDetails.cmdOK_Click"_s, [this] { cmdOK_Click(); });
+    app.commands.Add(u"frmAccountDetails.cmdOK_Click"_s, "cmdOK_Click - frmAccountDetails",
+                     [this] { cmdOK_Click(); });
     app.commands.Add(u"frmAccountDetails.cmdCancel_Click"_s, [this] { cmdCancel_Click(); });
 }
 
@@ -76,14 +77,12 @@ bool AccountDetails::InputsAreComplete() {
 }
 
 void AccountDetails::cmdOK_Click() {
-    m_app.diagnostics.Trap("cmdOK_Click - frmAccountDetails", [this] {
-        MarkAddAccount(m_app, 1);
-        m_app.controls.SetText(Email, m_app.controls.Text(Email).trimmed());
-        m_app.controls.SetText(Password, m_app.controls.Text(Password).trimmed());
-        MarkAddAccount(m_app, 2);
-        if (InputsAreComplete())
-            Store();
-    });
+    MarkAddAccount(m_app, 1);
+    m_app.controls.SetText(Email, m_app.controls.Text(Email).trimmed());
+    m_app.controls.SetText(Password, m_app.controls.Text(Password).trimmed());
+    MarkAddAccount(m_app, 2);
+    if (InputsAreComplete())
+        Store();
 }
 
 void AccountDetails::Store() {

@@ -55,9 +55,11 @@ AccountScreens::AccountScreens(App& app) : m_app(app), m_details(app) {
 
 void AccountScreens::RegisterShared(const AccountScreen& screen) {
     Commands& commands = m_app.commands;
-    commands.Add(screen.form + u".cmdAdd_Click"_s, [this, &screen] { cmdAdd_Click(screen); });
-    commands.Add(screen.form + u".cmdEdit_Click"_s, [this, &screen] { cmdEdit_Click(screen); });
-    commands.Add(screen.form + u".cmdDelete_Click"_s, [this, &screen] { cmdDelete_Click(screen); });
+    commands.Add(screen.form + u".cmdAdd_Click"_s, "cmdAdd_Click", [this, &screen] { cmdAdd_Click(screen); });
+    commands.Add(screen.form + u".cmdEdit_Click"_s, "cmdEdit_Click",
+                 [this, &screen] { cmdEdit_Click(screen); });
+    commands.Add(screen.form + u".cmdDelete_Click"_s, screen.deleteName,
+                 [this, &screen] { cmdDelete_Click(screen); });
 }
 
 void AccountScreens::FillAccountsList(const AccountScreen& screen, const QString& path, bool encrypted) {
@@ -97,52 +99,44 @@ void AccountScreens::SelectEmail(const AccountScreen& screen, const QString& ema
 }
 
 void AccountScreens::cmdAdd_Click(const AccountScreen& screen) {
-    m_app.diagnostics.Trap("cmdAdd_Click", [&] {
-        const QString stored = m_details.Show({}, {});
-        FillFromAccountFile(screen);
-        SelectEmail(screen, stored);
-    });
+    const QString stored = m_details.Show({}, {});
+    FillFromAccountFile(screen);
+    SelectEmail(screen, stored);
 }
 
 void AccountScreens::cmdEdit_Click(const AccountScreen& screen) {
-    m_app.diagnostics.Trap("cmdEdit_Click", [&] {
-        if (m_app.controls.Selected(screen.list) < 0)
-            return;
-        const QString email = m_app.controls.SelectedText(screen.list);
-        const QString stored = m_details.Show(email, m_app.Get<AccountFile>().GetPasswordFromEmail(email));
-        FillFromAccountFile(screen);
-        SelectEmail(screen, stored);
-    });
+    if (m_app.controls.Selected(screen.list) < 0)
+        return;
+    const QString email = m_app.controls.SelectedText(screen.list);
+    const QString stored = m_details.Show(email, m_app.Get<AccountFile>().GetPasswordFromEmail(email));
+    FillFromAccountFile(screen);
+    SelectEmail(screen, stored);
 }
 
 void AccountScreens::cmdDelete_Click(const AccountScreen& screen) {
-    m_app.diagnostics.Trap(screen.deleteName, [&] {
-        if (m_app.controls.Selected(screen.list) < 0)
-            return;
-        m_app.Get<AccountFile>().Delete(m_app.controls.SelectedText(screen.list));
-        FillFromAccountFile(screen);
-    });
+    if (m_app.controls.Selected(screen.list) < 0)
+        return;
+    m_app.Get<AccountFile>().Delete(m_app.controls.SelectedText(screen.list));
+    FillFromAccountFile(screen);
 }
 
 void AccountScreens::RegisterLoginScreen() {
     Commands& commands = m_app.commands;
     commands.Add(u"frmInteken.cmdContinue_Click"_s, [this] { cmdContinue_Click(); });
     commands.Add(u"frmInteken.lstAccounts_DblClick"_s, [this] { cmdContinue_Click(); });
-    commands.Add(u"frmInteken.lblTOS_Click"_s, [this] { lblTOS_Click(); });
+    commands.Add(u"frmInteken.lblTOS_Click"_s, "lblTOS_Click", [this] { lblTOS_Click(); });
     commands.Add(u"frmTerms.cmdClose_Click"_s, [this] { m_app.platform.Dialogs().CloseForm(u"frmTerms"_s); });
 }
 
 // In a window of the program's own: no other browser knows the practice site.
 void AccountScreens::lblTOS_Click() {
-    m_app.diagnostics.Trap("lblTOS_Click", [this] {
-        m_app.controls.SetText("frmTerms.txtTerms"_L1, u"Please wait..."_s);
-        m_app.platform.Dialogs().ShowForm(u"frmTerms"_s);
-        const std::optional<QString> terms =
-            m_app.platform.Http().Get(m_app.Expand(u"{ProductServer}/terms.php"_s));
-        m_app.controls.SetText(
-            "frmTerms.txtTerms"_L1,
-            terms.value_or(u"The Terms of Service could not be fetched. Please try again later."_s));
-    });
+    m_app.controls.SetText("frmTerms.txtTerms"_L1, u"Please wait..."_s);
+    m_app.platform.Dialogs().ShowForm(u"frmTerms"_s);
+    const std::optional<QString> terms =
+        m_app.platform.Http().Get(m_app.Expand(u"{ProductServer}/terms.php"_s));
+    m_app.controls.SetText(
+        "frmTerms.txtTerms"_L1,
+        terms.value_or(u"The Terms of Service could not be fetched. Please try again later."_s));
 }
 
 void AccountScreens::ShowLoginScreen() {
@@ -209,75 +203,63 @@ void AccountScreens::Continue() {
 
 void AccountScreens::RegisterSwitchScreen() {
     Commands& commands = m_app.commands;
-    auto add = [&commands, this](const QString& event, void (AccountScreens::*handler)()) {
-        commands.Add(u"frmSwitchAccount."_s + event, [this, handler] { (this->*handler)(); });
-    };
-    add(u"cmdOK_Click"_s, &AccountScreens::cmdOK_Click);
-    add(u"lstAccounts_DblClick"_s, &AccountScreens::cmdOK_Click);
-    add(u"cmdClear_Click"_s, &AccountScreens::cmdClear_Click);
-    add(u"cmdExport_Click"_s, &AccountScreens::cmdExport_Click);
-    add(u"cmdImport_Click"_s, &AccountScreens::cmdImport_Click);
+    for (const QString& event : {u"cmdOK_Click"_s, u"lstAccounts_DblClick"_s})
+        commands.Add(u"frmSwitchAccount."_s + event, "cmdOK_Click - frmSwitchAccount",
+                     [this] { cmdOK_Click(); });
+    commands.Add(u"frmSwitchAccount.cmdClear_Click"_s, "cmdClear_Click", [this] { cmdClear_Click(); });
+    commands.Add(u"frmSwitchAccount.cmdExport_Click"_s, "cmdExport_Click", [this] { cmdExport_Click(); });
+    commands.Add(u"frmSwitchAccount.cmdImport_Click"_s, "cmdImport_Click", [this] { cmdImport_Click(); });
     commands.Add(u"frmSwitchAccount.cmdCancel_Click"_s,
                  [this] { m_app.platform.Dialogs().CloseForm(u"frmSwitchAccount"_s); });
     commands.Add(u"mnuSwitchLogin_Click"_s, [this] { mnuSwitchLogin_Click(); });
 }
 
 void AccountScreens::mnuSwitchLogin_Click() {
-    m_app.diagnostics.Trap("mnuSwitchLogin_Click", [this] {
-        m_switchEmail.clear();
-        m_switchPassword.clear();
-        FillFromAccountFile(SwitchScreen());
-        m_app.platform.Dialogs().ShowModal(u"frmSwitchAccount"_s);
-        if (!m_switchEmail.isEmpty())
-            m_app.Get<LoginFlow>().LogInSpecifiedAccount(m_switchEmail, m_switchPassword);
-    });
+    m_switchEmail.clear();
+    m_switchPassword.clear();
+    FillFromAccountFile(SwitchScreen());
+    m_app.platform.Dialogs().ShowModal(u"frmSwitchAccount"_s);
+    if (!m_switchEmail.isEmpty())
+        m_app.Get<LoginFlow>().LogInSpecifiedAccount(m_switchEmail, m_switchPassword);
 }
 
 void AccountScreens::cmdOK_Click() {
-    m_app.diagnostics.Trap("cmdOK_Click - frmSwitchAccount", [this] {
-        m_switchEmail = m_app.controls.SelectedText(SwitchScreen().list);
-        m_switchPassword = m_app.Get<AccountFile>().GetPasswordFromEmail(m_switchEmail);
-        m_app.platform.Dialogs().CloseForm(u"frmSwitchAccount"_s);
-    });
+    m_switchEmail = m_app.controls.SelectedText(SwitchScreen().list);
+    m_switchPassword = m_app.Get<AccountFile>().GetPasswordFromEmail(m_switchEmail);
+    m_app.platform.Dialogs().CloseForm(u"frmSwitchAccount"_s);
 }
 
 void AccountScreens::cmdClear_Click() {
-    m_app.diagnostics.Trap("cmdClear_Click", [this] {
-        if (!m_app.AskYesNo(u"Are you sure you want to clear all the accounts form the list?"_s, u"Clear"_s))
-            return;
-        m_app.Get<AccountFile>().Clear();
-        FillFromAccountFile(SwitchScreen());
-    });
+    if (!m_app.AskYesNo(u"Are you sure you want to clear all the accounts form the list?"_s, u"Clear"_s))
+        return;
+    m_app.Get<AccountFile>().Clear();
+    FillFromAccountFile(SwitchScreen());
 }
 
 void AccountScreens::cmdExport_Click() {
-    m_app.diagnostics.Trap("cmdExport_Click", [this] {
-        const QString path = m_app.platform.Dialogs().ChooseFileToSave(u"Export Accounts"_s, {}, TextFiles);
-        if (path.isEmpty())
-            return;
-        m_app.diagnostics.Trap("SaveList", [this, &path] {
-            m_app.Get<AccountFile>().Export(path, m_app.controls.Items(SwitchScreen().list));
-        });
+    const QString path = m_app.platform.Dialogs().ChooseFileToSave(u"Export Accounts"_s, {}, TextFiles);
+    if (path.isEmpty())
+        return;
+    m_app.diagnostics.Trap("SaveList", [this, &path] {
+        m_app.Get<AccountFile>().Export(path, m_app.controls.Items(SwitchScreen().list));
     });
 }
 
 void AccountScreens::cmdImport_Click() {
-    m_app.diagnostics.Trap("cmdImport_Click", [this] {
-        if (!m_app.AskYesNo(
-                u"You can import a list of accounts from a text file where the accounts are listed one "
-                "per line in the following format:\n\nemail;password\n\nContinue?"_s,
-                u"Import Accounts"_s))
-            return;
-        const QString path = m_app.platform.Dialogs().ChooseFileToOpen(u"Import Accounts"_s, TextFiles);
-        if (path.isEmpty())
-            return;
-        if (const QString problem = m_app.Get<AccountFile>().ImportProblem(path); !problem.isEmpty()) {
-            m_app.ShowMessage(problem, u"Import Accounts"_s);
-            return;
-        }
-        FillAccountsList(SwitchScreen(), path, false);
-        m_app.Get<AccountFile>().Import(path);
-    });
+    if (!m_app.AskYesNo(
+            u"You can import a list of accounts from a text file where the accounts are listed one "
+            "per line in the following format:\n\nemail;password\n\nContinue?"_s,
+            u"Import Accounts"_s))
+        return;
+    const QString path = m_app.platform.Dialogs().ChooseFileToOpen(u"Import Accounts"_s, TextFiles);
+    if (path.isEmpty())
+        return;
+    if (const QString problem = m_app.Get<AccountFile>().ImportProblem(path); !problem.isEmpty()) {
+        m_app.ShowMessage(problem, u"Import Accounts"_s);
+        return;
+    }
+    FillAccountsList(SwitchScreen(), path, false);
+    m_app.Get<AccountFile>().Import(path);
 }
 
 } // namespace qlm

@@ -1,49 +1,98 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "campaigns/StartChecks.h"
+#include "content/ContentLine.h"
 #include "core/RunState.h"
+#include "steps/RunReport.h"
 
 #include <QString>
 #include <vector>
 
 namespace qlm {
 
-// What the five campaigns differ in, one row each. Texts are parts of the sentences that they share. The
-// first three walk the gathered list; the others have no targets, and what belongs to those is empty.
-struct Campaign {
-    QLatin1StringView word; // of CurrentAction
+class App;
 
-    // Start and stop.
-    const char* send; // the button
-    const char* stop; // the button; "" for none of its own
-    const char* log;  // the button; "" for a campaign without log
-    const char* startProcedure;
-    const char* stopReason;
-    qint16 firstStep;
-    bool stopsRunningOne; // a campaign that still runs is ended before the reset
+// Where the text of a campaign comes from: its list, or the fields of its tab.
+struct CampaignContent {
+    ContentKind kind = ContentKind::Message;
+    QLatin1StringView fromList{}; // the option that takes the texts from the list
+    QLatin1StringView subject{};  // the fields of a single text; empty for a campaign without subject
+    QLatin1StringView text{};
+    QLatin1StringView acceptSubject{};     // the fields that an accept run sends in their place; empty for a
+    QLatin1StringView acceptText{};        // campaign that no accept run borrows
+    qint16 RunState::*listIndex = nullptr; // the line that was used last
+    int linesBetween = 0;                  // lines that each step of the walk passes over
+};
+
+// What was sent on a day: belongs to the account, and stands in the settings store.
+struct DailyCounter {
+    const char* key = "";
+    const char* resetKey = ""; // where a new day writes its 0
+    qint32 RunState::*count = nullptr;
+    QLatin1StringView label{}; // empty for none
+};
+
+// The definition of a campaign: all that it differs in from the others, in a file of its own. Start, the walk
+// over the targets, pause, limit, log, report and end are shared and read it. Texts are parts of the
+// sentences that are shared.
+struct Campaign {
+    QLatin1StringView word;    // of CurrentAction
+    const char16_t* tab = u""; // caption of its tab
+
+    // Start and stop. The start is: the checks, the question, the reset, the first step.
+    const char* send = "";           // the button
+    const char* startProcedure = ""; // of that button, in the error log
+    const char* stop = "";           // the button; "" for none of its own
+    const std::vector<StartCheck>& (*checks)() = nullptr;
+    // Asks the user; false ends the start. nullptr asks nothing.
+    bool (*mayStart)(App&, const Campaign&) = nullptr;
+    qint16 firstStep = 0;
+    bool stopsRunningOne = false; // a campaign that still runs is ended before the reset
+    const char* startMark = "";   // in its trail, with the number of the mark; "" for none
+    RunReasons reasons{};
+
+    // What goes out; a friend request has no text of its own.
+    const char* what = ""; // "friend requests"
+    CampaignContent content{};
 
     // Counting.
-    qint32 RunState::*session;
-    qint32 RunState::*daily;
-    QLatin1StringView sentLabel;
-    const char* sentAtStart;  // its text at the start and
-    const char* sentSoFar;    // behind a send, up to the number; their case differs
-    QLatin1StringView amount; // the limit; of a campaign without targets the number of posts
-    QLatin1StringView period; // "this session" or "per day"
-    const char* limitReason;  // trace word of the stop at the limit
+    qint32 RunState::*session = nullptr;
+    DailyCounter today{};
+    // A send that is part of another activity and counts nothing; nullptr for none.
+    bool (*isPartOfAnother)(const RunState&) = nullptr;
+    QLatin1StringView sentLabel{};
+    const char* sentAtStart = ""; // its text at the start and
+    const char* sentSoFar = "";   // after a send, up to the number; their case differs
+    QLatin1StringView amount{};   // the limit; of a campaign without targets the number of posts
+    QLatin1StringView period{};   // "this session" or "per day"; empty for a campaign without limit
+    bool limitComesFirst = false; // tested before the count, so that a limit of N sends N + 1
 
-    // Targets.
-    const char* what;              // "friend requests"
-    const char* logFile;           // below the folder of the kind "Log"
-    const char* whatLogRecords;    // "sent friend requests to"
-    QLatin1StringView checkLogBox; // empty: the log is always looked at
-    const char* traceWord;         // that StopAll gets at the end of a run
-    bool endClearsChain;
+    // Targets: the gathered list. A campaign without log has none.
+    const char* log = "";            // the button
+    const char* logFile = "";        // below the folder of the kind "Log"
+    const char* whatLogRecords = ""; // "sent friend requests to"
+    QLatin1StringView checkLogBox{}; // empty: the log is always looked at
+    // Ticked, an accept run looks at it whatever that one says; empty: never.
+    QLatin1StringView acceptLogBox{};
+    const char* reportButton = ""; // "" for none yet
+    ReportKind report{};
+
+    // Chains of accounts.
+    bool goesOnInChain = false; // the next account of a chain starts it as the button does
+    bool endClearsChain = false;
 
     bool HasTargets() const { return logFile[0] != 0; }
 };
 
-const std::vector<Campaign>& Campaigns();
+// One definition each.
+extern const Campaign FriendRequests;
+extern const Campaign Messages;
+extern const Campaign Comments;
+extern const Campaign Bulletins;
+extern const Campaign StatusUpdates;
+
+const std::vector<const Campaign*>& Campaigns();
 // nullptr for a word that is no campaign.
 const Campaign* FindCampaign(const QString& word);
 // nullptr for a campaign without targets too.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/ChainedStart.h"
 
+#include "campaigns/Campaigns.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "gather/GatheredList.h"
 
@@ -8,30 +10,15 @@ namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-struct ChainedStart {
-    QLatin1StringView campaign;
-    QLatin1StringView command;
-};
-
-constexpr ChainedStart ChainedStarts[]{
-    {"FR"_L1, "piccmdAddFriends_Click"_L1},
-    {"MSG"_L1, "picCmdMsgSend_Click"_L1},
-    {"BUL"_L1, "picCmdBulSend_Click"_L1},
-};
-
-} // namespace
-
 void GoOnInChain(App& app) {
     if (app.controls.Ticked("chkSaveScanned"_L1))
         app.Get<GatheredList>().FillScannedList(app.Get<GatheredList>().ScopedPath(), true, false);
     // A long list takes a while, in which the user may have pressed Stop.
     app.waiting.LeaveIfObsolete();
     app.state.CurrentAction.clear();
-    for (const ChainedStart& start : ChainedStarts)
-        if (app.state.ChainedCampaign == start.campaign)
-            app.commands.Run(QString(start.command));
+    const Campaign* campaign = FindCampaign(app.state.ChainedCampaign);
+    if (campaign && campaign->goesOnInChain)
+        app.commands.Run(QString::fromLatin1(campaign->send) + u"_Click"_s);
 }
 
 } // namespace qlm

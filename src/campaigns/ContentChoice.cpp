@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/ContentChoice.h"
 
+#include "campaigns/Campaigns.h"
 #include "campaigns/Pacing.h"
 #include "content/ContentLists.h"
 #include "core/App.h"
@@ -12,30 +13,17 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct Walk {
-    ContentKind kind;
-    qint16 RunState::*index;
-    int extraStep;
-};
-
-constexpr Walk Walks[] = {
-    {ContentKind::Message, &RunState::intMessageListIndex, 1},
-    {ContentKind::Comment, &RunState::intCommentListIndex, 0},
-    {ContentKind::Bulletin, &RunState::intBulletinListIndex, 0},
-    {ContentKind::Status, &RunState::intStatusListIndex, 0},
-};
-
 // One pick from a list.
 class Picker {
 public:
-    Picker(App& app, const Walk& walk)
+    Picker(App& app, const CampaignContent& content)
         : m_app(app),
           m_lists(app.Get<ContentLists>()),
-          m_walk(walk),
-          m_index(app.state.*walk.index),
-          m_randomizes(m_lists.Randomizes(walk.kind)),
-          m_count(m_lists.CountListEntries(walk.kind)),
-          m_lines(static_cast<int>(app.files.ReadLines(m_lists.PathOf(walk.kind)).size())) {}
+          m_content(content),
+          m_index(app.state.*content.listIndex),
+          m_randomizes(m_lists.Randomizes(content.kind)),
+          m_count(m_lists.CountListEntries(content.kind)),
+          m_lines(static_cast<int>(app.files.ReadLines(m_lists.PathOf(content.kind)).size())) {}
 
     QString Pick() {
         QString line = Draw();
@@ -56,14 +44,14 @@ private:
 
     QString At(int index) {
         m_index = InInteger(index);
-        const QString line = m_lists.GetNext(m_walk.kind, index);
+        const QString line = m_lists.GetNext(m_content.kind, index);
         const bool unflagged = !line.isEmpty() && !line.contains(SelectedMarker, Qt::CaseInsensitive);
         return unflagged ? line + SelectedFlag : line;
     }
 
     QString Draw() {
         const int next = m_randomizes ? RandomBetween(m_app, m_count, 1) : m_index + 1;
-        return At(next + m_walk.extraStep);
+        return At(next + m_content.linesBetween);
     }
 
     QString FirstSelected() {
@@ -75,20 +63,19 @@ private:
 
     App& m_app;
     ContentLists& m_lists;
-    const Walk& m_walk;
+    const CampaignContent& m_content;
     qint16& m_index;
     const bool m_randomizes;
     const qint32 m_count;
     const int m_lines; // those that are no entries too
 };
 
-bool FromList(const App& app, QLatin1StringView option) {
-    return app.controls.Ticked(option);
+ContentFields PickFields(App& app, const Campaign& campaign) {
+    return FieldsOf(campaign.content.kind, PickContentLine(app, campaign));
 }
 
-SubjectAndBody PickSubjectAndBody(App& app, ContentKind kind) {
-    const ContentFields fields = FieldsOf(kind, PickContentLine(app, kind));
-    return {fields.subject, fields.text};
+bool IsAccepting(const App& app) {
+    return !app.state.strAcceptMode.isEmpty();
 }
 
 std::optional<QString> SkipTarget(App& app) {
@@ -96,10 +83,9 @@ std::optional<QString> SkipTarget(App& app) {
     return std::nullopt;
 }
 
-std::optional<QString> CommentFromList(App& app, bool refusesHTML) {
-    const ContentFields fields = FieldsOf(ContentKind::Comment, PickContentLine(app, ContentKind::Comment));
-    if (!refusesHTML)
-        return fields.text;
+// The entry is drawn first: skipped or not, the walk has moved on.
+std::optional<QString> NonHTMLFromList(App& app) {
+    const ContentFields fields = PickFields(app, Comments);
     if (app.controls.Ticked("chkCOMListSkipNonHMTL"_L1))
         return SkipTarget(app);
     return fields.usesNonHTML ? fields.nonHTML : fields.text;
@@ -109,52 +95,46 @@ std::optional<QString> CommentFromList(App& app, bool refusesHTML) {
 struct Fallback {
     QLatin1StringView skip;
     QLatin1StringView alternative;
-    QLatin1StringView comment;
     QLatin1StringView nonHTML;
 };
 
 // The accepter's alternative is its second option, the commenter's its third.
 constexpr Fallback AcceptFallback{"optACCcomHTMLBLocked(0)"_L1, "optACCcomHTMLBLocked(1)"_L1,
-                                  "txtAcceptComment"_L1, "txtAcceptCommentNonHTML"_L1};
-constexpr Fallback SingleFallback{"optCOMHTMLBLocked(0)"_L1, "optCOMHTMLBLocked(2)"_L1, "txtComment"_L1,
+                                  "txtAcceptCommentNonHTML"_L1};
+constexpr Fallback SingleFallback{"optCOMHTMLBLocked(0)"_L1, "optCOMHTMLBLocked(2)"_L1,
                                   "txtCommentNonHTML"_L1};
 
 } // namespace
 
-QString PickContentLine(App& app, ContentKind kind) {
-    return Picker(app, Walks[static_cast<int>(kind)]).Pick();
+QString PickContentLine(App& app, const Campaign& campaign) {
+    return Picker(app, campaign.content).Pick();
 }
 
-SubjectAndBody ChooseMessage(App& app) {
-    const Controls& controls = app.controls;
-    if (!app.state.strAcceptMode.isEmpty())
-        return {controls.Text("txtAcceptSubject"_L1), controls.Text("txtAcceptMessage"_L1)};
-    if (FromList(app, "optSendFromList(0)"_L1))
-        return PickSubjectAndBody(app, ContentKind::Message);
-    return {controls.Text("txtMsgSubject"_L1), controls.Text("txtMsgMessage"_L1)};
+SubjectAndBody ChooseText(App& app, const Campaign& campaign) {
+    const CampaignContent& content = campaign.content;
+    auto typed = [&app](QLatin1StringView field) {
+        return field.isEmpty() ? QString() : app.controls.Text(field);
+    };
+    if (IsAccepting(app) && !content.acceptText.isEmpty())
+        return {typed(content.acceptSubject), typed(content.acceptText)};
+    if (!app.controls.Ticked(content.fromList))
+        return {typed(content.subject), typed(content.text)};
+    const ContentFields fields = PickFields(app, campaign);
+    return {fields.subject, fields.text};
 }
 
 std::optional<QString> ChooseComment(App& app, bool refusesHTML) {
-    const bool accepting = !app.state.strAcceptMode.isEmpty();
-    if (!accepting && FromList(app, "optSendFromList(1)"_L1))
-        return CommentFromList(app, refusesHTML);
+    const bool accepting = IsAccepting(app);
+    if (!refusesHTML)
+        return ChooseText(app, Comments).body;
+    if (!accepting && app.controls.Ticked(Comments.content.fromList))
+        return NonHTMLFromList(app);
     const Fallback& fallback = accepting ? AcceptFallback : SingleFallback;
-    if (refusesHTML && app.controls.Ticked(fallback.skip))
+    if (app.controls.Ticked(fallback.skip))
         return SkipTarget(app);
-    const bool alternative = refusesHTML && app.controls.Ticked(fallback.alternative);
-    return app.controls.Text(alternative ? fallback.nonHTML : fallback.comment);
-}
-
-SubjectAndBody ChooseBulletin(App& app) {
-    if (FromList(app, "optSendFromList(2)"_L1))
-        return PickSubjectAndBody(app, ContentKind::Bulletin);
-    return {app.controls.Text("txtBulSubject"_L1), app.controls.Text("txtBulMessage"_L1)};
-}
-
-QString ChooseStatus(App& app) {
-    if (FromList(app, "optSendFromList(3)"_L1))
-        return FieldsOf(ContentKind::Status, PickContentLine(app, ContentKind::Status)).text;
-    return app.controls.Text("txtStatusBody"_L1);
+    if (app.controls.Ticked(fallback.alternative))
+        return app.controls.Text(fallback.nonHTML);
+    return ChooseText(app, Comments).body;
 }
 
 QString ForRichEditor(const QString& text) {

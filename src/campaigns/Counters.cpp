@@ -8,7 +8,6 @@
 #include "core/Text.h"
 #include "steps/StopResume.h"
 
-#include <algorithm>
 #include <limits>
 #include <vector>
 
@@ -18,30 +17,24 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct DailyCounter {
-    const char* key;
-    const char* resetKey; // where a new day writes its 0
-    qint32 RunState::*count;
-    QLatin1StringView label; // empty for none
-};
-
-// A new day writes the status counter's 0 under a key of its own, so the stored one stands until it is next
-// saved.
-const std::vector<DailyCounter>& DailyCounters() {
+// Those that belong to no campaign.
+const std::vector<DailyCounter>& OtherCounters() {
     static const std::vector<DailyCounter> rows{
-        {"Daily Friends Count", "Daily Friends Count", &RunState::lngDailyFR, "lblFrTotalToday"_L1},
-        {"Daily Messages Count", "Daily Messages Count", &RunState::lngDailyMsg, "lblMsgTotalToday"_L1},
-        {"Daily Comments Count", "Daily Comments Count", &RunState::lngDailyCom, "lblComTotalToday"_L1},
-        {"Daily Bulletins Count", "Daily Bulletins Count", &RunState::lngDailyBul, {}},
         {"Daily Event Invites Count", "Daily Event Invites Count", &RunState::lngDailyEventInvites, {}},
         {"Daily Group Invites Count", "Daily Group Invites Count", &RunState::lngDailyGroupInvites, {}},
         {"Daily Friend Request Accept Count",
          "Daily Friend Request Accept Count",
          &RunState::lngDailyAccepted,
          {}},
-        {"Daily Statuses Count", "Daily Status Updates Count", &RunState::lngDailyStatus, {}},
     };
     return rows;
+}
+
+std::vector<DailyCounter> DailyCounters() {
+    std::vector<DailyCounter> counters = OtherCounters();
+    for (const Campaign* campaign : Campaigns())
+        counters.push_back(campaign->today);
+    return counters;
 }
 
 const QString DayKey = u"Daily Limit - Date"_s;
@@ -57,11 +50,6 @@ QString DaySection(const App& app) {
 void ShowToday(App& app, const DailyCounter& counter) {
     if (!counter.label.isEmpty())
         app.controls.SetText(counter.label, u"Total Today: "_s + QString::number(app.state.*counter.count));
-}
-
-const DailyCounter& CounterOf(const Campaign& campaign) {
-    return *std::find_if(DailyCounters().begin(), DailyCounters().end(),
-                         [&](const DailyCounter& counter) { return counter.count == campaign.daily; });
 }
 
 constexpr qint32 MostCounted = std::numeric_limits<qint32>::max();
@@ -132,26 +120,24 @@ bool Counters::LimitReached(const Campaign& campaign) const {
     const std::optional<qint32> limit = ToLong(m_app.controls.Text(campaign.amount));
     if (!limit || campaign.period.isEmpty())
         return false;
-    return m_app.state.*(IsPerDay(campaign) ? campaign.daily : campaign.session) >= *limit;
+    return m_app.state.*(IsPerDay(campaign) ? campaign.today.count : campaign.session) >= *limit;
 }
 
-bool Counters::StopUncounted(const QString& campaign) {
-    const Campaign* limited = FindCampaign(campaign);
-    if (m_isStored || !limited || !IsPerDay(*limited) || !ToLong(m_app.controls.Text(limited->amount)))
+bool Counters::StopUncounted() {
+    const Campaign* campaign = FindCampaign(m_app.state.CurrentAction);
+    if (m_isStored || !campaign || !IsPerDay(*campaign) || !ToLong(m_app.controls.Text(campaign->amount)))
         return false;
     m_app.Get<StopResume>().StopAll(u"UNCOUNTED"_s);
     if (!m_app.Get<StopResume>().DoFinishedExit())
-        m_app.ShowMessage(
-            u"Quillmere can't save how many you have sent today, so it can't keep your limit per day. "
-            "The run has been stopped."_s);
+        m_app.ShowMessage(u"Quillmere can't save how many you have sent today, "
+                          "so it can't keep your limit per day. The run has been stopped."_s);
     return true;
 }
 
-bool Counters::StopAtLimit(const QString& campaign) {
-    const Campaign* limited = FindCampaign(campaign);
-    if (!limited || !LimitReached(*limited))
+bool Counters::StopAtLimit(const Campaign& campaign) {
+    if (!LimitReached(campaign))
         return false;
-    m_app.Get<StopResume>().StopAll(QString::fromLatin1(limited->limitReason));
+    m_app.Get<StopResume>().StopAll(QString::fromLatin1(campaign.reasons.limitMet));
     if (m_app.Get<StopResume>().HandOverInChain())
         return true;
     m_app.ShowTab(u"Gather ID's"_s);
@@ -164,40 +150,20 @@ void Counters::ShowSentAtStart(const Campaign& campaign) {
     m_app.controls.SetText(campaign.sentLabel, SentText(m_app, campaign, campaign.sentAtStart));
 }
 
-void Counters::CountOne(const Campaign& campaign) {
+bool Counters::Count(const Campaign& campaign) {
     RunState& state = m_app.state;
-    const DailyCounter& today = CounterOf(campaign);
-    Raise(state.*campaign.daily);
-    ShowToday(m_app, today);
-    m_app.platform.Settings().SaveSetting(CountersSection(m_app), QString::fromLatin1(today.key),
-                                          QString::number(state.*campaign.daily));
+    if (campaign.isPartOfAnother && campaign.isPartOfAnother(state))
+        return true;
+    if (campaign.limitComesFirst && StopAtLimit(campaign))
+        return false;
+    Raise(state.*campaign.today.count);
+    ShowToday(m_app, campaign.today);
+    m_app.platform.Settings().SaveSetting(CountersSection(m_app), QString::fromLatin1(campaign.today.key),
+                                          QString::number(state.*campaign.today.count));
     m_isStored = m_app.Get<SettingsFields>().Sync();
     Raise(state.*campaign.session);
     m_app.controls.SetText(campaign.sentLabel, SentText(m_app, campaign, campaign.sentSoFar));
-}
-
-void Counters::Count(const QString& campaign) {
-    if (const Campaign* counted = FindCampaign(campaign))
-        CountOne(*counted);
-}
-
-bool Counters::AddFriendCount() {
-    const QString campaign = u"FR"_s;
-    if (StopAtLimit(campaign))
-        return false;
-    Count(campaign);
     return true;
-}
-
-void Counters::AddMessageCount() {
-    const RunState& state = m_app.state;
-    if (state.strAcceptMode.isEmpty() && state.strFRResumeURL.isEmpty() && !state.blnMsgAfterFR)
-        Count(u"MSG"_s);
-}
-
-void Counters::AddCommentCount() {
-    if (m_app.state.strAcceptMode.isEmpty())
-        Count(u"COM"_s);
 }
 
 } // namespace qlm

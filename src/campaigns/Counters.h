@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
-
 namespace qlm {
 
 class App;
@@ -18,27 +16,21 @@ public:
     // later one.
     void Restore();
 
-    // Counts one friend request. False when the limit has stopped the run instead; that request is not
-    // counted. The limit is tested before the count, so a limit of N sends N + 1.
-    bool AddFriendCount();
-    // Count one message or comment of a run of their own; one that belongs to a friend request or an accept
-    // run counts nothing. Their limit is tested behind the count, by StopAtLimit.
-    void AddMessageCount();
-    void AddCommentCount();
-    // One send of that campaign ("BUL", "STATUSUPDATES").
-    void Count(const QString& campaign);
+    // Counts one send; one that is part of another activity counts nothing. False when the limit has stopped
+    // the run instead: where it comes first, a limit of N sends N + 1, and that one is not counted.
+    bool Count(const Campaign& campaign);
     // True when the campaign's limit has been reached and its run is over.
-    bool StopAtLimit(const QString& campaign);
-    // True when the last count could not be saved and the campaign has a limit for the day: its run is over.
-    bool StopUncounted(const QString& campaign);
+    bool StopAtLimit(const Campaign& campaign);
+    // True when the last count could not be saved and the running campaign has a limit for the day: its run
+    // is over.
+    bool StopUncounted();
 
-    // The label of what this run has sent, at its start and behind a send.
+    // The label of what this run has sent, at its start and after a send.
     void ShowSentAtStart(const Campaign& campaign);
 
 private:
     void Clear();
     void Read();
-    void CountOne(const Campaign& campaign);
     bool IsPerDay(const Campaign& campaign) const;
     bool LimitReached(const Campaign& campaign) const;
 

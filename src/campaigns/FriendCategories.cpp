@@ -34,10 +34,7 @@ void SaveComboboxToFile(App& app, QLatin1StringView box, const QString& path) {
 } // namespace
 
 FriendCategories::FriendCategories(App& app) : m_app(app) {
-    app.commands.Add(u"piccmdFRRefreshCategories_Click"_s, [this] {
-        m_app.diagnostics.Trap("piccmdFRRefreshCategories_Click",
-                               [this] { piccmdFRRefreshCategories_Click(); });
-    });
+    app.commands.Add(u"piccmdFRRefreshCategories_Click"_s, [this] { piccmdFRRefreshCategories_Click(); });
 }
 
 QString FriendCategories::Path() {

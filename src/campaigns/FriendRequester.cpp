@@ -157,7 +157,7 @@ void FriendRequester::OpenRequestPage() {
 }
 
 Next FriendRequester::EndRun() {
-    m_app.Get<SendRuns>().Finish(u"IAF"_s);
+    m_app.Get<SendRuns>().Finish();
     return Next::Wait;
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/LogDialog.h"
 
-#include "campaigns/Campaigns.h"
 #include "campaigns/OpenNotes.h"
 #include "campaigns/SentLog.h"
 #include "core/App.h"
@@ -18,26 +17,19 @@ constexpr int LocalApplicationData = 28;
 } // namespace
 
 LogDialog::LogDialog(App& app) : m_app(app) {
-    auto add = [this](const QString& button, const char* name, void (LogDialog::*handler)()) {
-        m_app.commands.Add(u"frmLog."_s + button + u"_Click"_s, [this, name, handler] {
-            m_app.diagnostics.Trap(name, [this, handler] { (this->*handler)(); });
-        });
-    };
-    add(u"cmdClearLog"_s, "cmdClearLog_Click", &LogDialog::cmdClearLog_Click);
-    add(u"cmdEditLog"_s, "cmdEditLog_Click", &LogDialog::cmdEditLog_Click);
-    add(u"cmdExportLog"_s, "cmdExportLog_Click", &LogDialog::cmdExportLog_Click);
-    add(u"cmdImportLog"_s, "cmdImportLog_Click", &LogDialog::cmdImportLog_Click);
-    app.commands.Add(u"frmLog.cmdClose_Click"_s, [this] { m_app.platform.Dialogs().CloseForm(u"frmLog"_s); });
+    Commands& commands = app.commands;
+    commands.Add(u"frmLog.cmdClearLog_Click"_s, "cmdClearLog_Click", [this] { cmdClearLog_Click(); });
+    commands.Add(u"frmLog.cmdEditLog_Click"_s, "cmdEditLog_Click", [this] { cmdEditLog_Click(); });
+    commands.Add(u"frmLog.cmdExportLog_Click"_s, "cmdExportLog_Click", [this] { cmdExportLog_Click(); });
+    commands.Add(u"frmLog.cmdImportLog_Click"_s, "cmdImportLog_Click", [this] { cmdImportLog_Click(); });
+    commands.Add(u"frmLog.cmdClose_Click"_s, [this] { m_app.platform.Dialogs().CloseForm(u"frmLog"_s); });
 }
 
-void LogDialog::Show(const QString& action) {
-    const Campaign* campaign = FindTargetCampaign(action);
-    if (!campaign)
-        return;
-    m_path = m_app.Get<SentLog>().PathFor(action);
+void LogDialog::Show(const SentLog& log, const QString& whatItRecords) {
+    m_path = log.Path();
     m_app.files.CreateFolder(QFileInfo(m_path).absolutePath());
     m_app.controls.SetText("frmLog.lblHeading"_L1, u"The log file keeps a record of everyone you have "_s +
-                                                       QString::fromLatin1(campaign->whatLogRecords) +
+                                                       whatItRecords +
                                                        u", and prevents duplicates from being sent."_s);
     m_app.platform.Dialogs().ShowModal(u"frmLog"_s);
 }

@@ -6,14 +6,15 @@
 namespace qlm {
 
 class App;
+class SentLog;
 
 // frmLog: what can be done with the log of a campaign.
 class LogDialog {
 public:
     explicit LogDialog(App& app);
 
-    // action is the campaign's word.
-    void Show(const QString& action);
+    // whatItRecords: "sent friend requests to".
+    void Show(const SentLog& log, const QString& whatItRecords);
 
 private:
     void cmdClearLog_Click();

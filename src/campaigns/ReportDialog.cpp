@@ -59,22 +59,19 @@ QStringList Captions(const QList<ReportedRun>& runs) {
 ReportDialog::ReportDialog(App& app, RunReport& report)
     : m_app(app), m_report(report), m_clock(app.Pump().Queue(), KeepUpEveryMs, false, [this] { KeepUp(); }) {
     Commands& commands = app.commands;
-    commands.Add(u"piccmdFrReport_Click"_s, [this] { piccmdFrReport_Click(); });
     commands.Add(Form + u".cboRuns_Click"_s,
                  [this] { ShowRun(m_app.controls.Selected("frmRunReport.cboRuns"_L1)); });
-    commands.Add(Form + u".cmdSaveCSV_Click"_s,
-                 [this] { m_app.diagnostics.Trap("cmdSaveCSV_Click", [this] { cmdSaveCSV_Click(); }); });
+    commands.Add(Form + u".cmdSaveCSV_Click"_s, "cmdSaveCSV_Click", [this] { cmdSaveCSV_Click(); });
     commands.Add(Form + u".cmdClose_Click"_s, [this] { m_app.platform.Dialogs().CloseForm(Form); });
     report.onChange = [this] { m_isStale = true; };
 }
 
-void ReportDialog::piccmdFrReport_Click() {
-    m_app.diagnostics.Trap("piccmdFrReport_Click", [this] {
-        m_app.controls.SetItems("frmRunReport.cboRuns"_L1, {});
-        Load();
-        m_app.platform.Dialogs().ShowForm(Form);
-        m_clock.Restart();
-    });
+void ReportDialog::Show(const ReportKind& kind) {
+    m_kind = &kind;
+    m_app.controls.SetItems("frmRunReport.cboRuns"_L1, {});
+    Load();
+    m_app.platform.Dialogs().ShowForm(Form);
+    m_clock.Restart();
 }
 
 void ReportDialog::KeepUp() {
@@ -86,10 +83,10 @@ void ReportDialog::KeepUp() {
 
 void ReportDialog::Load() {
     m_isStale = false;
-    m_runs = m_report.Runs();
+    m_runs = m_report.Runs(*m_kind);
     std::reverse(m_runs.begin(), m_runs.end());
     for (qsizetype run = 0; run < m_runs.size(); ++run)
-        Complete(m_runs[run], run == 0 && m_report.IsRunning());
+        Complete(m_runs[run], run == 0 && m_report.IsRunning(*m_kind));
     Controls& controls = m_app.controls;
     const QStringList captions = Captions(m_runs);
     const QStringList& known = controls.Items("frmRunReport.cboRuns"_L1);
@@ -122,7 +119,7 @@ void ReportDialog::ShowRun(qsizetype run) {
 void ReportDialog::cmdSaveCSV_Click() {
     // What is shown may change while the user looks for a place.
     const ReportedRun run = m_shown;
-    const QString name = u"Friend requests "_s + run.begun.left(10) + u".csv"_s;
+    const QString name = QString::fromLatin1(m_kind->title) + u' ' + run.begun.left(10) + u".csv"_s;
     const QString chosen = m_app.platform.Dialogs().ChooseFileToSave(u"Save Report"_s, name, CsvFiles);
     if (chosen.isEmpty())
         return;

@@ -10,19 +10,21 @@ namespace qlm {
 
 class App;
 class RunReport;
+struct ReportKind;
 
 // The window that shows the report of a run, the newest one first, and keeps up with one that is going on.
 class ReportDialog {
 public:
     ReportDialog(App& app, RunReport& report);
 
+    // The reports of that campaign.
+    void Show(const ReportKind& kind);
     // Empty without a run.
     const QList<ReportRow>& Rows() const { return m_shown.rows; }
     // Told when there are other rows to show. Set by the form while it is there.
     std::function<void()> onRows;
 
 private:
-    void piccmdFrReport_Click();
     void cmdSaveCSV_Click();
     void Load();
     void ShowRun(qsizetype run);
@@ -31,7 +33,8 @@ private:
     App& m_app;
     RunReport& m_report;
     Timer m_clock;
-    QList<ReportedRun> m_runs; // newest first
+    const ReportKind* m_kind = nullptr; // what is shown
+    QList<ReportedRun> m_runs;          // newest first
     ReportedRun m_shown;
     bool m_isStale = false;
 };

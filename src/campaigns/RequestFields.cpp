@@ -98,7 +98,7 @@ bool RequestFields::ClickRequestButton() {
             if (!IsRequestButton(input))
                 continue;
             m_app.state.intFRStep = FriendStep::AfterSend;
-            m_app.Get<SentLog>().WriteLogEntry();
+            RunningLog(m_app).WriteLogEntry();
             input.Click();
             clicked = true;
             return;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "browser/Cover.h"
 #include "browser/PageSigns.h"
+#include "campaigns/Campaigns.h"
 #include "campaigns/CaptchaCalls.h"
 #include "campaigns/Counters.h"
 #include "campaigns/FriendRequester.h"
@@ -52,7 +53,7 @@ void FriendRequester::NoteConfirmation() {
     m_app.Get<RunReport>().Confirm();
     const qint32 target = m_app.state.lngTargetNumber;
     if (std::exchange(m_confirmed, target) != target)
-        m_app.Get<SentLog>().NoteContact();
+        RunningLog(m_app).NoteContact();
 }
 
 // False when a limit has stopped the run.
@@ -65,13 +66,13 @@ bool FriendRequester::RequestWasSent() {
     m_app.timers->tmrAutoResume.SetEnabled(false);
     state.blnWaitingForCaptcha = false;
     NoteConfirmation();
-    if (!m_app.Get<Counters>().AddFriendCount())
+    if (!m_app.Get<Counters>().Count(FriendRequests))
         return false;
     state.intFRStep = FriendStep::AfterSend;
-    const bool logged = m_app.Get<SentLog>().WriteLogEntry();
+    const bool logged = RunningLog(m_app).WriteLogEntry();
     m_app.Get<RunReport>().Close(logged ? ReportResult::Sent : ReportResult::SentNotLogged,
                                  logged ? QString() : u"The log could not be written"_s);
-    return !m_app.Get<Counters>().StopUncounted(m_app.state.CurrentAction);
+    return !m_app.Get<Counters>().StopUncounted();
 }
 
 // Neither a confirmation nor a CAPTCHA: the page may still be building. The older one has a button of its

@@ -7,11 +7,12 @@
 #include "campaigns/ChainedStart.h"
 #include "campaigns/Counters.h"
 #include "campaigns/SentLog.h"
-#include "campaigns/StartChecks.h"
+#include "core/ActivityWords.h"
 #include "core/App.h"
 #include "gather/GatheredList.h"
 #include "steps/Activities.h"
 #include "steps/RunReport.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 namespace qlm {
@@ -23,62 +24,65 @@ namespace {
 // A long walk over known IDs loads no page; Stop has to work in it all the same.
 constexpr int SkipsBetweenPumps = 100;
 
-// The campaign that reports its targets and marks its start in its trail.
-const QString FriendRequests = u"FR"_s;
+QString ClickOf(const char* button) {
+    return QString::fromLatin1(button) + u"_Click"_s;
+}
 
 } // namespace
 
 SendRuns::SendRuns(App& app) : m_app(app), m_logDialog(app), m_reportDialog(app, app.Get<RunReport>()) {
-    for (const Campaign& campaign : Campaigns())
-        if (const Activity* activity = FindActivity(campaign.word); activity->stepRoutine)
-            RegisterCommands(campaign);
+    for (const Campaign* campaign : Campaigns())
+        if (FindActivity(campaign->word)->stepRoutine)
+            RegisterCommands(*campaign);
     app.Get<LoginFlow>().goOnInChain = [&app] { GoOnInChain(app); };
     app.commands.Add(u"chkRemoveAfterSent_MouseDown"_s, [this] { chkRemoveAfterSent_MouseDown(); });
 }
 
 void SendRuns::RegisterCommands(const Campaign& campaign) {
-    const QString word(campaign.word);
-    auto add = [this](const char* button, auto handler) {
-        if (button[0])
-            m_app.commands.Add(QString::fromLatin1(button) + u"_Click"_s, std::function<void()>(handler));
-    };
-    add(campaign.send, [this, word] { Start(word); });
-    add(campaign.stop, [this, word] { Stop(*FindCampaign(word)); });
-    add(campaign.log, [this, word, log = QByteArray(campaign.log)] {
-        m_app.diagnostics.Trap(log + "_Click", [&] { m_logDialog.Show(word); });
-    });
+    Commands& commands = m_app.commands;
+    commands.Add(ClickOf(campaign.send), campaign.startProcedure, [this, &campaign] { Start(campaign); });
+    if (campaign.stop[0])
+        commands.Add(ClickOf(campaign.stop), [this, &campaign] { Stop(campaign); });
+    if (campaign.log[0])
+        commands.Add(ClickOf(campaign.log), [this, &campaign] {
+            m_logDialog.Show({m_app, &campaign}, QString::fromLatin1(campaign.whatLogRecords));
+        });
+    if (campaign.reportButton[0])
+        commands.Add(ClickOf(campaign.reportButton),
+                     [this, &campaign] { m_reportDialog.Show(campaign.report); });
 }
 
-void SendRuns::Start(const QString& word) {
-    const Campaign& campaign = *FindCampaign(word);
-    const Activity& activity = *FindActivity(word);
-    m_app.diagnostics.Trap(campaign.startProcedure, [&] {
-        auto mark = [&](const QString& text) {
-            m_app.diagnostics.Debug(QString::fromLatin1(activity.debugFile), text + m_app.NowText());
-        };
-        const bool marks = word == FriendRequests;
-        if (marks)
-            mark(u"FR BEGIN1 - "_s);
-        m_app.WebBrowser1().SetSilent(true);
-        m_app.webHide().SetSilent(true);
-        m_app.Get<Cover>().Hide();
-        if (!CampaignMayStart(m_app, word))
-            return;
-        if (marks)
-            mark(u"FR BEGIN2 - "_s);
-        if (campaign.stopsRunningOne)
-            m_app.Get<StopResume>().StopAll(QString::fromLatin1(campaign.stopReason));
-        Reset(campaign);
-        const RunMark start = m_app.waiting.Mark();
-        if (word == FriendRequests)
-            m_app.Get<RunReport>().BeginRun();
-        // A disk that refuses the report brings a box up, and whatever happens behind it.
-        m_app.waiting.LeaveUnlessCurrent(start);
-        if (activity.step)
-            m_app.state.*activity.step = campaign.firstStep;
-        if (activity.stepRoutine)
-            activity.stepRoutine(m_app);
-    });
+void SendRuns::Start(const Campaign& campaign) {
+    MarkStart(campaign, 1);
+    m_app.WebBrowser1().SetSilent(true);
+    m_app.webHide().SetSilent(true);
+    m_app.Get<Cover>().Hide();
+    if (!CampaignMayStart(m_app, campaign) || (campaign.mayStart && !campaign.mayStart(m_app, campaign)))
+        return;
+    MarkStart(campaign, 2);
+    if (campaign.stopsRunningOne)
+        m_app.Get<StopResume>().StopAll(QString::fromLatin1(campaign.reasons.stopped));
+    Reset(campaign);
+    Begin(campaign);
+}
+
+void SendRuns::MarkStart(const Campaign& campaign, int number) {
+    if (campaign.startMark[0])
+        m_app.diagnostics.Debug(TrailOf(campaign.word), QString::fromLatin1(campaign.startMark) +
+                                                            QString::number(number) + u" - "_s +
+                                                            m_app.NowText());
+}
+
+void SendRuns::Begin(const Campaign& campaign) {
+    const Activity& activity = *FindActivity(campaign.word);
+    const RunMark start = m_app.waiting.Mark();
+    m_app.Get<RunReport>().BeginRun(campaign.report, campaign.reasons);
+    // A disk that refuses the report brings a box up, and whatever happens while it is there.
+    m_app.waiting.LeaveUnlessCurrent(start);
+    if (activity.step)
+        m_app.state.*activity.step = campaign.firstStep;
+    if (activity.stepRoutine)
+        activity.stepRoutine(m_app);
 }
 
 void SendRuns::Reset(const Campaign& campaign) {
@@ -111,18 +115,16 @@ void SendRuns::Reset(const Campaign& campaign) {
         state.intCurrentIDIndex = 0;
     // Of friend requests the log is the only guard against asking somebody twice.
     state.blnCheckLog = campaign.checkLogBox.isEmpty() || m_app.controls.Ticked(campaign.checkLogBox);
-    m_app.Get<SentLog>().SettleNotes();
+    SentLog(m_app, &campaign).SettleNotes();
     m_app.Get<Counters>().ShowSentAtStart(campaign);
     ShowCounts();
 }
 
 void SendRuns::Stop(const Campaign& campaign) {
-    m_app.diagnostics.Trap(QByteArray(campaign.stop) + "_Click", [&] {
-        m_app.WebBrowser1().SetSilent(true);
-        m_app.WebBrowser1().Stop();
-        m_app.Get<Cover>().Hide();
-        m_app.Get<StopResume>().StopAll(QString::fromLatin1(campaign.stopReason));
-    });
+    m_app.WebBrowser1().SetSilent(true);
+    m_app.WebBrowser1().Stop();
+    m_app.Get<Cover>().Hide();
+    m_app.Get<StopResume>().StopAll(QString::fromLatin1(campaign.reasons.stopped));
 }
 
 void SendRuns::chkRemoveAfterSent_MouseDown() {
@@ -158,11 +160,20 @@ bool SendRuns::TakeTarget(const QString& caller) {
     return false;
 }
 
-// A comment to a friend just accepted looks in the log only by the user's wish, and then always.
+// A friend just accepted may be looked up by the user's wish, and then always.
 bool SendRuns::IsLogged() {
-    const bool forced = Accepting() && m_app.state.CurrentAction == u"COM"_s &&
-                        m_app.controls.Ticked("mnuAddToLogWhenAccepting"_L1);
-    return m_app.Get<SentLog>().LogEntryExists(m_app.state.strCurrentID, false, forced);
+    const Campaign* campaign = FindTargetCampaign(m_app.state.CurrentAction);
+    const bool forced = Accepting() && campaign && !campaign->acceptLogBox.isEmpty() &&
+                        m_app.controls.Ticked(campaign->acceptLogBox);
+    return SentLog(m_app, campaign).LogEntryExists(m_app.state.strCurrentID, false, forced);
+}
+
+void SendRuns::ReportSkip() {
+    const QString id = m_app.state.strCurrentID;
+    const bool noted = RunningLog(m_app).IsNoted(id);
+    m_app.Get<RunReport>().PassOver(id,
+                                    noted ? u"You sent to this one before, although your log doesn't say so"_s
+                                          : u"You sent to this one before"_s);
 }
 
 void SendRuns::PassOver(const QString& caller) {
@@ -171,11 +182,7 @@ void SendRuns::PassOver(const QString& caller) {
         m_app.SetStatus(u"Skipping ID's you've sent to before..."_s);
     ++state.lngSkippedCount;
     state.intFRLimitHits = 0;
-    if (state.CurrentAction == FriendRequests)
-        m_app.Get<RunReport>().PassOver(
-            state.strCurrentID, m_app.Get<SentLog>().IsNoted(state.strCurrentID)
-                                    ? u"You sent to this one before, although your log doesn't say so"_s
-                                    : u"You sent to this one before"_s);
+    ReportSkip();
     ShowCounts();
     AdvanceAfterUse(caller);
     if (state.lngSkippedCount % SkipsBetweenPumps != 0)
@@ -239,7 +246,7 @@ void SendRuns::RemoveUsedTarget(const QString& caller) {
     ++(removed ? state.lngRemovedCount : state.intCurrentIDIndex);
 }
 
-void SendRuns::Finish(const QString& reason) {
+void SendRuns::Finish() {
     const Campaign* campaign = FindTargetCampaign(m_app.state.CurrentAction);
     if (!campaign)
         return;
@@ -248,7 +255,7 @@ void SendRuns::Finish(const QString& reason) {
         return;
     }
     RunState& state = m_app.state;
-    m_app.Get<StopResume>().StopAll(reason);
+    m_app.Get<StopResume>().StopAll(QString::fromLatin1(campaign->reasons.finished));
     if (m_app.Get<StopResume>().DoFinishedExit())
         return;
     QString text = u"Finished sending "_s + QString::fromLatin1(campaign->what) + u'.';
@@ -268,9 +275,9 @@ void SendRuns::Finish(const QString& reason) {
 void SendRuns::ReturnToAccepting() {
     RunState& state = m_app.state;
     const Activity& borrowed = *FindActivity(state.CurrentAction);
-    const Activity& accepting = *FindActivity(u"ACC"_s);
+    const Activity& accepting = *FindActivity(ActivityWord::Accepting);
     state.*borrowed.step = 0;
-    state.*accepting.step = 2;
+    state.*accepting.step = AcceptStep::OpenList;
     state.CurrentAction = accepting.word;
     state.strAcceptMode.clear();
     m_app.controls.SetItems("lstAcceptIDs"_L1, {});

@@ -16,22 +16,20 @@ class SendRuns {
 public:
     explicit SendRuns(App& app);
 
-    // The start routine of a campaign, by its word: the checks of its tab, the reset, the first step.
-    void Start(const QString& campaign);
-    void cmdAddFriends_Click() { Start(QStringLiteral("FR")); }
+    // The start of a campaign: the checks, the question, the reset, the first step.
+    void Start(const Campaign& campaign);
     ReportDialog& ReportWindow() { return m_reportDialog; }
-    // The end step of the running campaign; reason is the trace word of the stop. In accept mode the accept
-    // run goes on instead.
-    void Finish(const QString& reason);
+    // The end step of the running campaign. In accept mode the accept run goes on instead.
+    void Finish();
 
     // Takes the next target that isn't in the log, and passes over the others without loading a page. False
     // when none is left. caller is the trace word of a removal.
     bool TakeTarget(const QString& caller);
-    // A target is left: yes unless the cursor is behind the end or the list is empty.
+    // A target is left: yes unless the cursor is after the end or the list is empty.
     bool TargetLeft() const;
     // Takes the target under the cursor into strCurrentID.
     void BeginTarget();
-    // Moves on behind the target under the cursor: the index, or with chkRemoveAfterSent the head of the
+    // Moves on after the target under the cursor: the index, or with chkRemoveAfterSent the head of the
     // list.
     void AdvanceAfterUse(const QString& caller);
     // With chkRemoveAfterSent unticked, moves the cursor before the page of the target is loaded.
@@ -46,12 +44,15 @@ public:
 
 private:
     void RegisterCommands(const Campaign& campaign);
+    void MarkStart(const Campaign& campaign, int number);
     void Reset(const Campaign& campaign);
+    void Begin(const Campaign& campaign);
     void Stop(const Campaign& campaign);
     void chkRemoveAfterSent_MouseDown();
     void ReturnToAccepting();
     bool Accepting() const;
     bool IsLogged();
+    void ReportSkip();
     void PassOver(const QString& caller);
 
     App& m_app;

@@ -13,20 +13,20 @@ namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
-QString SentLog::PathFor(const QString& action) {
-    const Campaign* campaign = FindTargetCampaign(action);
-    if (!campaign)
+QString SentLog::Path() const {
+    if (!m_campaign)
+        return m_path;
+    if (!m_campaign->HasTargets())
         return {};
     const QString folder =
         FileSystem::Join(m_app.state.ProgramFolder, m_app.Get<SettingsFields>().AccountDataPath(u"Log"_s));
-    return FileSystem::Join(folder, QString::fromLatin1(campaign->logFile));
+    return FileSystem::Join(folder, QString::fromLatin1(m_campaign->logFile));
 }
 
-OpenNotes SentLog::Notes() {
-    return {m_app.files, PathFor(m_app.state.CurrentAction)};
-}
-
-bool SentLog::IsInFile(const QString& path, const QString& id) {
+bool SentLog::IsInFile(const QString& id) {
+    const QString path = Path();
+    if (path.isEmpty())
+        return false;
     m_app.files.EnsureFile(path);
     return FileHoldsLine(path, ToAnsi(id.trimmed()));
 }
@@ -37,10 +37,7 @@ bool SentLog::LogEntryExists(const QString& id, bool noPause, bool force) {
     if (!noPause)
         m_app.Get<StopResume>().PauseLinkCheck();
     bool found = false;
-    m_app.diagnostics.Trap("LogEntryExists", [&] {
-        const QString path = PathFor(m_app.state.CurrentAction);
-        found = !path.isEmpty() && IsInFile(path, id);
-    });
+    m_app.diagnostics.Trap("LogEntryExists", [&] { found = IsInFile(id); });
     // A log that can't be read says nothing; its notes may.
     if (!found)
         found = IsNoted(id);
@@ -50,41 +47,44 @@ bool SentLog::LogEntryExists(const QString& id, bool noPause, bool force) {
 }
 
 bool SentLog::WriteLogEntry() {
-    const QString error = m_app.diagnostics.Trap("WriteLogEntry", [this] {
-        if (const QString path = PathFor(m_app.state.CurrentAction); !path.isEmpty())
-            m_app.files.AppendLine(path, m_app.state.strCurrentID);
+    const QString id = m_app.state.strCurrentID;
+    const QString error = m_app.diagnostics.Trap("WriteLogEntry", [&] {
+        if (const QString path = Path(); !path.isEmpty())
+            m_app.files.AppendLine(path, id);
     });
     if (!error.isEmpty())
         return false;
-    // A note that stays behind its line holds nobody back whom the line doesn't.
-    m_app.diagnostics.Trap("StrikeOutNote", [this] {
-        if (FindTargetCampaign(m_app.state.CurrentAction))
-            Notes().StrikeOut({m_app.state.strCurrentID});
+    // A note that stays after its line holds nobody back whom the line doesn't.
+    m_app.diagnostics.Trap("StrikeOutNote", [&] {
+        if (const QString path = Path(); !path.isEmpty())
+            OpenNotes(m_app.files, path).StrikeOut({id});
     });
     return true;
 }
 
 bool SentLog::NoteContact() {
     const QString error = m_app.diagnostics.Trap("NoteContact", [this] {
-        if (FindTargetCampaign(m_app.state.CurrentAction))
-            Notes().Note(m_app.state.strCurrentID);
+        if (const QString path = Path(); !path.isEmpty())
+            OpenNotes(m_app.files, path).Note(m_app.state.strCurrentID);
     });
     return error.isEmpty();
 }
 
 bool SentLog::IsNoted(const QString& id) {
     bool noted = false;
-    m_app.diagnostics.Trap(
-        "IsNoted", [&] { noted = FindTargetCampaign(m_app.state.CurrentAction) && Notes().Holds(id); });
+    m_app.diagnostics.Trap("IsNoted", [&] {
+        const QString path = Path();
+        noted = !path.isEmpty() && OpenNotes(m_app.files, path).Holds(id);
+    });
     return noted;
 }
 
 void SentLog::SettleNotes() {
     m_app.diagnostics.Trap("SettleNotes", [this] {
-        const QString path = PathFor(m_app.state.CurrentAction);
+        const QString path = Path();
         if (path.isEmpty())
             return;
-        OpenNotes notes = Notes();
+        OpenNotes notes(m_app.files, path);
         QStringList logged;
         for (const QString& id : notes.All())
             if (FileHoldsLine(path, ToAnsi(id)))
@@ -92,6 +92,10 @@ void SentLog::SettleNotes() {
         if (!logged.isEmpty())
             notes.StrikeOut(logged);
     });
+}
+
+SentLog RunningLog(App& app) {
+    return {app, FindTargetCampaign(app.state.CurrentAction)};
 }
 
 } // namespace qlm

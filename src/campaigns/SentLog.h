@@ -6,36 +6,43 @@
 namespace qlm {
 
 class App;
-class OpenNotes;
+struct Campaign;
 
-// Who has been contacted: plain text, one ID a line, a file for each campaign, in the order sent. Nothing is
+// Who has been contacted: plain text, one ID a line, in the order sent; an object for each file. Nothing is
 // cached, so that clearing a log takes effect at the next target. A log that can't be opened counts as empty
-// and loses the entry; the error is reported and the run goes on.
+// and loses the entry; the error is reported and the run goes on. One of nothing holds nobody
+// and keeps nothing.
 class SentLog {
 public:
-    explicit SentLog(App& app) : m_app(app) {}
+    // The log of a campaign: in the scope of the account as it is at each look. Of none that has targets it
+    // is the log of nothing.
+    SentLog(App& app, const Campaign* campaign) : m_app(app), m_campaign(campaign) {}
+    SentLog(App& app, const QString& path) : m_app(app), m_path(path) {}
 
-    // Path of the log of that activity; empty for one that has none.
-    QString PathFor(const QString& action);
-    // Looks in the log of CurrentAction and the notes beside it, when blnCheckLog or force says so. The page
-    // check rests meanwhile unless noPause.
+    // Makes the folder of the account. Empty for the log of nothing.
+    QString Path() const;
+    // Looks in the log and the notes beside it, when blnCheckLog or force says so. The page check rests
+    // meanwhile unless noPause.
     bool LogEntryExists(const QString& id, bool noPause = false, bool force = false);
-    // Appends strCurrentID to the log of CurrentAction and strikes its note out. False when the line could
-    // not be written.
+    // Appends strCurrentID and strikes its note out. False when the line could not be written.
     bool WriteLogEntry();
 
-    // The notes beside that log hold who was contacted without a line in it; LogEntryExists finds them too.
+    // The notes beside the log hold who was contacted without a line in it; LogEntryExists finds them too.
     // Notes strCurrentID: on the disk when it answers true.
     bool NoteContact();
     bool IsNoted(const QString& id);
-    // Strikes out the notes of those who stand in the log: a process that died behind the line left them.
+    // Strikes out the notes of those who stand in the log: a process that died after the line left them.
     void SettleNotes();
 
 private:
-    OpenNotes Notes();
-    bool IsInFile(const QString& path, const QString& id);
+    bool IsInFile(const QString& id);
 
     App& m_app;
+    const Campaign* m_campaign = nullptr;
+    QString m_path; // where there is no campaign
 };
+
+// Of the campaign that runs.
+SentLog RunningLog(App& app);
 
 } // namespace qlm

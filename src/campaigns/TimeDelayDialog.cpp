@@ -52,7 +52,7 @@ qint16 SecondsInInteger(const QString& minutes, const QString& seconds) {
 }
 
 TimeDelayDialog::TimeDelayDialog(App& app) : m_app(app) {
-    app.commands.Add(u"frmTimeDelay.cmdOK_Click"_s, [this] { cmdOK_Click(); });
+    app.commands.Add(u"frmTimeDelay.cmdOK_Click"_s, "cmdOK_Click - frmTimeDelay", [this] { cmdOK_Click(); });
     app.commands.Add(u"frmTimeDelay.cmdCancel_Click"_s,
                      [this] { m_app.platform.Dialogs().CloseForm(u"frmTimeDelay"_s); });
     app.commands.Add(u"frmTimeDelay.txtMinutes_LostFocus"_s, [this] { KeepNumeric(FromMinutes); });
@@ -105,22 +105,20 @@ std::optional<qint16> TimeDelayDialog::Seconds(QLatin1StringView minutesField,
 }
 
 void TimeDelayDialog::cmdOK_Click() {
-    m_app.diagnostics.Trap("cmdOK_Click - frmTimeDelay", [this] {
-        // The Enter key presses OK without the field losing the focus.
-        KeepNumeric(FromMinutes);
-        KeepNumeric(FromSeconds);
-        m_app.controls.SetText(ProblemLabel, {});
-        const std::optional<qint16> from = Seconds(FromMinutes, FromSeconds);
-        const std::optional<qint16> to = from ? Seconds(ToMinutes, ToSeconds) : std::nullopt;
-        if (!from || !to)
-            return;
-        if (*to < *from) {
-            m_app.ShowMessage(u"The second time value is smaller than the first"_s);
-            return;
-        }
-        Save(*from, *to);
-        m_app.platform.Dialogs().CloseForm(u"frmTimeDelay"_s);
-    });
+    // The Enter key presses OK without the field losing the focus.
+    KeepNumeric(FromMinutes);
+    KeepNumeric(FromSeconds);
+    m_app.controls.SetText(ProblemLabel, {});
+    const std::optional<qint16> from = Seconds(FromMinutes, FromSeconds);
+    const std::optional<qint16> to = from ? Seconds(ToMinutes, ToSeconds) : std::nullopt;
+    if (!from || !to)
+        return;
+    if (*to < *from) {
+        m_app.ShowMessage(u"The second time value is smaller than the first"_s);
+        return;
+    }
+    Save(*from, *to);
+    m_app.platform.Dialogs().CloseForm(u"frmTimeDelay"_s);
 }
 
 void TimeDelayDialog::Save(qint16 from, qint16 to) {

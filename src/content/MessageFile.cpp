@@ -15,12 +15,8 @@ const QString TextFiles = u"Text files (txt)|*.txt;|All files (*.*)|*.*"_s;
 } // namespace
 
 MessageFile::MessageFile(App& app) : m_app(app) {
-    app.commands.Add(u"piccmdMsgSave_Click"_s, [this] {
-        m_app.diagnostics.Trap("piccmdMsgSave_Click", [this] { piccmdMsgSave_Click(); });
-    });
-    app.commands.Add(u"piccmdMsgLoad_Click"_s, [this] {
-        m_app.diagnostics.Trap("piccmdMsgLoad_Click", [this] { piccmdMsgLoad_Click(); });
-    });
+    app.commands.Add(u"piccmdMsgSave_Click"_s, [this] { piccmdMsgSave_Click(); });
+    app.commands.Add(u"piccmdMsgLoad_Click"_s, [this] { piccmdMsgLoad_Click(); });
 }
 
 void MessageFile::piccmdMsgSave_Click() {

@@ -52,14 +52,12 @@ void BrowserSounds::Restore() {
 }
 
 void BrowserSounds::mnuDisableBrowserSounds_Click() {
-    m_app.diagnostics.Trap("mnuDisableBrowserSounds_Click", [this] {
-        const bool silence = !m_app.controls.Ticked(MenuItem);
-        m_app.controls.SetTicked(MenuItem, silence);
-        if (silence)
-            Silence();
-        else
-            Restore();
-    });
+    const bool silence = !m_app.controls.Ticked(MenuItem);
+    m_app.controls.SetTicked(MenuItem, silence);
+    if (silence)
+        Silence();
+    else
+        Restore();
 }
 
 } // namespace qlm

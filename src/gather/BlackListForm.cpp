@@ -21,10 +21,12 @@ constexpr int RowsBetweenTurns = 10000;
 void BlackList::RegisterForm() {
     Commands& commands = m_app.commands;
     commands.Add(u"piccmdBlackList_Click"_s, [this] { piccmdBlackList_Click(); });
-    commands.Add(u"frmBlacklist.cmdAdd_Click"_s, [this] { cmdAdd_Click(); });
-    commands.Add(u"frmBlacklist.cmdAddFromFile_Click"_s, [this] { cmdAddFromFile_Click(); });
-    commands.Add(u"frmBlacklist.cmdDelete_Click"_s, [this] { cmdDelete_Click(); });
-    commands.Add(u"frmBlacklist.cmdClearList_Click"_s, [this] { cmdClearList_Click(); });
+    commands.Add(u"frmBlacklist.cmdAdd_Click"_s, "cmdAdd_Click", [this] { cmdAdd_Click(); });
+    commands.Add(u"frmBlacklist.cmdAddFromFile_Click"_s, "cmdAddFromFile_Click",
+                 [this] { cmdAddFromFile_Click(); });
+    commands.Add(u"frmBlacklist.cmdDelete_Click"_s, "cmdDelete_Click", [this] { cmdDelete_Click(); });
+    commands.Add(u"frmBlacklist.cmdClearList_Click"_s, "cmdClearList_Click",
+                 [this] { cmdClearList_Click(); });
     commands.Add(u"frmBlacklist.cmdClose_Click"_s,
                  [this] { m_app.platform.Dialogs().CloseForm(u"frmBlacklist"_s); });
 }
@@ -101,42 +103,36 @@ void BlackList::EnableForm(bool enable) {
 }
 
 void BlackList::cmdAdd_Click() {
-    m_app.diagnostics.Trap("cmdAdd_Click", [this] {
-        const QString id = m_app.controls.Text(IdField);
-        if (id.isEmpty()) {
-            m_app.ShowMessage(u"Please specify an ID to add to the blacklist"_s);
-            m_app.controls.SetFocus(IdField);
-            return;
-        }
-        m_app.files.AppendLine(Path(), id);
-        m_app.controls.AddItem(Box, id);
-        m_app.controls.SetText(IdField, {});
-    });
+    const QString id = m_app.controls.Text(IdField);
+    if (id.isEmpty()) {
+        m_app.ShowMessage(u"Please specify an ID to add to the blacklist"_s);
+        m_app.controls.SetFocus(IdField);
+        return;
+    }
+    m_app.files.AppendLine(Path(), id);
+    m_app.controls.AddItem(Box, id);
+    m_app.controls.SetText(IdField, {});
 }
 
 void BlackList::cmdAddFromFile_Click() {
-    m_app.diagnostics.Trap("cmdAddFromFile_Click", [this] {
-        const QString path = m_app.platform.Dialogs().ChooseFileToOpen({}, TextFilesFilter());
-        if (path.isEmpty())
-            return;
-        const Dialogs::Answer answer = AskForDuplicates(m_app);
-        EnableForm(false);
-        const auto enableAgain = qScopeGuard([this] { EnableForm(true); });
-        if (answer == Dialogs::Answer::Yes || answer == Dialogs::Answer::No)
-            FillBlacklist(path, answer == Dialogs::Answer::Yes, true);
-    });
+    const QString path = m_app.platform.Dialogs().ChooseFileToOpen({}, TextFilesFilter());
+    if (path.isEmpty())
+        return;
+    const Dialogs::Answer answer = AskForDuplicates(m_app);
+    EnableForm(false);
+    const auto enableAgain = qScopeGuard([this] { EnableForm(true); });
+    if (answer == Dialogs::Answer::Yes || answer == Dialogs::Answer::No)
+        FillBlacklist(path, answer == Dialogs::Answer::Yes, true);
 }
 
 void BlackList::cmdDelete_Click() {
-    m_app.diagnostics.Trap("cmdDelete_Click", [this] {
-        const int row = m_app.controls.Selected(Box);
-        if (row < 0)
-            return;
-        EnableForm(false);
-        const auto enableAgain = qScopeGuard([this] { EnableForm(true); });
-        DropLines(m_app.controls.SelectedText(Box));
-        m_app.controls.RemoveItem(Box, row);
-    });
+    const int row = m_app.controls.Selected(Box);
+    if (row < 0)
+        return;
+    EnableForm(false);
+    const auto enableAgain = qScopeGuard([this] { EnableForm(true); });
+    DropLines(m_app.controls.SelectedText(Box));
+    m_app.controls.RemoveItem(Box, row);
 }
 
 // Every line that is exactly the ID goes; the work copy stays behind.
@@ -167,13 +163,11 @@ void BlackList::WriteInParts(const QString& path, const QByteArray& bytes) {
 }
 
 void BlackList::cmdClearList_Click() {
-    m_app.diagnostics.Trap("cmdClearList_Click", [this] {
-        if (!m_app.AskYesNo(u"You are about to clear all ID's from the Black List. Are you sure you want to "
-                            "continue?"_s))
-            return;
-        m_app.files.CreateFile(Path());
-        m_app.controls.SetItems(Box, {});
-    });
+    if (!m_app.AskYesNo(u"You are about to clear all ID's from the Black List. Are you sure you want to "
+                        "continue?"_s))
+        return;
+    m_app.files.CreateFile(Path());
+    m_app.controls.SetItems(Box, {});
 }
 
 } // namespace qlm

@@ -99,7 +99,7 @@ void ProfileFilters::FollowOptions() {
 void ProfileFilters::RegisterForm() {
     Commands& commands = m_app.commands;
     commands.Add(u"picFilterOptions_Click"_s, [this] { picFilterOptions_Click(); });
-    commands.Add(u"frmFilters.cmdOK_Click"_s, [this] { frmFilters_cmdOK_Click(); });
+    commands.Add(u"frmFilters.cmdOK_Click"_s, "cmdOK_Click", [this] { frmFilters_cmdOK_Click(); });
     commands.Add(u"frmFilters.cmdCancel_Click"_s,
                  [this] { m_app.platform.Dialogs().CloseForm(u"frmFilters"_s); });
     commands.Add(u"frmFilters.optFilterBands_Click"_s, [this] { EnablePersonFilters(false); });
@@ -123,13 +123,11 @@ void ProfileFilters::EnableAges(bool enable) {
 }
 
 void ProfileFilters::picFilterOptions_Click() {
-    m_app.diagnostics.Trap("picFilterOptions_Click", [this] {
-        frmFilters_Load();
-        m_app.platform.Dialogs().ShowModal(u"frmFilters"_s);
-        ReadBack();
-        if (AllOff())
-            m_app.controls.SetTicked("optFilterWhenSending"_L1, true);
-    });
+    frmFilters_Load();
+    m_app.platform.Dialogs().ShowModal(u"frmFilters"_s);
+    ReadBack();
+    if (AllOff())
+        m_app.controls.SetTicked("optFilterWhenSending"_L1, true);
 }
 
 void ProfileFilters::frmFilters_Load() {
@@ -147,23 +145,21 @@ void ProfileFilters::frmFilters_Load() {
 }
 
 void ProfileFilters::frmFilters_cmdOK_Click() {
-    m_app.diagnostics.Trap("cmdOK_Click", [this] {
-        const QString days = m_app.controls.Text("frmFilters.txtFilterLastLoginDays"_L1).trimmed();
-        m_app.controls.SetText("frmFilters.txtFilterLastLoginDays"_L1, days);
-        if (!IsNumeric(days)) {
-            m_app.ShowMessage(u"Please enter a valid number for the Last Login filter"_s);
-            m_app.controls.SetFocus("frmFilters.txtFilterLastLoginDays"_L1);
-            return;
-        }
-        const QString section = m_app.Get<SettingsFields>().SectionOf(FilterKind);
-        for (const ControlRow* row : FilterRows()) {
-            const QByteArray name = (FormPrefix + QLatin1StringView(row->name)).toLatin1();
-            m_app.platform.Settings().SaveSetting(section, KeyOf(*row),
-                                                  ValueOf(m_app.controls[QLatin1StringView(name)]));
-        }
-        m_app.Get<SettingsFields>().Sync();
-        m_app.platform.Dialogs().CloseForm(u"frmFilters"_s);
-    });
+    const QString days = m_app.controls.Text("frmFilters.txtFilterLastLoginDays"_L1).trimmed();
+    m_app.controls.SetText("frmFilters.txtFilterLastLoginDays"_L1, days);
+    if (!IsNumeric(days)) {
+        m_app.ShowMessage(u"Please enter a valid number for the Last Login filter"_s);
+        m_app.controls.SetFocus("frmFilters.txtFilterLastLoginDays"_L1);
+        return;
+    }
+    const QString section = m_app.Get<SettingsFields>().SectionOf(FilterKind);
+    for (const ControlRow* row : FilterRows()) {
+        const QByteArray name = (FormPrefix + QLatin1StringView(row->name)).toLatin1();
+        m_app.platform.Settings().SaveSetting(section, KeyOf(*row),
+                                              ValueOf(m_app.controls[QLatin1StringView(name)]));
+    }
+    m_app.Get<SettingsFields>().Sync();
+    m_app.platform.Dialogs().CloseForm(u"frmFilters"_s);
 }
 
 void ProfileFilters::ReadBack() {

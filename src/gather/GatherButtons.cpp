@@ -42,14 +42,12 @@ const Prompt& PromptOf(const QString& form) {
 void GatherDriver::RegisterButtons() {
     Commands& commands = m_app.commands;
     commands.Add(u"piccmdFrGotoBrowse_Click"_s, [this] { GotoBrowse(); });
-    commands.Add(u"piccmdFrGotoFriends_Click"_s,
-                 [this] { GotoProfilePage("piccmdFrGotoFriends_Click", u"/friends"_s); });
-    commands.Add(u"piccmdFrGotoComments_Click"_s,
-                 [this] { GotoProfilePage("piccmdFrGotoComments_Click", u"/comments"_s); });
+    commands.Add(u"piccmdFrGotoFriends_Click"_s, [this] { GotoProfilePage(u"/friends"_s); });
+    commands.Add(u"piccmdFrGotoComments_Click"_s, [this] { GotoProfilePage(u"/comments"_s); });
     RegisterHelp(u"lblFullGatherHelp"_s, u"frmFullGatherHelp"_s);
     RegisterHelp(u"lblProfileIDHelp"_s, u"frmProifleIDHelp"_s);
     for (const Prompt& prompt : Prompts())
-        commands.Add(prompt.form + u".cmdOK_Click"_s,
+        commands.Add(prompt.form + u".cmdOK_Click"_s, "cmdOK_Click",
                      [this, form = QString(prompt.form)] { ClosePrompt(form); });
 }
 
@@ -82,12 +80,10 @@ bool GatherDriver::ShowPrompt(const QString& form) {
 }
 
 void GatherDriver::ClosePrompt(const QString& form) {
-    m_app.diagnostics.Trap("cmdOK_Click", [&] {
-        const Prompt& prompt = PromptOf(form);
-        m_app.platform.Settings().SaveSetting(u"General"_s, QString::fromLatin1(prompt.key),
-                                              m_app.controls.Ticked(prompt.box) ? u"1"_s : u"0"_s);
-        m_app.platform.Dialogs().CloseForm(form);
-    });
+    const Prompt& prompt = PromptOf(form);
+    m_app.platform.Settings().SaveSetting(u"General"_s, QString::fromLatin1(prompt.key),
+                                          m_app.controls.Ticked(prompt.box) ? u"1"_s : u"0"_s);
+    m_app.platform.Dialogs().CloseForm(form);
 }
 
 void GatherDriver::GotoBrowse() {
@@ -109,19 +105,17 @@ void GatherDriver::GotoBrowse() {
         });
 }
 
-void GatherDriver::GotoProfilePage(const char* procedure, const QString& page) {
-    m_app.diagnostics.Trap(procedure, [&] {
-        if (RefuseDuringAnyLogin())
-            return;
-        const QString id = m_app.Get<IdResolution>().GetDisplayFriendID(u"WebBrowser1"_s, {});
-        if (!IsNumeric(id)) {
-            m_app.ShowMessage(
-                u"Please make sure you are on this profiles main page, wait for it to load and try again."_s);
-            return;
-        }
-        m_app.WebBrowser1().Navigate(m_app.Expand(u"http://{SiteRootHost}/"_s) + id + page);
-        m_app.controls.SetTicked("optScanFollowing"_L1, true);
-    });
+void GatherDriver::GotoProfilePage(const QString& page) {
+    if (RefuseDuringAnyLogin())
+        return;
+    const QString id = m_app.Get<IdResolution>().GetDisplayFriendID(u"WebBrowser1"_s, {});
+    if (!IsNumeric(id)) {
+        m_app.ShowMessage(
+            u"Please make sure you are on this profiles main page, wait for it to load and try again."_s);
+        return;
+    }
+    m_app.WebBrowser1().Navigate(m_app.Expand(u"http://{SiteRootHost}/"_s) + id + page);
+    m_app.controls.SetTicked("optScanFollowing"_L1, true);
 }
 
 } // namespace qlm

@@ -83,7 +83,7 @@ private:
     void RegisterButtons();
     void RegisterHelp(const QString& label, const QString& form);
     void GotoBrowse();
-    void GotoProfilePage(const char* procedure, const QString& page);
+    void GotoProfilePage(const QString& page);
     void ClosePrompt(const QString& form);
 
     App& m_app;

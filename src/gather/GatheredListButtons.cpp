@@ -23,7 +23,7 @@ GatheredList::GatheredList(App& app) : m_app(app) {
     commands.Add(u"picImport_Click"_s, [this] { Import(); });
     commands.Add(u"picSaveToFile_Click"_s, [this] { SaveToFile(); });
     commands.Add(u"lstFriendIDs_KeyDown"_s, [this](int keyCode) { lstFriendIDs_KeyDown(keyCode); });
-    commands.Add(u"lstFriendIDs_DblClick"_s, [this] { GoToIDsPage(); });
+    commands.Add(u"lstFriendIDs_DblClick"_s, "GoToIDsPage", [this] { GoToIDsPage(); });
     commands.Add(u"mnuContextIDsListItem_Click"_s, [this](int row) { mnuContextIDsListItem_Click(row); });
 }
 
@@ -76,52 +76,46 @@ void GatheredList::Shuffle() {
 }
 
 void GatheredList::Import() {
-    m_app.diagnostics.Trap("picImport_Click", [this] {
-        if (RefuseWhileFilling())
-            return;
-        const QString path = m_app.platform.Dialogs().ChooseFileToOpen({}, TextFilesFilter());
-        if (path.isEmpty())
-            return;
-        const Dialogs::Answer answer = AskForDuplicates(m_app);
-        const auto pointer = ShowWaitPointer(m_app);
-        if (answer == Dialogs::Answer::Yes || answer == Dialogs::Answer::No)
-            FillScannedList(path, false, answer == Dialogs::Answer::Yes);
-    });
+    if (RefuseWhileFilling())
+        return;
+    const QString path = m_app.platform.Dialogs().ChooseFileToOpen({}, TextFilesFilter());
+    if (path.isEmpty())
+        return;
+    const Dialogs::Answer answer = AskForDuplicates(m_app);
+    const auto pointer = ShowWaitPointer(m_app);
+    if (answer == Dialogs::Answer::Yes || answer == Dialogs::Answer::No)
+        FillScannedList(path, false, answer == Dialogs::Answer::Yes);
 }
 
 void GatheredList::SaveToFile() {
-    m_app.diagnostics.Trap("picSaveToFile_Click", [this] {
-        const QString path = m_app.platform.Dialogs().ChooseFileToSave({}, {}, TextFilesFilter());
-        if (!path.isEmpty())
-            WriteList(path, true);
-    });
+    const QString path = m_app.platform.Dialogs().ChooseFileToSave({}, {}, TextFilesFilter());
+    if (!path.isEmpty())
+        WriteList(path, true);
 }
 
 void GatheredList::lstFriendIDs_KeyDown(int keyCode) {
-    m_app.diagnostics.Trap("lstFriendIDs_KeyDown", [&] {
-        const int row = m_app.controls.Selected("lstFriendIDs"_L1);
-        if (keyCode != DeleteKey || m_app.controls.SelectedText("lstFriendIDs"_L1).isEmpty())
-            return;
-        ProcessArrayAndList(u"REMOVE"_s, row, {}, u"lstFriendIDs_KeyDown"_s);
-        const auto rows = static_cast<int>(m_app.controls.Items("lstFriendIDs"_L1).size());
-        m_app.controls.SetSelected("lstFriendIDs"_L1, std::min(row, rows - 1));
-    });
+    const int row = m_app.controls.Selected("lstFriendIDs"_L1);
+    if (keyCode != DeleteKey || m_app.controls.SelectedText("lstFriendIDs"_L1).isEmpty())
+        return;
+    ProcessArrayAndList(u"REMOVE"_s, row, {}, u"lstFriendIDs_KeyDown"_s);
+    const auto rows = static_cast<int>(m_app.controls.Items("lstFriendIDs"_L1).size());
+    m_app.controls.SetSelected("lstFriendIDs"_L1, std::min(row, rows - 1));
 }
 
 // The rows of the menu; the second is its separator.
 void GatheredList::mnuContextIDsListItem_Click(int row) {
     switch (row) {
     case 0:
-        GoToIDsPage();
+        m_app.commands.Run(u"lstFriendIDs_DblClick"_s);
         break;
     case 2:
-        lstFriendIDs_KeyDown(DeleteKey);
+        m_app.commands.Run(u"lstFriendIDs_KeyDown"_s, DeleteKey);
         break;
     case 3:
-        SaveToFile();
+        m_app.commands.Run(u"picSaveToFile_Click"_s);
         break;
     case 4:
-        Import();
+        m_app.commands.Run(u"picImport_Click"_s);
         break;
     default:
         break;
@@ -129,16 +123,14 @@ void GatheredList::mnuContextIDsListItem_Click(int row) {
 }
 
 void GatheredList::GoToIDsPage() {
-    m_app.diagnostics.Trap("GoToIDsPage", [this] {
-        m_app.WebBrowser1().SetSilent(true);
-        if (!m_app.state.CurrentAction.isEmpty()) {
-            m_app.ShowMessage(u"Please stop all other operations first"_s);
-            return;
-        }
-        const QString id = m_app.controls.SelectedText("lstFriendIDs"_L1);
-        if (!id.isEmpty())
-            m_app.WebBrowser1().Navigate(m_app.Expand(u"http://{SiteRootHost}/"_s) + id);
-    });
+    m_app.WebBrowser1().SetSilent(true);
+    if (!m_app.state.CurrentAction.isEmpty()) {
+        m_app.ShowMessage(u"Please stop all other operations first"_s);
+        return;
+    }
+    const QString id = m_app.controls.SelectedText("lstFriendIDs"_L1);
+    if (!id.isEmpty())
+        m_app.WebBrowser1().Navigate(m_app.Expand(u"http://{SiteRootHost}/"_s) + id);
 }
 
 } // namespace qlm

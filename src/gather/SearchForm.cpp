@@ -21,7 +21,7 @@ const QString Stop = u"Stop"_s;
 } // namespace
 
 void WebSearch::RegisterForm() {
-    m_app.commands.Add(u"frmGoogleSearch.cmdOK_Click"_s, [this] { cmdOK_Click(); });
+    m_app.commands.Add(u"frmGoogleSearch.cmdOK_Click"_s, "cmdOK_Click", [this] { cmdOK_Click(); });
     m_app.commands.Add(u"frmGoogleSearch_QueryUnload"_s, [this] { UserCloses(); });
 }
 
@@ -50,19 +50,17 @@ void WebSearch::ShowProgress() {
 }
 
 void WebSearch::cmdOK_Click() {
-    m_app.diagnostics.Trap("cmdOK_Click", [this] {
-        const QString caption = m_app.controls.Text(Button);
-        if (caption == Stop) {
-            m_app.controls.SetText(Button, u"Finishing..."_s);
-            m_app.state.blnStopGoogle = true;
-        } else if (caption == Search && m_app.controls.Text(Term).trimmed().isEmpty()) {
-            m_app.ShowMessage(u"Please specify a Google search term"_s);
-            m_app.controls.SetFocus(Term);
-        } else if (caption == Search) {
-            m_searchPressed = true;
-            m_app.platform.Dialogs().CloseForm(Form);
-        }
-    });
+    const QString caption = m_app.controls.Text(Button);
+    if (caption == Stop) {
+        m_app.controls.SetText(Button, u"Finishing..."_s);
+        m_app.state.blnStopGoogle = true;
+    } else if (caption == Search && m_app.controls.Text(Term).trimmed().isEmpty()) {
+        m_app.ShowMessage(u"Please specify a Google search term"_s);
+        m_app.controls.SetFocus(Term);
+    } else if (caption == Search) {
+        m_searchPressed = true;
+        m_app.platform.Dialogs().CloseForm(Form);
+    }
 }
 
 // The cross of a window that asks gives the search up; of one that shows the progress it is its Stop.

@@ -24,17 +24,13 @@ QByteArray BoxOf(const GlobalFlag& flag) {
 } // namespace
 
 GlobalSettings::GlobalSettings(App& app) : m_app(app) {
-    auto add = [this](const QString& command, const char* name, void (GlobalSettings::*handler)()) {
-        m_app.commands.Add(command, [this, name, handler] {
-            m_app.diagnostics.Trap(name, [this, handler] { (this->*handler)(); });
-        });
-    };
-    add(u"mnuGlobalSettings_Click"_s, "mnuGlobalSettings_Click", &GlobalSettings::mnuGlobalSettings_Click);
-    add(u"frmGlobalSettings.cmdClose_Click"_s, "cmdClose_Click - frmGlobalSettings",
-        &GlobalSettings::cmdClose_Click);
-    add(u"frmGlobalSettings.cmdResetAll_Click"_s, "cmdResetAll_Click - frmGlobalSettings",
-        &GlobalSettings::cmdResetAll_Click);
-    add(u"mnuResetSettings_Click"_s, "mnuResetSettings_Click", &GlobalSettings::mnuResetSettings_Click);
+    Commands& commands = app.commands;
+    commands.Add(u"mnuGlobalSettings_Click"_s, [this] { mnuGlobalSettings_Click(); });
+    commands.Add(u"frmGlobalSettings.cmdClose_Click"_s, "cmdClose_Click - frmGlobalSettings",
+                 [this] { cmdClose_Click(); });
+    commands.Add(u"frmGlobalSettings.cmdResetAll_Click"_s, "cmdResetAll_Click - frmGlobalSettings",
+                 [this] { cmdResetAll_Click(); });
+    commands.Add(u"mnuResetSettings_Click"_s, [this] { mnuResetSettings_Click(); });
 }
 
 void GlobalSettings::mnuGlobalSettings_Click() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "program/MainForm.h"
 
+#include "campaigns/Campaigns.h"
 #include "campaigns/Pacing.h"
 #include "core/ActivityWords.h"
 #include "core/App.h"
@@ -20,7 +21,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QStringList& TabCaptions() {
-    static const QStringList captions{u"Gather ID's"_s, u"Friend Requester"_s};
+    static const QStringList captions{u"Gather ID's"_s, QString::fromUtf16(FriendRequests.tab)};
     return captions;
 }
 
@@ -162,36 +163,30 @@ void MainForm::ShowPracticeSite(bool runs) {
 }
 
 void MainForm::picSkip_Click() {
-    m_app.diagnostics.Trap("picSkip_Click", [this] {
-        m_app.webHide().ZOrder(1);
-        m_app.Get<StopResume>().SkipProfile();
-    });
+    m_app.webHide().ZOrder(1);
+    m_app.Get<StopResume>().SkipProfile();
 }
 
 void MainForm::picStop_Click() {
-    m_app.diagnostics.Trap("picStop_Click", [this] {
-        m_app.WebBrowser1().SetSilent(true);
-        m_app.WebBrowser1().Stop();
-        m_app.state.blnUserNavigated = true;
-        m_app.webHide().ZOrder(1);
-        m_app.Get<StopResume>().StopAll(u"MAINSTOP"_s);
-    });
+    m_app.WebBrowser1().SetSilent(true);
+    m_app.WebBrowser1().Stop();
+    m_app.state.blnUserNavigated = true;
+    m_app.webHide().ZOrder(1);
+    m_app.Get<StopResume>().StopAll(u"MAINSTOP"_s);
 }
 
 void MainForm::picGO_Click() {
-    m_app.diagnostics.Trap("picGO_Click", [this] {
-        const QString address = m_app.controls.Text("txtAddress"_L1);
-        if (Has(address, u"fuseaction=login"_s)) {
-            m_app.ShowMessage(
-                u"If you need to log in with a different account, please restart Quillmere and log in "
-                "from there"_s);
-            return;
-        }
-        m_app.webHide().ZOrder(1);
-        // What the bar shows of a page with a password in its address stands for that page.
-        const QString shown = m_app.WebBrowser1().LocationURL();
-        m_app.WebBrowser1().Navigate(address == m_app.diagnostics.WithoutPasswords(shown) ? shown : address);
-    });
+    const QString address = m_app.controls.Text("txtAddress"_L1);
+    if (Has(address, u"fuseaction=login"_s)) {
+        m_app.ShowMessage(
+            u"If you need to log in with a different account, please restart Quillmere and log in "
+            "from there"_s);
+        return;
+    }
+    m_app.webHide().ZOrder(1);
+    // What the bar shows of a page with a password in its address stands for that page.
+    const QString shown = m_app.WebBrowser1().LocationURL();
+    m_app.WebBrowser1().Navigate(address == m_app.diagnostics.WithoutPasswords(shown) ? shown : address);
 }
 
 void MainForm::Browse(const std::function<void()>& move) {
@@ -201,28 +196,21 @@ void MainForm::Browse(const std::function<void()>& move) {
 }
 
 void MainForm::picBack_Click() {
-    m_app.diagnostics.Trap("picBack_Click", [this] { Browse([this] { m_app.WebBrowser1().GoBack(); }); });
+    Browse([this] { m_app.WebBrowser1().GoBack(); });
 }
 
 void MainForm::picForward_Click() {
-    m_app.diagnostics.Trap("picForward_Click",
-                           [this] { Browse([this] { m_app.WebBrowser1().GoForward(); }); });
+    Browse([this] { m_app.WebBrowser1().GoForward(); });
 }
 
 void MainForm::picHome_Click() {
-    m_app.diagnostics.Trap("picHome_Click", [this] {
-        Browse([this] {
-            m_app.WebBrowser1().Navigate(m_app.Expand(u"{HomeHost}/index.cfm?fuseaction=home"_s));
-        });
-    });
+    Browse([this] { m_app.WebBrowser1().Navigate(m_app.Expand(u"{HomeHost}/index.cfm?fuseaction=home"_s)); });
 }
 
 void MainForm::picRefresh_Click() {
-    m_app.diagnostics.Trap("picRefresh_Click", [this] {
-        m_app.WebBrowser1().SetSilent(true);
-        m_app.webHide().ZOrder(1);
-        m_app.WebBrowser1().Refresh();
-    });
+    m_app.WebBrowser1().SetSilent(true);
+    m_app.webHide().ZOrder(1);
+    m_app.WebBrowser1().Refresh();
 }
 
 void MainForm::mnuExitWhenFinished_Click() {

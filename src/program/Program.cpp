@@ -12,7 +12,6 @@
 #include "campaigns/FriendRequester.h"
 #include "campaigns/Pacing.h"
 #include "campaigns/SendRuns.h"
-#include "campaigns/SentLog.h"
 #include "content/ContentLists.h"
 #include "core/App.h"
 #include "core/BrowserSounds.h"
@@ -44,6 +43,7 @@ App::App(Platform& thePlatform)
     : platform(thePlatform),
       deployment(thePlatform.DeploymentText()),
       files(thePlatform.WriteGate()),
+      commands(diagnostics),
       diagnostics(*this),
       waiting(*this),
       timers(std::make_unique<Timers>(thePlatform.Pump().Queue())) {
@@ -86,7 +86,6 @@ void App::MakeFamilies() {
     m_families.Make<ClickGather>(*this);
     m_families.Make<ContentLists>(*this);
     m_families.Make<SendRuns>(*this);
-    m_families.Make<SentLog>(*this);
     m_families.Make<Counters>(*this);
     m_families.Make<Pacing>(*this);
     m_families.Make<CaptchaCalls>(*this);

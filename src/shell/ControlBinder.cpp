@@ -128,15 +128,7 @@ void ControlBinder::Bind(QAction& action) {
 }
 
 bool ControlBinder::Run(const QString& command, int argument) {
-    bool found = false;
-    try {
-        m_app.diagnostics.Trap(command.toLatin1().constData(),
-                               [&] { found = m_app.commands.Run(command, argument); });
-    } catch (const ProgramEnding&) {
-        // Thrown to leave the waits below this click; the window is closing already.
-        return true;
-    }
-    return found;
+    return m_app.commands.Run(command, argument);
 }
 
 void ControlBinder::ConnectCommands(QWidget& widget, const QString& name) {

@@ -162,7 +162,8 @@ bool ConfirmComment(App& app, bool found) {
     if (state.intConfirmPolls < CommentConfirmPolls)
         return false;
     state.intConfirmPolls = 0;
-    app.commands.Run(u"ConfirmComment"_s);
+    if (const auto& confirm = app.Get<StepDispatcher>().confirmComment)
+        confirm();
     return false;
 }
 

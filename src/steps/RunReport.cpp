@@ -30,22 +30,28 @@ struct EndRow {
     const char* why;
 };
 
+// Those that any run may have.
 const std::vector<EndRow>& EndRows() {
     static const std::vector<EndRow> rows{
-        {"IAF"_L1, "All targets were gone through", ReportResult::Unfinished, ""},
-        {"AFC"_L1, "Your limit was reached", ReportResult::SentNotLogged,
-         "The request that met your limit: it is sent, but neither counted nor logged"},
         {"UNCOUNTED"_L1, "The count of today could not be saved", ReportResult::Unfinished, ""},
         {"LF2"_L1, "The site's daily limit was reached", ReportResult::Failed, ""},
-        {"ADDSTOP"_L1, "You pressed Stop", ReportResult::Unfinished, "You pressed Stop"},
         {"MAINSTOP"_L1, "You pressed Stop", ReportResult::Unfinished, "You pressed Stop"},
         {"FU"_L1, "The program was closed", ReportResult::Unfinished, "The program was closed"},
     };
     return rows;
 }
 
-EndRow RowFor(const QString& reason) {
-    for (const EndRow& row : EndRows())
+EndRow RowFor(const QString& reason, const ReportKind& kind, const RunReasons& reasons) {
+    const bool isOver = kind.overLimit[0] != 0;
+    std::vector<EndRow> rows{
+        {QLatin1StringView(reasons.finished), "All targets were gone through", ReportResult::Unfinished, ""},
+        {QLatin1StringView(reasons.limitMet), "Your limit was reached",
+         isOver ? ReportResult::SentNotLogged : ReportResult::Unfinished, kind.overLimit},
+        {QLatin1StringView(reasons.stopped), "You pressed Stop", ReportResult::Unfinished,
+         "You pressed Stop"},
+    };
+    rows.insert(rows.end(), EndRows().begin(), EndRows().end());
+    for (const EndRow& row : rows)
         if (reason == row.reason)
             return row;
     return {{}, "The run was ended", ReportResult::Unfinished, "The run was ended"};
@@ -85,20 +91,28 @@ std::optional<QByteArrayView> NextBehind(LineReader& reader, qsizetype& runsToLe
 
 } // namespace
 
-QString RunReport::Path() {
+QString RunReport::PathOf(const ReportKind& kind) {
     const QString folder =
         FileSystem::Join(m_app.state.ProgramFolder, m_app.Get<SettingsFields>().AccountDataPath(u"Log"_s));
-    return FileSystem::Join(folder, u"FriendsReport.txt"_s);
+    return FileSystem::Join(folder, QString::fromLatin1(kind.file));
 }
 
-void RunReport::BeginRun() {
+bool RunReport::IsRunning(const ReportKind& kind) const {
+    return m_running && qstrcmp(kind.file, m_kind.file) == 0;
+}
+
+void RunReport::BeginRun(const ReportKind& kind, const RunReasons& reasons) {
+    if (kind.file[0] == 0)
+        return;
     // A start over a running run gets no stop in between.
     if (m_running)
         EndRun(u"begun anew"_s);
     m_running = true;
+    m_kind = kind;
+    m_reasons = reasons;
     m_problemTold = false;
     m_row = {};
-    if (const QString path = Path(); path != m_path) {
+    if (const QString path = PathOf(kind); path != m_path) {
         m_path = path;
         m_lines.clear();
     }
@@ -131,7 +145,7 @@ void RunReport::DropOldRuns() {
 void RunReport::EndRun(const QString& reason) {
     if (!m_running)
         return;
-    const EndRow row = RowFor(reason);
+    const EndRow row = RowFor(reason, m_kind, m_reasons);
     Close(row.openTarget, QString::fromLatin1(row.why));
     m_lines.append(EndLine(m_app.NowText(), QString::fromLatin1(row.how)));
     Write(Durability::Synced);
@@ -213,8 +227,8 @@ void RunReport::Changed() const {
         onChange();
 }
 
-QList<ReportedRun> RunReport::Runs() {
-    const QString path = m_running ? m_path : Path();
+QList<ReportedRun> RunReport::Runs(const ReportKind& kind) {
+    const QString path = IsRunning(kind) ? m_path : PathOf(kind);
     ReportReader report;
     if (m_app.files.FileExists(path)) {
         qsizetype toLeave = RunsTooMany(path, KeptRuns);

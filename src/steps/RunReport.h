@@ -10,6 +10,21 @@ namespace qlm {
 
 class App;
 
+// The reasons that StopAll is given when a campaign ends; "" for an end that it doesn't have.
+struct RunReasons {
+    const char* finished = ""; // all targets were gone through
+    const char* limitMet = ""; // the user's limit
+    const char* stopped = "";  // its own Stop
+};
+
+// What the report of a campaign differs in.
+struct ReportKind {
+    const char* file = "";      // below the folder of the kind "Log"; "" for a campaign without report
+    const char* title = "";     // "Friend requests"
+    const char* overLimit = ""; // why the target that met the limit was sent, but not counted; "" when the
+                                // limit is tested between targets
+};
+
 // What became of each target of a run, so that the run can be explained afterwards: a file beside the sent
 // log, written as the run goes. A result is on the disk before the run goes on, like the log's line; of a
 // target that is only passed over there may be up to a hundred lines to come. The log alone decides who is
@@ -21,7 +36,8 @@ class RunReport {
 public:
     explicit RunReport(App& app) : m_app(app) {}
 
-    void BeginRun();
+    // Of a run without report nothing is written.
+    void BeginRun(const ReportKind& kind, const RunReasons& reasons);
     // The run is over, for the reason that StopAll was given. Does nothing without a run.
     void EndRun(const QString& reason);
 
@@ -39,10 +55,10 @@ public:
     // Lines that are still in memory go to the file.
     void Flush();
 
-    QString Path();
+    QString PathOf(const ReportKind& kind);
     // The runs in the file, oldest first, with what is not yet written there.
-    QList<ReportedRun> Runs();
-    bool IsRunning() const { return m_running; }
+    QList<ReportedRun> Runs(const ReportKind& kind);
+    bool IsRunning(const ReportKind& kind) const;
     // Why the file could not be written; empty when it can.
     QString Problem() const { return m_problem; }
 
@@ -56,6 +72,8 @@ private:
 
     App& m_app;
     bool m_running = false;
+    ReportKind m_kind;
+    RunReasons m_reasons;
     QString m_path;
     QStringList m_lines; // not yet written
     qsizetype m_passedOver = 0;

@@ -30,6 +30,8 @@ public:
 
     // Whether a list of people stands in the browser that needs no more waiting for. Set by the gathering.
     std::function<bool()> listStands;
+    // Presses the second button of a comment. Set by the machine that sends them.
+    std::function<void()> confirmComment;
 
     // The comment form that had been sent already stands on the page again.
     static bool IsCommentFormBack(App& app);

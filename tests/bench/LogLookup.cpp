@@ -58,13 +58,13 @@ double Least(const std::vector<double>& times) {
 }
 
 void Measure(App& app, const char* what, const QByteArray& id, bool expected) {
-    const QByteArray path = app.Get<SentLog>().PathFor(u"FR"_s).toLocal8Bit();
+    const QByteArray path = RunningLog(app).Path().toLocal8Bit();
     std::vector<double> ours;
     std::vector<double> greps;
     std::vector<double> starts;
     for (int round = 0; round < Rounds; ++round) {
         ours.push_back(Milliseconds([&] {
-            if (app.Get<SentLog>().LogEntryExists(QString::fromLatin1(id)) != expected)
+            if (RunningLog(app).LogEntryExists(QString::fromLatin1(id)) != expected)
                 throw std::runtime_error("the look-up answers something else");
         }));
         // Its lines end in a carriage return too, which grep takes as part of the line.
@@ -95,7 +95,7 @@ int main() {
     app.state.DataFolder = folder.path();
     app.state.CurrentAction = u"FR"_s;
     app.state.blnCheckLog = true;
-    WriteLog(app.Get<SentLog>().PathFor(u"FR"_s));
+    WriteLog(RunningLog(app).Path());
     Measure(app, "a target that isn't in the log: all of it is read", "523456789", false);
     Measure(app, "the target of the middle line", IdAt(Lines / 2), true);
     return 0;

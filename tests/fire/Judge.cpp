@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Judge.h"
+#include "campaigns/Campaigns.h"
 #include "campaigns/SendRuns.h"
 #include "steps/RunReport.h"
 
@@ -225,7 +226,7 @@ void Judge::OnEnd(App& app) {
 // The report and the log tell the same story. Of more runs than it keeps, only the other way round.
 void Judge::CheckReport(App& app) {
     constexpr qsizetype keptRuns = 20;
-    const QList<ReportedRun> runs = app.Get<RunReport>().Runs();
+    const QList<ReportedRun> runs = app.Get<RunReport>().Runs(FriendRequests.report);
     QSet<QString> reported;
     for (const ReportedRun& run : runs)
         for (const ReportRow& row : run.rows) {

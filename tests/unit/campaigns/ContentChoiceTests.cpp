@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
+#include "campaigns/Campaigns.h"
 #include "campaigns/ContentChoice.h"
 #include "content/ContentLists.h"
 
@@ -26,7 +27,7 @@ protected:
         Write(ContentKind::Status, lines);
         QString picked;
         for (int i = 0; i < picks; ++i)
-            picked += PickContentLine(*app, ContentKind::Status).left(1);
+            picked += PickContentLine(*app, StatusUpdates).left(1);
         return picked;
     }
     QString Messages(const QString& letters, int picks) {
@@ -37,7 +38,7 @@ protected:
         Write(ContentKind::Message, lines);
         QString picked;
         for (int i = 0; i < picks; ++i)
-            picked += PickContentLine(*app, ContentKind::Message).left(1);
+            picked += PickContentLine(*app, qlm::Messages).left(1);
         return picked;
     }
     void Choose(QLatin1StringView option) { app->controls.SetTicked(option, true); }
@@ -69,7 +70,7 @@ TEST_F(ContentChoiceTest, EntriesThatAreNotSelectedArePassedOver) {
 TEST_F(ContentChoiceTest, AnIndexOfItsOwnForEachListGoesOnBehindAStop) {
     EXPECT_EQ(Statuses(u"ABC"_s, 1), u"A"_s);
     Write(ContentKind::Bulletin, {u"s&Bulletin=one&Selected=1"_s, u"s&Bulletin=two&Selected=1"_s});
-    EXPECT_TRUE(PickContentLine(*app, ContentKind::Bulletin).contains(u"one"_s));
+    EXPECT_TRUE(PickContentLine(*app, Bulletins).contains(u"one"_s));
     EXPECT_EQ(Statuses(u"ABC"_s, 1), u"B"_s);
     EXPECT_EQ(app->state.intBulletinListIndex, 1);
     EXPECT_EQ(app->state.intCommentListIndex, 0);
@@ -77,7 +78,7 @@ TEST_F(ContentChoiceTest, AnIndexOfItsOwnForEachListGoesOnBehindAStop) {
 
 TEST_F(ContentChoiceTest, ALineWithoutAFlagIsSelected) {
     Write(ContentKind::Status, {u"A"_s, u"B&Selected=0"_s});
-    EXPECT_EQ(PickContentLine(*app, ContentKind::Status), u"A&Selected=1"_s);
+    EXPECT_EQ(PickContentLine(*app, StatusUpdates), u"A&Selected=1"_s);
 }
 
 // The walk in steps of two from the first line never meets the second again.
@@ -127,16 +128,16 @@ TEST_F(ContentChoiceTest, AMessageComesFromTheListTheTabOrTheAccepter) {
     Type("txtMsgMessage"_L1, u"typed text"_s);
     Type("txtAcceptSubject"_L1, u"welcome"_s);
     Type("txtAcceptMessage"_L1, u"welcome text"_s);
-    EXPECT_EQ(ChooseMessage(*app).subject, u"typed"_s);
-    EXPECT_EQ(ChooseMessage(*app).body, u"typed text"_s);
+    EXPECT_EQ(ChooseText(*app, qlm::Messages).subject, u"typed"_s);
+    EXPECT_EQ(ChooseText(*app, qlm::Messages).body, u"typed text"_s);
     EXPECT_EQ(app->state.intMessageListIndex, 0);
     Choose("optSendFromList(0)"_L1);
-    const SubjectAndBody picked = ChooseMessage(*app);
+    const SubjectAndBody picked = ChooseText(*app, qlm::Messages);
     EXPECT_EQ(picked.subject, u"S"_s);
     EXPECT_EQ(picked.body, u"a\r\nb"_s);
     app->state.strAcceptMode = u"MSG"_s;
-    EXPECT_EQ(ChooseMessage(*app).subject, u"welcome"_s);
-    EXPECT_EQ(ChooseMessage(*app).body, u"welcome text"_s);
+    EXPECT_EQ(ChooseText(*app, qlm::Messages).subject, u"welcome"_s);
+    EXPECT_EQ(ChooseText(*app, qlm::Messages).body, u"welcome text"_s);
     EXPECT_EQ(app->state.intMessageListIndex, 2);
 }
 
@@ -144,19 +145,19 @@ TEST_F(ContentChoiceTest, ABulletinComesFromTheListOrTheTab) {
     Write(ContentKind::Bulletin, {u"S&Bulletin=B&Selected=1"_s});
     Type("txtBulSubject"_L1, u"typed &NAME&"_s);
     Type("txtBulMessage"_L1, u"typed text"_s);
-    EXPECT_EQ(ChooseBulletin(*app).subject, u"typed &NAME&"_s);
-    EXPECT_EQ(ChooseBulletin(*app).body, u"typed text"_s);
+    EXPECT_EQ(ChooseText(*app, Bulletins).subject, u"typed &NAME&"_s);
+    EXPECT_EQ(ChooseText(*app, Bulletins).body, u"typed text"_s);
     Choose("optSendFromList(2)"_L1);
-    EXPECT_EQ(ChooseBulletin(*app).subject, u"S"_s);
-    EXPECT_EQ(ChooseBulletin(*app).body, u"B"_s);
+    EXPECT_EQ(ChooseText(*app, Bulletins).subject, u"S"_s);
+    EXPECT_EQ(ChooseText(*app, Bulletins).body, u"B"_s);
 }
 
 TEST_F(ContentChoiceTest, AStatusComesFromTheListOrTheTab) {
     Write(ContentKind::Status, {u"picked;%cln%&selected=1"_s});
     Type("txtStatusBody"_L1, u"typed"_s);
-    EXPECT_EQ(ChooseStatus(*app), u"typed"_s);
+    EXPECT_EQ(ChooseText(*app, StatusUpdates).body, u"typed"_s);
     Choose("optSendFromList(3)"_L1);
-    EXPECT_EQ(ChooseStatus(*app), u"picked;;"_s);
+    EXPECT_EQ(ChooseText(*app, StatusUpdates).body, u"picked;;"_s);
 }
 
 // A row of what a profile that refuses HTML gets; null: the target is skipped.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
+#include "campaigns/Campaigns.h"
 #include "campaigns/Counters.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -81,7 +82,7 @@ TEST_F(CountersTest, AServerDayThatIsNoDateChangesAndStoresNothing) {
 TEST_F(CountersTest, OneRequestCountsForTheDayAndTheRunAndIsStoredAtOnce) {
     app->state.lngDailyFR = 4;
     const int syncsBefore = world.settings.syncs;
-    EXPECT_TRUE(app->Get<Counters>().AddFriendCount());
+    EXPECT_TRUE(app->Get<Counters>().Count(FriendRequests));
     EXPECT_EQ(Stored(u"Daily Friends Count"_s), u"5"_s);
     EXPECT_EQ(app->controls.Text("lblFrTotalToday"_L1), u"Total Today: 5"_s);
     EXPECT_EQ(app->controls.Text("lblFrSentCount"_L1), u"Friends Requested: 1"_s);
@@ -90,8 +91,8 @@ TEST_F(CountersTest, OneRequestCountsForTheDayAndTheRunAndIsStoredAtOnce) {
 
 TEST_F(CountersTest, ALimitOfOneCountsOneAndStopsAtTheNext) {
     app->controls.SetText("txtFriendRequestsToSend"_L1, u"1"_s);
-    EXPECT_TRUE(app->Get<Counters>().AddFriendCount());
-    EXPECT_FALSE(app->Get<Counters>().AddFriendCount());
+    EXPECT_TRUE(app->Get<Counters>().Count(FriendRequests));
+    EXPECT_FALSE(app->Get<Counters>().Count(FriendRequests));
     EXPECT_TRUE(app->state.CurrentAction.isEmpty());
     EXPECT_EQ(app->state.lngSessionFR, 1);
     EXPECT_EQ(dialogs.Texts(), QStringList{u"Your specified limit has been reached"_s});
@@ -101,10 +102,10 @@ TEST_F(CountersTest, PerDayLooksAtTheDay) {
     app->controls.SetText("txtFriendRequestsToSend"_L1, u"10"_s);
     app->controls.SetText("cboFRPerDayOrSession"_L1, u"per day"_s);
     app->state.lngDailyFR = 10;
-    EXPECT_FALSE(app->Get<Counters>().AddFriendCount());
+    EXPECT_FALSE(app->Get<Counters>().Count(FriendRequests));
     app->state.CurrentAction = u"FR"_s;
     app->controls.SetText("cboFRPerDayOrSession"_L1, u"this session"_s);
-    EXPECT_TRUE(app->Get<Counters>().AddFriendCount());
+    EXPECT_TRUE(app->Get<Counters>().Count(FriendRequests));
 }
 
 // A message or comment is counted first and the limit tested behind it.
@@ -113,29 +114,28 @@ TEST_F(CountersTest, MessagesAndCommentsStopAtExactlyTheirLimit) {
         const char16_t* word;
         QLatin1StringView limit;
         QLatin1StringView period;
-        void (Counters::*add)();
+        const Campaign& campaign;
     };
-    for (const Case& each :
-         {Case{u"MSG", "txtMsgStopAt"_L1, "cboMSGPerDayOrSession"_L1, &Counters::AddMessageCount},
-          Case{u"COM", "txtComStopAt"_L1, "cboCOMPerDayOrSession"_L1, &Counters::AddCommentCount}}) {
+    for (const Case& each : {Case{u"MSG", "txtMsgStopAt"_L1, "cboMSGPerDayOrSession"_L1, Messages},
+                             Case{u"COM", "txtComStopAt"_L1, "cboCOMPerDayOrSession"_L1, Comments}}) {
         const QString word = QString::fromUtf16(each.word);
         app->state.CurrentAction = word;
         dialogs.messages.clear();
         app->controls.SetText(each.limit, u"2"_s);
-        (app->Get<Counters>().*each.add)();
-        EXPECT_FALSE(app->Get<Counters>().StopAtLimit(word));
-        (app->Get<Counters>().*each.add)();
-        EXPECT_TRUE(app->Get<Counters>().StopAtLimit(word));
+        app->Get<Counters>().Count(each.campaign);
+        EXPECT_FALSE(app->Get<Counters>().StopAtLimit(each.campaign));
+        app->Get<Counters>().Count(each.campaign);
+        EXPECT_TRUE(app->Get<Counters>().StopAtLimit(each.campaign));
         EXPECT_TRUE(app->state.CurrentAction.isEmpty());
         EXPECT_EQ(dialogs.Texts(), QStringList{u"Your specified limit has been reached"_s});
         EXPECT_EQ(app->controls.Selected("TabStrip1"_L1), 0);
         // Another run, with two of today: only the day is full.
         app->state.lngSessionMsg = app->state.lngSessionCom = 0;
-        EXPECT_FALSE(app->Get<Counters>().StopAtLimit(word));
+        EXPECT_FALSE(app->Get<Counters>().StopAtLimit(each.campaign));
         app->controls.SetText(each.period, u"per day"_s);
-        EXPECT_TRUE(app->Get<Counters>().StopAtLimit(word));
+        EXPECT_TRUE(app->Get<Counters>().StopAtLimit(each.campaign));
         app->controls.SetText(each.limit, {});
-        EXPECT_FALSE(app->Get<Counters>().StopAtLimit(word));
+        EXPECT_FALSE(app->Get<Counters>().StopAtLimit(each.campaign));
     }
 }
 
@@ -175,7 +175,7 @@ TEST_F(CountersTest, EachCampaignCountsUnderItsKeyAndInItsWords) {
          }) {
         app->state.*each.daily = 7;
         app->state.*each.session = 1;
-        app->Get<Counters>().Count(QString::fromUtf16(each.word));
+        app->Get<Counters>().Count(*FindCampaign(QString::fromUtf16(each.word)));
         EXPECT_EQ(Stored(QString::fromUtf16(each.key)), u"8"_s);
         EXPECT_EQ(app->state.*each.session, 2);
         EXPECT_EQ(app->controls.Text(each.sentLabel), QString::fromUtf16(each.sent));
@@ -187,20 +187,20 @@ TEST_F(CountersTest, EachCampaignCountsUnderItsKeyAndInItsWords) {
 
 TEST_F(CountersTest, AMessageThatBelongsToARequestOrAnAcceptRunCountsNothing) {
     app->state.blnMsgAfterFR = true;
-    app->Get<Counters>().AddMessageCount();
+    app->Get<Counters>().Count(Messages);
     app->state.blnMsgAfterFR = false;
     app->state.strAcceptMode = u"MSG"_s;
-    app->Get<Counters>().AddMessageCount();
-    app->Get<Counters>().AddCommentCount();
+    app->Get<Counters>().Count(Messages);
+    app->Get<Counters>().Count(Comments);
     app->state.strAcceptMode.clear();
     app->state.strFRResumeURL = u"http://www.example.com/"_s;
-    app->Get<Counters>().AddMessageCount();
+    app->Get<Counters>().Count(Messages);
     EXPECT_EQ(app->state.lngDailyMsg, 0);
     EXPECT_EQ(app->state.lngSessionMsg, 0);
     EXPECT_EQ(app->state.lngDailyCom, 0);
     app->state.strFRResumeURL.clear();
-    app->Get<Counters>().AddMessageCount();
-    app->Get<Counters>().AddCommentCount();
+    app->Get<Counters>().Count(Messages);
+    app->Get<Counters>().Count(Comments);
     EXPECT_EQ(app->state.lngDailyMsg, 1);
     EXPECT_EQ(app->state.lngDailyCom, 1);
 }
@@ -210,7 +210,7 @@ TEST_F(CountersTest, AtTheLimitAChainGoesOnWithoutAWord) {
     app->commands.Add(u"LoginNextCycleAccount"_s, [&handedOver] { ++handedOver; });
     app->state.blnChaining = true;
     app->controls.SetText("txtFriendRequestsToSend"_L1, u"0"_s);
-    EXPECT_FALSE(app->Get<Counters>().AddFriendCount());
+    EXPECT_FALSE(app->Get<Counters>().Count(FriendRequests));
     EXPECT_EQ(handedOver, 1);
     EXPECT_TRUE(dialogs.Texts().isEmpty());
 }
@@ -218,7 +218,7 @@ TEST_F(CountersTest, AtTheLimitAChainGoesOnWithoutAWord) {
 TEST_F(CountersTest, ALimitThatIsReachedWhenTheProgramIsToExitEndsItWithoutAWord) {
     app->state.blnExitWhenFinished = true;
     app->controls.SetText("txtFriendRequestsToSend"_L1, u"0"_s);
-    EXPECT_FALSE(app->Get<Counters>().AddFriendCount());
+    EXPECT_FALSE(app->Get<Counters>().Count(FriendRequests));
     EXPECT_TRUE(app->state.blnClosing);
     EXPECT_TRUE(dialogs.Texts().isEmpty());
 }
@@ -278,7 +278,8 @@ TEST_F(CountersTest, ACounterStaysAtTheMostThatItHolds) {
         app->Get<Counters>().Restore();
         EXPECT_EQ(app->state.lngDailyFR, most);
         app->state.lngSessionFR = most;
-        app->Get<Counters>().Count(u"FR"_s);
+        app->controls.SetText("txtFriendRequestsToSend"_L1, {});
+        app->Get<Counters>().Count(FriendRequests);
         EXPECT_EQ(app->state.lngDailyFR, most);
         EXPECT_EQ(app->state.lngSessionFR, most);
         EXPECT_EQ(Stored(u"Daily Friends Count"_s), u"2147483647"_s);
@@ -286,7 +287,7 @@ TEST_F(CountersTest, ACounterStaysAtTheMostThatItHolds) {
         app->state.CurrentAction = u"FR"_s;
         app->controls.SetText("txtFriendRequestsToSend"_L1, u"10"_s);
         app->controls.SetText("cboFRPerDayOrSession"_L1, u"per day"_s);
-        EXPECT_FALSE(app->Get<Counters>().AddFriendCount());
+        EXPECT_FALSE(app->Get<Counters>().Count(FriendRequests));
     }
 }
 
@@ -304,7 +305,7 @@ protected:
     UnsavedCountTest() {
         app->controls.SetText("txtFriendRequestsToSend"_L1, u"5"_s);
         world.settings.problem = u"The settings could not be saved."_s;
-        EXPECT_TRUE(app->Get<Counters>().AddFriendCount());
+        EXPECT_TRUE(app->Get<Counters>().Count(FriendRequests));
     }
     int TimesTold() {
         return static_cast<int>(
@@ -314,7 +315,7 @@ protected:
 
 TEST_F(UnsavedCountTest, StopsARunWithALimitPerDay) {
     app->controls.SetText("cboFRPerDayOrSession"_L1, u"per day"_s);
-    EXPECT_TRUE(app->Get<Counters>().StopUncounted(u"FR"_s));
+    EXPECT_TRUE(app->Get<Counters>().StopUncounted());
     EXPECT_TRUE(app->state.CurrentAction.isEmpty());
     EXPECT_EQ(
         dialogs.Texts(),
@@ -325,16 +326,16 @@ TEST_F(UnsavedCountTest, StopsARunWithALimitPerDay) {
 TEST_F(UnsavedCountTest, IsToldOnceAndOtherRunsGoOn) {
     EXPECT_EQ(TimesTold(), 1);
     EXPECT_EQ(dialogs.shownForms, QStringList{u"frmError"_s});
-    EXPECT_FALSE(app->Get<Counters>().StopUncounted(u"FR"_s));
+    EXPECT_FALSE(app->Get<Counters>().StopUncounted());
     app->controls.SetText("cboFRPerDayOrSession"_L1, u"per day"_s);
     app->controls.SetText("txtFriendRequestsToSend"_L1, {});
-    EXPECT_FALSE(app->Get<Counters>().StopUncounted(u"FR"_s));
-    EXPECT_TRUE(app->Get<Counters>().AddFriendCount());
+    EXPECT_FALSE(app->Get<Counters>().StopUncounted());
+    EXPECT_TRUE(app->Get<Counters>().Count(FriendRequests));
     EXPECT_EQ(TimesTold(), 1);
     EXPECT_EQ(app->state.CurrentAction, u"FR"_s);
     // The store tells of its first failure alone; the counts stay unsaved.
     app->controls.SetText("txtFriendRequestsToSend"_L1, u"5"_s);
-    EXPECT_TRUE(app->Get<Counters>().StopUncounted(u"FR"_s));
+    EXPECT_TRUE(app->Get<Counters>().StopUncounted());
 }
 
 } // namespace

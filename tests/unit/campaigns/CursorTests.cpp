@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
+#include "campaigns/Campaigns.h"
 #include "campaigns/SendRuns.h"
 #include "campaigns/SentLog.h"
 #include "gather/GatheredList.h"
+#include "steps/RunReport.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -66,7 +68,7 @@ TEST_F(CursorTest, TheEndTellsWhatWasPassedOver) {
     Fill({u"11"_s});
     app->state.lngSkippedCount = 2;
     app->state.lngFilteredCount = 1;
-    app->Get<SendRuns>().Finish(u"IAF"_s);
+    app->Get<SendRuns>().Finish();
     EXPECT_EQ(
         dialogs.Texts(),
         QStringList{u"Finished sending friend requests.\n\n2 ID's were skipped because you sent to them "
@@ -78,7 +80,7 @@ TEST_F(CursorTest, TheEndOfAChainedRunTellsNoCounts) {
     Fill({u"11"_s});
     app->state.lngSkippedCount = 2;
     app->state.blnChaining = true;
-    app->Get<SendRuns>().Finish(u"IAF"_s);
+    app->Get<SendRuns>().Finish();
     EXPECT_EQ(dialogs.Texts(), QStringList{u"Finished sending friend requests."_s});
     EXPECT_FALSE(app->state.blnChaining);
 }
@@ -95,7 +97,7 @@ TEST_F(CursorTest, EachCampaignEndsInItsWordsAndACommentRunLeavesTheChain) {
         dialogs.messages.clear();
         app->state.CurrentAction = QString::fromUtf16(each.word);
         app->state.blnChaining = true;
-        app->Get<SendRuns>().Finish(u"IAF"_s);
+        app->Get<SendRuns>().Finish();
         EXPECT_EQ(dialogs.Texts(), QStringList{QString::fromUtf16(each.text)});
         EXPECT_EQ(app->state.blnChaining, each.chaining);
     }
@@ -104,7 +106,7 @@ TEST_F(CursorTest, EachCampaignEndsInItsWordsAndACommentRunLeavesTheChain) {
 TEST_F(CursorTest, TheEndTellsNothingWhenTheProgramExits) {
     Fill({u"11"_s});
     app->state.blnExitWhenFinished = true;
-    app->Get<SendRuns>().Finish(u"IAF"_s);
+    app->Get<SendRuns>().Finish();
     EXPECT_TRUE(dialogs.Texts().isEmpty());
     EXPECT_TRUE(app->state.blnClosing);
 }
@@ -126,7 +128,7 @@ TEST_F(CursorTest, InAcceptModeTheEndGoesBackToAcceptingWithoutAWord) {
     app->state.CurrentAction = u"COM"_s;
     app->state.intComStep = 5;
     app->state.strAcceptMode = u"COM"_s;
-    app->Get<SendRuns>().Finish(u"ISC"_s);
+    app->Get<SendRuns>().Finish();
     EXPECT_EQ(app->state.CurrentAction, u"ACC"_s);
     EXPECT_EQ(app->state.intAccStep, 2);
     EXPECT_EQ(app->state.intComStep, 0);
@@ -136,8 +138,8 @@ TEST_F(CursorTest, InAcceptModeTheEndGoesBackToAcceptingWithoutAWord) {
 }
 
 TEST_F(CursorTest, InAcceptModeALoggedFriendIsPassedOverOnlyByWishAndForComments) {
-    app->files.WriteLines(app->Get<SentLog>().PathFor(u"COM"_s), {u"21"_s});
-    app->files.WriteLines(app->Get<SentLog>().PathFor(u"MSG"_s), {u"21"_s});
+    app->files.WriteLines(SentLog(*app, &Comments).Path(), {u"21"_s});
+    app->files.WriteLines(SentLog(*app, &Messages).Path(), {u"21"_s});
     app->state.strAcceptMode = u"COM"_s;
     auto taken = [this](const QString& action, bool byWish) {
         app->state.CurrentAction = action;
@@ -154,7 +156,7 @@ TEST_F(CursorTest, InAcceptModeALoggedFriendIsPassedOverOnlyByWishAndForComments
 TEST_F(CursorTest, ASkipLeavesAStatusLineThatSaysSoAlready) {
     Fill({u"11"_s, u"12"_s});
     app->state.blnCheckLog = true;
-    app->files.WriteLines(app->Get<SentLog>().PathFor(u"FR"_s), {u"11"_s, u"12"_s});
+    app->files.WriteLines(SentLog(*app, &FriendRequests).Path(), {u"11"_s, u"12"_s});
     app->SetStatus(u"Skipping for another reason"_s);
     EXPECT_FALSE(app->Get<SendRuns>().TakeTarget(u"test"_s));
     EXPECT_EQ(app->Status(), u"Skipping for another reason"_s);
@@ -184,7 +186,7 @@ protected:
         for (const auto& field : {"txtMsgSubject"_L1, "txtMsgMessage"_L1, "txtComment"_L1})
             app->controls.SetText(field, u"text"_s);
     }
-    void Start() { app->Get<SendRuns>().Start(QString::fromUtf16(GetParam().word)); }
+    void Start() { app->Get<SendRuns>().Start(*FindCampaign(QString::fromUtf16(GetParam().word))); }
 };
 
 TEST_P(StartTest, ResetsTheRunAndEntersItsFirstStep) {
@@ -252,11 +254,64 @@ INSTANTIATE_TEST_SUITE_P(Campaigns, StartTest,
                                          StartCase{u"COM", &RunState::intComStep, 4, "lblComSentCount"_L1,
                                                    u"Comments sent: 0", "chkComDontSendAgain"_L1, true}));
 
+// What a start asks, in its place: nothing has been touched when it says no.
+TEST_F(CursorTest, TheQuestionOfAStartComesAfterTheChecksAndBeforeTheReset) {
+    static int asked;
+    asked = 0;
+    Campaign campaign = FriendRequests;
+    campaign.mayStart = [](App& program, const Campaign& started) {
+        ++asked;
+        return started.word == FriendRequests.word && program.controls.Ticked("chkFRNote"_L1);
+    };
+    app->state.lngSkippedCount = 5;
+    app->Get<SendRuns>().Start(campaign);
+    EXPECT_EQ(asked, 0);
+    EXPECT_EQ(dialogs.messages.size(), 1U);
+    Fill({u"11"_s});
+    app->state.CurrentAction.clear();
+    app->Get<SendRuns>().Start(campaign);
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(app->state.lngSkippedCount, 5);
+    EXPECT_TRUE(app->state.CurrentAction.isEmpty());
+    app->controls.SetTicked("chkFRNote"_L1, true);
+    app->Get<SendRuns>().Start(campaign);
+    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(app->state.lngSkippedCount, 0);
+    EXPECT_EQ(app->state.CurrentAction, u"FR"_s);
+}
+
+// The report names its file by the definition; whoever is passed over stands in it.
+TEST_F(CursorTest, EachCampaignWithTargetsReportsThemInItsOwnFile) {
+    struct Case {
+        const Campaign& campaign;
+        const char16_t* file;
+    };
+    Fill({u"11"_s});
+    app->controls.SetTicked("chkMsgDontSendAgain"_L1, true);
+    app->controls.SetTicked("chkComDontSendAgain"_L1, true);
+    for (const auto& field : {"txtMsgSubject"_L1, "txtMsgMessage"_L1, "txtComment"_L1})
+        app->controls.SetText(field, u"text"_s);
+    for (const Case& each : {Case{Messages, u"MessagesReport.txt"}, Case{Comments, u"CommentsReport.txt"}}) {
+        app->state.CurrentAction.clear();
+        app->files.WriteLines(SentLog(*app, &each.campaign).Path(), {u"11"_s});
+        app->Get<SendRuns>().Start(each.campaign);
+        EXPECT_EQ(app->Get<SendRuns>().TakeTarget(u"test"_s), SendRuns::Took::End);
+        app->Get<SendRuns>().Finish();
+        const QString path = app->ProgramFile(QString::fromUtf16(each.file));
+        ASSERT_TRUE(app->files.FileExists(path));
+        const ReportedRun run = RunsIn(app->files.ReadLines(path))[0];
+        ASSERT_EQ(run.rows.size(), 1);
+        EXPECT_EQ(run.rows[0].why, u"You sent to this one before"_s);
+        EXPECT_EQ(run.how, u"All targets were gone through"_s);
+    }
+    EXPECT_FALSE(app->files.FileExists(app->ProgramFile(u"FriendsReport.txt"_s)));
+}
+
 // The log is the only guard of friend requests, whatever the messenger's box says.
 TEST_F(CursorTest, AFriendRequestRunAlwaysLooksInTheLog) {
     Fill({u"11"_s});
     app->state.CurrentAction.clear();
-    app->Get<SendRuns>().Start(u"FR"_s);
+    app->Get<SendRuns>().Start(FriendRequests);
     EXPECT_TRUE(app->state.blnCheckLog);
     EXPECT_EQ(app->controls.Text("lblFrSentCount"_L1), u"Friends requested: 0"_s);
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
 #include "browser/PageSigns.h"
+#include "campaigns/Campaigns.h"
 #include "campaigns/FriendRequester.h"
 #include "campaigns/OpenNotes.h"
-#include "campaigns/SendRuns.h"
 #include "gather/GatheredList.h"
 #include "steps/RunReport.h"
 
@@ -34,7 +34,7 @@ protected:
     }
 
     QStringList Run() {
-        app->Get<SendRuns>().cmdAddFriends_Click();
+        app->commands.Run(u"piccmdAddFriends_Click"_s);
         platform->Pump().RunUntil([this] { return app->state.CurrentAction != u"FR"_s; }, 600'000);
         return platform->Browser(BrowserName::WebBrowser1).TakeVisited();
     }
@@ -188,7 +188,7 @@ TEST_F(FriendRequesterTest, AStartForgetsWhatAnEarlierRunLeft) {
     state.intBlankTicks = state.intFRLimitHits = 2;
     state.lngFailedCount = state.lngRemovedCount = state.lngSessionFR = 5;
     app->timers->Timer1.Restart();
-    app->Get<SendRuns>().cmdAddFriends_Click();
+    app->commands.Run(u"piccmdAddFriends_Click"_s);
     EXPECT_FALSE(state.blnInDelay || state.blnMsgAfterFR || state.blnFRSkipMessage ||
                  state.blnErrorRedirectTold);
     EXPECT_EQ(state.intBlankTicks + state.intFRLimitHits, 0);
@@ -216,7 +216,7 @@ TEST_F(FilteringTest, AProfileThatDoesNotFitIsLeftAndReported) {
                                   u"http://www.example.com/1002/classic"_s}));
     EXPECT_EQ(app->state.lngFilteredCount, 2);
     EXPECT_EQ(Address(), u"about:blank"_s);
-    const QList<ReportRow> rows = app->Get<RunReport>().Runs().constLast().rows;
+    const QList<ReportRow> rows = app->Get<RunReport>().Runs(FriendRequests.report).constLast().rows;
     ASSERT_EQ(rows.size(), 2);
     EXPECT_EQ(ResultText(rows[1].result) + u", "_s + rows[1].why,
               u"Skipped, Doesn't match your filter settings"_s);
@@ -250,7 +250,7 @@ TEST_F(FriendRequesterTest, ASuccessForgetsTheLimitPagesAndTheSkippedCaptchas) {
 
 // The page of the first was found a moment ago: its tick is due when Skip opens the second.
 TEST_F(FriendRequesterTest, SkipTakesNoStepOfTheNextProfile) {
-    app->Get<SendRuns>().cmdAddFriends_Click();
+    app->commands.Run(u"piccmdAddFriends_Click"_s);
     app->timers->Timer1.Restart();
     world.clock.Advance(500);
     app->commands.Run(u"picSkip_Click"_s);
@@ -283,7 +283,7 @@ TEST_F(FriendRequesterTest, AStartSilencesTheBrowsersAndUncoversThemBeforeItChec
         EXPECT_TRUE(app->webHide().Silent());
         EXPECT_EQ(app->webHide().Position(), 1);
     };
-    app->Get<SendRuns>().cmdAddFriends_Click();
+    app->commands.Run(u"piccmdAddFriends_Click"_s);
     EXPECT_TRUE(asked);
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
+#include "campaigns/Campaigns.h"
 #include "campaigns/LogDialog.h"
 #include "campaigns/OpenNotes.h"
 #include "campaigns/SentLog.h"
@@ -11,8 +12,11 @@ namespace {
 
 class LogDialogTest : public SimulatedProgram {
 protected:
-    void Show(const QString& action) { dialog.Show(action); }
-    QString Path(const QString& action = u"FR"_s) { return app->Get<SentLog>().PathFor(action); }
+    void Show(const QString& action) {
+        const Campaign& campaign = *FindCampaign(action);
+        dialog.Show({*app, &campaign}, QString::fromLatin1(campaign.whatLogRecords));
+    }
+    QString Path(const QString& action = u"FR"_s) { return SentLog(*app, FindCampaign(action)).Path(); }
     void Press(const QString& button) { app->commands.Run(u"frmLog."_s + button + u"_Click"_s); }
 
     LogDialog dialog{*app};

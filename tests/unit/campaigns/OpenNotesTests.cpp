@@ -15,7 +15,7 @@ protected:
         app->state.blnCheckLog = true;
     }
     void Log(const QStringList& lines) { app->files.WriteLines(logPath, lines); }
-    bool Exists(const QString& id) { return app->Get<SentLog>().LogEntryExists(id); }
+    bool Exists(const QString& id) { return RunningLog(*app).LogEntryExists(id); }
     void Work(const QString& id) { app->state.strCurrentID = id; }
 
     const QString logPath = app->ProgramFile(u"FriendsLog.txt"_s);
@@ -67,18 +67,18 @@ TEST_F(OpenNotesTest, AStrikeOutThatIsCutOffLeavesTheNotesWhole) {
 
 TEST_F(OpenNotesTest, WhoIsNotedCountsAsLogged) {
     Work(u"1001"_s);
-    EXPECT_TRUE(app->Get<SentLog>().NoteContact());
+    EXPECT_TRUE(RunningLog(*app).NoteContact());
     EXPECT_TRUE(Exists(u"1001"_s));
-    EXPECT_TRUE(app->Get<SentLog>().IsNoted(u"1001"_s));
+    EXPECT_TRUE(RunningLog(*app).IsNoted(u"1001"_s));
     EXPECT_FALSE(Exists(u"1002"_s));
     // Where the log isn't read, neither are they; another campaign has its own.
     app->state.blnCheckLog = false;
     EXPECT_FALSE(Exists(u"1001"_s));
-    EXPECT_TRUE(app->Get<SentLog>().LogEntryExists(u"1001"_s, false, true));
+    EXPECT_TRUE(RunningLog(*app).LogEntryExists(u"1001"_s, false, true));
     app->state.blnCheckLog = true;
     app->state.CurrentAction = u"MSG"_s;
     EXPECT_FALSE(Exists(u"1001"_s));
-    EXPECT_TRUE(app->Get<SentLog>().NoteContact());
+    EXPECT_TRUE(RunningLog(*app).NoteContact());
     EXPECT_TRUE(app->files.FileExists(app->ProgramFile(u"MessagesLog.open.txt"_s)));
     app->state.CurrentAction = u"BUL"_s;
     EXPECT_FALSE(Exists(u"1001"_s));
@@ -94,28 +94,28 @@ TEST_F(OpenNotesTest, ALogThatCannotBeReadLeavesTheNotes) {
 TEST_F(OpenNotesTest, TheLogLineStrikesItsNoteOut) {
     notes.Note(u"1000"_s);
     Work(u"1001"_s);
-    app->Get<SentLog>().NoteContact();
-    EXPECT_TRUE(app->Get<SentLog>().WriteLogEntry());
+    RunningLog(*app).NoteContact();
+    EXPECT_TRUE(RunningLog(*app).WriteLogEntry());
     EXPECT_EQ(notes.All(), QStringList{u"1000"_s});
     EXPECT_EQ(app->files.ReadLines(logPath), QStringList{u"1001"_s});
 }
 
 TEST_F(OpenNotesTest, ALineThatCannotBeWrittenLeavesTheNote) {
     Work(u"1001"_s);
-    app->Get<SentLog>().NoteContact();
+    RunningLog(*app).NoteContact();
     world.gate.readOnlyFolders = {world.installationFolder};
-    EXPECT_FALSE(app->Get<SentLog>().WriteLogEntry());
+    EXPECT_FALSE(RunningLog(*app).WriteLogEntry());
     EXPECT_EQ(notes.All(), QStringList{u"1001"_s});
-    EXPECT_FALSE((Work(u"1002"_s), app->Get<SentLog>().NoteContact()));
+    EXPECT_FALSE((Work(u"1002"_s), RunningLog(*app).NoteContact()));
 }
 
 TEST_F(OpenNotesTest, NotesOfThoseWhoAreLoggedAreSettled) {
     for (const QString& id : {u"1001"_s, u"1002"_s, u"1003"_s})
         notes.Note(id);
-    app->Get<SentLog>().SettleNotes();
+    RunningLog(*app).SettleNotes();
     EXPECT_EQ(notes.All().size(), 3);
     Log({u"1001"_s, u"1003"_s});
-    app->Get<SentLog>().SettleNotes();
+    RunningLog(*app).SettleNotes();
     EXPECT_EQ(notes.All(), QStringList{u"1002"_s});
 }
 

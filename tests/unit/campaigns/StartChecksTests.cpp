@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
+#include "campaigns/Campaigns.h"
 #include "campaigns/SentLog.h"
 #include "campaigns/StartChecks.h"
 #include "content/ContentLists.h"
@@ -16,7 +17,7 @@ protected:
     QString Refusal(const QString& campaign = u"FR"_s) {
         dialogs.messages.clear();
         m_focus.clear();
-        const bool may = CampaignMayStart(*app, campaign);
+        const bool may = CampaignMayStart(*app, *FindCampaign(campaign));
         EXPECT_EQ(may, dialogs.messages.empty());
         EXPECT_LE(dialogs.messages.size(), 1u);
         return dialogs.Texts().value(0);
@@ -293,8 +294,8 @@ TEST_F(StartChecksTest, ALogInUtf16RefusesTheStartAndOneWithAMarkOrBareReturnsDo
     EXPECT_EQ(Refusal(), QString());
     app->state.CurrentAction = u"FR"_s;
     app->state.blnCheckLog = true;
-    EXPECT_TRUE(app->Get<SentLog>().LogEntryExists(u"10"_s));
-    EXPECT_TRUE(app->Get<SentLog>().LogEntryExists(u"11"_s));
+    EXPECT_TRUE(RunningLog(*app).LogEntryExists(u"10"_s));
+    EXPECT_TRUE(RunningLog(*app).LogEntryExists(u"11"_s));
 }
 
 // A refused start has silenced the browsers and lifted the cover already.

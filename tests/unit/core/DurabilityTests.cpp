@@ -2,6 +2,7 @@
 // What is promised to outlast a power cut has reached the disk, in an order that leaves the old or the new
 // file whole.
 #include "SimulatedProgram.h"
+#include "campaigns/Campaigns.h"
 #include "campaigns/SentLog.h"
 #include "core/SettingsFields.h"
 #include "gather/GatheredList.h"
@@ -48,16 +49,16 @@ protected:
 };
 
 TEST_F(DurabilityTest, ALineOfTheLogIsOnTheDiskWhenItIsWritten) {
-    EXPECT_TRUE(app->Get<SentLog>().WriteLogEntry());
+    EXPECT_TRUE(RunningLog(*app).WriteLogEntry());
     ExpectSteps({u"write"_s, u"sync FriendsLog.txt"_s, u"sync program"_s});
     Forget();
-    EXPECT_TRUE(app->Get<SentLog>().WriteLogEntry());
+    EXPECT_TRUE(RunningLog(*app).WriteLogEntry());
     ExpectSteps({u"write"_s, u"sync FriendsLog.txt"_s});
 }
 
 TEST_F(DurabilityTest, ALogThatIsMadeByLookingIntoItStandsInItsFolder) {
     app->state.blnCheckLog = true;
-    EXPECT_FALSE(app->Get<SentLog>().LogEntryExists(u"1001"_s));
+    EXPECT_FALSE(RunningLog(*app).LogEntryExists(u"1001"_s));
     ExpectSteps({u"sync program"_s});
 }
 
@@ -74,7 +75,7 @@ TEST_F(DurabilityTest, AListIsWholeOnTheDiskBeforeItTakesTheOldOnesPlace) {
 
 TEST_F(DurabilityTest, TheReportsResultIsOnTheDiskBeforeTheRunGoesOn) {
     RunReport report(*app);
-    report.BeginRun();
+    report.BeginRun(FriendRequests.report, FriendRequests.reasons);
     Forget();
     report.Open(u"1001"_s);
     ExpectSteps({u"write"_s});
@@ -102,7 +103,7 @@ TEST_F(DurabilityTest, ASyncThatFailsIsAFailureAndTheOldListStands) {
     const QString list = app->ProgramFile(u"Gathered.txt"_s);
     app->files.WriteLines(list, {u"5"_s});
     world.gate.refusesSyncs = true;
-    EXPECT_FALSE(app->Get<SentLog>().WriteLogEntry());
+    EXPECT_FALSE(RunningLog(*app).WriteLogEntry());
     app->state.arrFriendIDs = IdList{u"1"_s};
     EXPECT_FALSE(app->Get<GatheredList>().SaveScannedList(list));
     world.gate.refusesSyncs = false;

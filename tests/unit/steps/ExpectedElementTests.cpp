@@ -150,7 +150,7 @@ protected:
     CommentConfirmationTest() {
         State().CurrentAction = u"COM"_s;
         State().intComStep = 8;
-        app->commands.Add(u"ConfirmComment"_s, [this] { ++confirmed; });
+        app->Get<StepDispatcher>().confirmComment = [this] { ++confirmed; };
     }
     bool FindConfirmation(const QString& page, SimFault fault = SimFault::None) {
         return Find(u"Text"_s, u"your comment has been posted"_s, page, fault);
@@ -186,10 +186,10 @@ TEST_F(CommentConfirmationTest, AnyOtherLookBeginsTheCountAnew) {
 }
 
 TEST_F(CommentConfirmationTest, AnErrorOfTheLookIsLeftToTheNextOne) {
-    app->commands.Add(u"ConfirmComment"_s, [this] {
+    app->Get<StepDispatcher>().confirmComment = [this] {
         ++confirmed;
         throw BrowserError();
-    });
+    };
     State().intConfirmPolls = 4;
     EXPECT_FALSE(FindConfirmation(ConfirmPage));
     EXPECT_EQ(confirmed, 1);

@@ -2,6 +2,7 @@
 #include "SimulatedProgram.h"
 #include "browser/PageClassTable.h"
 #include "browser/PageClassifier.h"
+#include "campaigns/Campaigns.h"
 #include "steps/RunReport.h"
 
 #include <QFileInfo>
@@ -81,12 +82,14 @@ TEST(ReportRows, EveryClassThatEndsATargetHasWords) {
 
 class RunReportTest : public SimulatedProgram {
 protected:
+    const ReportKind& kind = FriendRequests.report;
+    const RunReasons& reasons = FriendRequests.reasons;
     RunReport report{*app};
-    QStringList Lines() { return app->files.ReadLines(report.Path()); }
+    QStringList Lines() { return app->files.ReadLines(report.PathOf(kind)); }
 };
 
 TEST_F(RunReportTest, TellsWhatBecameOfEachTarget) {
-    report.BeginRun();
+    report.BeginRun(kind, reasons);
     report.PassOver(u"1000"_s, u"known"_s);
     report.Open(u"1001"_s);
     report.Close(ReportResult::Sent);
@@ -96,13 +99,13 @@ TEST_F(RunReportTest, TellsWhatBecameOfEachTarget) {
     report.Close(ReportResult::Failed, u"a remark stands"_s);
     report.Open(u"1003"_s);
     report.EndRun(u"AFC"_s);
-    ASSERT_EQ(report.Runs().size(), 1);
+    ASSERT_EQ(report.Runs(kind).size(), 1);
     EXPECT_EQ(
-        Texts(report.Runs()[0]),
+        Texts(report.Runs(kind)[0]),
         (QStringList{u"1000: Skipped, known"_s, u"1001: Sent"_s, u"1002: Failed, Is already your friend"_s,
                      u"1003: Sent, not logged, The request that met your limit: it is sent, but neither "
                      "counted nor logged"_s}));
-    EXPECT_EQ(report.Runs()[0].how, u"Your limit was reached"_s);
+    EXPECT_EQ(report.Runs(kind)[0].how, u"Your limit was reached"_s);
     // Nothing goes into the file without a run.
     const QStringList before = Lines();
     report.Open(u"1004"_s);
@@ -130,17 +133,51 @@ TEST_F(RunReportTest, TellsHowTheRunEnded) {
             {u"MAINSTOP"_s, pressed, u"Unfinished, "_s + pressed},
             {u"FU"_s, closed, u"Unfinished, "_s + closed},
             {u"GNCA"_s, ended, u"Unfinished, "_s + ended}}) {
-        report.BeginRun();
+        report.BeginRun(kind, reasons);
         report.Open(u"1001"_s);
         report.EndRun(row.reason);
-        const ReportedRun run = report.Runs().constLast();
+        const ReportedRun run = report.Runs(kind).constLast();
         EXPECT_EQ(run.how, row.how) << row.reason.toStdString();
         EXPECT_EQ(Texts(run), QStringList{u"1001: "_s + row.target}) << row.reason.toStdString();
     }
 }
 
+// Where the limit is tested between two targets, the open one has nothing to do with it.
+TEST_F(RunReportTest, EachCampaignEndsForItsOwnReasons) {
+    struct Row {
+        QString reason;
+        QString how;
+        QString target;
+    };
+    const RunReasons own{.finished = "ISM", .limitMet = "LIMIT", .stopped = "MSGSTOP"};
+    for (const Row& row :
+         std::vector<Row>{{u"ISM"_s, u"All targets were gone through"_s, u"Unfinished"_s},
+                          {u"LIMIT"_s, u"Your limit was reached"_s, u"Unfinished"_s},
+                          {u"MSGSTOP"_s, u"You pressed Stop"_s, u"Unfinished, You pressed Stop"_s},
+                          {u"IAF"_s, u"The run was ended"_s, u"Unfinished, The run was ended"_s}}) {
+        report.BeginRun(Messages.report, own);
+        EXPECT_TRUE(report.IsRunning(Messages.report));
+        EXPECT_FALSE(report.IsRunning(kind));
+        report.Open(u"1001"_s);
+        report.EndRun(row.reason);
+        const ReportedRun run = report.Runs(Messages.report).constLast();
+        EXPECT_EQ(run.how, row.how) << row.reason.toStdString();
+        EXPECT_EQ(Texts(run), QStringList{u"1001: "_s + row.target}) << row.reason.toStdString();
+    }
+    EXPECT_TRUE(report.Runs(kind).isEmpty());
+}
+
+// A campaign without targets, which may borrow the browser of another, leaves its report alone.
+TEST_F(RunReportTest, ARunWithoutReportLeavesTheOneThatGoesOn) {
+    report.BeginRun(kind, reasons);
+    report.BeginRun(Bulletins.report, Bulletins.reasons);
+    EXPECT_TRUE(report.IsRunning(kind));
+    report.Open(u"1001"_s);
+    EXPECT_EQ(Texts(report.Runs(kind)[0]), QStringList{u"1001: Unfinished"_s});
+}
+
 TEST_F(RunReportTest, AResultIsOnTheDiskWhenTheRunGoesOn) {
-    report.BeginRun();
+    report.BeginRun(kind, reasons);
     report.Open(u"1001"_s);
     EXPECT_TRUE(Lines().constLast().startsWith(u"at\t1\t"_s));
     report.Close(ReportResult::Sent);
@@ -148,17 +185,17 @@ TEST_F(RunReportTest, AResultIsOnTheDiskWhenTheRunGoesOn) {
 }
 
 TEST_F(RunReportTest, PassedOverTargetsGoToTheFileByTheHundred) {
-    report.BeginRun();
+    report.BeginRun(kind, reasons);
     for (int i = 0; i < 99; ++i)
         report.PassOver(QString::number(i), u"known"_s);
     EXPECT_EQ(Lines().size(), 1);
-    EXPECT_EQ(report.Runs()[0].rows.size(), 99);
+    EXPECT_EQ(report.Runs(kind)[0].rows.size(), 99);
     report.PassOver(u"99"_s, u"known"_s);
     EXPECT_EQ(Lines().size(), 101);
 }
 
 TEST_F(RunReportTest, ADiskThatRefusesIsToldOnceARunAndNothingIsLost) {
-    report.BeginRun();
+    report.BeginRun(kind, reasons);
     world.gate.readOnlyFolders = {world.installationFolder};
     for (const QString& id : {u"1001"_s, u"1002"_s}) {
         report.Open(id);
@@ -167,7 +204,7 @@ TEST_F(RunReportTest, ADiskThatRefusesIsToldOnceARunAndNothingIsLost) {
     EXPECT_TRUE(report.Problem().contains(world.installationFolder));
     const QStringList errors = app->files.ReadLines(app->state.ErrorLogPath);
     EXPECT_EQ(errors.count(u"Proc: WriteRunReport"_s), 1);
-    EXPECT_EQ(Texts(report.Runs()[0]), (QStringList{u"1001: Sent"_s, u"1002: Sent"_s}));
+    EXPECT_EQ(Texts(report.Runs(kind)[0]), (QStringList{u"1001: Sent"_s, u"1002: Sent"_s}));
     EXPECT_EQ(Lines().size(), 1);
     world.gate.readOnlyFolders.clear();
     report.Open(u"1003"_s);
@@ -177,28 +214,28 @@ TEST_F(RunReportTest, ADiskThatRefusesIsToldOnceARunAndNothingIsLost) {
 
 TEST_F(RunReportTest, OnlyTheLastTwentyRunsAreKept) {
     for (int run = 1; run <= 25; ++run) {
-        report.BeginRun();
+        report.BeginRun(kind, reasons);
         report.PassOver(QString::number(run), u"known"_s);
         report.EndRun(u"IAF"_s);
     }
-    ASSERT_EQ(report.Runs().size(), 20);
-    EXPECT_EQ(report.Runs().constFirst().rows[0].id, u"6"_s);
-    EXPECT_EQ(report.Runs().constLast().rows[0].id, u"25"_s);
+    ASSERT_EQ(report.Runs(kind).size(), 20);
+    EXPECT_EQ(report.Runs(kind).constFirst().rows[0].id, u"6"_s);
+    EXPECT_EQ(report.Runs(kind).constLast().rows[0].id, u"25"_s);
 }
 
 // A report of that size would be read for seconds, and held in memory, at the start of each run.
 TEST_F(RunReportTest, OldRunsThatAreTooBigGoAndTheLastOneStays) {
     const QString why(900, u'x');
     for (int run = 1; run <= 4; ++run) {
-        report.BeginRun();
+        report.BeginRun(kind, reasons);
         for (int target = 1; target <= 5000; ++target)
             report.PassOver(QString::number(target), why);
         report.EndRun(u"IAF"_s);
     }
-    EXPECT_LT(QFileInfo(report.Path()).size(), 15'000'000);
-    report.BeginRun();
-    EXPECT_LT(QFileInfo(report.Path()).size(), 10'000'000);
-    const QList<ReportedRun> runs = report.Runs();
+    EXPECT_LT(QFileInfo(report.PathOf(kind)).size(), 15'000'000);
+    report.BeginRun(kind, reasons);
+    EXPECT_LT(QFileInfo(report.PathOf(kind)).size(), 10'000'000);
+    const QList<ReportedRun> runs = report.Runs(kind);
     ASSERT_EQ(runs.size(), 2);
     EXPECT_EQ(runs[0].rows.size(), 5000);
     EXPECT_EQ(runs[0].how, u"All targets were gone through"_s);
@@ -206,20 +243,20 @@ TEST_F(RunReportTest, OldRunsThatAreTooBigGoAndTheLastOneStays) {
 }
 
 TEST_F(RunReportTest, ATornLastLineIsPassedOverAndTheNextRunStandsWhole) {
-    report.BeginRun();
+    report.BeginRun(kind, reasons);
     report.Open(u"1001"_s);
     world.gate.CrashAtWrite(1);
     EXPECT_THROW(report.Close(ReportResult::Sent), SimPowerCut);
     world.gate.Mend();
     RunReport next(*app);
-    ASSERT_EQ(next.Runs().size(), 1);
-    EXPECT_EQ(Texts(next.Runs()[0]), QStringList{u"1001: Unfinished"_s});
-    next.BeginRun();
+    ASSERT_EQ(next.Runs(kind).size(), 1);
+    EXPECT_EQ(Texts(next.Runs(kind)[0]), QStringList{u"1001: Unfinished"_s});
+    next.BeginRun(kind, reasons);
     next.Open(u"1002"_s);
     next.Close(ReportResult::Sent);
-    ASSERT_EQ(next.Runs().size(), 2);
-    EXPECT_EQ(Texts(next.Runs()[0]), QStringList{u"1001: Unfinished"_s});
-    EXPECT_EQ(Texts(next.Runs()[1]), QStringList{u"1002: Sent"_s});
+    ASSERT_EQ(next.Runs(kind).size(), 2);
+    EXPECT_EQ(Texts(next.Runs(kind)[0]), QStringList{u"1001: Unfinished"_s});
+    EXPECT_EQ(Texts(next.Runs(kind)[1]), QStringList{u"1002: Sent"_s});
 }
 
 } // namespace

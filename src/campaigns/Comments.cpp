@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+// The campaign "comments". It waits for its machine.
+#include "campaigns/Campaigns.h"
+#include "core/ActivityWords.h"
+#include "core/App.h"
+#include "core/Text.h"
+#include "steps/Steps.h"
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+bool LacksAlternative(App& app, const Campaign& campaign) {
+    return !IsFromList(app, campaign) && app.controls.Ticked("optCOMHTMLBLocked(2)"_L1) &&
+           (IsBlank(app, "txtCommentNonHTML"_L1) ||
+            Has(app.controls.Text("txtCommentNonHTML"_L1), u"Enter non-HTML comment here"_s));
+}
+
+const std::vector<StartCheck>& Checks() {
+    static const std::vector<StartCheck> rows{
+        WaitForLogin,
+        WaitForShuffle,
+        EmptyList,
+        {LacksText, u"Please enter a comment.", "txtComment"},
+        {LacksAlternative, u"Please enter an alternate non-HTML comment, or disable the setting.",
+         "txtCommentNonHTML"},
+        {AmountIsNoNumber, u"Please enter a valid number of comments to send.", "txtComStopAt"},
+        {ListLacksEntries,
+         u"You have selected 'send from list', but you havent added any comments to the list yet."},
+        {ListLacksSelected, u"Please select at least one comment in the list to send."},
+    };
+    return rows;
+}
+
+bool IsPartOfAnother(const RunState& state) {
+    return !state.strAcceptMode.isEmpty();
+}
+
+} // namespace
+
+constinit const Campaign Comments{
+    .word = ActivityWord::Comments,
+    .tab = u"Auto Commenter",
+    .send = "picCmdComSend",
+    .startProcedure = "cmdComSend_Click",
+    .stop = "picCmdComStop",
+    .checks = Checks,
+    .firstStep = CommentStep::NextTarget,
+    .stopsRunningOne = true,
+    .reasons = {.finished = "ISC", .limitMet = "COMSTOP", .stopped = "COMSTOP"},
+    .what = "comments",
+    .content = {.kind = ContentKind::Comment,
+                .fromList = "optSendFromList(1)"_L1,
+                .text = "txtComment"_L1,
+                .acceptText = "txtAcceptComment"_L1,
+                .listIndex = &RunState::intCommentListIndex},
+    .session = &RunState::lngSessionCom,
+    .today = {"Daily Comments Count", "Daily Comments Count", &RunState::lngDailyCom, "lblComTotalToday"_L1},
+    .isPartOfAnother = IsPartOfAnother,
+    .sentLabel = "lblComSentCount"_L1,
+    .sentAtStart = "Comments sent: ",
+    .sentSoFar = "Comments sent: ",
+    .amount = "txtComStopAt"_L1,
+    .period = "cboCOMPerDayOrSession"_L1,
+    .log = "piccmdComClearLog",
+    .logFile = "CommentsLog.txt",
+    .whatLogRecords = "sent comments to",
+    .checkLogBox = "chkComDontSendAgain"_L1,
+    .acceptLogBox = "mnuAddToLogWhenAccepting"_L1,
+    .report = {.file = "CommentsReport.txt", .title = "Comments"},
+};
+
+} // namespace qlm
