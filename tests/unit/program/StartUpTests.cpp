@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
+#include "core/SettingsFields.h"
 #include "gather/GatheredList.h"
 #include "program/MainForm.h"
 #include "program/StartUp.h"
@@ -238,6 +239,36 @@ TEST_F(MainWindowTest, UnloadingWithoutSavingSavesNothing) {
     app->Get<MainForm>().Form_Unload();
     EXPECT_FALSE(world.settings.HasSetting(u"Field Entries"_s, u"txtFRNote"_s));
     EXPECT_FALSE(world.settings.HasSetting(u"General"_s, u"mnuCaptchaSound"_s));
+}
+
+class UnsavedListTest : public MainWindowTest {
+protected:
+    UnsavedListTest() {
+        app->Get<MainForm>().Form_Load();
+        dialogs.ShowForm(u"frmMain"_s);
+        app->controls.SetTicked("chkSaveScanned"_L1, true);
+        app->Get<SettingsFields>().stores.saveGathered = [] { return false; };
+        app->state.blnExitWhenFinished = true;
+    }
+};
+
+TEST_F(UnsavedListTest, WhoStaysForItHasTheProgramAsItWas) {
+    app->SetStatus(u"Working"_s);
+    dialogs.answers = {Dialogs::Answer::Cancel};
+    EXPECT_FALSE(app->Get<MainForm>().Form_Unload());
+    EXPECT_EQ(dialogs.Texts(), QStringList{u"The gathered list could not be saved."_s});
+    EXPECT_EQ(app->Status(), u"Working"_s);
+    EXPECT_FALSE(app->state.blnExitWhenFinished);
+    EXPECT_FALSE(app->state.blnClosing);
+}
+
+// Nobody may be there to answer when the desktop logs out.
+TEST_F(UnsavedListTest, KeepsNoProgramOpenThatTheDesktopEnds) {
+    app->Get<MainForm>().UnloadUnasked();
+    EXPECT_FALSE(dialogs.IsFormOpen(u"frmMain"_s));
+    EXPECT_TRUE(app->Get<MainForm>().Form_Unload());
+    EXPECT_EQ(dialogs.Texts(), QStringList());
+    EXPECT_TRUE(platform->Shell().hasQuit);
 }
 
 } // namespace
