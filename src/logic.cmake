@@ -6,8 +6,24 @@ add_library(quillmere_logic STATIC
     core/AnsiText.cpp
     core/App.cpp
     core/BrowserSounds.cpp
+    core/ControlRow.cpp
     core/Controls.cpp
     core/ControlsTable.cpp
+    core/controls/AcceptTab.cpp
+    core/controls/AccountForms.cpp
+    core/controls/AutoStart.cpp
+    core/controls/BulletinTab.cpp
+    core/controls/CommenterTab.cpp
+    core/controls/Filters.cpp
+    core/controls/FriendRequesterTab.cpp
+    core/controls/GatherForms.cpp
+    core/controls/GatherTab.cpp
+    core/controls/MainWindow.cpp
+    core/controls/Menus.cpp
+    core/controls/MessengerTab.cpp
+    core/controls/SettingsForms.cpp
+    core/controls/SmallForms.cpp
+    core/controls/StatusTab.cpp
     core/Deployment.cpp
     core/Descriptor.cpp
     core/Diagnostics.cpp
@@ -23,6 +39,7 @@ add_library(quillmere_logic STATIC
     core/Registry.cpp
     core/SettingsFields.cpp
     core/SupportFiles.cpp
+    core/Tabs.cpp
     core/Text.cpp
     core/Waiting.cpp
 

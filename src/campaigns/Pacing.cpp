@@ -15,6 +15,14 @@ namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+bool IsOn(const RunState& state) {
+    return state.lngTimeDelayFrom != 0 || state.lngTimeDelayTo != 0;
+}
+
+} // namespace
+
 qint32 RandomBetween(App& app, qint32 upper, qint32 lower) {
     const double span = static_cast<double>(upper) - lower + 1;
     return static_cast<qint32>(std::nearbyint(app.platform.Random().Next() * span + lower));
@@ -38,8 +46,7 @@ void Pacing::ReadBounds() {
 }
 
 void Pacing::UpdateTimeDelayLabel() {
-    const bool on = m_app.state.lngTimeDelayFrom != 0 || m_app.state.lngTimeDelayTo != 0;
-    m_app.controls.SetText("lblTimeDelay"_L1, on ? u"Time Delay: ON"_s : u"Time Delay: OFF"_s);
+    m_app.controls.SetTimeDelay({IsOn(m_app.state), {}});
 }
 
 void Pacing::DoDelay() {
@@ -49,7 +56,7 @@ void Pacing::DoDelay() {
         state.blnInDelay = true;
         m_app.diagnostics.DebugForAction(u"Delay start - "_s + QString::number(state.lngTimeDelayFrom) +
                                          u", "_s + QString::number(state.lngTimeDelayTo));
-        if (state.lngTimeDelayFrom != 0 || state.lngTimeDelayTo != 0)
+        if (IsOn(state))
             WaitCovered();
     });
     m_app.Get<StopResume>().ResumeLinkCheck();
@@ -74,8 +81,7 @@ void Pacing::CountDown(qint64 lengthSeconds) {
         m_app.waiting.Turn();
         remaining = lengthSeconds - m_app.waiting.SecondsSince(startMs);
         if (remaining != shown && remaining >= 0)
-            m_app.controls.SetText("lblTimeDelay"_L1, u"Time Delay: "_s + LeadingZero(remaining / 60) + u':' +
-                                                          LeadingZero(remaining % 60));
+            m_app.controls.SetTimeDelay({IsOn(m_app.state), remaining});
         shown = remaining;
     } while (remaining >= 1 && m_app.state.blnInDelay);
 }

@@ -204,8 +204,7 @@ void SendRuns::BeginTarget() {
     // What the run has taken off the list counts as walked over.
     const qint64 number = qint64(state.lngRemovedCount) + state.intCurrentIDIndex + 1;
     const qint64 count = state.lngRemovedCount + total;
-    m_app.controls.SetText("lblProgress"_L1,
-                           u"ID "_s + QString::number(number) + u" of "_s + QString::number(count));
+    m_app.controls.SetProgress({number, count});
 }
 
 void SendRuns::MoveCursor() {

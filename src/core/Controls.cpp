@@ -1,9 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "core/Controls.h"
 
+#include "core/Text.h"
+
 #include <stdexcept>
 
 namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// The captions of these are their text.
+bool ShowsCaption(ControlType type) {
+    using enum ControlType;
+    return type == Label || type == CheckBox || type == OptionButton || type == Button || type == MenuItem ||
+           type == Panel;
+}
+
+QString Sentence(const Progress& progress) {
+    return progress.total > 0 ? u"ID %1 of %2"_s.arg(progress.number).arg(progress.total) : QString();
+}
+
+QString Sentence(const TimeDelay& delay) {
+    const QString state = delay.isOn ? u"ON"_s : u"OFF"_s;
+    return u"Time Delay: "_s + (delay.secondsLeft ? LeadingZero(*delay.secondsLeft / 60) + u':' +
+                                                        LeadingZero(*delay.secondsLeft % 60)
+                                                  : state);
+}
+
+} // namespace
 
 Controls::Controls() {
     m_controls.reserve(Table().size());
@@ -11,9 +37,11 @@ Controls::Controls() {
         Control control;
         control.name = QLatin1StringView(row.name);
         control.type = row.type;
+        control.row = &row;
         control.group = QLatin1StringView(row.group);
-        control.text = QString::fromUtf16(row.text);
+        control.text = ShowsCaption(row.type) ? row.PlainCaption() : QString::fromUtf16(row.text);
         control.ticked = row.ticked;
+        control.toolTip = QString::fromUtf16(row.toolTip);
         if (row.choices) {
             control.items = row.choices();
             control.selected = static_cast<int>(control.items.indexOf(control.text));
@@ -125,6 +153,21 @@ void Controls::SetToolTip(QLatin1StringView name, const QString& toolTip) {
 
 void Controls::SetFocus(QLatin1StringView name) {
     Notify(Get(name), Change::Focus);
+}
+
+void Controls::SetProgress(const qlm::Progress& progress) {
+    m_progress = progress;
+    SetText("lblProgress"_L1, Sentence(progress));
+}
+
+void Controls::SetTimeDelay(const qlm::TimeDelay& delay) {
+    m_timeDelay = delay;
+    SetText("lblTimeDelay"_L1, Sentence(delay));
+}
+
+void Controls::SetPointer(PointerShape shape) {
+    m_pointer = shape;
+    Notify(Get("MousePointer"_L1), Change::Pointer);
 }
 
 int Controls::AddListener(Listener listener) {

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace qlm {
@@ -19,36 +20,73 @@ enum class ControlType {
     ListBox,
     Button,
     MenuItem,
-    Panel
+    Panel,
+    Pointer // of the mouse
+};
+
+enum class PointerShape { Usual, Busy };
+
+// How far a run is through its list; with a total of 0 there is none to tell of.
+struct Progress {
+    qint64 number = 0;
+    qint64 total = 0;
+};
+
+// The pause between two sends: whether there is one, and while it lasts, what is left of it.
+struct TimeDelay {
+    bool isOn = false;
+    std::optional<qint64> secondsLeft;
+};
+
+// A row of the table of controls, and all that is said about the control: no form says it again.
+struct ControlRow {
+    const char* name;
+    ControlType type;
+    // What stands on it, or on the label in front of an input, with its letter ("&Add").
+    const char16_t* caption = u"";
+    // Where the value is stored: "" not at all, "General", "Field Entries" shared by all accounts, or a kind
+    // of data with its own global-or-per-account flag ("FriendRequest").
+    const char* kind = "";
+    const char* key = "";       // the settings key where it differs from the name
+    const char* group = "";     // options of one group exclude one another
+    const char16_t* text = u""; // what an input holds at first
+    bool ticked = false;
+    QStringList (*choices)() = nullptr; // of a combo box whose choices never change
+    const char16_t* toolTip = u"";
+    const char16_t* spoken = u""; // what a screen reader calls it, where the caption doesn't say enough
+    const char16_t* hint = u"";   // stands in an empty line
+    const char16_t* whatsThis = u"";
+
+    // The row with that said, too.
+    ControlRow Kept(const char* kindOfData, const char* settingsKey = "") const;
+    ControlRow In(const char* groupName) const;
+    ControlRow Holds(const char16_t* firstText) const;
+    ControlRow Ticked() const;
+    ControlRow Choices(QStringList (*items)()) const;
+    ControlRow Tip(const char16_t* words) const;
+    ControlRow Spoken(const char16_t* words) const;
+    ControlRow Hint(const char16_t* words) const;
+    ControlRow Explains(const char16_t* words) const;
+
+    // The caption without its letter.
+    QString PlainCaption() const;
+    // What is said of it to a screen reader; empty where its own text says it.
+    QString SpokenName() const;
 };
 
 // One named input or label that the logic reads or writes.
 struct Control {
     QLatin1StringView name;
     ControlType type = ControlType::Label;
-    QLatin1StringView group; // option buttons of one group exclude one another
-    QString text;            // caption of a label, button, box or item; content of a text or combo box
+    const ControlRow* row = nullptr; // what the table says of it
+    QLatin1StringView group;         // option buttons of one group exclude one another
+    QString text; // caption of a label, button, box or item; content of a text or combo box
     bool ticked = false;
     QStringList items; // rows of a list or combo box
     int selected = -1; // row; -1 none
     bool enabled = true;
     bool visible = true;
     QString toolTip;
-};
-
-// A row of the table of controls. kind tells where the value is stored: "" not at all, "General", "Field
-// Entries" shared by all accounts, or a kind of data with its own global-or-per-account flag
-// ("FriendRequest"). key is the settings key where it differs from the name. choices gives the items of a
-// combo box whose choices never change.
-struct ControlRow {
-    const char* name;
-    ControlType type;
-    const char* kind = "";
-    const char* key = "";
-    const char* group = "";
-    const char16_t* text = u"";
-    bool ticked = false;
-    QStringList (*choices)() = nullptr;
 };
 
 // All controls of the program by name; those of a form other than the main window as
@@ -65,6 +103,7 @@ public:
         Enabled,
         Visible,
         ToolTip,
+        Pointer,
         Focus
     };
     // row is the row that was added or removed.
@@ -100,6 +139,14 @@ public:
     // Asks the window to move the input focus there.
     void SetFocus(QLatin1StringView name);
 
+    // Values that the window shows in its own way; the labels say them in words.
+    const qlm::Progress& Progress() const { return m_progress; }
+    void SetProgress(const qlm::Progress& progress);
+    const qlm::TimeDelay& TimeDelay() const { return m_timeDelay; }
+    void SetTimeDelay(const qlm::TimeDelay& delay);
+    PointerShape Pointer() const { return m_pointer; }
+    void SetPointer(PointerShape shape);
+
     // Listeners are told of every change, in the order in which they were added. Returns a number for
     // RemoveListener.
     int AddListener(Listener listener);
@@ -110,6 +157,9 @@ private:
     void Notify(const Control& control, Change change, int row = -1);
 
     std::vector<Control> m_controls;
+    qlm::Progress m_progress;
+    qlm::TimeDelay m_timeDelay;
+    PointerShape m_pointer = PointerShape::Usual;
     QHash<QLatin1StringView, int> m_index;
     std::vector<std::pair<int, Listener>> m_listeners;
     int m_nextListener = 1;

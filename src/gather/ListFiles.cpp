@@ -40,9 +40,4 @@ void ForEachId(App& app, const QString& path, const std::function<void(const QSt
     });
 }
 
-// The number of the pointer's shape.
-void SetPointer(App& app, bool wait) {
-    app.controls.SetText("MousePointer"_L1, wait ? u"11"_s : u"0"_s);
-}
-
 } // namespace qlm

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Services.h"
+#include "core/App.h"
 
 #include <QScopeGuard>
 #include <functional>
 
 namespace qlm {
-
-class App;
 
 // What the work list and the black list share: reading a list from a file the user chooses.
 
@@ -20,11 +18,10 @@ Dialogs::Answer AskForDuplicates(App& app);
 // message loop turns every few hundred lines.
 void ForEachId(App& app, const QString& path, const std::function<void(const QString& id)>& visit);
 
-void SetPointer(App& app, bool wait);
 // The pointer of a long piece of work, until the end of the block.
 [[nodiscard]] inline auto ShowWaitPointer(App& app) {
-    SetPointer(app, true);
-    return qScopeGuard([&app] { SetPointer(app, false); });
+    app.controls.SetPointer(PointerShape::Busy);
+    return qScopeGuard([&app] { app.controls.SetPointer(PointerShape::Usual); });
 }
 
 } // namespace qlm

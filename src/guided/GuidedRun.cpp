@@ -121,7 +121,7 @@ void GuidedRun::PlanLimit() {
     Add({u"Turning to the Friend Requester; opening the time delay"_s, 10,
          [this] { return !Form("frmFilters"); },
          [this] {
-             m_app.commands.Run(u"TabStrip1_Click"_s, 1);
+             ChooseTab(u"Friend Requester"_s);
              Choose("mnuTimeDelay");
          }});
     Add({u"Setting a pause of one second, and a limit of "_s + QString::number(Limit), 10,
@@ -170,7 +170,7 @@ void GuidedRun::PlanReport() {
     Add({u"The run has met its limit; opening the report"_s, 180,
          [this] { return WasTold(u"Your specified limit has been reached"_s); },
          [this] {
-             m_app.commands.Run(u"TabStrip1_Click"_s, 1);
+             ChooseTab(u"Friend Requester"_s);
              Press("frmMain", "piccmdFrReport");
          }});
     Add({u"The report is open; comparing the site's journal with the program's log"_s, 10,

@@ -27,7 +27,7 @@ void ResumedRun::PlanLogin() {
          }});
     Add({u"Logged in; turning to the Friend Requester"_s, 60,
          [this] { return m_app.Status() == u"Login successful!"_s; },
-         [this] { m_app.commands.Run(u"TabStrip1_Click"_s, 1); }});
+         [this] { ChooseTab(u"Friend Requester"_s); }});
 }
 
 void ResumedRun::PlanSending() {

@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <algorithm>
 #include <cstdio>
@@ -88,6 +89,17 @@ void WindowDriver::Press(const char* form, const char* name) {
         return;
     }
     button->click();
+}
+
+void WindowDriver::ChooseTab(const QString& caption) {
+    auto* tabs = qobject_cast<QListView*>(Find("frmMain", "TabStrip1"));
+    const QModelIndexList found =
+        tabs ? tabs->model()->match(tabs->model()->index(0, 0), Qt::DisplayRole, caption, 1, Qt::MatchExactly)
+             : QModelIndexList();
+    if (found.isEmpty())
+        End(u"There is no such tab: "_s + caption);
+    else
+        tabs->setCurrentIndex(found.first());
 }
 
 void WindowDriver::Type(const char* form, const char* name, const QString& text) {

@@ -53,6 +53,8 @@ public:
     QWidget* Find(const char* form, const char* name) const;
     void Press(const char* form, const char* name);
     void Choose(const char* menuItem);
+    // The tab of that caption.
+    void ChooseTab(const QString& caption);
     void Type(const char* form, const char* name, const QString& text);
     void ChooseItem(const char* form, const char* name, const QString& item);
     // Key by key to whatever has the keyboard in the main window; "\n" is Enter.

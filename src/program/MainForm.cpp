@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "program/MainForm.h"
 
-#include "campaigns/Campaigns.h"
 #include "campaigns/Pacing.h"
+#include "campaigns/StartChecks.h"
 #include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/BrowserSounds.h"
 #include "core/SettingsFields.h"
+#include "core/Tabs.h"
 #include "core/Text.h"
 #include "gather/BlackList.h"
 #include "steps/ActionTick.h"
@@ -17,15 +18,6 @@
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-const QStringList& TabCaptions() {
-    static const QStringList captions{u"Gather ID's"_s, QString::fromUtf16(FriendRequests.tab)};
-    return captions;
-}
-
-} // namespace
 
 MainForm::MainForm(App& app) : m_app(app) {
     m_app.controls.SetItems("TabStrip1"_L1, TabCaptions());
@@ -91,6 +83,7 @@ void MainForm::Form_Load() {
         m_app.Get<Pacing>().UpdateTimeDelayLabel();
         m_app.Get<BlackList>().FillArrayFromFile(u"arrBlacklistIDs"_s, m_app.Get<BlackList>().Path());
         m_app.ShowTab(TabCaptions().first());
+        SayWhatIsMissing();
         m_app.timers->tmrNewVersionAvailable.SetEnabled(state.blnNewVersionAvailable);
         Diagnostics::IgnoreErrors([this] { m_app.files.CreateFolder(m_app.state.DataFolder); });
         m_app.diagnostics.Debug(u"debuginitial.txt"_s, u"frmLoad 3"_s);
@@ -103,6 +96,12 @@ void MainForm::Form_Load() {
         m_app.Get<ActionTick>().Timer1_Timer();
         m_app.waiting.Pump();
     });
+}
+
+void MainForm::SayWhatIsMissing() {
+    constexpr auto message = "chkFrSendMessage"_L1;
+    if (!HasMessenger(m_app))
+        m_app.controls.SetText(message, m_app.controls[message].row->PlainCaption() + u" (not yet)"_s);
 }
 
 bool MainForm::SaveAll() {

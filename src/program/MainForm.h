@@ -43,6 +43,8 @@ public:
 
 private:
     void RegisterCommands();
+    // On the controls that need what the program cannot do yet.
+    void SayWhatIsMissing();
     bool MayClose();
     void Browse(const std::function<void()>& move);
 

@@ -47,8 +47,7 @@ AddressBar::AddressBar(const App& app) {
     row->setSpacing(2);
     AddPictureButtons(*row, app.commands, Caption::None,
                       {"picBack"_L1, "picForward"_L1, "picHome"_L1, "picRefresh"_L1, "picStop"_L1});
-    QLineEdit* address = NewLine("txtAddress"_L1, u"Address"_s);
-    address->setPlaceholderText(u"Address"_s);
+    QLineEdit* address = NewLine("txtAddress"_L1);
     address->setMinimumWidth(120);
     row->addSpacing(4);
     row->addWidget(address, 1);

@@ -17,7 +17,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 QGroupBox* NewFullGatherNotice() {
-    auto* notice = Named(new QGroupBox(u"Full Gather"_s), "ucpanelFullGatherIDNotify"_L1, u"Full Gather"_s);
+    auto* notice = Named(new QGroupBox, "ucpanelFullGatherIDNotify"_L1);
     notice->setAutoFillBackground(true);
     QLabel* words = NewLabel("lblFullGatherIDNotify"_L1);
     words->setAlignment(Qt::AlignCenter);
@@ -42,7 +42,8 @@ BrowserStack::BrowserStack(App& app, BrowserViews& views)
         m_stack->setCurrentWidget(m_browser);
     m_app.WebBrowser1().onZOrder = [this](int position) { SetOrder(m_browser, m_cover, position); };
     m_app.webHide().onZOrder = [this](int position) { SetOrder(m_cover, m_browser, position); };
-    QWidget* page = Named(m_browser ? m_browser.data() : m_pages, "WebBrowser1"_L1, u"Page"_s);
+    QWidget* page = Named(m_browser ? m_browser.data() : m_pages, "WebBrowser1"_L1);
+    page->setAccessibleName(u"Page"_s);
     m_app.WebBrowser1().onTakeFocus = [page = QPointer(page)] {
         if (page)
             page->setFocus(Qt::OtherFocusReason);

@@ -10,6 +10,7 @@
 
 class QAbstractButton;
 class QAction;
+class QActionGroup;
 class QButtonGroup;
 class QComboBox;
 class QGroupBox;
@@ -17,7 +18,6 @@ class QLabel;
 class QLineEdit;
 class QListView;
 class QPlainTextEdit;
-class QTabWidget;
 class QWidget;
 
 namespace qlm {
@@ -25,10 +25,14 @@ namespace qlm {
 class App;
 class TickBox;
 
+// The control's text as a button or menu item shows it, with the letter to press.
+QString CaptionWithLetter(const Control& control);
+
 // Ties the widgets of one form to the table of controls and to the commands, by object name: the widget
 // "lstAccounts" of a form bound with the prefix "frmInteken." shows the row "frmInteken.lstAccounts", writes
-// the user's input into it and runs "frmInteken.lstAccounts_Click" and its like. A widget without a row still
-// runs its commands. Lives as long as its form, and must go before the App does.
+// the user's input into it and runs "frmInteken.lstAccounts_Click" and its like. The row's words come with
+// it: caption, tool tip, the text of a label in front of an input, what a screen reader says. A widget
+// without a row still runs its commands. Lives as long as its form, and must go before the App does.
 class ControlBinder : public QObject {
 public:
     // messageCount tells how many message boxes there have been so far; a _MouseDown command that raised one
@@ -36,9 +40,11 @@ public:
     ControlBinder(App& app, const QString& prefix, std::function<int()> messageCount);
     ~ControlBinder() override;
 
-    // Binds the widgets below root that have a name.
+    // Binds the widgets below root that have a name; root, the form, shows the pointer that the table asks
+    // for.
     void BindAll(QWidget& root);
-    // Binds a menu item: its tick follows the table, a choice runs "<name>_Click".
+    // Binds a menu item: words, tick, and whether it is there follow the table. A choice runs "<name>_Click";
+    // of "mnuItem(2)" it runs "mnuItem_Click" with a 2. Items of one group show as options.
     void Bind(QAction& action);
     // Runs the command of that full name; false when there is none.
     bool Run(const QString& command, int argument = 0);
@@ -61,9 +67,11 @@ private:
     Show ViewOfTick(QAbstractButton& button, QLatin1StringView name);
     Show ViewOfCombo(QComboBox& combo, QLatin1StringView name);
     Show ViewOfList(QListView& list, QLatin1StringView name);
-    Show ViewOfTabs(QTabWidget& tabs, QLatin1StringView name);
+    void ShowWords(QWidget& widget, const ControlRow& row);
+    void ShowPointer();
     void GuardTick(TickBox& box, const QString& name);
     QButtonGroup& Group(const QString& group);
+    QActionGroup& MenuGroup(QLatin1StringView group);
     void OnChange(const Control& control, Change change, int row);
     void ShowAll(QWidget& widget, const Control& control, const Show& show);
 
@@ -72,6 +80,8 @@ private:
     std::function<int()> m_messageCount;
     QHash<QLatin1StringView, Bound> m_bound;
     QHash<QString, QButtonGroup*> m_groups;
+    QHash<QLatin1StringView, QActionGroup*> m_menuGroups;
+    QPointer<QWidget> m_root;
     int m_listener = 0;
     // While a change from the table is being shown, the widgets' own signals are no input of the user.
     bool m_showing = false;

@@ -3,6 +3,7 @@
 #include "core/App.h"
 #include "shell/ControlBinder.h"
 #include "shell/ListRowsModel.h"
+#include "shell/TabStrip.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -12,8 +13,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QPlainTextEdit>
-#include <QTabWidget>
 #include <QTextBrowser>
 
 namespace qlm {
@@ -21,27 +22,6 @@ namespace qlm {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-QString WithoutMnemonic(const QString& text) {
-    QString plain = text;
-    plain.replace(u"&&"_s, u"\x1"_s).remove(u'&').replace(u'\x1', u'&');
-    return plain;
-}
-
-// A button's caption comes from the table; the letter to press with it from the form. It stays when another
-// caption begins with it.
-std::function<void(const QString&)> CaptionOf(QAbstractButton& button) {
-    return [&button, own = button.text()](const QString& text) {
-        if (text.isEmpty() || text == WithoutMnemonic(own)) {
-            button.setText(own);
-            return;
-        }
-        const QString plain = QString(text).replace(u'&', u"&&"_s);
-        const QString marked = u'&' + plain;
-        const bool hasItsLetter = QKeySequence::mnemonic(marked) == QKeySequence::mnemonic(own);
-        button.setText(hasItsLetter ? marked : plain);
-    };
-}
 
 // Tab stops at the chosen option of a group; where none is chosen, at each.
 void SettleTabStops(const QButtonGroup& group) {
@@ -58,6 +38,18 @@ void ShowLabel(QLabel& label, const QString& text) {
 
 } // namespace
 
+// The letter stays when another caption begins with the row's own, or with the letter.
+QString CaptionWithLetter(const Control& control) {
+    const QString own = QString::fromUtf16(control.row->caption);
+    const QString ownPlain = control.row->PlainCaption();
+    const QString plain = QString(control.text).replace(u'&', u"&&"_s);
+    if (!ownPlain.isEmpty() && control.text.startsWith(ownPlain))
+        return own + QString(control.text.mid(ownPlain.size())).replace(u'&', u"&&"_s);
+    const QString marked = u'&' + plain;
+    const bool hasItsLetter = QKeySequence::mnemonic(marked) == QKeySequence::mnemonic(own);
+    return hasItsLetter && !plain.isEmpty() ? marked : plain;
+}
+
 ControlBinder::Show ControlBinder::ViewFor(QWidget& widget, QLatin1StringView name) {
     if (auto* line = qobject_cast<QLineEdit*>(&widget))
         return ViewOfLine(*line, name);
@@ -72,8 +64,11 @@ ControlBinder::Show ControlBinder::ViewFor(QWidget& widget, QLatin1StringView na
         return ViewOfCombo(*combo, name);
     if (auto* list = qobject_cast<QListView*>(&widget))
         return ViewOfList(*list, name);
-    if (auto* tabs = qobject_cast<QTabWidget*>(&widget))
-        return ViewOfTabs(*tabs, name);
+    if (auto* menu = qobject_cast<QMenu*>(&widget))
+        return [menu](const Control& control, Change change, int) {
+            if (change == Change::Text)
+                menu->setTitle(CaptionWithLetter(control));
+        };
     if (auto* button = qobject_cast<QAbstractButton*>(&widget))
         return ViewOfTick(*button, name);
     if (auto* label = qobject_cast<QLabel*>(&widget)) {
@@ -123,11 +118,10 @@ QButtonGroup& ControlBinder::Group(const QString& group) {
 }
 
 ControlBinder::Show ControlBinder::ViewOfTick(QAbstractButton& button, QLatin1StringView name) {
-    const auto showCaption = CaptionOf(button);
     if (!button.isCheckable())
-        return [showCaption](const Control& control, Change change, int) {
+        return [&button](const Control& control, Change change, int) {
             if (change == Change::Text)
-                showCaption(control.text);
+                button.setText(CaptionWithLetter(control));
         };
 
     QButtonGroup* group = nullptr;
@@ -140,9 +134,9 @@ ControlBinder::Show ControlBinder::ViewOfTick(QAbstractButton& button, QLatin1St
         if (!m_showing && (ticked || !group))
             m_app.controls.SetTicked(name, ticked);
     });
-    return [&button, group, showCaption](const Control& control, Change change, int) {
+    return [&button, group](const Control& control, Change change, int) {
         if (change == Change::Text)
-            showCaption(control.text);
+            button.setText(CaptionWithLetter(control));
         if (change != Change::Ticked)
             return;
         // A group that excludes would not let its last button go.
@@ -180,8 +174,13 @@ ControlBinder::Show ControlBinder::ViewOfList(QListView& list, QLatin1StringView
     list.setEditTriggers(QAbstractItemView::NoEditTriggers);
     list.setModel(model);
     connect(list.selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this, name](const QModelIndex& current) {
-                if (!m_showing)
+            [this, name, isStrip = dynamic_cast<TabStrip*>(&list) != nullptr](const QModelIndex& current) {
+                if (m_showing)
+                    return;
+                // What the choice of a tab brings about is its command's to say.
+                if (isStrip)
+                    Run(QString(name) + u"_Click"_s, current.row());
+                else
                     m_app.controls.SetSelected(name, current.row());
             });
     return [&list, model](const Control& control, Change change, int row) {
@@ -193,13 +192,6 @@ ControlBinder::Show ControlBinder::ViewOfList(QListView& list, QLatin1StringView
             list.selectionModel()->clear();
         else if (list.currentIndex().row() != control.selected || !list.selectionModel()->hasSelection())
             list.setCurrentIndex(model->index(control.selected));
-    };
-}
-
-ControlBinder::Show ControlBinder::ViewOfTabs(QTabWidget& tabs, QLatin1StringView) {
-    return [&tabs](const Control& control, Change change, int) {
-        if (change == Change::Selected && control.selected >= 0)
-            tabs.setCurrentIndex(control.selected);
     };
 }
 

@@ -17,14 +17,15 @@ struct FormContext {
     QWidget* parent;
 };
 
-// One of the program's own windows beside the main one. A derived form's constructor lays out named widgets;
-// what they show and do comes from the table of controls and the commands. Created and destroyed by
-// WindowDialogs.
+// One of the program's own windows beside the main one. Its builder (Forms.h) lays out named widgets; what
+// they show, say and do comes from the table of controls and the commands. A form has a class of its own only
+// where it behaves. Created and destroyed by WindowDialogs.
 class Form : public QDialog {
 public:
     Form(const FormContext& context, const QString& name, const QString& title);
 
-    // Ties the widgets to the controls; once, after the constructor.
+    App& TheApp() const { return m_app; }
+    // Ties the widgets to the controls; once, when they have been laid out.
     void Bind();
     // The user's Escape or the frame's cross: works as the form's Cancel or Close button where it has one.
     void reject() override;

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "shell/FormParts.h"
 
-#include <QAbstractItemModel>
+#include "core/App.h"
+
+#include <QBoxLayout>
 #include <QDialogButtonBox>
 #include <QEvent>
+#include <QGroupBox>
 #include <QLineEdit>
-#include <QListView>
+#include <QPlainTextEdit>
 
 namespace qlm {
 
@@ -34,12 +37,12 @@ void TakeDoubleClickAsOne(QAbstractButton& button) {
     button.installEventFilter(new SecondClickFilter(&button));
 }
 
-QPushButton* NewButton(QLatin1StringView name, const QString& caption) {
-    return Named(new QPushButton(caption), name);
+QPushButton* NewButton(QLatin1StringView name) {
+    return Named(new QPushButton, name);
 }
 
-QPushButton* NewLink(QLatin1StringView name, const QString& caption) {
-    QPushButton* link = Named<QPushButton>(new Link(caption), name);
+QPushButton* NewLink(QLatin1StringView name) {
+    QPushButton* link = Named<QPushButton>(new Link, name);
     link->setFlat(true);
     link->setAutoDefault(true); // Return follows it in the main window, too
     link->setCursor(Qt::PointingHandCursor);
@@ -48,8 +51,21 @@ QPushButton* NewLink(QLatin1StringView name, const QString& caption) {
     return link;
 }
 
-QLineEdit* NewLine(QLatin1StringView name, const QString& accessibleName) {
-    return Named(new QLineEdit, name, accessibleName);
+QLineEdit* NewLine(QLatin1StringView name) {
+    return Named(new QLineEdit, name);
+}
+
+QLineEdit* NewNumber(QLatin1StringView name, int signs) {
+    QLineEdit* line = NewLine(name);
+    line->setMaximumWidth(line->fontMetrics().averageCharWidth() * signs);
+    return line;
+}
+
+QPlainTextEdit* NewLines(QLatin1StringView name, int linesInSight) {
+    auto* lines = Named(new QPlainTextEdit, name);
+    lines->setTabChangesFocus(true);
+    lines->setFixedHeight(lines->fontMetrics().lineSpacing() * linesInSight + 14);
+    return lines;
 }
 
 QLabel* NewLabel(QLatin1StringView name, const QString& look) {
@@ -59,10 +75,16 @@ QLabel* NewLabel(QLatin1StringView name, const QString& look) {
     return label;
 }
 
-QLabel* NewCaptionOf(QWidget& input, const QString& words, const QString& accessibleName) {
-    auto* caption = new QLabel(words);
+QLabel* NewWrappedLabel(QLatin1StringView name, const QString& look, bool hideWhenEmpty) {
+    QLabel* label = NewLabel(name, look);
+    label->setWordWrap(true);
+    label->setProperty("hideWhenEmpty", hideWhenEmpty);
+    return label;
+}
+
+QLabel* NewCaptionOf(QWidget& input) {
+    auto* caption = new QLabel;
     caption->setBuddy(&input);
-    caption->setAccessibleName(accessibleName);
     return caption;
 }
 
@@ -74,28 +96,49 @@ QLabel* NewText(const QString& text, const QString& look) {
     return label;
 }
 
-void HintOnRows(QListView& list, QLabel& hint, std::function<bool()> isWanted) {
-    auto show = [&hint, isWanted = std::move(isWanted)] { hint.setVisible(isWanted()); };
-    QObject::connect(list.model(), &QAbstractItemModel::modelReset, &hint, show);
-    QObject::connect(list.model(), &QAbstractItemModel::rowsInserted, &hint, show);
-    QObject::connect(list.model(), &QAbstractItemModel::rowsRemoved, &hint, show);
+QLabel* NewHintOnRows(App& app, QLatin1StringView list, const QString& text,
+                      std::function<bool(const QStringList& rows)> isWanted) {
+    QLabel* hint = NewText(text, u"hint"_s);
+    auto show = [&app, list, hint, isWanted = std::move(isWanted)] {
+        hint->setVisible(isWanted(app.controls.Items(list)));
+    };
     show();
+    const int listener =
+        app.controls.AddListener([list, show](const Control& control, Controls::Change, int) {
+            if (control.name == list)
+                show();
+        });
+    QObject::connect(hint, &QObject::destroyed, [&app, listener] { app.controls.RemoveListener(listener); });
+    return hint;
 }
 
-QDialogButtonBox* NewButtonRow(std::initializer_list<QPushButton*> buttons) {
+QHBoxLayout* NewRow(std::initializer_list<QWidget*> widgets) {
+    auto* row = new QHBoxLayout;
+    for (QWidget* widget : widgets)
+        row->addWidget(widget);
+    row->addStretch();
+    return row;
+}
+
+QGroupBox* NewFrame(const QString& title, std::initializer_list<QLayout*> rows) {
+    auto* frame = new QGroupBox(title);
+    auto* column = new QVBoxLayout(frame);
+    for (QLayout* row : rows)
+        column->addLayout(row);
+    return frame;
+}
+
+QDialogButtonBox* NewButtonRow(std::initializer_list<QLatin1StringView> buttons) {
     auto* row = new QDialogButtonBox;
-    auto leaves = [](const QPushButton* button) {
-        return button->objectName() == "cmdCancel"_L1 || button->objectName() == "cmdClose"_L1;
-    };
-    // In the order in which they stand, or Tab misses one that was put behind a later one.
-    for (QPushButton* button : buttons)
-        if (!leaves(button))
-            row->addButton(button, QDialogButtonBox::AcceptRole);
-    for (QPushButton* button : buttons)
-        if (leaves(button))
-            row->addButton(button, QDialogButtonBox::RejectRole);
-    for (QPushButton* button : buttons)
-        button->setDefault(button == *buttons.begin());
+    auto leaves = [](QLatin1StringView name) { return name == "cmdCancel"_L1 || name == "cmdClose"_L1; };
+    // In the order in which they stand, or Tab misses one that was put after a later one.
+    for (const bool leaving : {false, true})
+        for (const QLatin1StringView name : buttons)
+            if (leaves(name) == leaving) {
+                QPushButton* button = NewButton(name);
+                row->addButton(button, leaving ? QDialogButtonBox::RejectRole : QDialogButtonBox::AcceptRole);
+                button->setDefault(name == *buttons.begin());
+            }
     return row;
 }
 

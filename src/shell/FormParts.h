@@ -7,19 +7,20 @@
 #include <initializer_list>
 
 class QDialogButtonBox;
+class QGroupBox;
+class QHBoxLayout;
 class QLineEdit;
-class QListView;
+class QPlainTextEdit;
 
 namespace qlm {
 
-// Building stones of the forms. name is the design's name of the control and becomes the object name, by
-// which it is bound; the accessible name is what a screen reader says.
+class App;
 
-template <typename Widget>
-Widget* Named(Widget* widget, QLatin1StringView name, const QString& accessibleName = {}) {
+// Building stones of the forms. name is that of the control and becomes the object name, by which the widget
+// is bound; all words come with its row in the table of controls.
+
+template <typename Widget> Widget* Named(Widget* widget, QLatin1StringView name) {
     widget->setObjectName(QString(name));
-    if (!accessibleName.isEmpty())
-        widget->setAccessibleName(accessibleName);
     return widget;
 }
 
@@ -27,25 +28,35 @@ Widget* Named(Widget* widget, QLatin1StringView name, const QString& accessibleN
 // after the first, is nobody's wish.
 void TakeDoubleClickAsOne(QAbstractButton& button);
 
-// caption may hold a mnemonic.
-QPushButton* NewButton(QLatin1StringView name, const QString& caption);
+QPushButton* NewButton(QLatin1StringView name);
 // A button that looks like a link and can be reached by the keyboard.
-QPushButton* NewLink(QLatin1StringView name, const QString& caption);
-QLineEdit* NewLine(QLatin1StringView name, const QString& accessibleName);
+QPushButton* NewLink(QLatin1StringView name);
+QLineEdit* NewLine(QLatin1StringView name);
+// Narrow, for a number of so many signs.
+QLineEdit* NewNumber(QLatin1StringView name, int signs);
+// Several lines of text, so many of them in sight. Tab leaves it.
+QPlainTextEdit* NewLines(QLatin1StringView name, int linesInSight);
 // A label that shows a control; look names its part in the style sheet ("heading", "quiet", "badge", or
 // empty).
 QLabel* NewLabel(QLatin1StringView name, const QString& look = {});
-// The label in front of an input: its letter leads there, and it is what a screen reader calls the input, by
-// the accessible name where that says more than the words. A combo box has no other name for a screen reader.
-QLabel* NewCaptionOf(QWidget& input, const QString& words, const QString& accessibleName = {});
+// One that wraps; where hideWhenEmpty, it is there only while it has something to say.
+QLabel* NewWrappedLabel(QLatin1StringView name, const QString& look = {}, bool hideWhenEmpty = false);
+// The label in front of an input: it shows the caption of the input's row, whose letter leads there.
+QLabel* NewCaptionOf(QWidget& input);
 // A fixed text that wraps.
 QLabel* NewText(const QString& text, const QString& look = {});
 
-// Shows the hint while isWanted answers so; asks when the rows of the bound list change.
-void HintOnRows(QListView& list, QLabel& hint, std::function<bool()> isWanted);
+// A text that is there while isWanted says so of the rows of that list.
+QLabel* NewHintOnRows(App& app, QLatin1StringView list, const QString& text,
+                      std::function<bool(const QStringList& rows)> isWanted);
+
+// Beside one another from the left.
+QHBoxLayout* NewRow(std::initializer_list<QWidget*> widgets);
+// A frame around rows.
+QGroupBox* NewFrame(const QString& title, std::initializer_list<QLayout*> rows);
 
 // A row of buttons at the foot of a form; the first is the default one. Buttons named "cmdCancel" and
 // "cmdClose" take the place of those.
-QDialogButtonBox* NewButtonRow(std::initializer_list<QPushButton*> buttons);
+QDialogButtonBox* NewButtonRow(std::initializer_list<QLatin1StringView> buttons);
 
 } // namespace qlm

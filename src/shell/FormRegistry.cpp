@@ -1,20 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "shell/FormRegistry.h"
 
+#include "shell/Forms.h"
 #include "shell/NoticeForm.h"
-#include "shell/frmAccountDetails.h"
-#include "shell/frmBlacklist.h"
-#include "shell/frmError.h"
-#include "shell/frmFilters.h"
 #include "shell/frmGlobalSettings.h"
 #include "shell/frmGoogleSearch.h"
 #include "shell/frmInteken.h"
-#include "shell/frmLog.h"
-#include "shell/frmLoginProblem.h"
-#include "shell/frmProifleIDHelp.h"
 #include "shell/frmRunReport.h"
-#include "shell/frmSwitchAccount.h"
-#include "shell/frmTerms.h"
 #include "shell/frmTimeDelay.h"
 
 #include <stdexcept>
@@ -25,53 +17,62 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct Registered {
+template <typename FormType>
+Form* Make(const FormContext& context, const QString& name, const QString& title) {
+    return new FormType(context, name, title);
+}
+
+struct FormRow {
     QLatin1StringView name;
-    Form* (*make)(const FormContext&);
+    const char16_t* title;
+    void (*build)(Form&);
+    Form* (*make)(const FormContext&, const QString& name, const QString& title) = Make<Form>;
 };
 
-template <typename FormType> Form* Make(const FormContext& context) {
-    return new FormType(context);
-}
-
-constexpr Registered Forms[] = {
-    {"frmInteken"_L1, Make<frmInteken>},
-    {"frmSwitchAccount"_L1, Make<frmSwitchAccount>},
-    {"frmAccountDetails"_L1, Make<frmAccountDetails>},
-    {"frmLoginProblem"_L1, Make<frmLoginProblem>},
-    {"frmError"_L1, Make<frmError>},
-    {"frmTerms"_L1, Make<frmTerms>},
-    {"frmTimeDelay"_L1, Make<frmTimeDelay>},
-    {"frmFilters"_L1, Make<frmFilters>},
-    {"frmGlobalSettings"_L1, Make<frmGlobalSettings>},
-    {"frmLog"_L1, Make<frmLog>},
-    {"frmBlacklist"_L1, Make<frmBlacklist>},
-    {"frmGoogleSearch"_L1, Make<frmGoogleSearch>},
-    {"frmProifleIDHelp"_L1, Make<frmProifleIDHelp>},
-    {"frmRunReport"_L1, Make<frmRunReport>},
+constexpr FormRow Forms[] = {
+    {"frmInteken"_L1, u"Quillmere", BuildLogin, Make<frmInteken>},
+    {"frmSwitchAccount"_L1, u"Switch Account", BuildSwitchAccount},
+    {"frmAccountDetails"_L1, u"Account Details", BuildAccountDetails},
+    {"frmLoginProblem"_L1, u"Login problem", BuildLoginProblem},
+    {"frmError"_L1, u"Error", BuildError},
+    {"frmTerms"_L1, u"Terms of Service", BuildTerms},
+    {"frmTimeDelay"_L1, u"Time Delay", BuildTimeDelay, Make<frmTimeDelay>},
+    {"frmFilters"_L1, u"Filter Options", BuildFilters},
+    {"frmGlobalSettings"_L1, u"Global Settings", BuildGlobalSettings, Make<frmGlobalSettings>},
+    {"frmLog"_L1, u"Log", BuildLog},
+    {"frmBlacklist"_L1, u"Black List", BuildBlacklist},
+    {"frmGoogleSearch"_L1, u"Google Search", BuildGoogleSearch, Make<frmGoogleSearch>},
+    {"frmProifleIDHelp"_L1, u"Profile ID Help", BuildProfileIDHelp},
+    {"frmRunReport"_L1, u"Run Report", frmRunReport::Build, Make<frmRunReport>},
 };
-
-Form* MakeForm(const QString& name, const FormContext& context) {
-    for (const Registered& form : Forms)
-        if (name == form.name)
-            return form.make(context);
-    if (const Notice* notice = FindNotice(name))
-        return new NoticeForm(context, *notice);
-    throw std::logic_error("No form is named " + name.toStdString());
-}
 
 } // namespace
 
+Form* BuildForm(const QString& name, const FormContext& context) {
+    for (const FormRow& row : Forms)
+        if (name == row.name) {
+            Form* form = row.make(context, name, QString::fromUtf16(row.title));
+            row.build(*form);
+            return form;
+        }
+    if (const Notice* notice = FindNotice(name)) {
+        Form* form = Make<Form>(context, name, QString::fromUtf16(notice->title));
+        BuildNotice(*form, *notice);
+        return form;
+    }
+    throw std::logic_error("No form is named " + name.toStdString());
+}
+
 Form* CreateForm(const QString& name, const FormContext& context) {
-    Form* form = MakeForm(name, context);
+    Form* form = BuildForm(name, context);
     form->Bind();
     return form;
 }
 
 QStringList FormNames() {
     QStringList names;
-    for (const Registered& form : Forms)
-        names.append(form.name);
+    for (const FormRow& row : Forms)
+        names.append(row.name);
     for (const Notice& notice : Notices())
         names.append(QString::fromLatin1(notice.name));
     return names;

@@ -5,8 +5,10 @@
 
 namespace qlm {
 
-// A new form of that name, bound and not yet shown; its caller owns it. Throws std::logic_error on an unknown
-// name.
+// A new form of that name, laid out and not yet bound: it says nothing yet. Its caller owns it. Throws
+// std::logic_error on an unknown name.
+Form* BuildForm(const QString& name, const FormContext& context);
+// The same, bound and not yet shown.
 Form* CreateForm(const QString& name, const FormContext& context);
 
 // The names that CreateForm() knows.

@@ -29,6 +29,7 @@ QString WithColours(QString sheet, const QPalette& palette) {
     sheet.replace(u"@link"_s, (isDark ? accent.lighter(140) : accent.darker(140)).name());
     // The bars above and below the page are a little darker than the window, in a dark look a little lighter.
     sheet.replace(u"@bar"_s, isDark ? Between(window, text, 0.08).name() : u"#e9e9ed"_s);
+    sheet.replace(u"@raised"_s, Between(window, palette.color(QPalette::Base), 0.55).name());
     sheet.replace(u"@tint"_s, Between(window, accent, 0.12).name());
     return sheet;
 }

@@ -3,6 +3,7 @@
 
 #include "core/App.h"
 #include "shell/ControlBinder.h"
+#include "shell/FormParts.h"
 
 #include <QKeySequence>
 #include <QMenu>
@@ -14,40 +15,46 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+// A tick that stands in a group shows as an option of it.
 enum class Kind { Menu, Item, Tick, Separator };
 
 struct MenuRow {
     Kind kind;
     const char* parent; // "" is the menu bar
-    const char* name;
-    const char16_t* caption;
+    const char* name = "";
     const char* keys = "";
 };
 
 constexpr MenuRow Rows[] = {
-    {Kind::Menu, "", "mnuOptions", u"&Options"},
-    {Kind::Item, "mnuOptions", "mnuSwitchLogin", u"S&witch Login...", "Ctrl+Shift+L"},
-    {Kind::Item, "mnuOptions", "mnuGlobalSettings", u"&Global Settings..."},
-    {Kind::Separator, "mnuOptions", "", u""},
-    {Kind::Item, "mnuOptions", "mnuTimeDelay", u"&Time Delay...", "Ctrl+T"},
-    {Kind::Menu, "mnuOptions", "mnuCAPTCHAAlerts", u"&CAPTCHA Settings"},
-    {Kind::Tick, "mnuCAPTCHAAlerts", "mnuCaptchaSound", u"Play a &sound when CAPTCHA page is reached"},
-    {Kind::Tick, "mnuCAPTCHAAlerts", "mnuCaptchaPopup",
-     u"Display a &popup alert when CAPTCHA page is reached"},
-    {Kind::Tick, "mnuCAPTCHAAlerts", "mnuCaptchaRestoreIfMinimized", u"&Restore QLM window if minimized"},
-    {Kind::Separator, "mnuCAPTCHAAlerts", "", u""},
-    {Kind::Tick, "mnuCAPTCHAAlerts", "mnuSkipProfileCAPTCHAs",
-     u"S&kip profiles that require CAPTCHA's (except CAPTCHA's required by MySpace)"},
-    {Kind::Separator, "mnuOptions", "", u""},
-    {Kind::Item, "mnuOptions", "mnuExitWhenFinished", u"Exit When &Finished"},
-    {Kind::Item, "mnuOptions", "mnuExit", u"E&xit", "Ctrl+Q"},
-    {Kind::Menu, "", "mnuHelp", u"&Help"},
-    {Kind::Tick, "mnuHelp", "mnuDisableBrowserSounds", u"&Disable Browser Sounds"},
-    {Kind::Item, "mnuHelp", "mnuResetSettings", u"&Reset Settings..."},
-    {Kind::Item, "mnuHelp", "mnuSaveScreenshot", u"&Save screenshot and page source..."},
-    {Kind::Tick, "mnuHelp", "mnuEnableLogging", u"&Enable logging for support"},
-    {Kind::Item, "mnuHelp", "mnuGoToQLMDataFolder", u"&Go to QLM Data Folder"},
+    {Kind::Menu, "", "mnuOptions"},
+    {Kind::Item, "mnuOptions", "mnuSwitchLogin", "Ctrl+Shift+L"},
+    {Kind::Item, "mnuOptions", "mnuGlobalSettings"},
+    {Kind::Separator, "mnuOptions"},
+    {Kind::Item, "mnuOptions", "mnuTimeDelay", "Ctrl+T"},
+    {Kind::Menu, "mnuOptions", "mnuCAPTCHAAlerts"},
+    {Kind::Tick, "mnuCAPTCHAAlerts", "mnuCaptchaSound"},
+    {Kind::Tick, "mnuCAPTCHAAlerts", "mnuCaptchaPopup"},
+    {Kind::Tick, "mnuCAPTCHAAlerts", "mnuCaptchaRestoreIfMinimized"},
+    {Kind::Separator, "mnuCAPTCHAAlerts"},
+    {Kind::Tick, "mnuCAPTCHAAlerts", "mnuSkipProfileCAPTCHAs"},
+    {Kind::Separator, "mnuOptions"},
+    {Kind::Item, "mnuOptions", "mnuExitWhenFinished"},
+    {Kind::Item, "mnuOptions", "mnuExit", "Ctrl+Q"},
+    {Kind::Menu, "", "mnuHelp"},
+    {Kind::Tick, "mnuHelp", "mnuDisableBrowserSounds"},
+    {Kind::Item, "mnuHelp", "mnuResetSettings"},
+    {Kind::Item, "mnuHelp", "mnuSaveScreenshot"},
+    {Kind::Tick, "mnuHelp", "mnuEnableLogging"},
+    {Kind::Item, "mnuHelp", "mnuGoToQLMDataFolder"},
 };
+
+// There while one of its items is.
+void ShowUnlessEmpty(const QMenu& menu) {
+    const QList<QAction*> actions = menu.actions();
+    menu.menuAction()->setVisible(std::any_of(actions.begin(), actions.end(), [](const QAction* action) {
+        return action->isVisible() && !action->isSeparator();
+    }));
+}
 
 class MenuBuilder {
 public:
@@ -64,28 +71,29 @@ public:
             AddItem(*parent, row);
     }
 
-    void RemoveEmptyMenus() {
+    // A menu comes and goes with its items.
+    void WatchItems() {
         for (QMenu* menu : std::as_const(m_menus)) {
-            const QList<QAction*> actions = menu->actions();
-            const bool empty = std::all_of(actions.begin(), actions.end(),
-                                           [](const QAction* action) { return action->isSeparator(); });
-            menu->menuAction()->setVisible(!empty);
+            for (QAction* action : menu->actions())
+                QObject::connect(action, &QAction::visibleChanged, menu, [menu] { ShowUnlessEmpty(*menu); });
+            ShowUnlessEmpty(*menu);
         }
     }
 
 private:
     void AddMenu(QMenu* parent, const MenuRow& row) {
-        const QString caption = QString::fromUtf16(row.caption);
-        QMenu* menu = parent ? parent->addMenu(caption) : m_bar.addMenu(caption);
-        menu->setObjectName(QString::fromLatin1(row.name));
+        auto* menu =
+            Named(new QMenu(parent ? static_cast<QWidget*>(parent) : &m_bar), QLatin1StringView(row.name));
+        parent ? parent->addMenu(menu) : m_bar.addMenu(menu);
         m_menus.insert(QLatin1StringView(row.name), menu);
     }
 
     void AddItem(QMenu& menu, const MenuRow& row) {
-        QAction* action = menu.addAction(QString::fromUtf16(row.caption));
+        auto* action = new QAction(&menu);
         action->setObjectName(QString::fromLatin1(row.name));
         action->setCheckable(row.kind == Kind::Tick);
         action->setShortcut(QKeySequence(QString::fromLatin1(row.keys)));
+        menu.addAction(action);
         m_binder.Bind(*action);
     }
 
@@ -101,7 +109,7 @@ void FillMenuBar(QMenuBar& bar, const App& app, ControlBinder& binder) {
     MenuBuilder builder(bar, app, binder);
     for (const MenuRow& row : Rows)
         builder.Add(row);
-    builder.RemoveEmptyMenus();
+    builder.WatchItems();
 }
 
 } // namespace qlm

@@ -65,23 +65,18 @@ const Notice* FindNotice(const QString& name) {
     return nullptr;
 }
 
-NoticeForm::NoticeForm(const FormContext& context, const Notice& notice)
-    : Form(context, QString::fromLatin1(notice.name), QString::fromUtf16(notice.title)) {
-    auto* column = new QVBoxLayout(this);
+void BuildNotice(Form& form, const Notice& notice) {
+    auto* column = new QVBoxLayout(&form);
     column->setSpacing(12);
     if (const QString heading = QString::fromUtf16(notice.heading); !heading.isEmpty())
         column->addWidget(NewText(heading, u"subheading"_s));
     for (const QString& paragraph : QString::fromUtf16(notice.text).split(u'\n'))
         column->addWidget(NewText(paragraph));
     column->addStretch();
-    if (notice.dontShowAgain) {
-        column->addWidget(
-            Named(new TickBox(u"&Don't show again"_s), "chkDontShowAgain"_L1, u"Don't show again"_s));
-        column->addWidget(NewButtonRow({NewButton("cmdOK"_L1, u"&OK"_s)}));
-    } else {
-        column->addWidget(NewButtonRow({NewButton("cmdClose"_L1, u"&Close"_s)}));
-    }
-    resize(440, 190);
+    if (notice.dontShowAgain)
+        column->addWidget(Named(new TickBox, "chkDontShowAgain"_L1));
+    column->addWidget(NewButtonRow({notice.dontShowAgain ? "cmdOK"_L1 : "cmdClose"_L1}));
+    form.resize(440, 190);
 }
 
 } // namespace qlm

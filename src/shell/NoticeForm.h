@@ -22,9 +22,6 @@ const std::vector<Notice>& Notices();
 const Notice* FindNotice(const QString& name);
 
 // A form that only tells something.
-class NoticeForm : public Form {
-public:
-    NoticeForm(const FormContext& context, const Notice& notice);
-};
+void BuildNotice(Form& form, const Notice& notice);
 
 } // namespace qlm

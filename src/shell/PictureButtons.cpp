@@ -17,46 +17,36 @@ namespace {
 
 constexpr PictureButton Table[] = {
     // Address bar.
-    {"picBack", "NAVBACK", u"Back", u"Go back one page"},
-    {"picForward", "NAVFORWARD", u"Forward", u"Go forward one page"},
-    {"picHome", "NAVHOME", u"Home", u"Go to your MySpace home page"},
-    {"picRefresh", "REFRESH", u"Refresh", u"Load this page again"},
-    {"picStop", "STOP", u"Stop", u"Stop the page and whatever is running"},
-    {"picGO", "GO", u"Go", u"Go to the address"},
-    {"picSkip", "SKIP", u"S&kip", u"Skip the current profile, or end a running time delay"},
-    {"picCollapse", "COLLAPSE_LEFT", u"Fold the control panel away", u"Fold the control panel away"},
+    {"picBack", "NAVBACK"},
+    {"picForward", "NAVFORWARD"},
+    {"picHome", "NAVHOME"},
+    {"picRefresh", "REFRESH"},
+    {"picStop", "STOP"},
+    {"picGO", "GO"},
+    {"picSkip", "SKIP"},
+    {"picCollapse", "COLLAPSE_LEFT"},
 
     // Gather ID's.
-    {"piccmdFrGotoBrowse", "GOTOBROWSE", u"&Browse", u"Navigate to the MySpace browse page"},
-    {"piccmdFrGotoFriends", "GOTOFRIENDS", u"&Friends", u"Navigate to the current profile's friends list"},
-    {"piccmdFrGotoComments", "GOTOCOMMENTS", u"&Comments",
-     u"Navigate to the current profile's comments list"},
-    {"picScanStart", "SCANSTART", u"&Start Gathering", u"Gather the profile ID's of the page in the browser",
-     "", true},
-    {"picScanStop", "SCANSTOP", u"S&top", u"Stop gathering"},
-    {"picFilterOptions", "FILTER", u"Fi&lters...", u"Choose which profiles are kept"},
-    {"picRandomize", "RANDOMIZE", u"Shuffle",
-     u"Clicking this button will re-sort the ID's in the list in a random order"},
-    {"piccmdClearList", "CLEARLIST", u"Clear", u"Clear the ID's in the list"},
-    {"picImport", "IMPORT", u"Import", u"Import ID's into the list from a text file"},
-    {"picSaveToFile", "SAVETOFILE", u"Save", u"Save the ID's in the list to a text file"},
-    {"piccmdBlackList", "BLACKLIST", u"Black list", u"Manage your blacklisted ID's"},
-    {"picRemoveFriends", "REMOVEFRIENDS", u"Remove friends",
-     u"After clicking this button, Quillmere will go through all your existing friends and remove those ID's "
-     u"from the "
-     u"scanned list above",
-     "", true},
+    {"piccmdFrGotoBrowse", "GOTOBROWSE"},
+    {"piccmdFrGotoFriends", "GOTOFRIENDS"},
+    {"piccmdFrGotoComments", "GOTOCOMMENTS"},
+    {"picScanStart", "SCANSTART", "", true},
+    {"picScanStop", "SCANSTOP"},
+    {"picFilterOptions", "FILTER"},
+    {"picRandomize", "RANDOMIZE"},
+    {"piccmdClearList", "CLEARLIST"},
+    {"picImport", "IMPORT"},
+    {"picSaveToFile", "SAVETOFILE"},
+    {"piccmdBlackList", "BLACKLIST"},
+    {"picRemoveFriends", "REMOVEFRIENDS", "", true},
 
     // Friend Requester.
-    {"piccmdAddFriends", "SEND", u"&Send Friend Requests",
-     u"Send a friend request to each ID in the gathered list", "", true},
-    {"piccmdAddFriendsStop", "SENDSTOP", u"S&top", u"Stop sending friend requests"},
-    {"piccmdFrClearLog", "LOG", u"&Log...", u"The record of everyone you have sent friend requests to"},
-    {"piccmdFrReport", "REPORT", u"&Report...", u"What became of each profile of a run"},
-    {"piccmdFRRefreshCategories", "REFRESH", u"Fill the list of categories",
-     u"Fill the list with the categories of your friends", "", true},
-    {"piccmdFrTimeDelay", "DELAY", u"Time &Delay...", u"Set the pause between two friend requests",
-     "mnuTimeDelay_Click"},
+    {"piccmdAddFriends", "SEND", "", true},
+    {"piccmdAddFriendsStop", "SENDSTOP"},
+    {"piccmdFrClearLog", "LOG"},
+    {"piccmdFrReport", "REPORT"},
+    {"piccmdFRRefreshCategories", "REFRESH", "", true},
+    {"piccmdFrTimeDelay", "DELAY", "mnuTimeDelay_Click"},
 };
 
 } // namespace
@@ -70,18 +60,14 @@ const PictureButton& PictureButtonNamed(QLatin1StringView name) {
 
 QToolButton* NewPictureButton(QLatin1StringView name, Caption caption) {
     const PictureButton& picture = PictureButtonNamed(name);
-    const QString words = QString::fromUtf16(picture.caption);
-    auto* button = Named(new QToolButton, name, QString(words).remove(u'&'));
+    auto* button = Named(new QToolButton, name);
     button->setIcon(PictureIcon(QString::fromLatin1(picture.image)));
-    button->setIconSize({20, 20});
+    button->setIconSize(caption == Caption::Beside ? QSize(16, 16) : QSize(20, 20));
     // The hover picture is only shown by buttons that raise themselves.
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
-    button->setToolTip(QString::fromUtf16(picture.toolTip));
-    if (caption == Caption::Beside) {
-        button->setText(words);
+    if (caption == Caption::Beside)
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    }
     if (picture.begins)
         TakeDoubleClickAsOne(*button);
     if (picture.command[0])

@@ -11,13 +11,10 @@ namespace qlm {
 
 class Commands;
 
-// One picture button: its control, its drawing, the words beside it and what it says when the mouse rests on
-// it.
+// One picture button: its control, its drawing, and what it runs.
 struct PictureButton {
     const char* name;
     const char* image;
-    const char16_t* caption; // may hold a mnemonic
-    const char16_t* toolTip;
     const char* command = ""; // where it isn't name + "_Click"
     bool begins = false;      // a run or a fetch: a double click is one click
 };

@@ -7,7 +7,6 @@
 
 #include <QBoxLayout>
 #include <QProgressBar>
-#include <QRegularExpression>
 
 namespace qlm {
 
@@ -16,7 +15,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 QProgressBar* NewProgressBar() {
-    auto* bar = Named(new QProgressBar, "prgProgress"_L1, u"Progress through the list"_s);
+    auto* bar = Named(new QProgressBar, "prgProgress"_L1);
+    bar->setAccessibleName(u"Progress through the list"_s);
     bar->setTextVisible(false);
     bar->setFixedWidth(140);
     bar->setMaximumHeight(8);
@@ -60,23 +60,21 @@ ActivityStrip::ActivityStrip(App& app) : m_app(app), m_bar(NewProgressBar()) {
 
     m_listener = m_app.controls.AddListener([this](const Control& control, Controls::Change change, int) {
         if (control.name == "lblProgress"_L1 && change == Controls::Change::Text)
-            ShowProgress(control.text);
+            ShowProgress();
     });
-    ShowProgress(m_app.controls.Text("lblProgress"_L1));
+    ShowProgress();
 }
 
 ActivityStrip::~ActivityStrip() {
     m_app.controls.RemoveListener(m_listener);
 }
 
-void ActivityStrip::ShowProgress(const QString& text) {
-    static const QRegularExpression numbers(uR"((\d+) of (\d+))"_s);
-    const QRegularExpressionMatch match = numbers.match(text);
-    const int total = match.hasMatch() ? match.captured(2).toInt() : 0;
-    m_bar->setVisible(total > 0);
-    if (total > 0) {
-        m_bar->setRange(0, total);
-        m_bar->setValue(match.captured(1).toInt());
+void ActivityStrip::ShowProgress() {
+    const Progress& progress = m_app.controls.Progress();
+    m_bar->setVisible(progress.total > 0);
+    if (progress.total > 0) {
+        m_bar->setRange(0, static_cast<int>(progress.total));
+        m_bar->setValue(static_cast<int>(progress.number));
     }
 }
 
@@ -89,7 +87,6 @@ FootLine::FootLine() {
     account->setAccessibleDescription(u"The account that is logged in"_s);
     account->setProperty("hideWhenEmpty", true);
     QLabel* practice = NewLabel("lblPracticeSite"_L1, u"badge"_s);
-    practice->setToolTip(u"The program works on the bundled practice site. No real site is touched."_s);
     practice->setProperty("hideWhenEmpty", true);
 
     auto* row = new QHBoxLayout(this);

@@ -17,8 +17,8 @@ public:
     ~ActivityStrip() override;
 
 private:
-    // The bar follows the numbers of a text like "ID 3 of 120", and goes with them.
-    void ShowProgress(const QString& text);
+    // The bar is there while there is progress to tell of.
+    void ShowProgress();
 
     App& m_app;
     QProgressBar* m_bar;

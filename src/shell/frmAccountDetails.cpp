@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "shell/frmAccountDetails.h"
-
+#include "shell/Form.h"
 #include "shell/FormParts.h"
+#include "shell/Forms.h"
 
 #include <QBoxLayout>
 #include <QDialogButtonBox>
@@ -15,8 +15,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // A line asks for its sign when its own sheet is set, not when the application's finds it by its name.
-QLineEdit* NewPassword(QLatin1StringView name, const QString& accessibleName) {
-    QLineEdit* line = NewLine(name, accessibleName);
+QLineEdit* NewPassword(QLatin1StringView name) {
+    QLineEdit* line = NewLine(name);
     line->setEchoMode(QLineEdit::Password);
     line->setStyleSheet(u"lineedit-password-character: 42"_s); // "*"
     return line;
@@ -24,8 +24,7 @@ QLineEdit* NewPassword(QLatin1StringView name, const QString& accessibleName) {
 
 } // namespace
 
-frmAccountDetails::frmAccountDetails(const FormContext& context)
-    : Form(context, u"frmAccountDetails"_s, u"Account Details"_s) {
+void BuildAccountDetails(Form& form) {
     auto* fields = Named(new QWidget, "fraFields"_L1);
     // The form keeps its size while it is busy and the fields are hidden.
     QSizePolicy policy = fields->sizePolicy();
@@ -33,18 +32,17 @@ frmAccountDetails::frmAccountDetails(const FormContext& context)
     fields->setSizePolicy(policy);
     auto* grid = new QFormLayout(fields);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->addRow(u"&E-mail address:"_s, NewLine("txtEmail"_L1, u"E-mail address"_s));
-    grid->addRow(u"&Password:"_s, NewPassword("txtPassword"_L1, u"Password"_s));
-    grid->addRow(u"Co&nfirm password:"_s, NewPassword("txtConfirmPassword"_L1, u"Confirm password"_s));
+    for (QLineEdit* line :
+         {NewLine("txtEmail"_L1), NewPassword("txtPassword"_L1), NewPassword("txtConfirmPassword"_L1)})
+        grid->addRow(NewCaptionOf(*line), line);
 
-    auto* column = new QVBoxLayout(this);
+    auto* column = new QVBoxLayout(&form);
     column->addWidget(
         NewText(u"The e-mail address and password with which you log in to the site."_s, u"quiet"_s));
     column->addWidget(fields);
     column->addStretch();
-    column->addWidget(
-        NewButtonRow({NewButton("cmdOK"_L1, u"&OK"_s), NewButton("cmdCancel"_L1, u"Cancel"_s)}));
-    resize(400, 210);
+    column->addWidget(NewButtonRow({"cmdOK"_L1, "cmdCancel"_L1}));
+    form.resize(400, 210);
 }
 
 } // namespace qlm

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "shell/frmFilters.h"
-
+#include "shell/Form.h"
 #include "shell/FormParts.h"
+#include "shell/Forms.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -16,108 +16,68 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QRadioButton* NewOption(QLatin1StringView name, const QString& caption) {
-    return Named(new QRadioButton(caption), name);
+QRadioButton* NewOption(QLatin1StringView name) {
+    return Named(new QRadioButton, name);
 }
 
-QLabel* NewHint(const QString& text) {
-    QLabel* hint = NewText(text, u"quiet"_s);
-    hint->setWordWrap(false);
-    return hint;
-}
-
-QHBoxLayout* Row(std::initializer_list<QWidget*> widgets) {
-    auto* row = new QHBoxLayout;
-    for (QWidget* widget : widgets)
-        row->addWidget(widget);
-    row->addStretch();
+QLayout* OptionRow(std::initializer_list<QLatin1StringView> names) {
+    QHBoxLayout* row = NewRow({});
+    int place = 0;
+    for (const QLatin1StringView name : names)
+        row->insertWidget(place++, NewOption(name));
     return row;
 }
 
-// Several frames have a choice of the same words, so each has a letter that leads to what is chosen in it,
-// and tells a screen reader what it is about.
-QGroupBox* Frame(const QString& title, std::initializer_list<QLayout*> rows) {
-    auto* frame = new QGroupBox(title);
-    auto* column = new QVBoxLayout(frame);
-    for (QLayout* row : rows)
-        column->addLayout(row);
-    for (auto* option : frame->findChildren<QRadioButton*>())
-        option->setAccessibleName(QString(title).remove(u'&') + u": "_s + option->text().remove(u':'));
-    return frame;
-}
-
+// Each frame has a letter that leads to what is chosen in it.
 QGroupBox* TypeFrame() {
-    return Frame(u"&Kind of profile"_s, {Row({
-                                            NewOption("optFilterOff"_L1, u"Filter Off"_s),
-                                            NewOption("optFilterBands"_L1, u"Bands"_s),
-                                            NewOption("optFilterComedy"_L1, u"Comedy"_s),
-                                            NewOption("optFilterFilm"_L1, u"Film"_s),
-                                            NewOption("optFilterPeople"_L1, u"People"_s),
-                                        })});
+    return NewFrame(u"&Kind of profile"_s,
+                    {OptionRow({"optFilterOff"_L1, "optFilterBands"_L1, "optFilterComedy"_L1,
+                                "optFilterFilm"_L1, "optFilterPeople"_L1})});
 }
 
 QGroupBox* GenderFrame() {
-    return Frame(u"&Gender"_s, {Row({
-                                   NewOption("optFilterGenderOff"_L1, u"Filter Off"_s),
-                                   NewOption("optFilterMale"_L1, u"Male"_s),
-                                   NewOption("optFilterFemale"_L1, u"Female"_s),
-                               })});
+    return NewFrame(u"&Gender"_s,
+                    {OptionRow({"optFilterGenderOff"_L1, "optFilterMale"_L1, "optFilterFemale"_L1})});
 }
 
 QGroupBox* AgeFrame() {
     auto* youngest = Named(new QComboBox, "cboFilterAge1"_L1);
     auto* oldest = Named(new QComboBox, "cboFilterAge2"_L1);
-    return Frame(u"&Age"_s, {Row({NewOption("optFilterAgeOff"_L1, u"Filter Off"_s)}),
-                             Row({
-                                 NewOption("optFilterAgeOn"_L1, u"Age:"_s),
-                                 NewCaptionOf(*youngest, u"from"_s, u"Youngest age"_s),
-                                 youngest,
-                                 NewCaptionOf(*oldest, u"to"_s, u"Oldest age"_s),
-                                 oldest,
-                             })});
+    return NewFrame(u"&Age"_s, {OptionRow({"optFilterAgeOff"_L1}),
+                                NewRow({NewOption("optFilterAgeOn"_L1), NewCaptionOf(*youngest), youngest,
+                                        NewCaptionOf(*oldest), oldest})});
 }
 
 QGroupBox* LocationFrame() {
-    QLineEdit* places = NewLine("txtFilterLocation"_L1, u"Locations"_s);
-    places->setToolTip(u"Seperate multiple locations by comma"_s);
     auto* place = new QHBoxLayout;
-    place->addWidget(NewOption("optFilterLocation"_L1, u"Location:"_s));
-    place->addWidget(places, 1);
-    return Frame(u"&Location"_s, {Row({NewOption("optFilterLocationOff"_L1, u"Filter Off"_s)}), place,
-                                  Row({NewHint(u"Seperate multiple locations by comma"_s)})});
+    place->addWidget(NewOption("optFilterLocation"_L1));
+    place->addWidget(NewLine("txtFilterLocation"_L1), 1);
+    QLabel* hint = NewText(u"Seperate multiple locations by comma"_s, u"quiet"_s);
+    hint->setWordWrap(false);
+    return NewFrame(u"&Location"_s, {OptionRow({"optFilterLocationOff"_L1}), place, NewRow({hint})});
 }
 
 QGroupBox* LastLoginFrame() {
-    QLineEdit* days = NewLine("txtFilterLastLoginDays"_L1, u"Days since the last login"_s);
-    days->setMaximumWidth(days->fontMetrics().averageCharWidth() * 9);
-    return Frame(u"La&st login"_s, {Row({
-                                        NewOption("optFilterLastLoginOff"_L1, u"Filter Off"_s),
-                                        NewOption("optFilterOnlineNow"_L1, u"Online now"_s),
-                                    }),
-                                    Row({
-                                        NewOption("optFilterLastLoginOn"_L1, u"Last login within"_s),
-                                        days,
-                                        new QLabel(u"days"_s),
-                                    })});
+    return NewFrame(u"La&st login"_s,
+                    {OptionRow({"optFilterLastLoginOff"_L1, "optFilterOnlineNow"_L1}),
+                     NewRow({NewOption("optFilterLastLoginOn"_L1), NewNumber("txtFilterLastLoginDays"_L1, 9),
+                             new QLabel(u"days"_s)})});
 }
 
 QGroupBox* WhenFrame() {
-    return Frame(u"&When to filter"_s, {Row({
-                                           NewOption("optFilterWhenGathering"_L1, u"Filter when gathering"_s),
-                                           NewOption("optFilterWhenSending"_L1, u"Filter when sending"_s),
-                                       })});
+    return NewFrame(u"&When to filter"_s,
+                    {OptionRow({"optFilterWhenGathering"_L1, "optFilterWhenSending"_L1})});
 }
 
 } // namespace
 
-frmFilters::frmFilters(const FormContext& context) : Form(context, u"frmFilters"_s, u"Filter Options"_s) {
-    auto* column = new QVBoxLayout(this);
+void BuildFilters(Form& form) {
+    auto* column = new QVBoxLayout(&form);
     for (QGroupBox* frame :
          {TypeFrame(), GenderFrame(), AgeFrame(), LocationFrame(), LastLoginFrame(), WhenFrame()})
         column->addWidget(frame);
     column->addStretch();
-    column->addWidget(
-        NewButtonRow({NewButton("cmdOK"_L1, u"&OK"_s), NewButton("cmdCancel"_L1, u"Cancel"_s)}));
+    column->addWidget(NewButtonRow({"cmdOK"_L1, "cmdCancel"_L1}));
 }
 
 } // namespace qlm

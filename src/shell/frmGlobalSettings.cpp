@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "shell/frmGlobalSettings.h"
-
 #include "core/SettingsFields.h"
+#include "shell/Form.h"
 #include "shell/FormParts.h"
+#include "shell/Forms.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -12,22 +12,14 @@ namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
-frmGlobalSettings::frmGlobalSettings(const FormContext& context)
-    : Form(context, u"frmGlobalSettings"_s, u"Global Settings"_s) {
-    auto* column = new QVBoxLayout(this);
+void BuildGlobalSettings(Form& form) {
+    auto* column = new QVBoxLayout(&form);
     for (const GlobalFlag& flag : SettingsFields::GlobalFlags())
         column->addWidget(Named(new QCheckBox, QLatin1StringView(flag.checkBox)));
-    auto* note = NewLabel("lblNote"_L1, u"quiet"_s);
-    note->setWordWrap(true);
-    column->addWidget(note);
+    column->addWidget(NewWrappedLabel("lblNote"_L1, u"quiet"_s));
     column->addStretch();
-    column->addWidget(NewButtonRow(
-        {NewButton("cmdClose"_L1, u"&Close"_s), NewButton("cmdResetAll"_L1, u"&Reset All..."_s)}));
-    resize(460, 480);
-}
-
-void frmGlobalSettings::reject() {
-    UserCloses();
+    column->addWidget(NewButtonRow({"cmdClose"_L1, "cmdResetAll"_L1}));
+    form.resize(460, 480);
 }
 
 } // namespace qlm

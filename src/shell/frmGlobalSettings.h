@@ -5,12 +5,12 @@
 
 namespace qlm {
 
-// Global Settings: what all accounts share, and the reset of everything.
+// Global Settings: which values all accounts share.
 class frmGlobalSettings : public Form {
 public:
-    explicit frmGlobalSettings(const FormContext& context);
-    // Close stores; Escape and the frame's cross leave everything as it was.
-    void reject() override;
+    using Form::Form;
+    // Leaves the flags as they were; the Close button stores them.
+    void reject() override { UserCloses(); }
 };
 
 } // namespace qlm

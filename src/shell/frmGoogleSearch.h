@@ -5,11 +5,11 @@
 
 namespace qlm {
 
-// Asks for the words of a web search, and stays beside the work with a Stop button while it goes on. Its
-// height follows what it has to show.
+// Google Search: the words that profiles are looked for by. What its closing means, while a search runs, is
+// the logic's.
 class frmGoogleSearch : public Form {
 public:
-    explicit frmGoogleSearch(const FormContext& context);
+    using Form::Form;
 
 protected:
     void UserCloses() override;

@@ -3,6 +3,7 @@
 
 #include "core/App.h"
 #include "shell/FormParts.h"
+#include "shell/Forms.h"
 #include "shell/PictureIcon.h"
 #include "shell/TickBox.h"
 #include "shell/WindowDialogs.h"
@@ -31,55 +32,49 @@ QLayout* Head() {
     return head;
 }
 
-} // namespace
-
-frmInteken::frmInteken(const FormContext& context)
-    : Form(context, u"frmInteken"_s, u"Quillmere v"_s + context.app.Version() + u" - Login Screen -"_s) {
-    m_list = Named(new QListView, "lstAccounts"_L1, u"Accounts"_s);
-    m_hint = NewText(u"Press Add and enter the e-mail address and password of your account."_s, u"hint"_s);
+QLayout* AccountsRow() {
     auto* upkeep = new QVBoxLayout;
-    upkeep->addWidget(NewButton("cmdAdd"_L1, u"&Add"_s));
-    upkeep->addWidget(NewButton("cmdEdit"_L1, u"&Edit"_s));
-    upkeep->addWidget(NewButton("cmdDelete"_L1, u"&Delete"_s));
+    for (const auto name : {"cmdAdd"_L1, "cmdEdit"_L1, "cmdDelete"_L1})
+        upkeep->addWidget(NewButton(name));
     upkeep->addStretch();
     auto* accounts = new QHBoxLayout;
-    accounts->addWidget(m_list, 1);
+    accounts->addWidget(Named(new QListView, "lstAccounts"_L1), 1);
     accounts->addLayout(upkeep);
+    return accounts;
+}
 
-    auto* terms = new QHBoxLayout;
+QLayout* TermsRow() {
+    QHBoxLayout* terms = NewRow({Named(new TickBox, "chkTOS"_L1), NewLink("lblTOS"_L1)});
     terms->setSpacing(2);
-    terms->addWidget(Named(new TickBox, "chkTOS"_L1, u"I agree to the Quillmere Terms of Service"_s));
-    terms->addWidget(NewLink("lblTOS"_L1, u"I agree to the Quillmere &Terms of Service"_s));
-    terms->addStretch();
+    return terms;
+}
 
-    QLabel* practice = NewLabel("lblPracticeSite"_L1, u"notice"_s);
-    practice->setWordWrap(true);
-    practice->setProperty("hideWhenEmpty", true);
-    QLabel* affiliation = NewLabel("Label5"_L1, u"quiet"_s);
-    affiliation->setWordWrap(true);
-    QPushButton* proceed = NewButton("cmdContinue"_L1, u"&Continue"_s);
+QLayout* Foot() {
+    QPushButton* proceed = NewButton("cmdContinue"_L1);
     proceed->setDefault(true);
     auto* foot = new QHBoxLayout;
-    foot->addWidget(affiliation, 1);
+    foot->addWidget(NewWrappedLabel("Label5"_L1, u"quiet"_s), 1);
     foot->addWidget(proceed);
+    return foot;
+}
 
-    auto* column = new QVBoxLayout(this);
+} // namespace
+
+void BuildLogin(Form& form) {
+    form.setWindowTitle(u"Quillmere v"_s + form.TheApp().Version() + u" - Login Screen -"_s);
+    auto* column = new QVBoxLayout(&form);
     column->setContentsMargins(22, 20, 22, 18);
     column->setSpacing(12);
     column->addLayout(Head());
-    column->addLayout(accounts, 1);
-    column->addWidget(m_hint);
-    column->addLayout(terms);
-    column->addWidget(practice);
-    column->addLayout(foot);
-    resize(520, 420);
-}
-
-void frmInteken::Bound() {
-    HintOnRows(*m_list, *m_hint, [this] {
-        const QStringList& accounts = m_app.controls.Items("frmInteken.lstAccounts"_L1);
-        return accounts.isEmpty() || accounts.first() == "No Accounts added..."_L1;
-    });
+    column->addLayout(AccountsRow(), 1);
+    column->addWidget(NewHintOnRows(
+        form.TheApp(), "frmInteken.lstAccounts"_L1,
+        u"Press Add and enter the e-mail address and password of your account."_s,
+        [](const QStringList& rows) { return rows.isEmpty() || rows.first() == "No Accounts added..."_L1; }));
+    column->addLayout(TermsRow());
+    column->addWidget(NewWrappedLabel("lblPracticeSite"_L1, u"notice"_s, true));
+    column->addLayout(Foot());
+    form.resize(520, 420);
 }
 
 void frmInteken::UserCloses() {

@@ -3,24 +3,15 @@
 
 #include "shell/Form.h"
 
-class QLabel;
-class QListView;
-
 namespace qlm {
 
-// The login screen: which account to log in with, and the account list's upkeep.
+// The login screen. Closed by the user before the main window has come up, it ends the program.
 class frmInteken : public Form {
 public:
-    explicit frmInteken(const FormContext& context);
+    using Form::Form;
 
 protected:
-    // Without a main window there is nothing left to run: the program ends.
     void UserCloses() override;
-    void Bound() override;
-
-private:
-    QListView* m_list;
-    QLabel* m_hint; // what to do first, while there is no account
 };
 
 } // namespace qlm

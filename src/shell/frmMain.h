@@ -6,9 +6,6 @@
 
 #include <QMainWindow>
 
-class QTabWidget;
-class QToolButton;
-
 namespace qlm {
 
 class App;
@@ -27,24 +24,16 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    QWidget* NewControlPanel();
-    QWidget* NewContent(BrowserViews& views);
-    QWidget* NewTab(const QString& caption);
-    void picCollapse_Click();
     void ConnectMainForm();
     WindowPlace Place() const;
     void SetPlace(const WindowPlace& place);
     void SettleOnScreen();
-    void OnChange(const Control& control, Controls::Change change);
 
     App& m_app;
     WindowDialogs& m_dialogs;
     ControlBinder m_binder;
-    QTabWidget* m_tabs = nullptr;
-    QToolButton* m_collapse = nullptr;
     bool m_isSettled = false;
     bool m_comesUpMaximized = false;
-    int m_listener;
 };
 
 } // namespace qlm

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "shell/frmProifleIDHelp.h"
-
+#include "shell/Form.h"
 #include "shell/FormParts.h"
+#include "shell/Forms.h"
 #include "shell/PictureIcon.h"
 
 #include <QBoxLayout>
@@ -15,16 +15,15 @@ namespace {
 constexpr QSize PictureSize(420, 210);
 }
 
-frmProifleIDHelp::frmProifleIDHelp(const FormContext& context)
-    : Form(context, u"frmProifleIDHelp"_s, u"Profile ID Help"_s) {
-    auto* picture = Named(new QLabel, "picProfileID"_L1,
-                          u"A profile's address ends with its ID: the number behind the last slash"_s);
-    picture->setPixmap(PictureIcon(u"PROFILEID"_s).pixmap(PictureSize, devicePixelRatioF()));
+void BuildProfileIDHelp(Form& form) {
+    auto* picture = Named(new QLabel, "picProfileID"_L1);
+    picture->setAccessibleName(u"A profile's address ends with its ID: the number behind the last slash"_s);
+    picture->setPixmap(PictureIcon(u"PROFILEID"_s).pixmap(PictureSize, form.devicePixelRatioF()));
     picture->setFixedSize(PictureSize);
-    auto* column = new QVBoxLayout(this);
+    auto* column = new QVBoxLayout(&form);
     column->setSizeConstraint(QLayout::SetFixedSize);
     column->addWidget(picture);
-    column->addWidget(NewButtonRow({NewButton("cmdClose"_L1, u"&Close"_s)}));
+    column->addWidget(NewButtonRow({"cmdClose"_L1}));
 }
 
 } // namespace qlm

@@ -23,32 +23,28 @@ namespace {
 constexpr QSize StartingSize(760, 460);
 }
 
-frmRunReport::frmRunReport(const FormContext& context)
-    : Form(context, u"frmRunReport"_s, u"Run Report"_s), m_rows(new ReportTable(this)) {
-    auto* runs = Named(new QComboBox, "cboRuns"_L1);
-    runs->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    auto* choice = new QHBoxLayout;
-    choice->addWidget(NewCaptionOf(*runs, u"&Run of"_s));
-    choice->addWidget(runs, 1);
-    QLabel* summary = NewLabel("lblSummary"_L1);
-    summary->setWordWrap(true);
-    QLabel* problem = NewLabel("lblProblem"_L1, u"notice"_s);
-    problem->setWordWrap(true);
-    problem->setProperty("hideWhenEmpty", true);
-
-    auto* column = new QVBoxLayout(this);
-    column->setSpacing(10);
-    column->addLayout(choice);
-    column->addWidget(summary);
-    column->addWidget(problem);
-    column->addWidget(NewTable(), 1);
-    column->addWidget(NewButtonRow(
-        {NewButton("cmdClose"_L1, u"&Close"_s), NewButton("cmdSaveCSV"_L1, u"&Save as CSV..."_s)}));
-    resize(StartingSize.boundedTo(screen()->availableSize()));
-
+frmRunReport::frmRunReport(const FormContext& context, const QString& name, const QString& title)
+    : Form(context, name, title), m_rows(new ReportTable(this)) {
     ReportDialog& report = m_app.Get<SendRuns>().ReportWindow();
     report.onRows = [this, &report] { m_rows->SetRows(report.Rows()); };
     report.onRows();
+}
+
+void frmRunReport::Build(Form& form) {
+    auto* runs = Named(new QComboBox, "cboRuns"_L1);
+    runs->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    auto* choice = new QHBoxLayout;
+    choice->addWidget(NewCaptionOf(*runs));
+    choice->addWidget(runs, 1);
+
+    auto* column = new QVBoxLayout(&form);
+    column->setSpacing(10);
+    column->addLayout(choice);
+    column->addWidget(NewWrappedLabel("lblSummary"_L1));
+    column->addWidget(NewWrappedLabel("lblProblem"_L1, u"notice"_s, true));
+    column->addWidget(static_cast<frmRunReport&>(form).NewTable(), 1);
+    column->addWidget(NewButtonRow({"cmdClose"_L1, "cmdSaveCSV"_L1}));
+    form.resize(StartingSize.boundedTo(form.screen()->availableSize()));
 }
 
 frmRunReport::~frmRunReport() {
@@ -59,7 +55,7 @@ QWidget* frmRunReport::NewTable() {
     auto* sorted = new QSortFilterProxyModel(this);
     sorted->setSortRole(ReportTable::SortRole);
     sorted->setSourceModel(m_rows);
-    auto* table = Named(new QTableView, "grdTargets"_L1, u"What became of each profile"_s);
+    auto* table = Named(new QTableView, "grdTargets"_L1);
     table->setModel(sorted);
     table->setSortingEnabled(true);
     // As they were worked on, until the user clicks a heading.

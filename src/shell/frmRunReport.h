@@ -10,7 +10,9 @@ class ReportTable;
 // What became of each profile of a run, as a table.
 class frmRunReport : public Form {
 public:
-    explicit frmRunReport(const FormContext& context);
+    frmRunReport(const FormContext& context, const QString& name, const QString& title);
+    // Lays out the form, which is one of this class.
+    static void Build(Form& form);
     ~frmRunReport() override;
 
 private:

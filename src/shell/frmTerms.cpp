@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "shell/frmTerms.h"
-
+#include "shell/Form.h"
 #include "shell/FormParts.h"
+#include "shell/Forms.h"
 
 #include <QBoxLayout>
 #include <QDialogButtonBox>
@@ -20,15 +20,15 @@ public:
 
 } // namespace
 
-frmTerms::frmTerms(const FormContext& context) : Form(context, u"frmTerms"_s, u"Terms of Service"_s) {
-    auto* terms = Named(new WordsAlone, "txtTerms"_L1, u"Terms of Service"_s);
+void BuildTerms(Form& form) {
+    auto* terms = Named(new WordsAlone, "txtTerms"_L1);
     terms->setOpenLinks(false);
     // Tab leaves the page; there is nothing to follow in it.
     terms->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    auto* column = new QVBoxLayout(this);
+    auto* column = new QVBoxLayout(&form);
     column->addWidget(terms, 1);
-    column->addWidget(NewButtonRow({NewButton("cmdClose"_L1, u"&Close"_s)}));
-    resize(520, 400);
+    column->addWidget(NewButtonRow({"cmdClose"_L1}));
+    form.resize(520, 400);
 }
 
 } // namespace qlm

@@ -2,6 +2,7 @@
 #include "shell/frmTimeDelay.h"
 
 #include "shell/FormParts.h"
+#include "shell/Forms.h"
 
 #include <QBoxLayout>
 #include <QDialogButtonBox>
@@ -14,51 +15,43 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct Bound {
+struct DelayBound {
     QLatin1StringView minutes;
     QLatin1StringView seconds;
-    const char16_t* caption;
-    const char16_t* word;
 };
 
-constexpr Bound Bounds[] = {
-    {"txtMinutes"_L1, "txtSeconds"_L1, u"&From", u"From"},
-    {"txtMinutes2"_L1, "txtSeconds2"_L1, u"&To", u"To"},
+constexpr DelayBound Bounds[] = {
+    {"txtMinutes"_L1, "txtSeconds"_L1},
+    {"txtMinutes2"_L1, "txtSeconds2"_L1},
 };
 
-QLineEdit* NewNumber(QLatin1StringView name, const QString& accessibleName) {
-    QLineEdit* line = NewLine(name, accessibleName);
+QLineEdit* NewFigure(QLatin1StringView name) {
+    QLineEdit* line = NewNumber(name, 10);
     line->setAlignment(Qt::AlignRight);
-    line->setMaximumWidth(line->fontMetrics().averageCharWidth() * 10);
     return line;
 }
 
-void AddBound(QGridLayout& grid, int row, const Bound& bound) {
-    const QString word = QString::fromUtf16(bound.word);
-    QLineEdit* minutes = NewNumber(bound.minutes, word + u", minutes"_s);
-    auto* caption = new QLabel(QString::fromUtf16(bound.caption));
-    caption->setBuddy(minutes);
-    grid.addWidget(caption, row, 0);
+void AddBound(QGridLayout& grid, int row, const DelayBound& bound) {
+    QLineEdit* minutes = NewFigure(bound.minutes);
+    grid.addWidget(NewCaptionOf(*minutes), row, 0);
     grid.addWidget(minutes, row, 1);
     grid.addWidget(new QLabel(u"minutes"_s), row, 2);
-    grid.addWidget(NewNumber(bound.seconds, word + u", seconds"_s), row, 3);
+    grid.addWidget(NewFigure(bound.seconds), row, 3);
     grid.addWidget(new QLabel(u"seconds"_s), row, 4);
 }
 
 } // namespace
 
-frmTimeDelay::frmTimeDelay(const FormContext& context) : Form(context, u"frmTimeDelay"_s, u"Time Delay"_s) {
-    QLabel* purpose = NewLabel("Label1"_L1);
-    purpose->setWordWrap(true);
+void BuildTimeDelay(Form& form) {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(8);
     for (int row = 0; row < 2; ++row)
         AddBound(*grid, row, Bounds[row]);
     grid->setColumnStretch(5, 1);
 
-    auto* column = new QVBoxLayout(this);
+    auto* column = new QVBoxLayout(&form);
     column->setSpacing(12);
-    column->addWidget(purpose);
+    column->addWidget(NewWrappedLabel("Label1"_L1));
     column->addLayout(grid);
     QLabel* problem = NewLabel("lblProblem"_L1, u"notice"_s);
     problem->setProperty("hideWhenEmpty", true);
@@ -66,9 +59,8 @@ frmTimeDelay::frmTimeDelay(const FormContext& context) : Form(context, u"frmTime
     column->addWidget(
         NewText(u"Each pause has a random length between the two. Two zeros mean no pause."_s, u"quiet"_s));
     column->addStretch();
-    column->addWidget(
-        NewButtonRow({NewButton("cmdOK"_L1, u"&OK"_s), NewButton("cmdCancel"_L1, u"Cancel"_s)}));
-    resize(420, 230);
+    column->addWidget(NewButtonRow({"cmdOK"_L1, "cmdCancel"_L1}));
+    form.resize(420, 230);
 }
 
 void frmTimeDelay::Bound() {

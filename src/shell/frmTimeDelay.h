@@ -8,7 +8,7 @@ namespace qlm {
 // Time Delay: the bounds of the pause between two sends.
 class frmTimeDelay : public Form {
 public:
-    explicit frmTimeDelay(const FormContext& context);
+    using Form::Form;
 
 protected:
     // The first number is replaced by what is typed, as the others are when the Tab key comes to them.

@@ -37,8 +37,9 @@ void StopResume::StopAll(const QString& reason) {
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     state.blnHoldLinkCheck = true;
 
-    for (const auto& label : {"myfraCurrentAction"_L1, "lblWaitingFor"_L1, "lblProgress"_L1})
+    for (const auto& label : {"myfraCurrentAction"_L1, "lblWaitingFor"_L1})
         Diagnostics::IgnoreErrors([&] { m_app.controls.SetText(label, {}); });
+    Diagnostics::IgnoreErrors([&] { m_app.controls.SetProgress({}); });
 
     // Writes to the disk, which may fail and bring a window up: nothing runs any more by then.
     m_app.Get<RunReport>().EndRun(reason);

@@ -6,8 +6,6 @@
 #include "Widgets.h"
 
 #include <QAction>
-#include <QTabBar>
-#include <QTabWidget>
 
 namespace qlm::scenario {
 
@@ -75,10 +73,10 @@ void Key(Stage& stage, Arguments& arguments) {
 void Tab(Stage& stage, Arguments& arguments) {
     const QString caption = arguments.Take("the caption");
     for (QWidget* form : stage.ReachableForms())
-        for (QTabBar* bar : form->findChildren<QTabBar*>())
-            for (int i = 0; i < bar->count(); ++i)
-                if (WithoutMnemonic(bar->tabText(i)) == caption) {
-                    bar->setCurrentIndex(i);
+        if (QWidget* strip = form->findChild<QWidget*>(u"TabStrip1"_s))
+            for (int row = 0; row < RowCount(strip); ++row)
+                if (RowText(strip, row) == caption) {
+                    SelectRow(strip, row);
                     return;
                 }
     Fail(u"there is no tab \"%1\""_s.arg(caption));

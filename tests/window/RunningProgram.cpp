@@ -25,7 +25,7 @@ void RunningProgram::PlanSending() {
     driver.Add({u"The login screen"_s, 60, [this] { return driver.Form("frmInteken") != nullptr; },
                 [this] { driver.Press("frmInteken", "cmdContinue"); }});
     driver.Add({u"The login"_s, 60, [this] { return app.Status() == u"Login successful!"_s; },
-                [this] { app.commands.Run(u"TabStrip1_Click"_s, 1); }});
+                [this] { driver.ChooseTab(u"Friend Requester"_s); }});
     driver.Add({u"The Friend Requester"_s, 10,
                 [this] { return driver.Find("frmMain", "piccmdAddFriends") != nullptr; },
                 [this] { driver.Press("frmMain", "piccmdAddFriends"); }});

@@ -67,6 +67,32 @@ TEST(Controls, TheRowsOfAListBecomeAnArrayWhoseEmptyStateIsOneEmptyEntry) {
     EXPECT_EQ(array, (QStringList{u"1001"_s, u"1002"_s}));
 }
 
+TEST(Controls, ACaptionIsShownWithItsLetterAndReadWithout) {
+    Controls controls;
+    EXPECT_EQ(controls.Text("frmInteken.cmdAdd"_L1), u"Add"_s);
+    EXPECT_EQ(QString::fromUtf16(controls["frmInteken.cmdAdd"_L1].row->caption), u"&Add"_s);
+    EXPECT_EQ((ControlRow{"x", ControlType::Button, u"&This && that"}.PlainCaption()), u"This & that"_s);
+    EXPECT_EQ(controls["frmAccountDetails.txtEmail"_L1].row->SpokenName(), u"E-mail address"_s);
+    EXPECT_EQ(controls["frmTimeDelay.txtMinutes"_L1].row->SpokenName(), u"From, minutes"_s);
+}
+
+TEST(Controls, WhatTheWindowShowsIsAValueThatTheLabelsSayInWords) {
+    Controls controls;
+    controls.SetProgress({3, 120});
+    EXPECT_EQ(controls.Progress().number, 3);
+    EXPECT_EQ(controls.Progress().total, 120);
+    EXPECT_EQ(controls.Text("lblProgress"_L1), u"ID 3 of 120"_s);
+    controls.SetProgress({});
+    EXPECT_EQ(controls.Text("lblProgress"_L1), QString());
+    controls.SetTimeDelay({true, {}});
+    EXPECT_EQ(controls.Text("lblTimeDelay"_L1), u"Time Delay: ON"_s);
+    controls.SetTimeDelay({true, 69});
+    EXPECT_EQ(controls.TimeDelay().secondsLeft, 69);
+    EXPECT_EQ(controls.Text("lblTimeDelay"_L1), u"Time Delay: 01:09"_s);
+    controls.SetTimeDelay({});
+    EXPECT_EQ(controls.Text("lblTimeDelay"_L1), u"Time Delay: OFF"_s);
+}
+
 TEST(Controls, AnUnknownNameIsAMistakeThatShows) {
     Controls controls;
     EXPECT_THROW(controls.SetText("txtNoSuchThing"_L1, u"x"_s), std::logic_error);

@@ -61,13 +61,13 @@ TEST_F(BlackListTest, WhileTheWindowIsFilledItCannotBeAddedToOrClosed) {
         ++turns;
         for (const auto button : buttons)
             EXPECT_FALSE(app->controls[button].enabled) << button.data();
-        EXPECT_EQ(app->controls.Text("MousePointer"_L1), u"11"_s);
+        EXPECT_EQ(app->controls.Pointer(), PointerShape::Busy);
     };
     app->Get<BlackList>().FillBlacklist(app->Get<BlackList>().Path(), false, false);
     EXPECT_GT(turns, 0);
     for (const auto button : buttons)
         EXPECT_TRUE(app->controls[button].enabled) << button.data();
-    EXPECT_EQ(app->controls.Text("MousePointer"_L1), u"0"_s);
+    EXPECT_EQ(app->controls.Pointer(), PointerShape::Usual);
 }
 
 TEST_F(BlackListTest, AddAppendsALineAndARowAlsoASecondTime) {
@@ -130,7 +130,7 @@ TEST_F(BlackListTest, CancelReadsNothingAndTheButtonsWorkAgain) {
             EXPECT_TRUE(app->controls[button].enabled) << button.data();
     });
     EXPECT_TRUE(Lines().isEmpty());
-    EXPECT_EQ(app->controls.Text("MousePointer"_L1), u"0"_s);
+    EXPECT_EQ(app->controls.Pointer(), PointerShape::Usual);
 }
 
 TEST_F(BlackListTest, WhileAFileIsAddedTheButtonsRest) {
@@ -144,7 +144,7 @@ TEST_F(BlackListTest, WhileAFileIsAddedTheButtonsRest) {
                  {"frmBlacklist.txtID"_L1, "frmBlacklist.cmdAdd"_L1, "frmBlacklist.cmdAddFromFile"_L1,
                   "frmBlacklist.cmdDelete"_L1, "frmBlacklist.cmdClearList"_L1, "frmBlacklist.cmdClose"_L1})
                 EXPECT_FALSE(app->controls[name].enabled) << name.data();
-            EXPECT_EQ(app->controls.Text("MousePointer"_L1), u"11"_s);
+            EXPECT_EQ(app->controls.Pointer(), PointerShape::Busy);
             enabled = false;
         };
         AddFromFile(many, Dialogs::Answer::No);

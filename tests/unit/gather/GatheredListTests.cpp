@@ -153,7 +153,7 @@ TEST_F(GatheredListTest, CancelAtTheQuestionReadsNothing) {
     Add({u"1"_s});
     Import({u"8"_s, u"9"_s}, Dialogs::Answer::Cancel);
     EXPECT_EQ(Ids(), QStringList{u"1"_s});
-    EXPECT_EQ(app->controls.Text("MousePointer"_L1), u"0"_s);
+    EXPECT_EQ(app->controls.Pointer(), PointerShape::Usual);
 }
 
 TEST_F(GatheredListTest, CancelAtTheFileAsksNothing) {
@@ -218,13 +218,12 @@ TEST_F(GatheredListTest, ShuffleSwapsFromTheTop) {
 
 TEST_F(GatheredListTest, ShuffleShowsThatItIsBusy) {
     Add({u"1"_s, u"2"_s});
-    QStringList meanwhile;
-    platform->Pump().onPump = [&] {
-        meanwhile = {app->state.CurrentAction, app->controls.Text("MousePointer"_L1)};
-    };
+    std::pair<QString, PointerShape> meanwhile;
+    platform->Pump().onPump = [&] { meanwhile = {app->state.CurrentAction, app->controls.Pointer()}; };
     app->commands.Run(u"picRandomize_Click"_s);
-    EXPECT_EQ(meanwhile, (QStringList{u"RANDOMIZING"_s, u"11"_s}));
-    EXPECT_EQ(app->controls.Text("MousePointer"_L1), u"0"_s);
+    EXPECT_EQ(meanwhile.first, u"RANDOMIZING"_s);
+    EXPECT_EQ(meanwhile.second, PointerShape::Busy);
+    EXPECT_EQ(app->controls.Pointer(), PointerShape::Usual);
 }
 
 TEST_F(GatheredListTest, ShuffleRefusesDuringARun) {

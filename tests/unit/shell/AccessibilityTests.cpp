@@ -2,6 +2,7 @@
 // Every form and panel, worked by the keyboard and read out by a screen reader.
 #include "WindowTest.h"
 #include "shell/FormRegistry.h"
+#include "shell/TabStrip.h"
 #include "steps/StopResume.h"
 
 #include <QAccessible>
@@ -9,7 +10,6 @@
 #include <QKeyEvent>
 #include <QRadioButton>
 #include <QSet>
-#include <QTabWidget>
 
 namespace qlm {
 namespace {
@@ -82,10 +82,11 @@ TEST_F(AccessibilityTest, WhateverCanHaveTheFocusOfTheMainWindowHasANameAndIsRea
     dialogs.ShowForm(u"frmMain"_s);
     app->Get<StopResume>().StopAll(u"TEST"_s);
     QWidget& window = *dialogs.FormWidget(u"frmMain"_s);
-    auto* tabs = window.findChild<QTabWidget*>(u"TabStrip1"_s);
-    for (int tab = 0; tab < tabs->count(); ++tab) {
-        SCOPED_TRACE(tabs->tabText(tab).toStdString());
-        tabs->setCurrentIndex(tab);
+    auto* tabs = dynamic_cast<TabStrip*>(window.findChild<QWidget*>(u"TabStrip1"_s));
+    for (int tab = 0; tab < tabs->model()->rowCount(); ++tab) {
+        const QModelIndex row = tabs->model()->index(tab, 0);
+        SCOPED_TRACE(row.data().toString().toStdString());
+        tabs->setCurrentIndex(row);
         window.findChild<QWidget*>(u"txtAddress"_s)->setFocus();
         EXPECT_GT(Focusable(window).size(), 20);
         ExpectSpoken(window);
@@ -99,7 +100,8 @@ TEST_F(AccessibilityTest, ThePageTakesTheKeysOfTheButtonThatWasPressedLast) {
     app->Get<StopResume>().StopAll(u"TEST"_s);
     QWidget* window = dialogs.FormWidget(u"frmMain"_s);
     QApplication::setActiveWindow(window);
-    window->findChild<QTabWidget*>(u"TabStrip1"_s)->setCurrentIndex(1);
+    auto* tabs = window->findChild<QListView*>(u"TabStrip1"_s);
+    tabs->setCurrentIndex(tabs->model()->index(1, 0));
     auto* send = window->findChild<QWidget*>(u"piccmdAddFriends"_s);
     send->setFocus();
     ASSERT_EQ(window->focusWidget(), send);

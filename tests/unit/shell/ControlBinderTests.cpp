@@ -5,6 +5,7 @@
 #include "shell/TickBox.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -124,7 +125,6 @@ TEST_F(ControlBinderTest, TheLogicMovesTheInputFocusAndWhatStandsThereIsSelected
 TEST_F(ControlBinderTest, AButtonRunsItsCommandAndKeepsItsAccessKey) {
     Count("frmInteken.cmdContinue_Click");
     auto* button = Add<QPushButton>("cmdContinue"_L1);
-    button->setText(u"&Continue"_s);
     Bind(u"frmInteken."_s);
     EXPECT_EQ(button->text(), u"&Continue"_s);
     button->click();
@@ -336,6 +336,58 @@ TEST_F(ControlBinderTest, AMenuItemsTickIsTurnedByItsCommandAlone) {
     turns = true;
     action.trigger();
     EXPECT_TRUE(action.isChecked());
+}
+
+TEST_F(ControlBinderTest, MenuItemsOfOneGroupShowAsOptions) {
+    QAction on;
+    on.setObjectName(u"mnuMultipleAccountsFROn"_s);
+    QAction off;
+    off.setObjectName(u"mnuMultipleAccountsFROff"_s);
+    app->commands.Add(u"mnuMultipleAccountsFROn_Click"_s,
+                      [this] { Table().SetTicked("mnuMultipleAccountsFROn"_L1, true); });
+    ControlBinder& menu = Bind();
+    menu.Bind(on);
+    menu.Bind(off);
+    EXPECT_EQ(on.text(), u"On (always)"_s);
+    ASSERT_NE(on.actionGroup(), nullptr);
+    EXPECT_EQ(on.actionGroup(), off.actionGroup());
+    EXPECT_TRUE(on.actionGroup()->isExclusive());
+    EXPECT_TRUE(off.isChecked());
+    on.trigger();
+    EXPECT_TRUE(on.isChecked());
+    EXPECT_FALSE(off.isChecked());
+    Table().SetTicked("mnuMultipleAccountsFROn"_L1, false);
+    EXPECT_FALSE(on.isChecked());
+}
+
+TEST_F(ControlBinderTest, AMenuItemComesAndGoesAndChangesItsWordsWithTheTable) {
+    Table().SetVisible("mnuCaptchaPopup"_L1, false);
+    QAction action;
+    action.setObjectName(u"mnuCaptchaPopup"_s);
+    Bind().Bind(action);
+    EXPECT_FALSE(action.isVisible());
+    Table().SetVisible("mnuCaptchaPopup"_L1, true);
+    EXPECT_TRUE(action.isVisible());
+    Table().SetText("mnuCaptchaPopup"_L1, u"Popups & sounds"_s);
+    EXPECT_EQ(action.text(), u"&Popups && sounds"_s);
+}
+
+TEST_F(ControlBinderTest, AnItemOfAnArrayRunsTheArraysCommandWithItsNumber) {
+    Count("mnuContextIDsListItem_Click");
+    QAction action;
+    action.setObjectName(u"mnuContextIDsListItem(3)"_s);
+    Bind().Bind(action);
+    action.trigger();
+    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(lastArgument, 3);
+}
+
+TEST_F(ControlBinderTest, AFormShowsThePointerThatTheLogicAsksFor) {
+    Table().SetPointer(PointerShape::Busy);
+    Bind();
+    EXPECT_EQ(window.cursor().shape(), Qt::WaitCursor);
+    Table().SetPointer(PointerShape::Usual);
+    EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
 }
 
 TEST_F(ControlBinderTest, AFaultInACommandIsReportedUnderItsName) {

@@ -15,7 +15,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTabBar>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QTimer>
@@ -31,8 +30,7 @@ QStringList IdleButtons(const App& app, const QWidget& window, const QString& pr
     QStringList idle;
     for (const auto* button : window.findChildren<QAbstractButton*>()) {
         const QString name = button->objectName();
-        const bool isQts =
-            name.isEmpty() || name.startsWith(u"qt_"_s) || qobject_cast<QTabBar*>(button->parent());
+        const bool isQts = name.isEmpty() || name.startsWith(u"qt_"_s);
         if (isQts || button->isCheckable() || name == "picCollapse"_L1)
             continue;
         const QString own = button->property("command").toString();

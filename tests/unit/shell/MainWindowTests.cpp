@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
@@ -18,7 +19,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStackedLayout>
-#include <QTabWidget>
+#include <QStackedWidget>
 #include <QToolButton>
 
 namespace qlm {
@@ -49,8 +50,9 @@ TEST_F(MainWindowTest, ComesUpLoadedAndTitled) {
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(window->windowTitle(),
               u"Quillmere v"_s + app->Version() + u" – Start Growing Your MySpace Friends!"_s);
-    EXPECT_EQ(Named<QTabWidget>("TabStrip1")->tabText(0), u"Gather ID's"_s);
-    EXPECT_EQ(Named<QTabWidget>("TabStrip1")->tabText(1), u"Friend Requester"_s);
+    const QAbstractItemModel* tabs = Named<QListView>("TabStrip1")->model();
+    EXPECT_EQ(tabs->index(0, 0).data().toString(), u"Gather ID's"_s);
+    EXPECT_EQ(tabs->index(1, 0).data().toString(), u"Friend Requester"_s);
     EXPECT_TRUE(Named<QWidget>("ucpanelFullGatherIDNotify")->isHidden());
 }
 
@@ -86,12 +88,12 @@ TEST_F(MainWindowTest, BothBrowsersStayShownSoThatNeitherIsSlowedDown) {
 
 TEST_F(MainWindowTest, ATabClickGoesThroughTheLogicAndTheLogicMovesTheTab) {
     app->controls.SetTicked("optImportClickedProfiles"_L1, true);
-    auto* tabs = Named<QTabWidget>("TabStrip1");
-    tabs->setCurrentIndex(1);
+    auto* tabs = Named<QListView>("TabStrip1");
+    tabs->setCurrentIndex(tabs->model()->index(1, 0));
     EXPECT_EQ(app->controls.Selected("TabStrip1"_L1), 1);
     EXPECT_TRUE(app->controls.Ticked("optScanFollowing"_L1));
     app->ShowTab(u"Gather ID's"_s);
-    EXPECT_EQ(tabs->currentIndex(), 0);
+    EXPECT_EQ(tabs->currentIndex().row(), 0);
 }
 
 TEST_F(MainWindowTest, EnterOnALinkFollowsIt) {
@@ -113,19 +115,19 @@ TEST_F(MainWindowTest, EnterInTheAddressLineGoesThere) {
 TEST_F(MainWindowTest, TheControlPanelFoldsAwayAndComesBack) {
     auto* fold = Named<QToolButton>("picCollapse");
     fold->click();
-    EXPECT_TRUE(Named<QTabWidget>("TabStrip1")->isHidden());
+    EXPECT_TRUE(Named<QStackedWidget>("fraPanels")->isHidden());
     fold->click();
-    EXPECT_FALSE(Named<QTabWidget>("TabStrip1")->isHidden());
+    EXPECT_FALSE(Named<QStackedWidget>("fraPanels")->isHidden());
 }
 
 TEST_F(MainWindowTest, TheProgressBarFollowsWhichOfHowMany) {
     auto* bar = Named<QProgressBar>("prgProgress");
     EXPECT_TRUE(bar->isHidden());
-    app->controls.SetText("lblProgress"_L1, u"ID 3 of 120"_s);
+    app->controls.SetProgress({3, 120});
     EXPECT_FALSE(bar->isHidden());
     EXPECT_EQ(bar->value(), 3);
     EXPECT_EQ(bar->maximum(), 120);
-    app->controls.SetText("lblProgress"_L1, {});
+    app->controls.SetProgress({});
     EXPECT_TRUE(bar->isHidden());
 }
 
@@ -148,10 +150,22 @@ TEST_F(MainWindowTest, TheListsMenuRunsItsItemsByTheirNumbers) {
     EXPECT_EQ(lastArgument, 3);
 }
 
+TEST_F(MainWindowTest, AMenuGoesWithTheLastOfItsItems) {
+    const QMenu* menu = Named<QMenu>("mnuCAPTCHAAlerts");
+    EXPECT_TRUE(menu->menuAction()->isVisible());
+    for (const auto item : {"mnuCaptchaSound"_L1, "mnuCaptchaPopup"_L1, "mnuCaptchaRestoreIfMinimized"_L1,
+                            "mnuSkipProfileCAPTCHAs"_L1})
+        app->controls.SetVisible(item, false);
+    EXPECT_FALSE(menu->menuAction()->isVisible());
+    app->controls.SetVisible("mnuCaptchaSound"_L1, true);
+    EXPECT_TRUE(menu->menuAction()->isVisible());
+    EXPECT_EQ(menu->title(), u"&CAPTCHA Settings"_s);
+}
+
 TEST_F(MainWindowTest, TheWaitPointerShowsWhileTheLogicAsksForIt) {
-    app->controls.SetText("MousePointer"_L1, u"11"_s);
+    app->controls.SetPointer(PointerShape::Busy);
     EXPECT_EQ(window->cursor().shape(), Qt::WaitCursor);
-    app->controls.SetText("MousePointer"_L1, u"0"_s);
+    app->controls.SetPointer(PointerShape::Usual);
     EXPECT_EQ(window->cursor().shape(), Qt::ArrowCursor);
 }
 
@@ -195,11 +209,13 @@ TEST_F(WindowTest, ATabThatIsShownFirstLaterDoesNotPushThePage) {
     dialogs.ShowForm(u"frmMain"_s);
     app->Get<StopResume>().StopAll(u"TEST"_s);
     QApplication::processEvents();
-    auto* tabs = Find<QTabWidget>("frmMain", "TabStrip1");
-    const int width = tabs->width();
-    tabs->setCurrentIndex(1);
+    auto* tabs = Find<QListView>("frmMain", "TabStrip1");
+    const auto* panels = Find<QStackedWidget>("frmMain", "fraPanels");
+    const int width = panels->width();
+    tabs->setCurrentIndex(tabs->model()->index(1, 0));
     QApplication::processEvents();
-    EXPECT_EQ(tabs->width(), width);
+    EXPECT_EQ(panels->currentIndex(), 1);
+    EXPECT_EQ(panels->width(), width);
 }
 
 TEST_F(MainWindowTest, TheOptionsOfARequestAreShownAndSayWhatTheyAreGoodFor) {

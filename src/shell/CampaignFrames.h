@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLatin1StringView>
+#include <initializer_list>
+
+class QGroupBox;
+class QHBoxLayout;
+class QLayout;
+class QVBoxLayout;
+
+namespace qlm {
+
+class Commands;
+
+// The frames that the panels of the campaigns share, built for the controls of one of them.
+
+// How many, and what that counts for.
+QGroupBox* NewLimitFrame(QLatin1StringView limit, QLatin1StringView period);
+
+struct CounterNames {
+    QLatin1StringView sent;
+    QLatin1StringView today;
+    QLatin1StringView failed = {}; // empty where the campaign doesn't count them
+    QLatin1StringView skipped = {};
+};
+QLayout* NewCounters(const CounterNames& names);
+
+// Start and stop.
+QHBoxLayout* NewRunRow(const Commands& commands, QLatin1StringView start, QLatin1StringView stop);
+
+// The run band of a campaign: start, stop and counters.
+QVBoxLayout* NewRunBand(const Commands& commands, QLatin1StringView start, QLatin1StringView stop,
+                        const CounterNames& counters);
+
+// What goes out: the text that is written here, or entries of a list.
+struct ContentNames {
+    QLatin1StringView single;
+    QLatin1StringView fromList;
+    QLatin1StringView list;
+    QLatin1StringView subject; // empty where there is none
+    QLatin1StringView body;
+};
+QGroupBox* NewContentFrame(const ContentNames& names);
+
+} // namespace qlm

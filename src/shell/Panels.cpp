@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#include "shell/Panels.h"
+
+#include <QString>
+#include <stdexcept>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct PanelRow {
+    QLatin1StringView name;
+    QWidget* (*build)(App&, ControlBinder&);
+};
+
+constexpr PanelRow Panels[] = {
+    {"picScanIDs"_L1, BuildScanIDs},
+    {"picFriendRequester"_L1, BuildFriendRequester},
+};
+
+} // namespace
+
+QWidget* BuildPanel(QLatin1StringView name, App& app, ControlBinder& binder) {
+    for (const PanelRow& panel : Panels)
+        if (name == panel.name)
+            return panel.build(app, binder);
+    throw std::logic_error("No panel is named " + QString(name).toStdString());
+}
+
+} // namespace qlm
