@@ -122,8 +122,10 @@ TEST_F(PageClassTest, WhatStandsInTheMarkupAloneIsNoText) {
     EXPECT_EQ(ClassOf(u"<i title=\""_s + TextOf(16) + u"\">x</i>"_s, u"COM"_s), 0);
 }
 
-TEST_F(PageClassTest, APrivateProfileIsKnownInAnyLetterCaseForCommentsToo) {
+TEST_F(PageClassTest, APrivateProfileIsARefusalForCommentsWhateverElseItShows) {
     EXPECT_EQ(ClassOf(TextOf(16).toUpper() + u" last login"_s, u"COM"_s), 16);
+    EXPECT_TRUE(isErrorPage);
+    EXPECT_EQ(ClassOf(TextOf(17) + TextOf(16) + u" last login"_s, u"COM"_s), 16);
 }
 
 TEST_F(PageClassTest, EveryErrorPageHasWordsForTheReport) {
@@ -166,6 +168,8 @@ TEST_F(PageClassTest, TheErrorAddressIsTriedBetweenItsNeighbours) {
     EXPECT_EQ(ClassOf(u"Welcome"_s, u"FR"_s, address), 32);
     EXPECT_TRUE(isErrorPage);
     EXPECT_FALSE(State().blnSkipCurrentID);
+    EXPECT_FALSE(State().blnDailyLimitHit);
+    EXPECT_EQ(ClassOf(u"Welcome"_s, u"FR"_s, address + u"?from=list"_s), 32);
     EXPECT_EQ(ClassOf(TextOf(31), u"FR"_s, address), 31);
     EXPECT_EQ(ClassOf(TextOf(33), u"FR"_s, address), 32);
     EXPECT_EQ(ClassOf(u"Welcome"_s, u"FR"_s, u"{SiteRootHost}/errors.aspx"_s), 0);
