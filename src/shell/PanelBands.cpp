@@ -42,6 +42,12 @@ public:
     }
 
     QSize sizeHint() const override { return widget()->sizeHint().expandedTo(minimumSizeHint()); }
+    void resizeEvent(QResizeEvent* event) override {
+        QScrollArea::resizeEvent(event);
+        // What is in it may have come to know its height just now, with its style.
+        if (height() < sizeHint().height())
+            updateGeometry();
+    }
     QSize minimumSizeHint() const override {
         const QSize least = widget()->minimumSizeHint();
         const int bar = verticalScrollBar()->sizeHint().width();

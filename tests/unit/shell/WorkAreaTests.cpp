@@ -130,6 +130,19 @@ TEST_F(WorkAreaTest, StartStopAndCountersStayInSightHoweverLowTheWindowIs) {
     }
 }
 
+TEST_F(WorkAreaTest, NothingScrollsWhereThereIsRoom) {
+    Resize(1440, 900);
+    for (int tab = 0; tab < panels->count(); ++tab) {
+        ClickTab(tab);
+        QApplication::processEvents();
+        const auto* options = panels->currentWidget()->findChild<QScrollArea*>();
+        EXPECT_EQ(options->verticalScrollBar()->maximum(), 0)
+            << tab << ": " << options->height() << " of " << options->sizeHint().height() << ", content "
+            << options->widget()->sizeHint().height() << " least "
+            << options->widget()->minimumSizeHint().height();
+    }
+}
+
 TEST_F(WorkAreaTest, NoPanelIsCutOff) {
     Resize(1024, 700);
     for (int tab = 0; tab < panels->count(); ++tab) {
