@@ -75,10 +75,7 @@ void Remark(App& app, const char* why) {
 }
 
 void LoadHomePage(App& app) {
-    const RunMark mark = app.waiting.Mark();
     app.ClearPage();
-    if (!app.waiting.IsCurrent(mark))
-        return;
     app.WebBrowser1().Navigate(app.Expand(u"{HomeHost}/index.cfm?fuseaction=home"_s));
     app.waiting.Pump();
 }
@@ -93,15 +90,12 @@ void SkipTarget(App& app) {
 }
 
 void LogInAgain(App& app) {
-    const RunMark mark = app.waiting.Mark();
     app.state.blnLinkFound = true;
     Remark(app, "The session was lost; you were signed in again");
     app.Get<StepDispatcher>().logInAgain();
-    app.waiting.WaitFor(u"the page to be complete"_s,
-                        [&] { return app.WebBrowser1().Busy() && app.waiting.IsCurrent(mark); });
     // A stop meanwhile is the last word; and the page after the login may have given the target up already.
-    if (!app.waiting.IsCurrent(mark))
-        return;
+    app.waiting.LeaveIfObsolete();
+    app.waiting.WaitFor(u"the page to be complete"_s, [&] { return app.WebBrowser1().Busy(); });
     if (const Activity* activity = RunningActivity(app); activity && activity->onSignedInAgain)
         activity->onSignedInAgain(app);
     else
@@ -165,10 +159,8 @@ void GiveUpRequestAtInbox(App& app) {
 
 void ReloadForum(App& app) {
     const QString address = app.Get<PageSigns>().LocationURL();
-    const RunMark mark = app.waiting.Mark();
     app.ClearPage();
-    if (app.waiting.IsCurrent(mark))
-        app.WebBrowser1().Navigate(address);
+    app.WebBrowser1().Navigate(address);
 }
 
 void RefuseLanguage(App& app) {
@@ -217,7 +209,6 @@ void ExplainCertificate(App& app) {
     const QString key = u"Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings"_s;
     Trace(app, u"Security Certificate Error - "_s +
                    app.platform.Settings().GetSetting(key, u"CertificateRevocation"_s, u"x"_s));
-    const RunMark mark = app.waiting.Mark();
     app.Get<StopResume>().PauseLinkCheck();
     app.ShowMessage(
         u"A current bug in Internet Explorer or MySpace may be causing the error you see on this page. "
@@ -229,8 +220,8 @@ void ExplainCertificate(App& app) {
         "the 'check for server certificate revocation*' setting is unchecked.\n\n"
         "After that close any Internet Explorer windows and restart Quillmere"_s,
         u"Login error"_s);
-    if (app.waiting.IsCurrent(mark))
-        app.Get<StopResume>().ResumeLinkCheck();
+    app.waiting.LeaveIfObsolete();
+    app.Get<StopResume>().ResumeLinkCheck();
 }
 
 void SkipMailSetUp(App& app) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "RequestRun.h"
+#include "campaigns/Campaigns.h"
 #include "core/SettingsFields.h"
 #include "steps/RunReport.h"
 #include "steps/StopResume.h"
@@ -23,7 +24,13 @@ protected:
     }
     Verdict Take(bool captcha = false) {
         Browser().TakeVisited();
-        return TakeDetour(*app, captcha);
+        // As the tick does it.
+        Verdict verdict = false;
+        Waiting::LeaveHere([&] {
+            const Waiting::Owned owned(app->waiting);
+            verdict = TakeDetour(*app, captcha);
+        });
+        return verdict;
     }
     bool TakesNone(bool captcha = false) { return !Take(captcha).has_value(); }
     bool TakesUnfound(bool captcha = false) { return Take(captcha) == Verdict(false); }
@@ -605,12 +612,12 @@ TEST_F(DetourTest, TheReportSaysWhyATargetWasLeft) {
              {u"{MessagingHost}/index.cfm?fuseaction=mail.inbox"_s, u"x"_s, 8,
               "The site showed your inbox instead of a confirmation"}}) {
         RunReport& report = app->Get<RunReport>();
-        report.BeginRun();
+        report.BeginRun(FriendRequests.report, FriendRequests.reasons);
         report.Open(u"1001"_s);
         Show(row.address, row.body);
         BeginRequests(row.step);
         EXPECT_TRUE(TakesUnfound());
-        const ReportedRun run = report.Runs().constLast();
+        const ReportedRun run = report.Runs(FriendRequests.report).constLast();
         ASSERT_FALSE(run.rows.isEmpty());
         EXPECT_EQ(run.rows.constFirst().why, QString::fromLatin1(row.why));
     }
