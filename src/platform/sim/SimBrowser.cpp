@@ -108,6 +108,11 @@ int SimBrowser::Need(const QString& selector) {
     return node;
 }
 
+void SimBrowser::LosePage() {
+    if (m_document)
+        m_document->Retire();
+}
+
 void SimBrowser::FollowLink(const QString& text) {
     int whole = 0;
     int part = 0;

@@ -42,6 +42,8 @@ public:
     void RightClick();
     // The engine reports a status text.
     void ShowStatus(const QString& text);
+    // The engine loses the page: whoever asks it anything gets a BrowserError.
+    void LosePage();
 
     struct Posted {
         QString url; // the form's action

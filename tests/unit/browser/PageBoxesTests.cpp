@@ -47,6 +47,15 @@ TEST_F(PageBoxesTest, WhileSendingThePagesMenuIsForCaptchasAlone) {
         EXPECT_TRUE(comesUp(action)) << action.toStdString();
 }
 
+// Whether it asks for a CAPTCHA nobody can tell.
+TEST_F(PageBoxesTest, APageThatCannotBeReadHasNoMenuInARun) {
+    app->Get<BrowserHost>().Attach();
+    Show(u"Type the two words:"_s);
+    State().CurrentAction = u"FR"_s;
+    Browser().LosePage();
+    EXPECT_FALSE(Browser().events.contextMenu());
+}
+
 TEST_F(PageBoxesTest, APageThatIsStillToComeHasNoMenuInARun) {
     app->Get<BrowserHost>().Attach();
     Show(u"{SiteRootHost}/page"_s, u"x"_s, SimFault::NoBody);
