@@ -26,7 +26,12 @@ const std::vector<StartCheck>& Checks() {
 } // namespace
 
 constinit const Campaign Bulletins{
-    .word = ActivityWord::Bulletins,
+    .activity = {.word = ActivityWord::Bulletins,
+                 .step = &RunState::intBulStep,
+                 .debugFile = "debugbul.txt",
+                 .resumable = true,
+                 .stepAfterSkip = BulletinStep::None,
+                 .onErrorPage = [](App& app) { TraceErrorPage(app, u"Maint: "_s); }},
     .send = "picCmdBulSend",
     .startProcedure = "cmdBulSend_Click",
     .stop = "piccmdBulStop",

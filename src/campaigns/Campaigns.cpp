@@ -12,7 +12,7 @@ const std::vector<const Campaign*>& Campaigns() {
 
 const Campaign* FindCampaign(const QString& word) {
     for (const Campaign* campaign : Campaigns())
-        if (word == campaign->word)
+        if (word == campaign->Word())
             return campaign;
     return nullptr;
 }

@@ -3,7 +3,9 @@
 
 #include "campaigns/StartChecks.h"
 #include "content/ContentLine.h"
+#include "core/Families.h"
 #include "core/RunState.h"
+#include "steps/Activities.h"
 #include "steps/RunReport.h"
 
 #include <QString>
@@ -37,7 +39,9 @@ struct DailyCounter {
 // over the targets, pause, limit, log, report and end are shared and read it. Texts are parts of the
 // sentences that are shared.
 struct Campaign {
-    QLatin1StringView word;    // of CurrentAction
+    Activity activity; // its row among the activities
+    // nullptr while it waits for its machine.
+    void (*makeMachine)(Families&, App&) = nullptr;
     const char16_t* tab = u""; // caption of its tab
 
     // Start and stop. The start is: the checks, the question, the reset, the first step.
@@ -82,6 +86,7 @@ struct Campaign {
     bool goesOnInChain = false; // the next account of a chain starts it as the button does
     bool endClearsChain = false;
 
+    QLatin1StringView Word() const { return activity.word; }
     bool HasTargets() const { return logFile[0] != 0; }
 };
 

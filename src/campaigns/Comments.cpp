@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The campaign "comments". It waits for its machine.
+#include "campaigns/CampaignErrorPages.h"
 #include "campaigns/Campaigns.h"
 #include "core/ActivityWords.h"
 #include "core/App.h"
@@ -41,7 +42,17 @@ bool IsPartOfAnother(const RunState& state) {
 } // namespace
 
 constinit const Campaign Comments{
-    .word = ActivityWord::Comments,
+    .activity = {.word = ActivityWord::Comments,
+                 .step = &RunState::intComStep,
+                 .debugFile = "debugcom.txt",
+                 .stopMark = "COM stop - (",
+                 .resumable = true,
+                 .worksOnList = true,
+                 .tracesFound = true,
+                 .sends = true,
+                 .tracesPageClasses = true,
+                 .stepAfterSkip = CommentStep::AfterSend,
+                 .onErrorPage = HandleCommenterErrorPage},
     .tab = u"Auto Commenter",
     .send = "picCmdComSend",
     .startProcedure = "cmdComSend_Click",

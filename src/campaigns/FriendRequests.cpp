@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The campaign "friend requests". FriendRequester is its machine.
+#include "campaigns/CampaignErrorPages.h"
 #include "campaigns/Campaigns.h"
+#include "campaigns/FriendRequester.h"
 #include "core/ActivityWords.h"
 #include "core/App.h"
 #include "steps/Steps.h"
@@ -84,7 +86,20 @@ const std::vector<StartCheck>& Checks() {
 
 // The log is the only guard against asking somebody twice: it is always looked at.
 constinit const Campaign FriendRequests{
-    .word = ActivityWord::FriendRequests,
+    .activity = {.word = ActivityWord::FriendRequests,
+                 .step = &RunState::intFRStep,
+                 .stepRoutine = [](App& app) { app.Get<FriendRequester>().IterateAddFriends(); },
+                 .debugFile = "debugfr.txt",
+                 .stopMark = "FR stop - ",
+                 .resumable = true,
+                 .worksOnList = true,
+                 .tracesFound = true,
+                 .sends = true,
+                 .tracesPageClasses = true,
+                 .stepAfterSkip = FriendStep::AfterSend,
+                 .onErrorPage = HandleRequesterErrorPage,
+                 .onConfirmed = [](App& app) { app.Get<FriendRequester>().NoteConfirmation(); }},
+    .makeMachine = [](Families& families, App& app) { families.Make<FriendRequester>(app); },
     .tab = u"Friend Requester",
     .send = "piccmdAddFriends",
     .startProcedure = "cmdAddFriends_Click",

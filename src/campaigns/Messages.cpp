@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The campaign "messages". It waits for its machine.
+#include "campaigns/CampaignErrorPages.h"
 #include "campaigns/Campaigns.h"
 #include "core/ActivityWords.h"
 #include "steps/Steps.h"
@@ -33,7 +34,17 @@ bool IsPartOfAnother(const RunState& state) {
 } // namespace
 
 constinit const Campaign Messages{
-    .word = ActivityWord::Messages,
+    .activity = {.word = ActivityWord::Messages,
+                 .step = &RunState::intMsgStep,
+                 .debugFile = "debugmsg.txt",
+                 .stopMark = "MSG stop - (",
+                 .resumable = true,
+                 .worksOnList = true,
+                 .tracesFound = true,
+                 .sends = true,
+                 .tracesPageClasses = true,
+                 .stepAfterSkip = MessageStep::AfterSend,
+                 .onErrorPage = HandleMessengerErrorPage},
     .tab = u"Auto Messenger",
     .send = "picCmdMsgSend",
     .startProcedure = "cmdMsgSend_Click",

@@ -32,7 +32,7 @@ QString ClickOf(const char* button) {
 
 SendRuns::SendRuns(App& app) : m_app(app), m_logDialog(app), m_reportDialog(app, app.Get<RunReport>()) {
     for (const Campaign* campaign : Campaigns())
-        if (FindActivity(campaign->word)->stepRoutine)
+        if (campaign->activity.stepRoutine)
             RegisterCommands(*campaign);
     app.Get<LoginFlow>().goOnInChain = [&app] { GoOnInChain(app); };
     app.commands.Add(u"chkRemoveAfterSent_MouseDown"_s, [this] { chkRemoveAfterSent_MouseDown(); });
@@ -68,13 +68,13 @@ void SendRuns::Start(const Campaign& campaign) {
 
 void SendRuns::MarkStart(const Campaign& campaign, int number) {
     if (campaign.startMark[0])
-        m_app.diagnostics.Debug(TrailOf(campaign.word), QString::fromLatin1(campaign.startMark) +
-                                                            QString::number(number) + u" - "_s +
-                                                            m_app.NowText());
+        m_app.diagnostics.Debug(QString::fromLatin1(campaign.activity.debugFile),
+                                QString::fromLatin1(campaign.startMark) + QString::number(number) + u" - "_s +
+                                    m_app.NowText());
 }
 
 void SendRuns::Begin(const Campaign& campaign) {
-    const Activity& activity = *FindActivity(campaign.word);
+    const Activity& activity = campaign.activity;
     const RunMark start = m_app.waiting.Mark();
     m_app.Get<RunReport>().BeginRun(campaign.report, campaign.reasons);
     // A disk that refuses the report brings a box up, and whatever happens while it is there.
@@ -88,7 +88,7 @@ void SendRuns::Begin(const Campaign& campaign) {
 void SendRuns::Reset(const Campaign& campaign) {
     RunState& state = m_app.state;
     m_app.waiting.OutdateSteps();
-    state.CurrentAction = campaign.word;
+    state.CurrentAction = campaign.Word();
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     m_app.timers->Timer1.SetEnabled(false);
     state.strLinkType.clear();
@@ -111,7 +111,7 @@ void SendRuns::Reset(const Campaign& campaign) {
     state.lngRemovedCount = 0;
     state.*campaign.session = 0;
     // The next account of a chain goes on in the list where the last one left it.
-    if (!state.blnChaining || state.ChainedCampaign != campaign.word)
+    if (!state.blnChaining || state.ChainedCampaign != campaign.Word())
         state.intCurrentIDIndex = 0;
     // Of friend requests the log is the only guard against asking somebody twice.
     state.blnCheckLog = campaign.checkLogBox.isEmpty() || m_app.controls.Ticked(campaign.checkLogBox);

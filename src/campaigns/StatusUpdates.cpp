@@ -26,7 +26,7 @@ const std::vector<StartCheck>& Checks() {
 
 // A new day writes the counter's 0 under a key of its own, so the stored one stands until it is next saved.
 constinit const Campaign StatusUpdates{
-    .word = ActivityWord::StatusUpdates,
+    .activity = {.word = ActivityWord::StatusUpdates},
     .send = "piccmdSendStatusUpdates",
     .startProcedure = "cmdstatusesSend_Click",
     .checks = Checks,

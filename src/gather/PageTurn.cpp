@@ -107,6 +107,7 @@ bool GatherDriver::OpenNextPage() {
     Trace(u"IGP4.1 - "_s + state.strNextPageLink);
     state.intGatherStep = GatherStep::ScanPage;
     SetMustNotHaveTexts();
+    m_app.waiting.LeaveIfObsolete();
     if (!state.blnNewLayout)
         AwaitListOfIDs();
     m_standingPage.Leave();
@@ -129,6 +130,7 @@ bool GatherDriver::OpenNextPage() {
         m_app.waiting.Pump();
     }
     Trace(u"NEXTPAGEWAIT0"_s);
+    m_app.waiting.LeaveIfObsolete();
     if (!state.blnNewLayout) {
         state.blnLinkFound = false;
         m_app.timers->tmrCheckLinkLoaded.Restart();

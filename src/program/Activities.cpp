@@ -2,8 +2,7 @@
 #include "steps/Activities.h"
 #include "accounts/LoginErrorPages.h"
 #include "accounts/LoginFlow.h"
-#include "campaigns/CampaignErrorPages.h"
-#include "campaigns/FriendRequester.h"
+#include "campaigns/Campaigns.h"
 #include "core/ActivityWords.h"
 #include "core/App.h"
 #include "gather/GatherDriver.h"
@@ -21,11 +20,9 @@ void BeginPendingDeletionAnew(App& app) {
     app.Get<StopResume>().ResumeNext();
 }
 
-} // namespace
-
-// The tick compares in this order.
-const std::vector<Activity>& Activities() {
-    static const std::vector<Activity> activities{
+// Those of campaigns stand in their definitions.
+std::vector<Activity> AllActivities() {
+    std::vector<Activity> activities{
         {.word = ActivityWord::Gathering,
          .step = &RunState::intGatherStep,
          .stepRoutine = [](App& app) { app.Get<GatherDriver>().IterateGatherProfiles(); },
@@ -36,47 +33,6 @@ const std::vector<Activity>& Activities() {
          .tracesFound = true,
          .tracesPageClasses = true,
          .onSignedInAgain = [](App& app) { app.Get<GatherDriver>().ReturnToList(); }},
-        {.word = ActivityWord::FriendRequests,
-         .step = &RunState::intFRStep,
-         .stepRoutine = [](App& app) { app.Get<FriendRequester>().IterateAddFriends(); },
-         .debugFile = "debugfr.txt",
-         .stopMark = "FR stop - ",
-         .resumable = true,
-         .worksOnList = true,
-         .tracesFound = true,
-         .sends = true,
-         .tracesPageClasses = true,
-         .stepAfterSkip = FriendStep::AfterSend,
-         .onErrorPage = HandleRequesterErrorPage,
-         .onConfirmed = [](App& app) { app.Get<FriendRequester>().NoteConfirmation(); }},
-        {.word = ActivityWord::Messages,
-         .step = &RunState::intMsgStep,
-         .debugFile = "debugmsg.txt",
-         .stopMark = "MSG stop - (",
-         .resumable = true,
-         .worksOnList = true,
-         .tracesFound = true,
-         .sends = true,
-         .tracesPageClasses = true,
-         .stepAfterSkip = MessageStep::AfterSend,
-         .onErrorPage = HandleMessengerErrorPage},
-        {.word = ActivityWord::Comments,
-         .step = &RunState::intComStep,
-         .debugFile = "debugcom.txt",
-         .stopMark = "COM stop - (",
-         .resumable = true,
-         .worksOnList = true,
-         .tracesFound = true,
-         .sends = true,
-         .tracesPageClasses = true,
-         .stepAfterSkip = CommentStep::AfterSend,
-         .onErrorPage = HandleCommenterErrorPage},
-        {.word = ActivityWord::Bulletins,
-         .step = &RunState::intBulStep,
-         .debugFile = "debugbul.txt",
-         .resumable = true,
-         .stepAfterSkip = BulletinStep::None,
-         .onErrorPage = [](App& app) { TraceErrorPage(app, u"Maint: "_s); }},
         {.word = ActivityWord::Accepting,
          .step = &RunState::intAccStep,
          .debugFile = "debugacc.txt",
@@ -95,9 +51,17 @@ const std::vector<Activity>& Activities() {
          .resumable = true,
          .onErrorPage = BeginPendingDeletionAnew},
         {.word = ActivityWord::Invites, .debugFile = "debugevinv.txt", .stopMark = "EVINV stop - ("},
-        {.word = ActivityWord::StatusUpdates},
         {.word = ActivityWord::Shuffling},
     };
+    for (const Campaign* campaign : Campaigns())
+        activities.push_back(campaign->activity);
+    return activities;
+}
+
+} // namespace
+
+const std::vector<Activity>& Activities() {
+    static const std::vector<Activity> activities = AllActivities();
     return activities;
 }
 

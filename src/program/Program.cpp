@@ -7,6 +7,7 @@
 #include "browser/PageClassifier.h"
 #include "browser/PageSigns.h"
 #include "browser/ProfileLinks.h"
+#include "campaigns/Campaigns.h"
 #include "campaigns/CaptchaCalls.h"
 #include "campaigns/Counters.h"
 #include "campaigns/FriendRequester.h"
@@ -89,7 +90,9 @@ void App::MakeFamilies() {
     m_families.Make<Counters>(*this);
     m_families.Make<Pacing>(*this);
     m_families.Make<CaptchaCalls>(*this);
-    m_families.Make<FriendRequester>(*this);
+    for (const Campaign* campaign : Campaigns())
+        if (campaign->makeMachine)
+            campaign->makeMachine(m_families, *this);
 }
 
 // What the floors below ask of those above.

@@ -261,7 +261,7 @@ TEST_F(CursorTest, TheQuestionOfAStartComesAfterTheChecksAndBeforeTheReset) {
     Campaign campaign = FriendRequests;
     campaign.mayStart = [](App& program, const Campaign& started) {
         ++asked;
-        return started.word == FriendRequests.word && program.controls.Ticked("chkFRNote"_L1);
+        return started.Word() == FriendRequests.Word() && program.controls.Ticked("chkFRNote"_L1);
     };
     app->state.lngSkippedCount = 5;
     app->Get<SendRuns>().Start(campaign);
