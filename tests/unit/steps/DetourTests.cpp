@@ -1,54 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "RequestRun.h"
+#include "DetourTest.h"
 #include "campaigns/Campaigns.h"
 #include "core/SettingsFields.h"
 #include "steps/RunReport.h"
 #include "steps/StopResume.h"
 
-#include <QFile>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace qlm {
 namespace {
-
-const QString Home = u"{HomeHost}/index.cfm?fuseaction=home"_s;
-const QString HomeAddress = u"http://home.site.example.com/index.cfm?fuseaction=home"_s;
-const QString Root = u"{SiteRootHost}/"_s;
-
-// The pages that a step may land on instead of the one it expects, in the order in which they are tried.
-class DetourTest : public RequestRunTest {
-protected:
-    DetourTest() {
-        world.http.responder = [](const QString&) { return std::optional(u"2009-06-02"_s); };
-    }
-    Verdict Take(bool captcha = false) {
-        Browser().TakeVisited();
-        // As the tick does it.
-        Verdict verdict = false;
-        Waiting::LeaveHere([&] {
-            const Waiting::Owned owned(app->waiting);
-            verdict = TakeDetour(*app, captcha);
-        });
-        return verdict;
-    }
-    bool TakesNone(bool captcha = false) { return !Take(captcha).has_value(); }
-    bool TakesUnfound(bool captcha = false) { return Take(captcha) == Verdict(false); }
-    // The addresses that the detour has led to.
-    QStringList Visited() {
-        app->Pump().PumpMessages();
-        return Browser().TakeVisited();
-    }
-    void LogIn(qint16 step) {
-        State().CurrentAction = u"LOGIN"_s;
-        State().intLoginStep = step;
-        State().AccountsLoadedOnce = true;
-    }
-    QString FileText(const QString& name) {
-        QFile file(app->DataFile(name));
-        return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString();
-    }
-};
 
 TEST_F(DetourTest, AnOrdinaryPageIsNone) {
     for (const QString& action :
