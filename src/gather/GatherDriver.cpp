@@ -54,7 +54,6 @@ void GatherDriver::picScanStart_Click() {
         m_app.Get<StopResume>().StopAll(u"GATHERSTART1"_s);
         m_app.Get<GatheredList>().SetScannedLabel();
         state.CurrentAction = ActivityWord::Gathering;
-        state.strNextPageLink.clear();
         state.lstAlreadyFullGatheredPageIDs.clear();
         state.blnWaitingForCaptcha = false;
         if (m_app.controls.Ticked("optScanGoogle"_L1)) {
@@ -63,9 +62,6 @@ void GatherDriver::picScanStart_Click() {
         }
         state.arrSeenLinks = {};
         m_app.timers->tmrCheckLinkLoaded.Restart();
-        state.strLinkType.clear();
-        state.strLinkValue.clear();
-        state.blnLinkFound = false;
         state.blnHoldLinkCheck = false;
         state.intGatherStep = GatherStep::ScanPage;
         m_pageIsToCome = false;

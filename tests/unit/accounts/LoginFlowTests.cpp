@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "BrowserTest.h"
 #include "accounts/LoginFlow.h"
+#include "browser/NavigationGuard.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -62,6 +63,36 @@ TEST_F(LoginFlowTest, EachSubmissionHasItsTimeUntilTroubleIsSeen) {
         EXPECT_EQ(app->timers->tmrLoginProblem.Interval(), 2000);
         dialogs.CloseForm(u"frmLoginProblem"_s);
     }
+}
+
+// Only what this submission has brought up goes with its form.
+TEST_F(LoginFlowTest, TheTroubleOfAnEarlierSubmissionStaysUntilItIsRead) {
+    Show(Root, Form);
+    LogIn(3);
+    platform->Pump().RunFor(37'000);
+    ASSERT_TRUE(TroubleShown());
+    Show(Root, Form);
+    LogIn(3);
+    Show(Root, u"<p>Welcome</p>"_s);
+    dialogs.windowTitles = {u"Login problem"_s};
+    platform->Pump().RunFor(37'000);
+    EXPECT_FALSE(app->timers->tmrLoginProblem.Enabled());
+    EXPECT_EQ(dialogs.windowTitles, QStringList{u"Login problem"_s});
+}
+
+TEST_F(LoginFlowTest, AStepBeginsWithoutMarksOfTheLastPage) {
+    Show(u"http://www.stranger.com/"_s, Form);
+    State().strLastPageText = u"text"_s;
+    State().strLastPageHref = u"http://www.stranger.com/1"_s;
+    LogIn(3);
+    EXPECT_EQ(State().strLastPageText + State().strLastPageHref, QString());
+}
+
+TEST_F(LoginFlowTest, TheLoginOfAnotherAccountMayLeaveThePage) {
+    Show(Root, u"<p>Welcome</p>"_s);
+    const NavigationGuard guard(app->WebBrowser1());
+    app->Get<LoginFlow>().LogInSpecifiedAccount(u"b@example.com"_s, u"secret"_s);
+    EXPECT_FALSE(app->WebBrowser1().RefusesNavigations());
 }
 
 } // namespace

@@ -176,6 +176,13 @@ TEST_F(GatheredListTest, SavingTheEmptyListWritesOneEmptyLineThatIsSkippedLater)
     EXPECT_TRUE(List().IsEmpty());
 }
 
+TEST_F(GatheredListTest, TheOwnListIsReadAsItWasSaved) {
+    const QString path = app->ProgramFile(u"Gathered.txt"_s);
+    app->files.WriteLines(path, {u"11"_s, u"12"_s, u"11"_s});
+    List().FillScannedList(path, true, false);
+    EXPECT_EQ(app->state.arrFriendIDs.ToStringList(), (QStringList{u"11"_s, u"12"_s, u"11"_s}));
+}
+
 TEST_F(GatheredListTest, AFileThatIsMissingIsCreatedWithItsFolder) {
     const QString path = app->ProgramFile(u"deep/er/Gathered.txt"_s);
     List().FillScannedList(path, true, false);
