@@ -55,12 +55,13 @@ bool Judge::IsNoted(const QString& id) const {
 // older page is the button at first, which the user may press before the step has looked.
 void Judge::Watch(App& app, bool diskRefuses) {
     const RunState& state = app.state;
+    // The note is tried once, as soon as the confirmation shows, which may be before the check has found it.
+    if (diskRefuses && state.CurrentAction == u"FR"_s && ShowsConfirmation(app))
+        m_refused = state.lngTargetNumber;
     const bool mayShow = state.CurrentAction == u"FR"_s && state.intFRStep == 8 && state.blnLinkFound &&
                          state.strLinkType == u"Text"_s;
     if (!mayShow || m_confirmed.contains(state.strCurrentID) || !ShowsConfirmation(app))
         return;
-    if (diskRefuses)
-        m_refused = state.lngTargetNumber;
     if (std::exchange(m_confirming, state.lngTargetNumber) != state.lngTargetNumber ||
         m_refused == state.lngTargetNumber)
         return;
