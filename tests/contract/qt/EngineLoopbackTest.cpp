@@ -141,33 +141,6 @@ TEST_F(EngineLoopback, APageReachesNoPortOfTheMachine) {
     EXPECT_EQ(listener.heard, QStringList());
 }
 
-TEST_F(EngineLoopback, NeitherARedirectNorThePageItselfLeadsThere) {
-    Listener listener;
-    LoopbackAnswer away;
-    away.status = 302;
-    away.headers = "Location: http://127.0.0.1:" + QByteArray::number(listener.Port()) + "/away\r\n";
-    site.Answer(Stranger + u"/away"_s, away);
-    ASSERT_NO_FATAL_FAILURE(Visit("add('img', {src: '/away'}); add('iframe', {src: '/away'});"
-                                  "fetch('/away', {mode: 'no-cors'}).catch(() => 0);"
-                                  "setTimeout(() => location = '/away', 1700);"));
-    QtPump& pump = platform->Pump();
-    const qint64 end = pump.NowMs() + 30'000;
-    while (site.CountRequests(Stranger + u"/away"_s) < 4 && pump.NowMs() < end) {
-        pump.PumpMessages();
-        pump.Sleep(10);
-    }
-    EXPECT_EQ(site.CountRequests(Stranger + u"/away"_s), 4);
-    // What answers next is asked behind the redirect.
-    ASSERT_NO_FATAL_FAILURE({
-        site.Clear();
-        Visit("");
-    });
-    // For the page's own redirect the engine opens a connection before it asks whether it may; nothing goes
-    // over it.
-    listener.heard.removeAll(u"connection"_s);
-    EXPECT_EQ(listener.heard, QStringList());
-}
-
 #ifdef PRACTICE_SITE
 // The controls stand at a host that the proxy knows, so a page can ask for them; they are to refuse it.
 TEST_F(EngineLoopback, APageCannotSteerThePracticeSite) {
