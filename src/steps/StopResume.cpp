@@ -7,9 +7,6 @@
 #include "steps/Activities.h"
 #include "steps/RunReport.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
