@@ -7,7 +7,7 @@ namespace qlm {
 
 // What the command line asks for. The usual program knows none.
 struct Guidance {
-    QString folder; // behind "--guided"; empty for the usual program
+    QString folder; // after "--guided"; empty for the usual program
     bool isResumed; // "--resume": goes on with what an earlier run has left there
 
     bool IsWanted() const { return !folder.isEmpty(); }

@@ -18,7 +18,7 @@ public:
     // Puts the input focus into the page and there into the field for the answer: once for each page that
     // loads, since the user may go elsewhere from there.
     void FocusAnswerField();
-    // The messenger's step 9: a CAPTCHA stands before a message, or the message has gone out behind one.
+    // The messenger's step 9: a CAPTCHA stands before a message, or the message has gone out after one.
     void MessagingCAPTCHAReached();
 
 private:

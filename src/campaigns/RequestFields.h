@@ -23,7 +23,7 @@ public:
     // With chkFRAddToCategory ticked, ticks the category of cboFRCategories. Waits while step 8 lasts until
     // the page shows its categories.
     void ApplyCategory();
-    // Presses the page's button. The request is logged first: behind the press it can't be taken back. False
+    // Presses the page's button. The request is logged first: after the press it can't be taken back. False
     // when the page has no such button.
     bool ClickRequestButton();
 

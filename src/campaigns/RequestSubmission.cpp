@@ -105,7 +105,7 @@ Next FriendRequester::GoOnAfterSubmit() {
         return Next::Wait;
     if (!state.blnWaitingForCaptcha)
         m_app.SetStatus(u"Friend request submitted, waiting for confirmation page..."_s);
-    // Behind a CAPTCHA in front of the profile that is what comes.
+    // After a CAPTCHA in front of the profile that is what comes.
     if (AwaitsProfile())
         Await(u"Text"_s, u"View"_s);
     else
@@ -145,7 +145,7 @@ void FriendRequester::MoveTargetToEnd() {
         state.arrFriendIDs.value(place) == state.strCurrentID) {
         const qsizetype before = state.arrFriendIDs.size();
         m_app.Get<GatheredList>().ProcessArrayAndList(u"REMOVE"_s, place, {}, caller);
-        // An entry beyond the view of the list stays where it is, behind the cursor.
+        // An entry beyond the view of the list stays where it is, after the cursor.
         if (state.arrFriendIDs.size() < before)
             state.intCurrentIDIndex = place;
     }

@@ -11,7 +11,7 @@ class App;
 // than letters, digits, hyphens and two blanks. html is that page's; kind is "Message", "Comment" or "Friend
 // Request".
 QString GetTargetName(App& app, const QString& html, const QString& kind);
-// The first name, with a capital letter and small ones behind it.
+// The first name, with a capital letter and small ones after it.
 QString CleanTargetName(const QString& name);
 // Puts the name in the place of every "&NAME&"; without a name the token just goes.
 QString ReplaceTargetName(App& app, const QString& text, const QString& html, const QString& kind);

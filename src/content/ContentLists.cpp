@@ -21,7 +21,7 @@ struct KindRow {
     const char* file;
     const char* rewriteFile;
     const char16_t* entryWord; // what an entry is known by
-    const char16_t* rowEnd;    // the marker behind what a row shows
+    const char16_t* rowEnd;    // the marker after what a row shows
     bool rowIsFirstLine;
     const char* orderKey;
     QLatin1StringView mainList; // on the campaign's tab

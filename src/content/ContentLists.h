@@ -15,7 +15,7 @@ public:
     explicit ContentLists(App& app) : m_app(app), m_messageFile(app) {}
 
     QString PathOf(ContentKind kind);
-    // Is there an entry: a line with the needle at its second character or behind? An empty needle takes the
+    // Is there an entry: a line with the needle at its second character or after? An empty needle takes the
     // kind's own word. Of messages only the first line is looked at, for their own word always.
     bool ListHasEntries(ContentKind kind, const QString& needle = {});
     // How many lines are entries in that sense.

@@ -22,7 +22,7 @@ bool IsUnfit(QChar character) {
     return character < u' ' || character == u'\x7f' || u"\\/:*?\"<>|"_s.contains(character);
 }
 
-// Names that mean a folder or a device, whatever stands behind their first dot.
+// Names that mean a folder or a device, whatever stands after their first dot.
 bool IsReserved(const QString& name) {
     static const QRegularExpression reserved(
         u"^(?:\\.{1,2}|(?:con|prn|aux|nul|com[0-9]|lpt[0-9])(?:\\..*)?)$"_s,

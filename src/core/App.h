@@ -15,7 +15,7 @@
 
 namespace qlm {
 
-// The timers of the main window, with the names, intervals and starting states of the design.
+// The timers of the main window.
 struct Timers {
     explicit Timers(MessageQueue& queue);
     Timer Timer1;

@@ -78,7 +78,7 @@ QString Deployment::Expand(const QString& text) const {
 }
 
 // Browsers write a page's address in one way: small letters, no usual port. What is written in another way (a
-// name before the host, a port, a dot behind it) may lead elsewhere than it seems and is nobody's.
+// name before the host, a port, a dot after it) may lead elsewhere than it seems and is nobody's.
 bool Deployment::IsSitePage(const QString& address) const {
     static const QRegularExpression plain(u"^https?://([a-z0-9.-]+)(?:[/?#]|$)"_s);
     const QString host = plain.match(address).captured(1);

@@ -103,7 +103,7 @@ public:
 
     // The debug file of an activity, empty for one that has none. Set by the program.
     std::function<QString(const QString& action)> trailOf;
-    // Told of each line behind its writing; a test stops the program there.
+    // Told of each line after its writing; a test stops the program there.
     std::function<void(const QString& line)> onLine;
 
 private:

@@ -86,7 +86,7 @@ private:
 
     // A number as it is; the upper bit marks a text: where it stands in m_texts and how long it is there.
     QList<Key> m_keys;
-    QByteArray m_texts; // UTF-8, one behind the other
+    QByteArray m_texts; // UTF-8, one after the other
     mutable std::optional<Index> m_index;
 };
 

@@ -13,7 +13,7 @@ namespace {
 struct Place {
     qsizetype line = -1;
     qsizetype endOfSection =
-        -1; // the line behind the section's last one that isn't blank; -1 without the section
+        -1; // the line after the section's last one that isn't blank; -1 without the section
 };
 
 bool IsSection(const QString& line, const QString& section) {

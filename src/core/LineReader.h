@@ -17,7 +17,7 @@ public:
 
     explicit LineReader(const QString& path);
 
-    // The next line without its end, as bytes on disk, until the next call; nothing behind the last.
+    // The next line without its end, as bytes on disk, until the next call; nothing after the last.
     std::optional<QByteArrayView> Next();
     int PassedOver() const { return m_passedOver; }
 

@@ -13,7 +13,7 @@ class App;
 class LongWait {
 public:
     // Begins now; inside another wait for the same thing it has begun with that one. In the sentence the
-    // words stand behind "for"; help is a sentence on what ends a wait that is no run's.
+    // words stand after "for"; help is a sentence on what ends a wait that is no run's.
     LongWait(App& app, const QString& what, const LongWait* around = nullptr, const QString& help = {});
     ~LongWait();
     LongWait(const LongWait&) = delete;

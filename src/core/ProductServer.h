@@ -37,7 +37,7 @@ private:
     App& m_app;
 };
 
-// A date as the program and the server write it: YYYY-MM-DD or M/D/YYYY, with a time behind or not.
+// A date as the program and the server write it: YYYY-MM-DD or M/D/YYYY, with a time after or not.
 std::optional<QDate> ParseDate(const QString& text);
 
 } // namespace qlm

@@ -11,7 +11,7 @@ inline bool Has(const QString& text, const QString& part) {
     return text.contains(part, Qt::CaseInsensitive);
 }
 
-// The numeric test of the design: optional sign, digits with an optional decimal point, blanks around; not
+// The numeric test: optional sign, digits with an optional decimal point, blanks around; not
 // empty.
 bool IsNumeric(const QString& text);
 // Digits alone, at least one.

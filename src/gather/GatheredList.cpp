@@ -125,7 +125,7 @@ void GatheredList::FillScannedList(const QString& path, bool clearFirst, bool ch
     });
 }
 
-// Begins at the upper bound, not behind it: the first ID that is read takes the place of the last one there.
+// Begins at the upper bound, not after it: the first ID that is read takes the place of the last one there.
 // The list may change while the message loop turns.
 void GatheredList::ReadLinesInto(const QString& path, bool checkDuplicates) {
     m_app.files.EnsureFile(path);

@@ -17,7 +17,7 @@ class IdResolution {
 public:
     explicit IdResolution(App& app) : m_app(app) {}
 
-    // The digits behind the ID's key in an address.
+    // The digits after the ID's key in an address.
     QString ExtractFriendID(const QString& link);
     // May pump and take up to 45 seconds when it has to load the profile.
     QString GetFriendIDFromLink(const Element& link);
@@ -40,7 +40,7 @@ private:
     App& m_app;
 };
 
-// The digits behind the key; "" when there are none.
+// The digits after the key; "" when there are none.
 QString DigitsBehind(const QString& text, const QString& key);
 // What stands behind the key up to a ">", a blank or the end, without double quotes.
 QString ValueAfterKey(const QString& text, const QString& key);

@@ -9,7 +9,7 @@ namespace qlm {
 class App;
 struct JudgedLink;
 
-// Is the profile in WebBrowser1 the kind of person the user wants? And the window in which he says so.
+// Is the profile in WebBrowser1 the kind of person the user wants? And the window in which they say so.
 class ProfileFilters {
 public:
     explicit ProfileFilters(App& app);

@@ -198,7 +198,7 @@ QStringList GuidedRun::LogLines() const {
 }
 
 // Empty when the journal and the log agree, else what is wrong. Whoever met the limit was asked and is not in
-// the log: that is the design's rule.
+// the log: the limit is tested before the count.
 QString GuidedRun::Summarise() {
     QStringList asked;
     int askedAgain = 0;

@@ -19,7 +19,7 @@ class App;
 // falls into the middle of a call into a page. A message box is told and answered: OK, or No where there is
 // no OK.
 //
-// Lives in main or in a test; ends the process's message loop behind the last step, or at the first that
+// Lives in main or in a test; ends the process's message loop after the last step, or at the first that
 // fails.
 class WindowDriver {
 public:

@@ -13,7 +13,7 @@ void Run(const std::function<void()>& handler) {
         if (handler)
             handler();
     } catch (const ProgramEnding&) {
-        // The step has been left; whoever waits further down finds the program closing by himself.
+        // The step has been left; whoever waits further down finds out that the program is closing.
         return;
     }
 }

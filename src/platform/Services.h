@@ -75,7 +75,7 @@ public:
     virtual void EndProcess() = 0;
 };
 
-// How the user is called when he is looking elsewhere.
+// How the user is called when they are looking elsewhere.
 class Attention {
 public:
     virtual ~Attention() = default;

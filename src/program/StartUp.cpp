@@ -42,7 +42,7 @@ void StartUp::Main() {
         if (const QString problem = m_app.platform.Settings().TakeProblem(); !problem.isEmpty())
             m_app.ShowMessage(problem);
     } catch (const ProgramEnding&) {
-        // The product server could not be reached and the user has been told, or he would not wait for it.
+        // The product server could not be reached and the user has been told, or they would not wait for it.
         m_slowServer.SetEnabled(false);
     }
 }

@@ -22,7 +22,7 @@ public:
     explicit StepDispatcher(App& app) : m_app(app) {}
 
     // Changes step variables and may resume, skip, stop or log in. Its own errors are ignored: the next tick
-    // tries again. Throws RunEnded when the run or the target is another one behind one of its waits.
+    // tries again. Throws RunEnded when the run or the target is another one after one of its waits.
     bool CheckLinkFound();
 
     // Signs in to the site again with the account in use, on the page now shown. Set by the login.

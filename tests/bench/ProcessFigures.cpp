@@ -23,7 +23,7 @@ QByteArray ReadProc(int process, const char* file) {
     return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
 }
 
-// The name stands in brackets and may hold anything; the numbers are counted from behind it.
+// The name stands in brackets and may hold anything; the numbers are counted after it.
 Process ReadProcess(int number) {
     const QByteArray stat = ReadProc(number, "stat");
     const qsizetype open = stat.indexOf('('), close = stat.lastIndexOf(')');

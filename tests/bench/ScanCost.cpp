@@ -79,7 +79,7 @@ void ScanCost::Pass(const Design& design, int links) {
     m_app.state.arrFriendIDs = IdList{QString()};
     m_app.controls.SetItems("lstFriendIDs"_L1, {});
     m_app.state.CurrentAction = u"SCANNING"_s;
-    // A turned page: no wait for the signs of a first one, and no search for the next behind it.
+    // A turned page: no wait for the signs of a first one, and no search for the next after it.
     m_app.state.strNextPageLink = u"temp"_s;
     m_app.controls.SetTicked("optScanCurrentPage"_L1, true);
 

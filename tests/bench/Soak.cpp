@@ -61,7 +61,7 @@ private:
 };
 
 void Soak::PlanRequests() {
-    // Behind the last turn a target more, so that it ends as all others do.
+    // After the last turn a target more, so that it ends as all others do.
     folders.SaveList(SomeTargets(turns + 1));
     program.app.controls.AddListener([this](const Control& control, Controls::Change, int) {
         if (control.name == "lblProgress"_L1 && !control.text.isEmpty() &&

@@ -26,7 +26,7 @@ private:
     QtPlatform& m_platform;
 };
 
-// Sees the first paint of a form, and the first moment behind it at which the event loop has nothing left to
+// Sees the first paint of a form, and the first moment after it at which the event loop has nothing left to
 // do.
 class FirstPaints : public QObject {
 public:

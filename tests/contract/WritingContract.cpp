@@ -107,7 +107,7 @@ TEST_F(WritingContract, AClickWorksOnAnyElement) {
     EXPECT_TRUE(WaitForText(u"clicked"_s));
 }
 
-// Behind the writing it is a page like any other; what was taken from the blank one is gone.
+// After the writing it is a page like any other; what was taken from the blank one is gone.
 TEST_F(WritingContract, MarkupCanBePutIntoABlankPageAgainAndAgain) {
     Show(u"<p id=old>before</p>"_s);
     for (const QString& word : {u"one"_s, u"two"_s}) {

@@ -8,7 +8,7 @@
 
 namespace qlm::scenario {
 
-// The words behind a command's name, with {names} replaced, read from left to right. Every Take fails the
+// The words after a command's name, with {names} replaced, read from left to right. Every Take fails the
 // scenario when the word is missing or is not what it should be.
 class Arguments {
 public:

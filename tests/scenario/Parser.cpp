@@ -37,7 +37,7 @@ private:
         return m_at < m_line.size();
     }
 
-    // "#id" names an element: behind the first word a remark needs a blank after its "#".
+    // "#id" names an element: after the first word a remark needs a blank after its "#".
     bool AtRemark() const {
         if (m_line[m_at] != u'#')
             return false;

@@ -14,7 +14,7 @@ std::vector<Command> ParseScenario(const QString& text, const QString& path);
 
 // The words of one line. Text in double quotes knows \n, \" and \\, other backslashes stand for themselves;
 // quotes may stand inside a word (name="a b"). A remark begins with "#": as the first sign of the line, or
-// behind a word and followed by a blank ("#id" is a word there).
+// after a word and followed by a blank ("#id" is a word there).
 QStringList SplitWords(const QString& line);
 
 } // namespace qlm::scenario

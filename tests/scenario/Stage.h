@@ -43,7 +43,7 @@ public:
     qint64 NowMs() const { return world.clock.NowMs(); }
 
     void Start();
-    // Puts the program into the state behind a finished login.
+    // Puts the program into the state after a finished login.
     void LogIn(const QString& email, const QString& ownID);
     // Closes the main window, or what else is open of the program.
     void Close();

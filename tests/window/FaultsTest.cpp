@@ -73,11 +73,11 @@ TEST_F(Faults, AProductServerThatResetsEveryConnectionCountsAsNone) {
 TEST_F(Faults, ASettingsFileCutInHalfIsToldKeptAndWorkedWithAsFarAsItGoes) {
     folders.Set(u"General"_s, u"Zoo"_s, u"a value that stands behind the cut"_s);
     const QByteArray whole = folders.Read(folders.SettingsFile());
-    // In the middle of the terms' value, with a line that makes no sense behind.
+    // In the middle of the terms' value, with a line that makes no sense after.
     const QByteArray half = whole.left(whole.indexOf("Login") + 3) + QByteArray("\n[\x00\xff\x01", 5);
     folders.Write(folders.SettingsFile(), half);
     ProgramProcess program(folders.Arguments());
-    // Which list to restore stood behind the cut; so there is nobody to send to, and that is said.
+    // Which list to restore stood after the cut; so there is nobody to send to, and that is said.
     ExpectEnd(program, 1);
     EXPECT_TRUE(output.contains(u"message: The settings file was damaged."_s)) << output.toStdString();
     EXPECT_TRUE(output.contains(u"message: Your Gathered ID's List is Empty!"_s)) << output.toStdString();

@@ -12,7 +12,7 @@
 namespace qlm {
 namespace {
 
-// So long behind the page of that number; behind the last one the program finishes and saves.
+// So long after the page of that number; after the last one the program finishes and saves.
 struct Moment {
     int page;
     int afterMs;

@@ -37,7 +37,7 @@ public:
     // The same, but Stop is pressed as soon as it is timely, which is asked every few milliseconds. The
     // milliseconds until nothing was going on any more; -1 when the gather had ended before.
     qint64 GatherAndStop(const char* kind, const std::function<bool()>& isTimely);
-    // Timely is here: so long behind the moment at which the site's journal has got that many new lines.
+    // Timely is here: so long after the moment at which the site's journal has got that many new lines.
     qint64 GatherAndStop(const char* kind, int journalLines, int afterMs);
     // Sets an option or a field of the filter window while nothing goes on.
     void Tick(QLatin1StringView option);

@@ -11,7 +11,7 @@
 namespace qlm {
 namespace {
 
-// A moment of a run: so long behind the count-th event of that kind since the program was started.
+// A moment of a run: so long after the count-th event of that kind since the program was started.
 struct Moment {
     enum class Behind { SignIn, Asked, Logged };
 

@@ -18,7 +18,7 @@ protected:
         program->PlanSending();
     }
 
-    // Goes through the planned steps and ends the program; behind it the site can be asked.
+    // Goes through the planned steps and ends the program; after it the site can be asked.
     void Run() {
         const bool isWell = program->Run();
         EXPECT_TRUE(isWell) << program->driver.Problem().toStdString();

@@ -96,7 +96,7 @@ void BlankDocument::SetInnerHTML(int node, const QString& html) {
     Check();
     if (node != bodyNode)
         throw BrowserError();
-    // This document is gone behind it, and its function with it.
+    // This document is gone after it, and its function with it.
     const auto write = m_write;
     write(html);
 }

@@ -36,7 +36,7 @@ QString Unescaped(QStringView value) {
     return text.replace(u"&amp;"_s, u"&"_s);
 }
 
-// One attribute of an opening tag; at stands behind it afterwards. The name may begin with a "=".
+// One attribute of an opening tag; at stands past it afterwards. The name may begin with a "=".
 struct WrittenAttribute {
     QStringView name;
     QStringView value;

@@ -38,10 +38,10 @@ private:
     struct Part {
         int parent;
         int start;      // of "<"
-        int nameEnd;    // behind the name
-        int innerStart; // behind the opening tag
+        int nameEnd;    // after the name
+        int innerStart; // after the opening tag
         int innerEnd;   // at the closing tag
-        int end;        // behind it
+        int end;        // after it
     };
 
     class Reader;

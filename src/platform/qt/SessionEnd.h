@@ -9,7 +9,7 @@
 namespace qlm {
 
 // Tells when the program is asked from outside to end: by the signals of a shutdown, a closed terminal or
-// Ctrl+C, or by the desktop whose session ends. One at a time, made behind the QApplication. Both calls come
+// Ctrl+C, or by the desktop whose session ends. One at a time, made after the QApplication. Both calls come
 // from Qt's event loop, not from the pump. A second signal ends the process at once.
 class SessionEnd final : public QObject {
 public:

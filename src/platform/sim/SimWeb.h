@@ -67,7 +67,7 @@ public:
     // Answers what no word above speaks of; an address that it doesn't know either cannot be reached.
     std::function<std::optional<SimAnswer>(const SimRequest&)> responder;
 
-    // The end of a request, behind all its redirects.
+    // The end of a request, after all its redirects.
     struct Arrival {
         QString url;
         SimAnswer answer;

@@ -108,7 +108,7 @@ TEST_F(CountersTest, PerDayLooksAtTheDay) {
     EXPECT_TRUE(app->Get<Counters>().Count(FriendRequests));
 }
 
-// A message or comment is counted first and the limit tested behind it.
+// A message or comment is counted first and the limit tested after it.
 TEST_F(CountersTest, MessagesAndCommentsStopAtExactlyTheirLimit) {
     struct Case {
         const char16_t* word;

@@ -299,7 +299,7 @@ TEST_F(FriendRequesterTest, TheThirdLimitPageEndsAProgramThatIsToExit) {
     EXPECT_TRUE(dialogs.Texts().isEmpty());
 }
 
-// Behind an answer the page that comes may take its time: until it is complete nothing is read off it.
+// After an answer the page that comes may take its time: until it is complete nothing is read off it.
 TEST_F(FriendRequesterTest, BehindAnAnswerTheNextPageIsWaitedForUntilItIsComplete) {
     const QString page = u"http://www.example.com/my/friends/addtofriends/1001"_s;
     world.web.SetPage(page, u"<html><body><a href='/'>Home</a>Please enter the image text</body></html>"_s);

@@ -82,7 +82,7 @@ TEST_F(ContentListsTest, AMissingFileIsCreatedAndReadsAsAnEmptyList) {
     }
 }
 
-// An entry has its word at the second character or behind, in any letter case.
+// An entry has its word at the second character or after, in any letter case.
 TEST_F(ContentListsTest, EntriesAreKnownByTheWordOfTheirKind) {
     struct Case {
         ContentKind kind;

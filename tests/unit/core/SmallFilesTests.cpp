@@ -168,7 +168,7 @@ TEST_F(BrowserSoundsTest, TheSoundIsKeptAndComesBack) {
     EXPECT_TRUE(app->controls.Ticked("mnuDisableBrowserSounds"_L1));
     EXPECT_EQ(Sound(), QString());
     EXPECT_EQ(world.settings.GetSetting(u"General"_s, u"OldIESoundValue"_s, {}), u"click.wav"_s);
-    // A start behind a crash must not take the silence for the user's sound.
+    // A start after a crash must not take the silence for the user's sound.
     app->Get<BrowserSounds>().Silence();
     Click();
     EXPECT_FALSE(app->controls.Ticked("mnuDisableBrowserSounds"_L1));

@@ -47,7 +47,7 @@ TEST_F(GlobalSettingsTest, TheBoxesShowTheFlagsAndCloseStoresThem) {
     EXPECT_FALSE(dialogs.IsFormOpen(u"frmGlobalSettings"_s));
 }
 
-// What is behind a power cut must be what the user has chosen.
+// What is there after a power cut must be what the user has chosen.
 TEST_F(GlobalSettingsTest, CloseAndResetAreWrittenToTheDiskAtOnce) {
     Restart();
     Open([this] {
@@ -157,7 +157,7 @@ TEST_F(GlobalSettingsTest, ResetSettingsDeletesEverythingAndEndsWithoutWritingIt
     EXPECT_TRUE(world.settings.All().empty());
 }
 
-// A request that goes out behind the last message would count into the store that has just been emptied.
+// A request that goes out after the last message would count into the store that has just been emptied.
 TEST_F(GlobalSettingsTest, AResetStopsTheRunBeforeItsLastMessage) {
     for (const auto* command : {"mnuResetSettings_Click", "frmGlobalSettings.cmdResetAll_Click"}) {
         Restart();

@@ -17,7 +17,7 @@ namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
-// Dialogs whose user is the test: boxes are kept, a modal form is handed to whileModal and closed behind it.
+// Dialogs whose user is the test: boxes are kept, a modal form is handed to whileModal and closed after it.
 class TestDialogs : public WindowDialogs {
 public:
     QString ChooseFileToOpen(const QString&, const QString&) override { return {}; }
