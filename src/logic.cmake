@@ -64,10 +64,12 @@ add_library(quillmere_logic STATIC
     steps/FocusHelper.cpp
     steps/FullListRules.cpp
     steps/LastPageRules.cpp
+    steps/Lending.cpp
     steps/PageDetours.cpp
     steps/ReportRows.cpp
     steps/RunReport.cpp
     steps/StepDispatcher.cpp
+    steps/StopReason.cpp
     steps/StopResume.cpp
     steps/TypedLogin.cpp
 

@@ -177,7 +177,7 @@ Next LoginFlow::FinishLogin() {
         goOnInChain();
         return Next::Wait;
     }
-    m_app.Get<StopResume>().StopAll(u"ILA"_s);
+    m_app.Get<StopResume>().StopAll(StopReason::LoginDone);
     m_app.SetStatus(u"Login successful!"_s);
     m_app.Get<StopResume>().DoFinishedExit();
     return Next::Wait;

@@ -38,7 +38,7 @@ constinit const Campaign Bulletins{
     .checks = Checks,
     .firstStep = BulletinStep::Open,
     .stopsRunningOne = true,
-    .reasons = {.stopped = "BULSTOP"},
+    .reasons = {.stopped = StopReason::BulletinStop},
     .what = "bulletins",
     .content = {.kind = ContentKind::Bulletin,
                 .fromList = "optSendFromList(2)"_L1,

@@ -32,7 +32,7 @@ void CountLimitPage(App& app) {
     state.blnLinkFound = true;
     if (app.Get<StopResume>().HandOverInChain())
         return;
-    app.Get<StopResume>().StopAll(u"LF2"_s);
+    app.Get<StopResume>().StopAll(StopReason::DailyLimit);
     if (!app.Get<StopResume>().DoFinishedExit())
         app.ShowMessage(
             u"You have reached the maximum limit of friend requests that MySpace allows in a day."_s);

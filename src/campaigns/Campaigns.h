@@ -9,6 +9,7 @@
 #include "steps/RunReport.h"
 
 #include <QString>
+#include <optional>
 #include <vector>
 
 namespace qlm {
@@ -25,6 +26,13 @@ struct CampaignContent {
     QLatin1StringView acceptText{};        // campaign that no accept run borrows
     qint16 RunState::*listIndex = nullptr; // the line that was used last
     int linesBetween = 0;                  // lines that each step of the walk passes over
+};
+
+// What StopAll is told when the campaign ends; the first two of one with targets alone.
+struct CampaignEnds {
+    std::optional<StopReason> finished = std::nullopt; // all targets were gone through
+    std::optional<StopReason> limitMet = std::nullopt; // the user's limit
+    StopReason stopped = StopReason::WindowStop;       // its own Stop
 };
 
 // What was sent on a day: belongs to the account, and stands in the settings store.
@@ -54,7 +62,7 @@ struct Campaign {
     qint16 firstStep = 0;
     bool stopsRunningOne = false; // a campaign that still runs is ended before the reset
     const char* startMark = "";   // in its trail, with the number of the mark; "" for none
-    RunReasons reasons{};
+    CampaignEnds reasons{};
 
     // What goes out; a friend request has no text of its own.
     const char* what = ""; // "friend requests"

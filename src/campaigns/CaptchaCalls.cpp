@@ -117,9 +117,7 @@ void CaptchaCalls::MessagingCAPTCHAReached() {
 
 void CaptchaCalls::WaitForUser() {
     RunState& state = m_app.state;
-    const QString action = state.CurrentAction;
-    const qint32 target = state.lngTargetNumber;
-    auto isStillAt = [&] { return state.CurrentAction == action && state.lngTargetNumber == target; };
+    const Waiting::Owned owned(m_app.waiting);
     m_app.SetStatus(WaitingForUser);
     m_app.timers->tmrAutoResume.SetEnabled(false);
     if (state.blnWaitingForCaptcha) {
@@ -127,13 +125,10 @@ void CaptchaCalls::WaitForUser() {
         FocusAnswerField();
     } else {
         CallUser();
-        if (!isStillAt())
-            return;
+        m_app.waiting.LeaveIfObsolete();
         m_app.Get<StopResume>().PauseLinkCheck();
         m_app.waiting.WaitFor(u"the page to be complete"_s,
-                              [&] { return isStillAt() && m_app.WebBrowser1().ReadyState() < 4; });
-        if (!isStillAt())
-            return;
+                              [&] { return m_app.WebBrowser1().ReadyState() < 4; });
         m_app.Get<StopResume>().ResumeLinkCheck();
     }
     state.blnWaitingForCaptcha = true;

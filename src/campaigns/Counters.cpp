@@ -127,7 +127,7 @@ bool Counters::StopUncounted() {
     const Campaign* campaign = FindCampaign(m_app.state.CurrentAction);
     if (m_isStored || !campaign || !IsPerDay(*campaign) || !ToLong(m_app.controls.Text(campaign->amount)))
         return false;
-    m_app.Get<StopResume>().StopAll(u"UNCOUNTED"_s);
+    m_app.Get<StopResume>().StopAll(StopReason::Uncounted);
     if (!m_app.Get<StopResume>().DoFinishedExit())
         m_app.ShowMessage(u"Quillmere can't save how many you have sent today, "
                           "so it can't keep your limit per day. The run has been stopped."_s);
@@ -137,7 +137,7 @@ bool Counters::StopUncounted() {
 bool Counters::StopAtLimit(const Campaign& campaign) {
     if (!LimitReached(campaign))
         return false;
-    m_app.Get<StopResume>().StopAll(QString::fromLatin1(campaign.reasons.limitMet));
+    m_app.Get<StopResume>().StopAll(*campaign.reasons.limitMet);
     if (m_app.Get<StopResume>().HandOverInChain())
         return true;
     m_app.ShowTab(u"Gather ID's"_s);

@@ -51,6 +51,12 @@ bool FriendCategories::IsCurrent(int entry) const {
     return m_entry == entry && m_app.state.AccountEmail == m_email;
 }
 
+// Another fetch has begun, which is what the user can do about a page that doesn't come.
+void FriendCategories::LeaveUnlessCurrent(int entry) const {
+    if (!IsCurrent(entry))
+        throw RunEnded();
+}
+
 void FriendCategories::piccmdFRRefreshCategories_Click() {
     if (m_app.state.CurrentAction == ActivityWord::Login) {
         m_app.ShowMessage(u"Please wait for the login process to finish"_s);
@@ -64,8 +70,7 @@ void FriendCategories::piccmdFRRefreshCategories_Click() {
     m_app.Get<Cover>().Lend();
     const QString error = m_app.diagnostics.Trap("RetrieveCategories", [&] { names = Fetch(entry); });
     m_app.Get<Cover>().TakeBack();
-    if (!IsCurrent(entry))
-        return;
+    LeaveUnlessCurrent(entry);
     if (names.isEmpty() || !error.isEmpty()) {
         m_app.controls.SetText(Box, u"Press button to fill list -> -> ->"_s);
         m_app.ShowMessage(
@@ -80,7 +85,8 @@ void FriendCategories::piccmdFRRefreshCategories_Click() {
 
 QStringList FriendCategories::Fetch(int entry) {
     QStringList names;
-    for (int page = 1; page <= MostPages && OpenPage(page, entry); ++page) {
+    for (int page = 1; page <= MostPages; ++page) {
+        OpenPage(page, entry);
         const QStringList found = NamesOnPage();
         for (const QString& name : found) {
             m_app.diagnostics.Debug(TraceFile, u"FOUND - "_s + name);
@@ -90,19 +96,16 @@ QStringList FriendCategories::Fetch(int entry) {
             break;
         m_app.diagnostics.Debug(TraceFile, u"NEXTPAGE - "_s + QString::number(page + 1));
     }
-    if (IsCurrent(entry))
-        m_app.webHide().Navigate(u"about:blank"_s);
+    m_app.webHide().Navigate(u"about:blank"_s);
     return names;
 }
 
-// False when another fetch has begun, which is what the user can do about a page that doesn't come.
-bool FriendCategories::OpenPage(int page, int entry) {
+void FriendCategories::OpenPage(int page, int entry) {
     BrowserControl& browser = m_app.webHide();
     browser.SetSilent(true);
     browser.Navigate(u"about:blank"_s);
     m_app.waiting.Pump();
-    if (!IsCurrent(entry))
-        return false;
+    LeaveUnlessCurrent(entry);
     const QString address =
         m_app.Expand(u"{FriendsHost}/index.cfm?fuseaction=user.viewcategories&friendId="_s) +
         m_app.state.MyProfileID;
@@ -113,7 +116,7 @@ bool FriendCategories::OpenPage(int page, int entry) {
     m_app.waiting.WaitFor(
         u"the list of categories"_s, [&] { return IsCurrent(entry) && isMissing(); },
         u"Press the button beside the box to ask for it again."_s);
-    return IsCurrent(entry);
+    LeaveUnlessCurrent(entry);
 }
 
 // The mark stands in the element's own tag and not in one inside it.

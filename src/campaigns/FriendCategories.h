@@ -22,8 +22,9 @@ private:
     QStringList Fetch(int entry);
     QStringList NamesOnPage();
     bool HasNextPage();
-    bool OpenPage(int page, int entry);
+    void OpenPage(int page, int entry);
     bool IsCurrent(int entry) const;
+    void LeaveUnlessCurrent(int entry) const; // throws RunEnded
     QString Path();
 
     App& m_app;

@@ -61,7 +61,7 @@ void SendRuns::Start(const Campaign& campaign) {
         return;
     MarkStart(campaign, 2);
     if (campaign.stopsRunningOne)
-        m_app.Get<StopResume>().StopAll(QString::fromLatin1(campaign.reasons.stopped));
+        m_app.Get<StopResume>().StopAll(campaign.reasons.stopped);
     Reset(campaign);
     Begin(campaign);
 }
@@ -76,7 +76,7 @@ void SendRuns::MarkStart(const Campaign& campaign, int number) {
 void SendRuns::Begin(const Campaign& campaign) {
     const Activity& activity = campaign.activity;
     const RunMark start = m_app.waiting.Mark();
-    m_app.Get<RunReport>().BeginRun(campaign.report, campaign.reasons);
+    m_app.Get<RunReport>().BeginRun(campaign.report);
     // A disk that refuses the report brings a box up, and whatever happens while it is there.
     m_app.waiting.LeaveUnlessCurrent(start);
     if (activity.step)
@@ -124,7 +124,7 @@ void SendRuns::Stop(const Campaign& campaign) {
     m_app.WebBrowser1().SetSilent(true);
     m_app.WebBrowser1().Stop();
     m_app.Get<Cover>().Hide();
-    m_app.Get<StopResume>().StopAll(QString::fromLatin1(campaign.reasons.stopped));
+    m_app.Get<StopResume>().StopAll(campaign.reasons.stopped);
 }
 
 void SendRuns::chkRemoveAfterSent_MouseDown() {
@@ -234,7 +234,7 @@ void SendRuns::RemoveUsedTarget(const QString& caller) {
         return;
     }
     const IdList& targets = state.arrFriendIDs;
-    // The user may have taken it off the list himself meanwhile.
+    // The user may have taken it off the list meanwhile.
     if (!m_app.controls.Ticked("chkRemoveAfterSent"_L1) ||
         targets.value(state.intCurrentIDIndex) != state.strCurrentID)
         return;
@@ -254,7 +254,7 @@ void SendRuns::Finish() {
         return;
     }
     RunState& state = m_app.state;
-    m_app.Get<StopResume>().StopAll(QString::fromLatin1(campaign->reasons.finished));
+    m_app.Get<StopResume>().StopAll(*campaign->reasons.finished);
     if (m_app.Get<StopResume>().DoFinishedExit())
         return;
     QString text = u"Finished sending "_s + QString::fromLatin1(campaign->what) + u'.';

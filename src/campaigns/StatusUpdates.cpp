@@ -30,7 +30,7 @@ constinit const Campaign StatusUpdates{
     .send = "piccmdSendStatusUpdates",
     .startProcedure = "cmdstatusesSend_Click",
     .checks = Checks,
-    .reasons = {.stopped = "STATUSSTOP"},
+    .reasons = {.stopped = StopReason::StatusStop},
     .what = "status updates",
     .content = {.kind = ContentKind::Status,
                 .fromList = "optSendFromList(3)"_L1,

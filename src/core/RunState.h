@@ -9,8 +9,19 @@
 
 namespace qlm {
 
+// What the step expects on the next page, and what says that the browser still shows the previous one.
+struct Expectation {
+    QString strLinkType;
+    QString strLinkValue;
+    bool blnLinkFound = false;
+    QString strLastPageText;
+    QString strLastPageHref;
+    bool blnLastPageAsHTML = false;
+    bool blnForceAdvance = false;
+};
+
 // What belongs to a run: a stop clears all of it in one assignment.
-struct RunFields {
+struct RunFields : Expectation {
     // The running activity and its step. Values 16 bit, 0 at rest.
     QString CurrentAction;
     qint16 intGatherStep = 0;
@@ -21,17 +32,6 @@ struct RunFields {
     qint16 intAccStep = 0;
     qint16 intLoginStep = 0;
     qint16 intDelPenStep = 0;
-
-    // What the step expects on the next page.
-    QString strLinkType;
-    QString strLinkValue;
-    bool blnLinkFound = false;
-
-    // What says that the browser still shows the previous page.
-    QString strLastPageText;
-    QString strLastPageHref;
-    bool blnLastPageAsHTML = false;
-    bool blnForceAdvance = false;
 
     // Decisions about the profile being worked on.
     QString strCurrentID;
@@ -48,22 +48,32 @@ struct RunFields {
     qint16 intGatherRetryTicks = 0;
 
     // Sending.
-    QString strFRResumeURL; // the request page to go back to behind a message
+    QString strFRResumeURL; // the request page to go back to after a message
     qint16 intFRLimitHits = 0;
     qint16 intConfirmPolls = 0;
-    bool blnBulletinDeleting = false;
     bool blnCommentFormShown = false;
-    bool blnBulletinWaiting = false;
-    bool blnStatusWaiting = false;
-    bool SwitchingAccount = false; // the next start of a campaign goes on behind a change of account
+    bool SwitchingAccount = false; // the next start of a campaign goes on after a change of account
 
     // What the tick waits for, for the line that tells of a long wait.
     QString strWaitingFor;
 };
 
+// The campaigns that wait for their minute while others run. The own end of another activity spares it; any
+// other stop clears it.
+struct TimedFields {
+    bool blnBulletinWaiting = false;
+    bool blnStatusWaiting = false;
+    bool blnBulletinDeleted = false; // the last bulletin is gone from the board
+    // The campaign that has lent the browser, and the address to go back to.
+    bool varResumeFR = false;
+    bool blnResumeMsg = false;
+    bool blnResumeCom = false;
+    QString strResumeURL;
+};
+
 // The run state of the program: plain fields, read and written by every step. One instance, owned by the App;
 // there is no other copy of any of it.
-struct RunState : RunFields {
+struct RunState : RunFields, TimedFields {
     // Folders and the account in use.
     QString DataFolder;
     QString ProgramFolder; // the installation folder when it is writable, otherwise DataFolder

@@ -13,7 +13,7 @@ Waiting::Scope::Scope(Waiting& waiting, std::optional<RunMark> owned)
     : m_waiting(waiting), m_around(std::exchange(waiting.m_owned, owned)) {}
 
 bool Waiting::Scope::IsCurrent() const {
-    return m_waiting.m_owned == m_waiting.Mark();
+    return m_waiting.m_owned && m_waiting.IsCurrent(*m_waiting.m_owned);
 }
 
 RunMark Waiting::NextEntry() {
@@ -31,13 +31,21 @@ void Waiting::OwnTarget() {
         m_owned = Mark();
 }
 
-void Waiting::Pump() {
+void Waiting::Deliver() {
     {
         const Unowned handlers(*this);
         m_app.platform.Pump().PumpMessages();
     }
     if (m_app.state.blnClosing)
         throw ProgramEnding();
+}
+
+void Waiting::Pump() {
+    Deliver();
+    while (IsParked() && !m_parked->is) {
+        m_app.platform.Pump().Sleep(10);
+        Deliver();
+    }
     LeaveIfObsolete();
 }
 
@@ -54,6 +62,23 @@ RunMark Waiting::Mark() const {
     return {m_app.state.lngRunNumber, m_app.state.lngTargetNumber, m_app.state.lngEntryNumber};
 }
 
+bool Waiting::IsCurrent(const RunMark& mark) const {
+    return mark == Mark() || (m_parked && m_parked->was == mark && m_parked->is == Mark());
+}
+
+void Waiting::Park() {
+    const RunMark mark = Mark();
+    OutdateSteps();
+    m_parked = {mark};
+}
+
+void Waiting::Readmit() {
+    const std::optional<Parked> parked = m_parked;
+    OutdateSteps();
+    if (parked)
+        m_parked = {parked->was, Mark()};
+}
+
 void Waiting::LeaveUnlessCurrent(const RunMark& mark) const {
     if (!IsCurrent(mark))
         throw RunEnded();
@@ -61,6 +86,7 @@ void Waiting::LeaveUnlessCurrent(const RunMark& mark) const {
 
 void Waiting::OutdateSteps() {
     ++m_app.state.lngRunNumber;
+    m_parked.reset();
     m_app.state.intBlankTicks = 0;
     m_app.WebBrowser1().EndRefusals();
 }

@@ -78,10 +78,15 @@ public:
     void Pump();
     // Taken before a wait; after it IsCurrent() tells whether the step may go on.
     RunMark Mark() const;
-    bool IsCurrent(const RunMark& mark) const { return mark == Mark(); }
+    bool IsCurrent(const RunMark& mark) const;
     void LeaveUnlessCurrent(const RunMark& mark) const; // throws RunEnded
     // Whatever waits is obsolete from here on: its mark is none any more, and the page may move again.
     void OutdateSteps();
+    // The present run is lent out: until Readmit() its waits neither come back nor end. OutdateSteps() ends
+    // them.
+    void Park();
+    // What has been parked goes on, and belongs to the present run.
+    void Readmit();
     // Turns until more than the given whole seconds have gone by, the link check is held, or the step is
     // obsolete.
     void WaitSeconds(int seconds);
@@ -99,9 +104,17 @@ public:
 
 private:
     RunMark NextEntry();
+    bool IsParked() const { return m_owned && m_parked && *m_owned == m_parked->was; }
+    void Deliver();
 
     App& m_app;
+    // A mark that is lent out, and since its return what it stands for.
+    struct Parked {
+        RunMark was;
+        std::optional<RunMark> is{};
+    };
     std::optional<RunMark> m_owned; // by the innermost scope
+    std::optional<Parked> m_parked;
     const LongWait* m_innermost = nullptr;
 };
 

@@ -42,7 +42,7 @@ void BlackList::picRemoveFriends_Click() {
         if (m_app.Get<GatherDriver>().RefuseDuringLogin())
             return;
         m_app.diagnostics.Debug(u"debuggather.txt"_s, u"REMOVE FRIENDS START"_s, true);
-        m_app.Get<StopResume>().StopAll(u"REMFR"_s);
+        m_app.Get<StopResume>().StopAll(StopReason::RemoveFriendsBegins);
         const Waiting::Owned owned(m_app.waiting);
         m_app.SetStatus(u"Waiting for friends page to load..."_s);
         m_app.ClearPage();

@@ -51,7 +51,7 @@ void GatherDriver::picScanStart_Click() {
         m_app.diagnostics.Debug(u"debuggather.txt"_s, u"START - Curr: "_s + OptionsTrace(), true);
         if (RefuseDuringLogin() || WarnBeforeStart())
             return;
-        m_app.Get<StopResume>().StopAll(u"GATHERSTART1"_s);
+        m_app.Get<StopResume>().StopAll(StopReason::GatherBegins);
         m_app.Get<GatheredList>().SetScannedLabel();
         state.CurrentAction = ActivityWord::Gathering;
         state.lstAlreadyFullGatheredPageIDs.clear();
@@ -97,7 +97,7 @@ void GatherDriver::picScanStop_Click() {
         if (RefuseDuringAnyLogin())
             return;
         m_app.WebBrowser1().SetSilent(true);
-        m_app.Get<StopResume>().StopAll(u"GATHERSTOP"_s);
+        m_app.Get<StopResume>().StopAll(StopReason::GatherStop);
     });
 }
 
@@ -136,7 +136,7 @@ void GatherDriver::ReturnToList() {
     m_app.waiting.OutdateSteps();
     m_app.timers->Timer1.SetEnabled(false);
     if (again) {
-        m_app.Get<StopResume>().StopAll(u"LF2"_s);
+        m_app.Get<StopResume>().StopAll(StopReason::LoginAgain);
         if (!m_app.Get<StopResume>().DoFinishedExit())
             m_app.ShowMessage(
                 u"The site asks for your login again and again. The gathering process has been stopped."_s);
@@ -190,7 +190,7 @@ void GatherDriver::GatherFromPage() {
         if (!filterPass || entry != state.lngEntryNumber || !state.CurrentAction.isEmpty())
             return;
         Trace(u"IGP3.2"_s);
-        m_app.Get<StopResume>().StopAll(u"IGP1"_s);
+        m_app.Get<StopResume>().StopAll(StopReason::StoppedInFilter);
     });
     m_app.Get<LinkScanner>().GatherPageProfiles();
     m_app.waiting.LeaveIfObsolete();

@@ -34,7 +34,7 @@ bool IsMoreLink(const Element& link, const QString& address) {
     return Has(link.OuterHTML(), u"moreLink"_s) && !SaysHidden(link.ParentElement().OuterHTML());
 }
 
-// "20 of 35": the first number, and the one behind the "of".
+// "20 of 35": the first number, and the one after the "of".
 bool AllIsShown(const QString& text) {
     const qsizetype of = text.indexOf(u"of"_s, 0, Qt::CaseInsensitive);
     return ExtractNumberFromString(text) >= ExtractNumberFromString(text.mid(of + 3));
@@ -93,7 +93,7 @@ void GatherDriver::GrowInPlace() {
 
 void GatherDriver::FinishGathering() {
     const bool comparing = m_app.state.blnComparingIDs;
-    m_app.Get<StopResume>().StopAll(u"IGP2"_s);
+    m_app.Get<StopResume>().StopAll(StopReason::GatherDone);
     Trace(u"IGP4.5"_s);
     if (!comparing)
         m_app.SetStatus(u"Finished gathering ID's"_s);

@@ -64,7 +64,7 @@ void WebSearch::Run() {
         Finish();
     m_app.platform.Dialogs().CloseForm(u"frmGoogleSearch"_s);
     if (IsOwn(entry))
-        m_app.Get<StopResume>().StopAll(u"GATHERSTART2"_s);
+        m_app.Get<StopResume>().StopAll(StopReason::WebSearchBegins);
 }
 
 void WebSearch::Finish() {

@@ -67,7 +67,13 @@ public:
 
     // Starts loading and returns at once. An address without a scheme gets "http://"; "javascript:" runs in
     // the page.
-    virtual void Navigate(const QString& url) = 0;
+    void Navigate(const QString& url) {
+        if (url != u"about:blank" && !url.startsWith(u"javascript:"))
+            m_lastAsked = url;
+        GoTo(url);
+    }
+    // What Navigate() was last asked for, other than about:blank and scripts.
+    QString LastAsked() const { return m_lastAsked; }
     virtual void Stop() = 0;
     virtual void GoBack() = 0;
     virtual void GoForward() = 0;
@@ -86,7 +92,7 @@ public:
     virtual qint64 EngineCalls() const { return 0; }
 
     // While somebody refuses them, navigations that the page or the user begins are refused at once and not
-    // reported. Each holder ends his own refusal; whose refusal was ended by EndRefusals() ends nothing more.
+    // reported. Each holder ends its own refusal; whose refusal was ended by EndRefusals() ends nothing more.
     quint64 BeginRefusal() {
         m_refusals.insert(++m_lastRefusal);
         return m_lastRefusal;
@@ -117,12 +123,16 @@ public:
     // The container's share of TakeFocus().
     std::function<void()> onTakeFocus;
 
+protected:
+    virtual void GoTo(const QString& url) = 0;
+
 private:
     bool m_silent = false;
     bool m_visible = true;
     std::set<quint64> m_refusals;
     quint64 m_lastRefusal = 0;
     int m_position = 1;
+    QString m_lastAsked;
 };
 
 inline void BrowserControl::ZOrder(int position) {

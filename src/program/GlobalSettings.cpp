@@ -68,11 +68,11 @@ void GlobalSettings::mnuResetSettings_Click() {
                      title);
 }
 
-// The exit would write everything back, and a run that goes on behind the message its counts.
+// The exit would write everything back, and a run that goes on after the message its counts.
 void GlobalSettings::CloseBehindReset(const QString& message, const QString& title) {
     m_app.Get<SettingsFields>().Sync();
     m_app.state.blnNoSaveOnExit = true;
-    m_app.Get<StopResume>().StopAll(u"FU"_s);
+    m_app.Get<StopResume>().StopAll(StopReason::Closing);
     m_app.ShowMessage(message, title);
     m_app.Close();
 }

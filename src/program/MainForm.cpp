@@ -143,7 +143,7 @@ bool MainForm::Form_Unload() {
         if (m_app.controls.Ticked("mnuDisableBrowserSounds"_L1))
             m_app.Get<BrowserSounds>().Restore();
     });
-    m_app.Get<StopResume>().StopAll(u"FU"_s);
+    m_app.Get<StopResume>().StopAll(StopReason::Closing);
     m_app.CloseForms(u"frmMain"_s);
     m_app.state.blnClosing = true;
     m_app.platform.Shell().Quit();
@@ -171,7 +171,7 @@ void MainForm::picStop_Click() {
     m_app.WebBrowser1().Stop();
     m_app.state.blnUserNavigated = true;
     m_app.webHide().ZOrder(1);
-    m_app.Get<StopResume>().StopAll(u"MAINSTOP"_s);
+    m_app.Get<StopResume>().StopAll(StopReason::WindowStop);
 }
 
 void MainForm::picGO_Click() {

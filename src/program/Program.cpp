@@ -34,6 +34,7 @@
 #include "steps/ActionTick.h"
 #include "steps/Activities.h"
 #include "steps/BrowserHost.h"
+#include "steps/Lending.h"
 #include "steps/RunReport.h"
 #include "steps/StepDispatcher.h"
 #include "steps/StopResume.h"
@@ -60,6 +61,7 @@ void App::MakeFamilies() {
     m_families.Make<MainForm>(*this);
     m_families.Make<ActionTick>(*this);
     m_families.Make<StopResume>(*this);
+    m_families.Make<Lending>(*this);
     m_families.Make<SettingsFields>(*this);
     m_families.Make<ProductServer>(*this);
     m_families.Make<GlobalSettings>(*this);

@@ -24,7 +24,9 @@ struct Activity {
     // What the trail says of each check of the page, and whether also of one that found what was expected.
     const char* checkMark = "checking...";
     bool tracesFound = false;
-    bool sends = false;             // to one person after the other
+    bool sends = false; // to one person after the other
+    // Says that the browser is lent to a post that fell due; nullptr for an activity that doesn't lend it.
+    bool RunState::*lent = nullptr;
     bool tracesPageClasses = false; // whatever page the classifier knows is noted in the debug file
     // The step after the one that sends, for Skip; 0 where the step goes on as it stands, nothing where
     // there is no target to skip.

@@ -44,7 +44,7 @@ bool CountRepeatedPage(App& app) {
     ++state.intGatherRetryTicks;
     if (!Has(state.strGatherStartURL, u"page/1001"_s) || state.intGatherRetryTicks < RepeatedPageLimit)
         return false;
-    app.Get<StopResume>().StopAll(u"LF2"_s);
+    app.Get<StopResume>().StopAll(StopReason::PagesRepeat);
     if (!app.Get<StopResume>().DoFinishedExit())
         app.ShowMessage(u"MySpace only displays the first 1000 pages, "
                         "after which the same ID's just repeat page after page.\n\n"

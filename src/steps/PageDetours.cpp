@@ -167,7 +167,7 @@ void RefuseLanguage(App& app) {
     // The tick goes on under the box and would bring the same one up again.
     app.Get<StopResume>().PauseLinkCheck();
     ShowLanguageMessage(app);
-    app.Get<StopResume>().StopAll(u"LF1"_s);
+    app.Get<StopResume>().StopAll(StopReason::NotEnglish);
     app.Get<StopResume>().DoFinishedExit();
 }
 
@@ -200,7 +200,7 @@ void PassBirthdayNotice(App& app) {
 void StopAtLimit(App& app) {
     app.state.blnDailyLimitHit = false;
     app.state.blnLinkFound = true;
-    app.Get<StopResume>().StopAll(u"LF2"_s);
+    app.Get<StopResume>().StopAll(StopReason::DailyLimit);
     if (!app.Get<StopResume>().HandOverInChain())
         app.Get<StopResume>().DoFinishedExit();
 }

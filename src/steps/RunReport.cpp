@@ -22,39 +22,32 @@ constexpr qint64 LargestReport = 8 << 20;
 constexpr qsizetype PartBytes = 1 << 18;
 constexpr qsizetype PassedOverAtOnce = 100;
 
-// What a reason of StopAll means to the user, and what it makes of the target that is being worked on.
+// What an ending means to the user, and what it makes of the target that is being worked on.
 struct EndRow {
-    QLatin1StringView reason;
+    Ending ending;
     const char* how;
     ReportResult openTarget;
     const char* why;
 };
 
-// Those that any run may have.
-const std::vector<EndRow>& EndRows() {
-    static const std::vector<EndRow> rows{
-        {"UNCOUNTED"_L1, "The count of today could not be saved", ReportResult::Unfinished, ""},
-        {"LF2"_L1, "The site's daily limit was reached", ReportResult::Failed, ""},
-        {"MAINSTOP"_L1, "You pressed Stop", ReportResult::Unfinished, "You pressed Stop"},
-        {"FU"_L1, "The program was closed", ReportResult::Unfinished, "The program was closed"},
+EndRow RowFor(Ending ending, const ReportKind& kind) {
+    constexpr auto Unfinished = ReportResult::Unfinished;
+    static constexpr EndRow rows[] = {
+        {Ending::AllDone, "All targets were gone through", Unfinished, ""},
+        {Ending::LimitMet, "Your limit was reached", Unfinished, ""},
+        {Ending::Stopped, "You pressed Stop", Unfinished, "You pressed Stop"},
+        {Ending::Closed, "The program was closed", Unfinished, "The program was closed"},
+        {Ending::Uncounted, "The count of today could not be saved", Unfinished, ""},
+        {Ending::DailyLimit, "The site's daily limit was reached", ReportResult::Failed, ""},
+        {Ending::Other, "The run was ended", Unfinished, "The run was ended"},
     };
-    return rows;
-}
-
-EndRow RowFor(const QString& reason, const ReportKind& kind, const RunReasons& reasons) {
-    const bool isOver = kind.overLimit[0] != 0;
-    std::vector<EndRow> rows{
-        {QLatin1StringView(reasons.finished), "All targets were gone through", ReportResult::Unfinished, ""},
-        {QLatin1StringView(reasons.limitMet), "Your limit was reached",
-         isOver ? ReportResult::SentNotLogged : ReportResult::Unfinished, kind.overLimit},
-        {QLatin1StringView(reasons.stopped), "You pressed Stop", ReportResult::Unfinished,
-         "You pressed Stop"},
-    };
-    rows.insert(rows.end(), EndRows().begin(), EndRows().end());
-    for (const EndRow& row : rows)
-        if (reason == row.reason)
-            return row;
-    return {{}, "The run was ended", ReportResult::Unfinished, "The run was ended"};
+    EndRow row = *std::find_if(std::begin(rows), std::end(rows),
+                               [ending](const EndRow& each) { return each.ending == ending; });
+    if (ending == Ending::LimitMet && kind.overLimit[0]) {
+        row.openTarget = ReportResult::SentNotLogged;
+        row.why = kind.overLimit;
+    }
+    return row;
 }
 
 // How many runs at the file's beginning are too many.
@@ -101,15 +94,14 @@ bool RunReport::IsRunning(const ReportKind& kind) const {
     return m_running && qstrcmp(kind.file, m_kind.file) == 0;
 }
 
-void RunReport::BeginRun(const ReportKind& kind, const RunReasons& reasons) {
+void RunReport::BeginRun(const ReportKind& kind) {
     if (kind.file[0] == 0)
         return;
     // A start over a running run gets no stop in between.
     if (m_running)
-        EndRun(u"begun anew"_s);
+        End(Ending::Other);
     m_running = true;
     m_kind = kind;
-    m_reasons = reasons;
     m_problemTold = false;
     m_row = {};
     if (const QString path = PathOf(kind); path != m_path) {
@@ -142,10 +134,13 @@ void RunReport::DropOldRuns() {
     });
 }
 
-void RunReport::EndRun(const QString& reason) {
-    if (!m_running)
-        return;
-    const EndRow row = RowFor(reason, m_kind, m_reasons);
+void RunReport::EndRun(StopReason reason) {
+    if (m_running)
+        End(RowOf(reason).ending);
+}
+
+void RunReport::End(Ending ending) {
+    const EndRow row = RowFor(ending, m_kind);
     Close(row.openTarget, QString::fromLatin1(row.why));
     m_lines.append(EndLine(m_app.NowText(), QString::fromLatin1(row.how)));
     Write(Durability::Synced);

@@ -3,19 +3,13 @@
 
 #include "core/FileSystem.h"
 #include "steps/ReportRows.h"
+#include "steps/StopReason.h"
 
 #include <functional>
 
 namespace qlm {
 
 class App;
-
-// The reasons that StopAll is given when a campaign ends; "" for an end that it doesn't have.
-struct RunReasons {
-    const char* finished = ""; // all targets were gone through
-    const char* limitMet = ""; // the user's limit
-    const char* stopped = "";  // its own Stop
-};
 
 // What the report of a campaign differs in.
 struct ReportKind {
@@ -37,9 +31,9 @@ public:
     explicit RunReport(App& app) : m_app(app) {}
 
     // Of a run without report nothing is written.
-    void BeginRun(const ReportKind& kind, const RunReasons& reasons);
+    void BeginRun(const ReportKind& kind);
     // The run is over, for the reason that StopAll was given. Does nothing without a run.
-    void EndRun(const QString& reason);
+    void EndRun(StopReason reason);
 
     // A target that needs no page.
     void PassOver(const QString& id, const QString& why);
@@ -66,6 +60,7 @@ public:
     std::function<void()> onChange;
 
 private:
+    void End(Ending ending);
     void DropOldRuns();
     void Write(Durability durability);
     void Changed() const;
@@ -73,7 +68,6 @@ private:
     App& m_app;
     bool m_running = false;
     ReportKind m_kind;
-    RunReasons m_reasons;
     QString m_path;
     QStringList m_lines; // not yet written
     qsizetype m_passedOver = 0;

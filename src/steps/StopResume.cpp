@@ -5,6 +5,7 @@
 #include "core/App.h"
 #include "core/SettingsFields.h"
 #include "steps/Activities.h"
+#include "steps/Lending.h"
 #include "steps/RunReport.h"
 
 namespace qlm {
@@ -13,22 +14,25 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// The friend requester's mark alone carries no reason.
-QString StopMark(const Activity& activity, const QString& reason, const QString& now) {
+// The friend requester's mark alone carries no tag.
+QString StopMark(const Activity& activity, QLatin1StringView tag, const QString& now) {
     const QString mark = QString::fromLatin1(activity.stopMark);
-    return mark.endsWith(u'(') ? mark + reason + u')' + now : mark + now;
+    return mark.endsWith(u'(') ? mark + tag + u')' + now : mark + now;
 }
 
 } // namespace
 
-void StopResume::StopAll(const QString& reason) {
+void StopResume::StopAll(StopReason reason) {
     RunState& state = m_app.state;
     const Activity* activity = FindActivity(state.CurrentAction);
     if (activity && activity->stopMark[0])
-        m_app.diagnostics.DebugForAction(StopMark(*activity, reason, m_app.NowText()));
+        m_app.diagnostics.DebugForAction(StopMark(*activity, RowOf(reason).tag, m_app.NowText()));
 
     m_app.waiting.OutdateSteps();
     static_cast<RunFields&>(state) = {};
+
+    if (!RowOf(reason).isOwnEnd)
+        EndTimedPosts();
 
     m_app.timers->tmrAutoResume.SetEnabled(false);
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
@@ -40,6 +44,13 @@ void StopResume::StopAll(const QString& reason) {
 
     // Writes to the disk, which may fail and bring a window up: nothing runs any more by then.
     m_app.Get<RunReport>().EndRun(reason);
+}
+
+void StopResume::EndTimedPosts() {
+    static_cast<TimedFields&>(m_app.state) = {};
+    m_app.Get<Lending>().Forget();
+    m_app.timers->tmrBulletinWait.SetEnabled(false);
+    m_app.timers->tmrStatusUpdatesWait.SetEnabled(false);
 }
 
 void StopResume::ResumeNext() {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include "steps/StopReason.h"
 
 namespace qlm {
 
@@ -13,9 +13,8 @@ class StopResume {
 public:
     explicit StopResume(App& app) : m_app(app) {}
 
-    // Ends any activity and resets all steps; goes on past errors. reason is the short tag for the debug
-    // file.
-    void StopAll(const QString& reason);
+    // Ends any activity and resets all steps; goes on past errors.
+    void StopAll(StopReason reason);
     // Re-enters the step routine of the running activity at its present step.
     void ResumeNext();
     // Abandons the current profile, or cuts a running delay short.
@@ -32,6 +31,8 @@ public:
     bool HandOverInChain();
 
 private:
+    // What waits for its minute ends as well, and whoever has lent the browser.
+    void EndTimedPosts();
     void SkipTo(const Activity& activity);
 
     App& m_app;

@@ -79,7 +79,7 @@ void BrowserHost::ReadTypedLogin(const NavigationRequest& request) {
     if (const QString problem = AccountProblem(typed.email, typed.password); !problem.isEmpty()) {
         // The site signs somebody in whom the program cannot name: nothing of its account may go on there.
         if (anotherAccount)
-            m_app.Get<StopResume>().StopAll(u"TYPED"_s);
+            m_app.Get<StopResume>().StopAll(StopReason::OtherSignIn);
         m_app.ShowMessage(problem);
         return;
     }

@@ -155,7 +155,7 @@ void TargetCost::CountPasses() {
     };
     firstPassCalls = pass();
     laterPassCalls = pass();
-    app.Get<StopResume>().StopAll(u"BENCH"_s);
+    app.Get<StopResume>().StopAll(StopReason::WindowStop);
     program.driver.End({});
 }
 

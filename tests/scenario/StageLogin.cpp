@@ -51,7 +51,7 @@ void Stage::LogIn(const QString& email, const QString& ownID) {
     m_app->state.blnNewLayout = true;
     m_app->state.AccountsLoadedOnce = false;
     ShowLoggedInAs(*m_app);
-    m_app->Get<StopResume>().StopAll(u"ILA"_s);
+    m_app->Get<StopResume>().StopAll(StopReason::LoginDone);
     Browser(BrowserName::WebBrowser1).Stop();
     Browser(BrowserName::WebBrowser1).Navigate(u"about:blank"_s);
     ThePump().PumpMessages();

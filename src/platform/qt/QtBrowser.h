@@ -24,7 +24,7 @@ class PopupWindow;
 // only between two turns, so that within a turn the program always sees one document. Every event is posted
 // to the queue.
 //
-// about:blank is the control's own: it stands at once. Behind it the engine is sent to a real blank page, and
+// about:blank is the control's own: it stands at once. After it the engine is sent to a real blank page, and
 // nothing else is loaded before that has arrived; so what arrives afterwards can't be anything older.
 class QtBrowser final : public QObject, public BrowserControl, private PageObserver, private DocumentOwner {
     Q_OBJECT
@@ -39,7 +39,7 @@ public:
     QtBrowser(QtPump& pump, QWebEngineProfile& profile);
     ~QtBrowser() override;
 
-    void Navigate(const QString& url) override;
+    void GoTo(const QString& url) override;
     void Stop() override;
     void GoBack() override;
     void GoForward() override;

@@ -47,7 +47,7 @@ NavigationRequest RequestFor(const QString& url) {
 
 } // namespace
 
-void QtBrowser::Navigate(const QString& url) {
+void QtBrowser::GoTo(const QString& url) {
     Settle();
     m_pump.Queue().EndTurn();
     const QString address = url.trimmed();

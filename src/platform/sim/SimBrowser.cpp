@@ -34,7 +34,7 @@ int SimBrowser::ReadyState() {
     return m_document ? complete : nothingYet;
 }
 
-void SimBrowser::Navigate(const QString& url) {
+void SimBrowser::GoTo(const QString& url) {
     Touched();
     if (SchemeOf(url.trimmed()) == u"javascript") {
         Post([this, script = url.trimmed()] { RunScript(script); });

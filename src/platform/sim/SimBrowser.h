@@ -21,7 +21,7 @@ public:
     SimBrowser(SimWeb& web, SimPump& pump);
     ~SimBrowser() override;
 
-    void Navigate(const QString& url) override;
+    void GoTo(const QString& url) override;
     void Stop() override;
     void GoBack() override;
     void GoForward() override;

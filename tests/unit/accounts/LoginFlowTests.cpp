@@ -35,7 +35,7 @@ TEST_F(LoginFlowTest, AStopWhileTheAccountIsRestoredEndsTheLogin) {
         bool asked = false;
         world.http.responder = [&](const QString&) {
             asked = true;
-            app->Get<StopResume>().StopAll(u"FU"_s);
+            app->Get<StopResume>().StopAll(StopReason::Closing);
             return std::optional(u"2009-06-02"_s);
         };
         LogIn(step);

@@ -290,7 +290,7 @@ TEST_F(PageTestsTest, WhoReadsThePageWaitsForItsBody) {
 
 TEST_F(PageTestsTest, AWaitForABodyIsNoneAnyMoreBehindAStop) {
     Show(u"{SiteRootHost}/page"_s, u"x"_s, SimFault::NoBody);
-    app->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(u"MAINSTOP"_s); });
+    app->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(StopReason::WindowStop); });
     world.web.SetPage(u"http://www.site.example.com/page"_s, u"<html><body>wanted</body></html>"_s);
     EXPECT_THROW(Tests().IsTextInPage(u"wanted"_s), RunEnded);
     EXPECT_TRUE(Tests().IsTextInPage(u"wanted"_s));
@@ -312,7 +312,7 @@ TEST_F(PageTestsTest, AnAbandonedWaitDoesNotCutTheUsersLoadOff) {
     world.web.SetAnswer(u"http://www.site.example.com/slow"_s, slow);
     Browser().TakeVisited();
     app->Pump().Queue().Post([this] {
-        app->Get<StopResume>().StopAll(u"MAINSTOP"_s);
+        app->Get<StopResume>().StopAll(StopReason::WindowStop);
         Browser().Navigate(u"http://www.site.example.com/slow"_s);
     });
     EXPECT_THROW(Tests().WaitForDocument(), RunEnded);
@@ -330,7 +330,7 @@ public:
 
 class LateLinksBrowser : public BrowserControl, public SimDocumentHost {
 public:
-    void Navigate(const QString&) override {}
+    void GoTo(const QString&) override {}
     void Stop() override {}
     void GoBack() override {}
     void GoForward() override {}

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
 #include "campaigns/CaptchaCalls.h"
+#include "steps/StopResume.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -173,7 +174,7 @@ TEST_F(MessagingCaptchaTest, AStopEndsTheWaitAndArmsNothing) {
     platform->Pump().PumpMessages();
     platform->Pump().onPump = [&] {
         if (app->state.blnHoldLinkCheck)
-            app->state.CurrentAction.clear();
+            app->Get<StopResume>().StopAll(StopReason::WindowStop);
     };
     app->Get<CaptchaCalls>().MessagingCAPTCHAReached();
     EXPECT_FALSE(app->timers->tmrCheckLinkLoaded.Enabled());

@@ -126,7 +126,7 @@ TEST_F(PacingTest, SkipEndsTheDelayAndLiftsTheHold) {
 
 TEST_F(PacingTest, StopEndsTheDelayAndItsHoldStays) {
     SetBounds(u"60"_s, u"60"_s);
-    platform->Pump().onPump = [&] { app->Get<StopResume>().StopAll(u"MAINSTOP"_s); };
+    platform->Pump().onPump = [&] { app->Get<StopResume>().StopAll(StopReason::WindowStop); };
     EXPECT_EQ(SecondsOfDelay(), 0);
     EXPECT_TRUE(app->state.blnHoldLinkCheck);
     EXPECT_FALSE(app->state.blnInDelay);

@@ -155,7 +155,7 @@ TEST_F(CategoryTest, IsWaitedForOnlyWhileTheStepLasts) {
     fields.ApplyCategory();
     EXPECT_LT(world.clock.NowMs() - startMs, 1000);
     app->state.intFRStep = 8;
-    platform->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(u"ADDSTOP"_s); });
+    platform->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(StopReason::RequestStop); });
     fields.ApplyCategory();
     EXPECT_LT(world.clock.NowMs() - startMs, 1000);
     EXPECT_TRUE(ById(u"b"_s).IsNull());

@@ -75,7 +75,7 @@ TEST_F(DurabilityTest, AListIsWholeOnTheDiskBeforeItTakesTheOldOnesPlace) {
 
 TEST_F(DurabilityTest, TheReportsResultIsOnTheDiskBeforeTheRunGoesOn) {
     RunReport report(*app);
-    report.BeginRun(FriendRequests.report, FriendRequests.reasons);
+    report.BeginRun(FriendRequests.report);
     Forget();
     report.Open(u"1001"_s);
     ExpectSteps({u"write"_s});

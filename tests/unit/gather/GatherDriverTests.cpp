@@ -107,7 +107,7 @@ TEST_F(GatherDriverTest, TheWaitForTheNextPage) {
         const qint64 limitMs = platform->Pump().NowMs() + stopSeconds * qint64(1000);
         platform->Pump().onPump = [&] {
             if (platform->Pump().NowMs() > limitMs && !app->state.CurrentAction.isEmpty())
-                app->Get<StopResume>().StopAll(u"TEST"_s);
+                app->Get<StopResume>().StopAll(StopReason::WindowStop);
         };
         app->state.CurrentAction = u"SCANNING"_s;
         app->state.intGatherStep = 4;

@@ -74,7 +74,7 @@ TEST_F(GatherStepTest, APieceOfMarkupMarksTheLastPageInTheNewLayoutAlone) {
     EXPECT_EQ(mark(false), QString());
 }
 
-// The link says the same behind the next click; what stands around it doesn't.
+// The link says the same after the next click; what stands around it doesn't.
 TEST_F(GatherStepTest, TheOldEndOfNotificationsIsTheTextAroundTheirLink) {
     Show(
         u"http://www.example.com/my/notifications"_s,
@@ -176,7 +176,7 @@ TEST_F(GatherStepTest, AStopEndsTheTurnOfAPageWhereItIs) {
                 after += line;
             if (stopped || !line.startsWith(row.line))
                 return;
-            app->Get<StopResume>().StopAll(u"SCANSTOP"_s);
+            app->Get<StopResume>().StopAll(StopReason::WindowStop);
             stopped = true;
         };
         Enter(4);

@@ -69,7 +69,7 @@ TEST_F(LinkScannerTest, AVisitThatIsStoppedAtItsBeginningOpensNoProfile) {
     ShowProfiles({u"11"_s});
     const ProfileVisit visit{*app, [this] { return !app->state.CurrentAction.isEmpty(); }, 20};
     platform->Browser(BrowserName::WebBrowser1).TakeVisited();
-    app->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(u"SCANSTOP"_s); });
+    app->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(StopReason::WindowStop); });
     visit.Fails(u"11"_s);
     platform->Pump().RunFor(1000);
     EXPECT_EQ(platform->Browser(BrowserName::WebBrowser1).TakeVisited(), QStringList());
@@ -135,7 +135,7 @@ TEST_F(LinkScannerTest, AStopEndsThePassAtOnce) {
     app->state.strNextPageLink = u"not the first page"_s;
     platform->Pump().onPump = [this] {
         if (!app->Get<GatheredList>().IsEmpty())
-            app->Get<StopResume>().StopAll(u"TEST"_s);
+            app->Get<StopResume>().StopAll(StopReason::WindowStop);
     };
     Waiting::LeaveHere([this] { app->Get<LinkScanner>().GatherPageProfiles(); });
     EXPECT_EQ(Ids(), QStringList{u"11"_s});
@@ -293,7 +293,7 @@ TEST_F(LinkScannerTest, AStopDuringAFetchCollectsNothingMore) {
     app->controls.SetVisible("ucpanelFullGatherIDNotify"_L1, false);
     platform->Pump().onPump = [this] {
         if (app->controls["ucpanelFullGatherIDNotify"_L1].visible)
-            app->Get<StopResume>().StopAll(u"TEST"_s);
+            app->Get<StopResume>().StopAll(StopReason::WindowStop);
     };
     Waiting::LeaveHere([this] { app->Get<LinkScanner>().GatherPageProfiles(); });
     EXPECT_EQ(app->controls.Items("lstAcceptIDs"_L1), QStringList{u"11"_s});

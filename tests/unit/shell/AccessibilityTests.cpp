@@ -80,7 +80,7 @@ TEST_F(AccessibilityTest, WhateverCanHaveTheFocusOfAFormHasANameAndIsReachedByTa
 
 TEST_F(AccessibilityTest, WhateverCanHaveTheFocusOfTheMainWindowHasANameAndIsReachedByTab) {
     dialogs.ShowForm(u"frmMain"_s);
-    app->Get<StopResume>().StopAll(u"TEST"_s);
+    app->Get<StopResume>().StopAll(StopReason::WindowStop);
     QWidget& window = *dialogs.FormWidget(u"frmMain"_s);
     auto* tabs = dynamic_cast<TabStrip*>(window.findChild<QWidget*>(u"TabStrip1"_s));
     for (int tab = 0; tab < tabs->model()->rowCount(); ++tab) {
@@ -97,7 +97,7 @@ TEST_F(AccessibilityTest, WhateverCanHaveTheFocusOfTheMainWindowHasANameAndIsRea
 // A key that is typed when the page calls for one goes to the page, not to the button that was pressed last.
 TEST_F(AccessibilityTest, ThePageTakesTheKeysOfTheButtonThatWasPressedLast) {
     dialogs.ShowForm(u"frmMain"_s);
-    app->Get<StopResume>().StopAll(u"TEST"_s);
+    app->Get<StopResume>().StopAll(StopReason::WindowStop);
     QWidget* window = dialogs.FormWidget(u"frmMain"_s);
     QApplication::setActiveWindow(window);
     auto* tabs = window->findChild<QListView*>(u"TabStrip1"_s);

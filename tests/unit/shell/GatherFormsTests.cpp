@@ -17,7 +17,7 @@ class GatherFormsTest : public WindowTest {
 protected:
     QWidget* Tab() {
         dialogs.ShowForm(u"frmMain"_s);
-        app->Get<StopResume>().StopAll(u"TEST"_s);
+        app->Get<StopResume>().StopAll(StopReason::WindowStop);
         return dialogs.FormWidget(u"frmMain"_s)->findChild<QWidget*>(u"picScanIDs"_s);
     }
     static QStringList Captions(const QWidget& form) {

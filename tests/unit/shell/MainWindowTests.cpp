@@ -30,7 +30,7 @@ class MainWindowTest : public WindowTest {
 protected:
     MainWindowTest() {
         dialogs.ShowForm(u"frmMain"_s);
-        app->Get<StopResume>().StopAll(u"TEST"_s);
+        app->Get<StopResume>().StopAll(StopReason::WindowStop);
         window = dialogs.FormWidget(u"frmMain"_s);
     }
 
@@ -207,7 +207,7 @@ TEST_F(MainWindowTest, TheFrameIsBroughtOntoTheScreenToo) {
 TEST_F(WindowTest, ATabThatIsShownFirstLaterDoesNotPushThePage) {
     ApplyLook(*qApp);
     dialogs.ShowForm(u"frmMain"_s);
-    app->Get<StopResume>().StopAll(u"TEST"_s);
+    app->Get<StopResume>().StopAll(StopReason::WindowStop);
     QApplication::processEvents();
     auto* tabs = Find<QListView>("frmMain", "TabStrip1");
     const auto* panels = Find<QStackedWidget>("frmMain", "fraPanels");

@@ -24,7 +24,7 @@ protected:
     WorkAreaTest() {
         ApplyLook(*qApp);
         dialogs.ShowForm(u"frmMain"_s);
-        app->Get<StopResume>().StopAll(u"TEST"_s);
+        app->Get<StopResume>().StopAll(StopReason::WindowStop);
         window = dialogs.FormWidget(u"frmMain"_s);
         strip = dynamic_cast<TabStrip*>(window->findChild<QWidget*>(u"TabStrip1"_s));
         panels = window->findChild<QStackedWidget*>(u"fraPanels"_s);

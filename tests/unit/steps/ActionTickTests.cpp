@@ -245,7 +245,7 @@ TEST_F(ActionTickTest, AStepOfARunThatWasStoppedMeanwhileIsNotTaken) {
     State().CurrentAction = u"FR"_s;
     State().intFRStep = 6;
     app->Pump().Queue().Post([this] {
-        app->Get<StopResume>().StopAll(u"MAINSTOP"_s);
+        app->Get<StopResume>().StopAll(StopReason::WindowStop);
         // The next run has come as far as its own last step.
         State().CurrentAction = u"FR"_s;
         State().intFRStep = 6;

@@ -73,7 +73,7 @@ TEST_F(DetourTest, AStopWhileLoggingInAgainIsTheLastWord) {
     Show(Root, u"<p>Forgot Password?</p>"_s);
     State().CurrentAction = u"MSG"_s;
     Browser().Navigate(u"http://www.site.example.com/slow"_s);
-    app->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(u"MSGSTOP"_s); });
+    app->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(StopReason::MessageStop); });
     EXPECT_TRUE(TakesUnfound());
     EXPECT_TRUE(State().blnHoldLinkCheck);
     EXPECT_FALSE(State().blnSkipRequested);
@@ -260,12 +260,12 @@ TEST_F(DetourTest, TheOldPageIsGoneAtOnce) {
 TEST_F(DetourTest, AStopWhileTheOldPageGoesIsTheLastWord) {
     Show(u"Skip this advertisement"_s);
     LogIn(3);
-    app->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(u"LPSTOP"_s); });
+    app->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(StopReason::WindowStop); });
     EXPECT_TRUE(TakesUnfound());
     EXPECT_EQ(Visited(), QStringList());
     Show(u"{ForumHost}/t?x=1&page=2"_s, u"Sorry! An unexpected error has occurred"_s);
     State().CurrentAction = u"SCANNING"_s;
-    app->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(u"SCANSTOP"_s); });
+    app->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(StopReason::WindowStop); });
     EXPECT_TRUE(TakesUnfound());
     EXPECT_EQ(Visited(), QStringList());
 }
@@ -572,7 +572,7 @@ TEST_F(DetourTest, TheReportSaysWhyATargetWasLeft) {
              {u"{MessagingHost}/index.cfm?fuseaction=mail.inbox"_s, u"x"_s, 8,
               "The site showed your inbox instead of a confirmation"}}) {
         RunReport& report = app->Get<RunReport>();
-        report.BeginRun(FriendRequests.report, FriendRequests.reasons);
+        report.BeginRun(FriendRequests.report);
         report.Open(u"1001"_s);
         Show(row.address, row.body);
         BeginRequests(row.step);

@@ -230,7 +230,7 @@ TEST_F(ErrorPageTest, ALoginThatIsStoppedMeanwhileLoadsNothing) {
     State().CurrentAction = u"LOGIN"_s;
     State().intLoginStep = 1;
     Await(u"Text"_s, u"wanted"_s);
-    app->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(u"LPSTOP"_s); });
+    app->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(StopReason::WindowStop); });
     EXPECT_FALSE(CheckHeld());
     EXPECT_TRUE(Browser().TakeVisited().isEmpty());
 }
@@ -308,7 +308,7 @@ TEST_F(ErrorPageTest, AnotherPageForgetsTheLimit) {
 TEST_F(ErrorPageTest, AStopWhileThePageIsClearedIsTheLastWord) {
     Show(Refusal);
     BeginRequests(8);
-    app->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(u"ADDSTOP"_s); });
+    app->Pump().Queue().Post([this] { app->Get<StopResume>().StopAll(StopReason::RequestStop); });
     EXPECT_FALSE(Check());
     EXPECT_EQ(State().CurrentAction, QString());
     EXPECT_FALSE(SaidBeginningWith(u"FR Maint"_s));

@@ -83,13 +83,12 @@ TEST(ReportRows, EveryClassThatEndsATargetHasWords) {
 class RunReportTest : public SimulatedProgram {
 protected:
     const ReportKind& kind = FriendRequests.report;
-    const RunReasons& reasons = FriendRequests.reasons;
     RunReport report{*app};
     QStringList Lines() { return app->files.ReadLines(report.PathOf(kind)); }
 };
 
 TEST_F(RunReportTest, TellsWhatBecameOfEachTarget) {
-    report.BeginRun(kind, reasons);
+    report.BeginRun(kind);
     report.PassOver(u"1000"_s, u"known"_s);
     report.Open(u"1001"_s);
     report.Close(ReportResult::Sent);
@@ -98,7 +97,7 @@ TEST_F(RunReportTest, TellsWhatBecameOfEachTarget) {
     report.RemarkPage(37);
     report.Close(ReportResult::Failed, u"a remark stands"_s);
     report.Open(u"1003"_s);
-    report.EndRun(u"AFC"_s);
+    report.EndRun(StopReason::RequestLimit);
     ASSERT_EQ(report.Runs(kind).size(), 1);
     EXPECT_EQ(
         Texts(report.Runs(kind)[0]),
@@ -110,13 +109,13 @@ TEST_F(RunReportTest, TellsWhatBecameOfEachTarget) {
     const QStringList before = Lines();
     report.Open(u"1004"_s);
     report.PassOver(u"1005"_s, u"known"_s);
-    report.EndRun(u"IAF"_s);
+    report.EndRun(StopReason::RequestsDone);
     EXPECT_EQ(Lines(), before);
 }
 
 TEST_F(RunReportTest, TellsHowTheRunEnded) {
     struct Row {
-        QString reason;
+        StopReason reason;
         QString how;
         QString target;
     };
@@ -125,59 +124,58 @@ TEST_F(RunReportTest, TellsHowTheRunEnded) {
     const QString ended = u"The run was ended"_s;
     for (
         const Row& row : std::vector<Row>{
-            {u"IAF"_s, u"All targets were gone through"_s, u"Unfinished"_s},
-            {u"AFC"_s, u"Your limit was reached"_s,
+            {StopReason::RequestsDone, u"All targets were gone through"_s, u"Unfinished"_s},
+            {StopReason::RequestLimit, u"Your limit was reached"_s,
              u"Sent, not logged, The request that met your limit: it is sent, but neither counted nor logged"_s},
-            {u"LF2"_s, u"The site's daily limit was reached"_s, u"Failed"_s},
-            {u"ADDSTOP"_s, pressed, u"Unfinished, "_s + pressed},
-            {u"MAINSTOP"_s, pressed, u"Unfinished, "_s + pressed},
-            {u"FU"_s, closed, u"Unfinished, "_s + closed},
-            {u"GNCA"_s, ended, u"Unfinished, "_s + ended}}) {
-        report.BeginRun(kind, reasons);
+            {StopReason::DailyLimit, u"The site's daily limit was reached"_s, u"Failed"_s},
+            {StopReason::RequestStop, pressed, u"Unfinished, "_s + pressed},
+            {StopReason::WindowStop, pressed, u"Unfinished, "_s + pressed},
+            {StopReason::Closing, closed, u"Unfinished, "_s + closed},
+            {StopReason::OtherSignIn, ended, u"Unfinished, "_s + ended}}) {
+        report.BeginRun(kind);
         report.Open(u"1001"_s);
         report.EndRun(row.reason);
         const ReportedRun run = report.Runs(kind).constLast();
-        EXPECT_EQ(run.how, row.how) << row.reason.toStdString();
-        EXPECT_EQ(Texts(run), QStringList{u"1001: "_s + row.target}) << row.reason.toStdString();
+        EXPECT_EQ(run.how, row.how) << RowOf(row.reason).tag.data();
+        EXPECT_EQ(Texts(run), QStringList{u"1001: "_s + row.target}) << RowOf(row.reason).tag.data();
     }
 }
 
 // Where the limit is tested between two targets, the open one has nothing to do with it.
 TEST_F(RunReportTest, EachCampaignEndsForItsOwnReasons) {
     struct Row {
-        QString reason;
+        StopReason reason;
         QString how;
         QString target;
     };
-    const RunReasons own{.finished = "ISM", .limitMet = "LIMIT", .stopped = "MSGSTOP"};
-    for (const Row& row :
-         std::vector<Row>{{u"ISM"_s, u"All targets were gone through"_s, u"Unfinished"_s},
-                          {u"LIMIT"_s, u"Your limit was reached"_s, u"Unfinished"_s},
-                          {u"MSGSTOP"_s, u"You pressed Stop"_s, u"Unfinished, You pressed Stop"_s},
-                          {u"IAF"_s, u"The run was ended"_s, u"Unfinished, The run was ended"_s}}) {
-        report.BeginRun(Messages.report, own);
+    for (const Row& row : std::vector<Row>{
+             {StopReason::MessagesDone, u"All targets were gone through"_s, u"Unfinished"_s},
+             {StopReason::MessageLimit, u"Your limit was reached"_s, u"Unfinished"_s},
+             {StopReason::MessageStop, u"You pressed Stop"_s, u"Unfinished, You pressed Stop"_s},
+             {StopReason::OtherSignIn, u"The run was ended"_s, u"Unfinished, The run was ended"_s}}) {
+        report.BeginRun(Messages.report);
         EXPECT_TRUE(report.IsRunning(Messages.report));
         EXPECT_FALSE(report.IsRunning(kind));
         report.Open(u"1001"_s);
         report.EndRun(row.reason);
         const ReportedRun run = report.Runs(Messages.report).constLast();
-        EXPECT_EQ(run.how, row.how) << row.reason.toStdString();
-        EXPECT_EQ(Texts(run), QStringList{u"1001: "_s + row.target}) << row.reason.toStdString();
+        EXPECT_EQ(run.how, row.how) << RowOf(row.reason).tag.data();
+        EXPECT_EQ(Texts(run), QStringList{u"1001: "_s + row.target}) << RowOf(row.reason).tag.data();
     }
     EXPECT_TRUE(report.Runs(kind).isEmpty());
 }
 
 // A campaign without targets, which may borrow the browser of another, leaves its report alone.
 TEST_F(RunReportTest, ARunWithoutReportLeavesTheOneThatGoesOn) {
-    report.BeginRun(kind, reasons);
-    report.BeginRun(Bulletins.report, Bulletins.reasons);
+    report.BeginRun(kind);
+    report.BeginRun(Bulletins.report);
     EXPECT_TRUE(report.IsRunning(kind));
     report.Open(u"1001"_s);
     EXPECT_EQ(Texts(report.Runs(kind)[0]), QStringList{u"1001: Unfinished"_s});
 }
 
 TEST_F(RunReportTest, AResultIsOnTheDiskWhenTheRunGoesOn) {
-    report.BeginRun(kind, reasons);
+    report.BeginRun(kind);
     report.Open(u"1001"_s);
     EXPECT_TRUE(Lines().constLast().startsWith(u"at\t1\t"_s));
     report.Close(ReportResult::Sent);
@@ -185,7 +183,7 @@ TEST_F(RunReportTest, AResultIsOnTheDiskWhenTheRunGoesOn) {
 }
 
 TEST_F(RunReportTest, PassedOverTargetsGoToTheFileByTheHundred) {
-    report.BeginRun(kind, reasons);
+    report.BeginRun(kind);
     for (int i = 0; i < 99; ++i)
         report.PassOver(QString::number(i), u"known"_s);
     EXPECT_EQ(Lines().size(), 1);
@@ -195,7 +193,7 @@ TEST_F(RunReportTest, PassedOverTargetsGoToTheFileByTheHundred) {
 }
 
 TEST_F(RunReportTest, ADiskThatRefusesIsToldOnceARunAndNothingIsLost) {
-    report.BeginRun(kind, reasons);
+    report.BeginRun(kind);
     world.gate.readOnlyFolders = {world.installationFolder};
     for (const QString& id : {u"1001"_s, u"1002"_s}) {
         report.Open(id);
@@ -214,9 +212,9 @@ TEST_F(RunReportTest, ADiskThatRefusesIsToldOnceARunAndNothingIsLost) {
 
 TEST_F(RunReportTest, OnlyTheLastTwentyRunsAreKept) {
     for (int run = 1; run <= 25; ++run) {
-        report.BeginRun(kind, reasons);
+        report.BeginRun(kind);
         report.PassOver(QString::number(run), u"known"_s);
-        report.EndRun(u"IAF"_s);
+        report.EndRun(StopReason::RequestsDone);
     }
     ASSERT_EQ(report.Runs(kind).size(), 20);
     EXPECT_EQ(report.Runs(kind).constFirst().rows[0].id, u"6"_s);
@@ -227,13 +225,13 @@ TEST_F(RunReportTest, OnlyTheLastTwentyRunsAreKept) {
 TEST_F(RunReportTest, OldRunsThatAreTooBigGoAndTheLastOneStays) {
     const QString why(900, u'x');
     for (int run = 1; run <= 4; ++run) {
-        report.BeginRun(kind, reasons);
+        report.BeginRun(kind);
         for (int target = 1; target <= 5000; ++target)
             report.PassOver(QString::number(target), why);
-        report.EndRun(u"IAF"_s);
+        report.EndRun(StopReason::RequestsDone);
     }
     EXPECT_LT(QFileInfo(report.PathOf(kind)).size(), 15'000'000);
-    report.BeginRun(kind, reasons);
+    report.BeginRun(kind);
     EXPECT_LT(QFileInfo(report.PathOf(kind)).size(), 10'000'000);
     const QList<ReportedRun> runs = report.Runs(kind);
     ASSERT_EQ(runs.size(), 2);
@@ -243,7 +241,7 @@ TEST_F(RunReportTest, OldRunsThatAreTooBigGoAndTheLastOneStays) {
 }
 
 TEST_F(RunReportTest, ATornLastLineIsPassedOverAndTheNextRunStandsWhole) {
-    report.BeginRun(kind, reasons);
+    report.BeginRun(kind);
     report.Open(u"1001"_s);
     world.gate.CrashAtWrite(1);
     EXPECT_THROW(report.Close(ReportResult::Sent), SimPowerCut);
@@ -251,7 +249,7 @@ TEST_F(RunReportTest, ATornLastLineIsPassedOverAndTheNextRunStandsWhole) {
     RunReport next(*app);
     ASSERT_EQ(next.Runs(kind).size(), 1);
     EXPECT_EQ(Texts(next.Runs(kind)[0]), QStringList{u"1001: Unfinished"_s});
-    next.BeginRun(kind, reasons);
+    next.BeginRun(kind);
     next.Open(u"1002"_s);
     next.Close(ReportResult::Sent);
     ASSERT_EQ(next.Runs(kind).size(), 2);

@@ -20,10 +20,10 @@ TEST_F(StopResumeTest, AStopClearsWhatBelongsToTheRun) {
         &RunState::intLoginStep,   &RunState::intDelPenStep,  &RunState::intGatherRetryTicks,
         &RunState::intFRLimitHits, &RunState::intConfirmPolls};
     const std::vector<bool RunState::*> flags{
-        &RunState::blnLinkFound,     &RunState::blnLastPageAsHTML,   &RunState::blnForceAdvance,
-        &RunState::blnClickNextLink, &RunState::blnComparingIDs,     &RunState::blnRetryGatherPage,
-        &RunState::blnSkipCurrentID, &RunState::blnBulletinDeleting, &RunState::blnCommentFormShown,
-        &RunState::blnSkipRequested, &RunState::blnInDelay,          &RunState::blnBulletinWaiting,
+        &RunState::blnLinkFound,     &RunState::blnLastPageAsHTML,  &RunState::blnForceAdvance,
+        &RunState::blnClickNextLink, &RunState::blnComparingIDs,    &RunState::blnRetryGatherPage,
+        &RunState::blnSkipCurrentID, &RunState::blnBulletinDeleted, &RunState::blnCommentFormShown,
+        &RunState::blnSkipRequested, &RunState::blnInDelay,         &RunState::blnBulletinWaiting,
         &RunState::blnStatusWaiting, &RunState::SwitchingAccount};
     const std::vector<QString RunState::*> texts{&RunState::CurrentAction,   &RunState::strLinkType,
                                                  &RunState::strLinkValue,    &RunState::strLastPageText,
@@ -41,7 +41,7 @@ TEST_F(StopResumeTest, AStopClearsWhatBelongsToTheRun) {
     app->timers->tmrCheckLinkLoaded.Restart();
     app->timers->Timer1.Restart();
 
-    app->Get<StopResume>().StopAll(u"MAINSTOP"_s);
+    app->Get<StopResume>().StopAll(StopReason::WindowStop);
     for (size_t i = 0; i < numbers.size(); ++i)
         EXPECT_EQ(state.*numbers[i], 0) << i;
     for (size_t i = 0; i < flags.size(); ++i)
@@ -61,7 +61,7 @@ TEST_F(StopResumeTest, AStopNeverTouchesTheListAndTheCounters) {
     State().arrFriendIDs = {u"1001"_s};
     State().lngDailyFR = 5;
     State().lngSessionFR = 4;
-    app->Get<StopResume>().StopAll(u"MAINSTOP"_s);
+    app->Get<StopResume>().StopAll(StopReason::WindowStop);
     EXPECT_EQ(State().arrFriendIDs.ToStringList(), QStringList{u"1001"_s});
     EXPECT_EQ(State().lngDailyFR, 5);
     EXPECT_EQ(State().lngSessionFR, 4);
@@ -72,19 +72,20 @@ TEST_F(StopResumeTest, AStopLeavesItsMarkInTheTrailOfTheActivity) {
         QString action;
         QString mark; // %1 the time
     };
-    for (const Row& row : {Row{u"SCANNING"_s, u"GATHER stop - (TAG)%1"_s}, Row{u"FR"_s, u"FR stop - %1"_s},
-                           Row{u"COM"_s, u"COM stop - (TAG)%1"_s}, Row{u"MSG"_s, u"MSG stop - (TAG)%1"_s},
-                           Row{u"ACC"_s, u"ACC stop - (TAG)%1"_s}, Row{u"LOGIN"_s, u"LOGIN stop - (TAG)%1"_s},
-                           Row{u"INV"_s, u"EVINV stop - (TAG)%1"_s}}) {
+    for (const Row& row :
+         {Row{u"SCANNING"_s, u"GATHER stop - (MAINSTOP)%1"_s}, Row{u"FR"_s, u"FR stop - %1"_s},
+          Row{u"COM"_s, u"COM stop - (MAINSTOP)%1"_s}, Row{u"MSG"_s, u"MSG stop - (MAINSTOP)%1"_s},
+          Row{u"ACC"_s, u"ACC stop - (MAINSTOP)%1"_s}, Row{u"LOGIN"_s, u"LOGIN stop - (MAINSTOP)%1"_s},
+          Row{u"INV"_s, u"EVINV stop - (MAINSTOP)%1"_s}}) {
         trail.clear();
         State().CurrentAction = row.action;
-        app->Get<StopResume>().StopAll(u"TAG"_s);
+        app->Get<StopResume>().StopAll(StopReason::WindowStop);
         EXPECT_EQ(trail, QStringList{row.mark.arg(app->NowText())}) << row.action.toStdString();
     }
     for (const QString& action : {u"BUL"_s, u"DEL PEN"_s, u"STATUSUPDATES"_s, QString()}) {
         trail.clear();
         State().CurrentAction = action;
-        app->Get<StopResume>().StopAll(u"TAG"_s);
+        app->Get<StopResume>().StopAll(StopReason::WindowStop);
         EXPECT_TRUE(trail.isEmpty()) << action.toStdString();
     }
 }
@@ -96,7 +97,7 @@ TEST_F(StopResumeTest, ALabelThatFailsDoesNotStopTheStop) {
         if (control.name == "myfraCurrentAction"_L1)
             throw std::runtime_error("no window");
     });
-    app->Get<StopResume>().StopAll(u"TAG"_s);
+    app->Get<StopResume>().StopAll(StopReason::WindowStop);
     EXPECT_EQ(State().strCurrentID, QString());
 }
 
@@ -292,7 +293,7 @@ TEST_F(StopResumeTest, SkipTakesNoStepAwayFromWhatItDoesNotSkip) {
 TEST_F(StopResumeTest, AStopOutdatesWhateverWaits) {
     const RunMark mark = app->waiting.Mark();
     EXPECT_TRUE(app->waiting.IsCurrent(mark));
-    app->Get<StopResume>().StopAll(u"TAG"_s);
+    app->Get<StopResume>().StopAll(StopReason::WindowStop);
     EXPECT_FALSE(app->waiting.IsCurrent(mark));
     EXPECT_THROW(app->waiting.LeaveUnlessCurrent(mark), RunEnded);
     // It is no error: the trap tells nobody, and nothing counts as failed.
@@ -302,7 +303,7 @@ TEST_F(StopResumeTest, AStopOutdatesWhateverWaits) {
 
 TEST_F(StopResumeTest, AStopLetsThePageMoveAndEndsNobodyElsesRefusal) {
     std::optional<NavigationGuard> first(Browser());
-    app->Get<StopResume>().StopAll(u"TAG"_s);
+    app->Get<StopResume>().StopAll(StopReason::WindowStop);
     EXPECT_FALSE(Browser().RefusesNavigations());
     std::optional<NavigationGuard> second(Browser());
     first.reset();

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "steps/Lending.h"
+
+#include "browser/Cover.h"
+#include "browser/PageSigns.h"
+#include "core/App.h"
+#include "steps/Activities.h"
+
+#include <utility>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+bool Lending::MayTake() const {
+    const Activity* activity = RunningActivity(m_app);
+    return m_app.state.CurrentAction.isEmpty() || (activity && activity->lent && !IsLent());
+}
+
+void Lending::Take(QLatin1StringView borrower, Page page) {
+    RunState& state = m_app.state;
+    const Activity* lender = RunningActivity(m_app);
+    if (lender && lender->lent)
+        Lend(*lender, page);
+    else
+        m_app.waiting.OutdateSteps();
+    state.CurrentAction = borrower;
+    static_cast<Expectation&>(state) = {};
+    state.blnInDelay = false;
+    state.blnHoldLinkCheck = false;
+    m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
+    m_app.timers->Timer1.SetEnabled(false);
+}
+
+void Lending::Lend(const Activity& lender, Page page) {
+    RunState& state = m_app.state;
+    m_loan = {&lender,
+              state,
+              state.blnInDelay,
+              state.blnHoldLinkCheck,
+              m_app.timers->tmrCheckLinkLoaded.Enabled(),
+              m_app.timers->tmrAutoResume.Enabled()};
+    state.*lender.lent = true;
+    if (page == Page::Kept && !state.blnInDelay) {
+        const QString shown = m_app.WebBrowser1().LocationURL();
+        state.strResumeURL = shown == u"about:blank"_s ? m_app.WebBrowser1().LastAsked() : shown;
+    }
+    if (state.blnInDelay)
+        m_app.waiting.Park();
+    else
+        m_app.waiting.OutdateSteps();
+}
+
+bool Lending::GiveBack() {
+    if (!m_loan)
+        return false;
+    RunState& state = m_app.state;
+    const Loan loan = *std::exchange(m_loan, std::nullopt);
+    const QString address = std::exchange(state.strResumeURL, {});
+    state.*loan.lender->lent = false;
+    state.CurrentAction = loan.lender->word;
+    static_cast<Expectation&>(state) = loan.expectation;
+    state.blnSkipRequested = false;
+    m_app.timers->Timer1.SetEnabled(false);
+    m_app.timers->tmrAutoResume.SetEnabled(loan.watchdog);
+    if (loan.isInDelay) {
+        state.blnInDelay = true;
+        state.blnHoldLinkCheck = loan.isHeld;
+        m_app.timers->tmrCheckLinkLoaded.SetEnabled(loan.linkTimer);
+        m_app.Get<Cover>().Show();
+        m_app.waiting.Readmit();
+        return true;
+    }
+    m_app.waiting.OutdateSteps();
+    state.blnHoldLinkCheck = false;
+    state.blnLinkFound = false;
+    if (!address.isEmpty())
+        m_app.WebBrowser1().Navigate(address);
+    m_app.timers->tmrCheckLinkLoaded.Restart();
+    return true;
+}
+
+void Lending::Forget() {
+    m_loan.reset();
+}
+
+} // namespace qlm
