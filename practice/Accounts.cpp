@@ -12,6 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 void Accounts::Restore() {
     m_accounts.clear();
     m_sessions.clear();
+    m_noMail.clear();
     for (int i = 0; i < 10; ++i)
         Add(QChar(u'a' + i) + u"@example.com"_s, u"secret"_s, 900001 + i);
 }

@@ -3,6 +3,7 @@
 
 #include <QList>
 #include <QMap>
+#include <QSet>
 #include <QString>
 
 namespace qlm::practice {
@@ -20,7 +21,7 @@ public:
     /// a@example.com (900001) to j@example.com (900010), all with the password "secret".
     Accounts() { Restore(); }
 
-    /// Back to those ten, with no session open.
+    /// Back to those ten, with no session open and all with mail.
     void Restore();
 
     void Add(const QString& mail, const QString& password, qint64 id);
@@ -36,9 +37,19 @@ public:
     void DropSession(const QString& token) { m_sessions.remove(token); }
     void DropAllSessions() { m_sessions.clear(); }
 
+    /// An account that has never set up its mail can write to nobody.
+    void SetMail(qint64 id, bool has) {
+        if (has)
+            m_noMail.remove(id);
+        else
+            m_noMail.insert(id);
+    }
+    bool HasNoMail(qint64 id) const { return m_noMail.contains(id); }
+
 private:
     QList<Account> m_accounts;
     QMap<QString, QString> m_sessions; // token to mail
+    QSet<qint64> m_noMail;
     quint64 m_opened = 0;
 };
 

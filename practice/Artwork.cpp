@@ -29,6 +29,14 @@ QString IconDrawing() {
 )-"_s;
 }
 
+QString PostDrawing() {
+    return uR"-(<svg xmlns="http://www.w3.org/2000/svg" width="128" height="28" viewBox="0 0 128 28">
+<rect width="128" height="28" rx="5" fill="#e6861a"/>
+<text x="64" y="19" text-anchor="middle" font-family="Verdana, DejaVu Sans, sans-serif" font-size="12"
+ font-weight="bold" fill="#fff">Post A Comment</text></svg>
+)-"_s;
+}
+
 QString ComedyBadge() {
     return uR"-(<svg xmlns="http://www.w3.org/2000/svg" width="120" height="34" viewBox="0 0 120 34">
 <rect width="120" height="34" rx="6" fill="#7a3b69"/><circle cx="18" cy="14" r="7" fill="#ffd28a"/>

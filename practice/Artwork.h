@@ -10,6 +10,7 @@ struct Person;
 /// The site's pictures, all drawn here as SVG.
 QString LogoDrawing();
 QString IconDrawing();
+QString PostDrawing(); ///< an image for a button
 QString ComedyBadge();
 QString FilmBadge();
 

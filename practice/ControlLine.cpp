@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ControlLine.h"
 
-#include "Address.h"
 #include "Designs.h"
 #include "Refusals.h"
 #include "World.h"
+#include "WritingControls.h"
 
-#include <algorithm>
 #include <array>
-#include <stdexcept>
 
 namespace qlm::practice {
 
@@ -16,62 +14,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Thrown for a line that makes no sense; its text goes back to whoever sent the line.
-struct BadControl : std::runtime_error {
-    explicit BadControl(const QString& text) : std::runtime_error(text.toStdString()) {}
-};
-
-// The words of a line behind the command, read one after another.
-class Arguments {
-public:
-    explicit Arguments(const QStringList& words) : m_words(words) {}
-
-    bool AtEnd() const { return m_next >= m_words.size(); }
-    QString Word() {
-        if (AtEnd())
-            throw BadControl(u"something is missing at the end"_s);
-        return m_words[m_next++];
-    }
-    qint64 Number() {
-        const QString word = Word();
-        bool ok = false;
-        const qint64 number = word.toLongLong(&ok);
-        if (!ok || !IsDigits(word))
-            throw BadControl(u"not a number: "_s + word);
-        return number;
-    }
-    int Count() { return static_cast<int>(std::min<qint64>(Number(), 1000000)); }
-    bool OnOff() {
-        const QString word = Word();
-        if (word != "on"_L1 && word != "off"_L1)
-            throw BadControl(u"neither on nor off: "_s + word);
-        return word == "on"_L1;
-    }
-    Outcome RequestOutcome() {
-        const QString word = Word();
-        const auto outcome = OutcomeNamed(word);
-        if (!outcome)
-            throw BadControl(u"unknown outcome: "_s + word);
-        return *outcome;
-    }
-    bool NextIs(QLatin1StringView word) {
-        const bool is = !AtEnd() && m_words[m_next] == word;
-        m_next += is ? 1 : 0;
-        return is;
-    }
-    void Expect(QLatin1StringView word) {
-        if (!NextIs(word))
-            throw BadControl(u"expected: "_s + word);
-    }
-    void End() const {
-        if (!AtEnd())
-            throw BadControl(u"too much: "_s + m_words[m_next]);
-    }
-
-private:
-    QStringList m_words;
-    qsizetype m_next = 0;
-};
+Outcome RequestOutcome(Arguments& args) {
+    const QString word = args.Word();
+    const auto outcome = OutcomeNamed(word);
+    if (!outcome)
+        throw BadControl(u"unknown outcome: "_s + word);
+    return *outcome;
+}
 
 void SetSeed(World& world, Arguments& args) {
     const qint64 seed = args.Number();
@@ -104,16 +53,15 @@ void SetLimit(World& world, Arguments& args) {
 }
 
 void SetShare(World& world, Arguments& args) {
-    const Outcome outcome = args.RequestOutcome();
+    const Outcome outcome = RequestOutcome(args);
     const int percent = args.Count();
     args.End();
-    if (const QString wrong = world.requests.SetShare(outcome, percent); !wrong.isEmpty())
-        throw BadControl(wrong);
+    RefuseIfWrong(world.requests.SetShare(outcome, percent));
 }
 
 void SetOutcome(World& world, Arguments& args) {
     const qint64 target = args.Number();
-    const Outcome outcome = args.RequestOutcome();
+    const Outcome outcome = RequestOutcome(args);
     args.End();
     world.requests.Fix(target, outcome);
 }
@@ -236,6 +184,17 @@ constexpr std::array controlRows{
     ControlRow{"share"_L1, SetShare},
     ControlRow{"outcome"_L1, SetOutcome},
     ControlRow{"refuse"_L1, SetRefusal},
+    ControlRow{"compose"_L1, SetMessageForm},
+    ControlRow{"comment-form"_L1, SetCommentForm},
+    ControlRow{"message-outcome"_L1, SetMessageOutcome},
+    ControlRow{"comment-outcome"_L1, SetCommentOutcome},
+    ControlRow{"message-share"_L1, SetMessageShare},
+    ControlRow{"comment-share"_L1, SetCommentShare},
+    ControlRow{"message-refuse"_L1, RefuseMessage},
+    ControlRow{"comment-refuse"_L1, RefuseComment},
+    ControlRow{"message-limit"_L1, LimitMessages},
+    ControlRow{"comment-limit"_L1, LimitComments},
+    ControlRow{"mail"_L1, SetMail},
     ControlRow{"captcha-word"_L1, SetCaptchaWord},
     ControlRow{"captcha-kind"_L1, SetCaptchaKind},
     ControlRow{"friends"_L1, SetFriends},

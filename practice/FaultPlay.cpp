@@ -3,6 +3,9 @@
 
 #include "Frame.h"
 #include "pages/CaptchaPages.h"
+#include "pages/CommentForms.h"
+#include "pages/CommentPages.h"
+#include "pages/ComposePages.h"
 #include "pages/NoticePages.h"
 #include "pages/RequestPages.h"
 #include "pages/SignInDetours.h"
@@ -28,12 +31,19 @@ Response DropSession(Visit& visit) {
     return RedirectToSignIn();
 }
 
+// What was written there waits for the word; the page itself has the image before it, like any other.
+bool IsWritten(const Visit& visit, Handler handler) {
+    return visit.IsPost() && !SentAnswer(visit) &&
+           (handler == ComposeNew || handler == ComposeOld || handler == CommentForm ||
+            handler == CommentsPage);
+}
+
 bool IsRequestPage(Handler handler) {
     return handler == AddToFriends || handler == AddFriendVerify;
 }
 
 Response ThroughCaptcha(Visit& visit, Handler handler) {
-    if (IsRequestPage(handler)) {
+    if (IsRequestPage(handler) || IsWritten(visit, handler)) {
         visit.captchaForced = true;
         return handler(visit);
     }

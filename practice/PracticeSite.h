@@ -24,6 +24,15 @@ struct World;
 ///                                    home, inbox, refused-N, self, invalid
 ///     asked ASKER TARGET             a request has come into being, behind its request line
 ///     asked-again ASKER TARGET       a request page was visited for somebody already asked by that account
+///     message SENDER TARGET OUTCOME  what a compose page answered: sent, captcha, captcha-wrong, draft,
+///     empty,
+///                                    limit, refused-N, no-mail, invalid, self, or the word of an outcome
+///                                    below
+///     messaged SENDER TARGET "SUBJECT" "TEXT"   a message has arrived, behind its message line; texts as
+///     JSON comment SENDER TARGET OUTCOME  the same for comments: posted, confirm, captcha, captcha-wrong,
+///     blank, html,
+///                                    back, limit, refused-N, invalid, or the word of an outcome below
+///     commented SENDER TARGET "TEXT" a comment has arrived, behind its comment line
 ///     visit HOST/PATH                every page request, while `journal visits on`
 ///     shown HOST/PATH ID...          who stood on the list of a delivered page, in its order, and can
 ///                                    be told by number there; while `journal shown on`
@@ -40,6 +49,18 @@ struct World;
 ///     share OUTCOME PERCENT          how many profiles answer so
 ///     outcome ID OUTCOME             how one profile answers
 ///     refuse ID N|off                that profile answers with the Nth of the refusals
+///     compose ID|all FORM|off        which form that person's compose pages show, or everybody's
+///     comment-form ID|all FORM|off   the same for comments; /sitemap/forms lists the forms
+///     message-outcome ID OUTCOME     how one person answers a message: sent, cannot, friends-only,
+///     only-friends,
+///                                    maintenance, away, error, process-error, captcha, captcha-home, home
+///     comment-outcome ID OUTCOME     a comment: posted, friends-only, private, flooding, unable, captcha,
+///     no-html,
+///                                    approval, approval-alone, home
+///     message-share OUTCOME PERCENT, comment-share OUTCOME PERCENT    how many people answer so
+///     message-refuse ID N|off, comment-refuse ID N|off    the Nth of the refusals in place of the form
+///     message-limit N|off, comment-limit N|off    what one account may write in a day
+///     mail ID on|off                 whether that account has set up its mail
 ///     captcha-word WORD|off          the word of every CAPTCHA image
 ///     captcha-kind KIND|mixed        image, image-text, words, settings; image at the start
 ///     friends ID COUNT               length of a friends list

@@ -5,8 +5,11 @@
 #include "pages/AssetPages.h"
 #include "pages/CaptchaPages.h"
 #include "pages/CategoryPages.h"
+#include "pages/CommentForms.h"
+#include "pages/ComposePages.h"
 #include "pages/ControlPages.h"
 #include "pages/DesignPages.h"
+#include "pages/FormMap.h"
 #include "pages/HardPages.h"
 #include "pages/HomePages.h"
 #include "pages/ListPages.h"
@@ -51,14 +54,22 @@ constexpr std::array routeRows{
     RouteRow{Role::Friends, u"index.cfm", u"user.viewfriends", OldFriendsAddress},
     RouteRow{Role::Friends, u"index.cfm", u"user.viewcategories", CategoriesPage},
     RouteRow{Role::Profile, u"index.cfm", u"user.viewprofile", OldProfileAddress},
+    RouteRow{Role::SiteRoot, u"my/mail/new", u"", ComposeNew},
+    RouteRow{Role::Messaging, u"index.cfm", u"mail.message", ComposeOld},
+    RouteRow{Role::Messaging, u"index.cfm", u"mailsetup.createaccount", CreateMailAccount},
+    RouteRow{Role::Comment, u"index.cfm", u"user.viewProfile_commentForm", CommentForm},
+    RouteRow{Role::Comment, u"index.cfm", u"user.confirmComment", CommentForm},
     RouteRow{Role::SiteRoot, u"{id}", u"", ProfilePage},
     RouteRow{Role::SiteRoot, u"{id}/classic", u"", ClassicProfile},
     RouteRow{Role::SiteRoot, u"style/site.css", u"", StyleSheet, Shows::Picture},
+    RouteRow{Role::SiteRoot, u"style/forms.js", u"", FormScript, Shows::Picture},
     RouteRow{Role::SiteRoot, u"style/logo.svg", u"", Logo, Shows::Picture},
+    RouteRow{Role::SiteRoot, u"style/post.svg", u"", PostButton, Shows::Picture},
     RouteRow{Role::SiteRoot, u"pictures/{id}.svg", u"", ProfilePicture, Shows::Picture},
     RouteRow{Role::SiteRoot, u"images/{name}", u"", BadgeImage, Shows::Picture},
     RouteRow{Role::SiteRoot, u"captcha/{name}.svg", u"", CaptchaImage, Shows::Picture},
     RouteRow{Role::SiteRoot, u"sitemap", u"", Sitemap},
+    RouteRow{Role::SiteRoot, u"sitemap/forms", u"", FormMap},
     RouteRow{Role::SiteRoot, u"music", u"", SitePage},
     RouteRow{Role::SiteRoot, u"pressroom", u"", SitePage},
     RouteRow{Role::SiteRoot, u"silentanna", u"", SilentProfile},

@@ -1,7 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "World.h"
 
+#include "Chance.h"
+
 namespace qlm::practice {
+
+namespace {
+
+Writing NewMessages(quint64 seed) {
+    return {MessageAnswers(), Mix(seed, 9)};
+}
+
+Writing NewComments(quint64 seed) {
+    return {CommentAnswers(), Mix(seed, 10)};
+}
+
+} // namespace
 
 World::World(quint64 startSeed, std::function<QDateTime()> clock)
     : firstSeed(startSeed),
@@ -9,7 +23,9 @@ World::World(quint64 startSeed, std::function<QDateTime()> clock)
       now(std::move(clock)),
       people(seed),
       friends(seed),
-      requests(seed) {
+      requests(seed),
+      messages(NewMessages(seed)),
+      comments(NewComments(seed)) {
     for (const Account& account : accounts.All())
         people.AddMember(account.id);
 }
@@ -19,6 +35,8 @@ void World::Sow(quint64 newSeed) {
     people = People(seed);
     friends = FriendLists(seed);
     requests = FriendRequests(seed);
+    messages = NewMessages(seed);
+    comments = NewComments(seed);
     for (const Account& account : accounts.All())
         people.AddMember(account.id);
 }

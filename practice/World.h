@@ -9,6 +9,7 @@
 #include "ListSizes.h"
 #include "People.h"
 #include "SignInDesigns.h"
+#include "Writing.h"
 
 #include <QDateTime>
 #include <functional>
@@ -19,7 +20,7 @@ namespace qlm::practice {
 struct World {
     World(quint64 startSeed, std::function<QDateTime()> clock);
 
-    /// New people, friends lists and request answers; accounts, sessions and journal stay.
+    /// New people, friends lists and answers to whatever is sent; accounts, sessions and journal stay.
     void Sow(quint64 newSeed);
     void AddAccount(const QString& mail, const QString& password, qint64 id);
 
@@ -30,6 +31,8 @@ struct World {
     FriendLists friends;
     ListSizes lists;
     FriendRequests requests;
+    Writing messages;
+    Writing comments;
     Accounts accounts;
     SignInDesign signInDesign = SignInDesign::Ids;
     Faults faults;

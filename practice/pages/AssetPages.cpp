@@ -10,19 +10,35 @@
 
 namespace qlm::practice {
 
-Response StyleSheet(Visit&) {
-    QFile file(u":/practice/site.css"_s);
+namespace {
+
+Response Asset(const QString& name, const QString& type) {
+    QFile file(u":/practice/"_s + name);
     if (!file.open(QIODevice::ReadOnly))
-        throw std::logic_error("the style sheet is not compiled in");
+        throw std::logic_error(name.toStdString() + " is not compiled in");
     Response response;
-    response.contentType = u"text/css; charset=utf-8"_s;
+    response.contentType = type + u"; charset=utf-8"_s;
     response.headers.append({u"Cache-Control"_s, u"max-age=3600"_s});
     response.body = file.readAll();
     return response;
 }
 
+} // namespace
+
+Response StyleSheet(Visit&) {
+    return Asset(u"site.css"_s, u"text/css"_s);
+}
+
+Response FormScript(Visit&) {
+    return Asset(u"forms.js"_s, u"text/javascript"_s);
+}
+
 Response Logo(Visit&) {
     return Svg(LogoDrawing());
+}
+
+Response PostButton(Visit&) {
+    return Svg(PostDrawing());
 }
 
 Response Icon(Visit&) {

@@ -5,9 +5,11 @@
 
 namespace qlm::practice {
 
-/// Style sheet and pictures.
+/// Style sheet, scripts and pictures.
 Response StyleSheet(Visit& visit);
+Response FormScript(Visit& visit);
 Response Logo(Visit& visit);
+Response PostButton(Visit& visit);
 Response Icon(Visit& visit);
 Response ProfilePicture(Visit& visit);
 /// The badges of comedians and films; they keep their old file names but are drawn like all the rest.

@@ -40,25 +40,28 @@ std::optional<QString> SentAnswer(const Visit& visit) {
     return std::nullopt;
 }
 
-Response CaptchaPage(Visit& visit, qint64 target, Design design, const QString& intro, bool refused) {
+QString CaptchaFields(Visit& visit, qint64 target, Design design, bool refused) {
     FriendRequests& requests = visit.world.requests;
     const qint64 asker = visit.account ? visit.account->id : 0;
     requests.ShowCaptcha(asker, target);
     const QString image = u"/captcha/%1-%2.svg"_s.arg(target).arg(requests.CaptchaRound(asker, target));
-    const QString box =
-        Fill(uR"(<div class="box notice"><h2>One more step</h2><div class="in">{!refused}
-<p>{intro}</p><p>{demand}</p>
-<form method="post" action="{action}" id="captchaForm">
+    return Fill(uR"({!refused}<p>{demand}</p>
 <p><img class="captcha" src="{image}" width="260" height="64" alt="letters"></p>
-<p><input type="text" name="{field}" id="captchaText" value="" autocomplete="off"></p>
+<p><input type="text" name="{field}" id="captchaText" value="" autocomplete="off"></p>)",
+                {{u"refused", refused ? u"<p class=\"warn\">Security code does not match</p>"_s : QString()},
+                 {u"demand", Demand(requests.KindOfCaptcha(target))},
+                 {u"image", Url(Role::SiteRoot, image)},
+                 {u"field", AnswerField(design)}});
+}
+
+Response CaptchaPage(Visit& visit, qint64 target, Design design, const QString& intro, bool refused) {
+    const QString box = Fill(uR"(<div class="box notice"><h2>One more step</h2><div class="in">
+<p>{intro}</p><form method="post" action="{action}" id="captchaForm">{!fields}
 <p class="go"><input type="submit" class="button" id="addFrdBtn" name="addFrdBtn" value="Continue"></p>
 </form></div></div>)",
-             {{u"refused", refused ? u"<p class=\"warn\">Security code does not match</p>"_s : QString()},
-              {u"intro", intro},
-              {u"demand", Demand(requests.KindOfCaptcha(target))},
-              {u"action", u"http://"_s + visit.FullAddress()},
-              {u"image", Url(Role::SiteRoot, image)},
-              {u"field", AnswerField(design)}});
+                             {{u"intro", intro},
+                              {u"fields", CaptchaFields(visit, target, design, refused)},
+                              {u"action", u"http://"_s + visit.FullAddress()}});
     return Framed(visit, {.title = u"One more step"_s, .main = box, .tab = {}});
 }
 

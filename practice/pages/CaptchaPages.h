@@ -12,6 +12,9 @@ enum class Design { Newer, Older };
 /// The page with the drawn word that only a person can read. `refused` says that an answer was wrong.
 Response CaptchaPage(Visit& visit, qint64 target, Design design, const QString& intro, bool refused);
 
+/// The image and the field for its word, for a form of another page.
+QString CaptchaFields(Visit& visit, qint64 target, Design design, bool refused);
+
 /// What was typed under the image; nothing when the visit sends no answer.
 std::optional<QString> SentAnswer(const Visit& visit);
 

@@ -7,6 +7,7 @@
 #include "../Frame.h"
 #include "../Html.h"
 #include "../MiniProfile.h"
+#include "CommentBox.h"
 #include "NoticePages.h"
 
 #include <array>
@@ -104,12 +105,16 @@ Response CommentsPage(Visit& visit) {
     const int all = static_cast<int>(Writers(world, *owner).size());
     if (const auto from = WantedPart(visit, all))
         return PartOfPage(CommentsPart(visit, *owner, *from));
+    CommentBox box = BoxForComment(visit, *owner);
+    if (box.page)
+        return *std::move(box.page);
     const QString more = MoreLink(u"moreComments"_s, u"Show more comments (%1 of %2)"_s,
                                   qMin(all, commentsPerPart), all, commentsPerPart, true);
-    const QString main = Fill(uR"(<div class="box list"><h2>{name} : Comments</h2>
+    const QString main = Fill(uR"({!box}<div class="box list"><h2>{name} : Comments</h2>
 <div class="listHead"><p class="slice">What friends wrote</p></div>
 <div id="growing" class="comments">{!part}</div><div class="turn"><div><p class="more">{!more}</p></div></div></div>{!script})",
-                              {{u"name", owner->name},
+                              {{u"box", box.markup},
+                               {u"name", owner->name},
                                {u"part", CommentsPart(visit, *owner, 0)},
                                {u"more", more},
                                {u"script", growScript.toString()}});

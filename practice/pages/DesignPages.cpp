@@ -154,10 +154,12 @@ Response Sitemap(Visit& visit) {
 <ul class="links twoCols">{!old}</ul></div></div>
 <div class="box"><h2>Hard to read</h2><div class="in"><ul class="links twoCols">{!hard}</ul></div></div>
 <div class="box"><h2>Elsewhere</h2><div class="in"><ul class="links"><li><a href="{search}/">Web search</a></li>
+<li><a href="{root}/sitemap/forms">Forms for messages and comments</a></li>
 </ul></div></div></div></div>)",
              {{u"now", SitemapList(NewDesigns())},
               {u"old", SitemapList(OldDesigns())},
               {u"hard", SitemapList(HardDesigns())},
+              {u"root", Url(Role::SiteRoot, {})},
               {u"search", Url(Role::WebSearch, {})}});
     return Framed(visit, {.title = u"All lists"_s, .main = main, .tab = u"Lists"_s});
 }

@@ -49,13 +49,27 @@ QString BandLinks(bool newer) {
         {{u"r", Url(Role::SiteRoot, {})}});
 }
 
-QString ActionLinks(const Person& person, const QString& addUrl) {
+QString ActionLinks(const Person& person, const QString& addUrl, const QString& more) {
     const QString root = Url(Role::SiteRoot, {});
     const QString id = QString::number(person.id);
     return Fill(uR"(<ul class="links actions"><li><a href="{root}/my/mail/new?t={id}">Send Message</a></li>
 <li><a href="{add}">Add to Friends</a></li><li><a href="{root}/{id}/friends">View All Friends</a></li>
-<li><a href="{root}/{id}/comments">View Comments</a></li></ul>)",
-                {{u"root", root}, {u"id", id}, {u"add", addUrl}});
+<li><a href="{root}/{id}/comments">View Comments</a></li>{!more}</ul>)",
+                {{u"root", root}, {u"id", id}, {u"add", addUrl}, {u"more", more}});
+}
+
+QString AddCommentLink(const Person& person) {
+    return Fill(uR"(<li><a href="{root}/{id}/comments">Add Comment</a></li>)",
+                {{u"root", Url(Role::SiteRoot, {})}, {u"id", QString::number(person.id)}});
+}
+
+// The old pages for the same things; whoever looks for somebody's number takes it from the links above.
+QString OlderLinks(const Person& person) {
+    return Fill(
+        uR"(<li><a href="{mail}">Send Message</a> (old mail)</li><li><a href="{form}">Add Comment</a></li>)",
+        {{u"mail", Url(Role::Messaging, u"/index.cfm?fuseaction=mail.message&friendID=%1"_s.arg(person.id))},
+         {u"form", Url(Role::Comment,
+                       u"/index.cfm?fuseaction=user.viewProfile_commentForm&friendID=%1"_s.arg(person.id))}});
 }
 
 QString FriendSpace(const World& world, const Person& person, const QString& mark) {
@@ -111,7 +125,7 @@ Response Classic(Visit& visit, const Person& person) {
                                {u"facts", ClassicFacts(person)},
                                {u"login", LoginLine(visit.world, person)},
                                {u"mood", person.mood},
-                               {u"actions", ActionLinks(person, add)},
+                               {u"actions", ActionLinks(person, add, OlderLinks(person))},
                                {u"band", band ? BandLinks(false) : QString()},
                                {u"interests", person.interests},
                                {u"friends", FriendSpace(visit.world, person, u"friendSpace"_s)}});
@@ -153,7 +167,7 @@ Response Newer(Visit& visit, const Person& person) {
                                {u"region", person.region},
                                {u"country", person.country},
                                {u"login", LoginLine(visit.world, person)},
-                               {u"actions", ActionLinks(person, add)},
+                               {u"actions", ActionLinks(person, add, AddCommentLink(person))},
                                {u"headline", person.headline},
                                {u"mood", person.mood},
                                {u"band", person.kind == Person::Kind::Band ? BandLinks(true) : QString()},

@@ -154,7 +154,7 @@ Response RequestVisit::Divert(Outcome outcome) {
 Response RequestVisit::Form() {
     const QString box = Fill(uR"(<div class="box notice"><h2>Add to Friends</h2><div class="in">
 <div class="badgeRow"><img class="portrait" src="{picture}" width="120" height="120" alt=""><div>
-<p>Do you really want to add {name} as a friend?</p><p>{first} has to say yes before you two are friends.</p>
+<p>Do you want to add <b>{name}</b> as a friend?</p><p>{first} has to say yes before you two are friends.</p>
 <form method="post" action="{action}" id="addFriendForm">
 <p class="go"><input type="submit" class="button" id="addFrdBtn" name="addFrdBtn" value="Add to Friends">
 </p></form>

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "FormMap.h"
+
+#include "../CommentDesigns.h"
+#include "../ComposeDesigns.h"
+#include "../FormChoice.h"
+#include "../Frame.h"
+#include "../Html.h"
+
+namespace qlm::practice {
+
+namespace {
+
+template <typename Row> QString Rows(const World& world, std::span<const Row> designs, bool older) {
+    QString rows;
+    for (const Row& design : designs) {
+        if (design.older != older)
+            continue;
+        const Person& person = *world.people.Find(FirstWithForm(designs, design));
+        rows += Fill(
+            uR"(<tr><td>{name}</td><td>{says}</td><td><a href="{url}">{person}</a></td><td>{id}</td></tr>)",
+            {{u"name", design.name.toString()},
+             {u"says", design.says.toString()},
+             {u"url", FormAddress(design, person.id)},
+             {u"person", person.name},
+             {u"id", QString::number(person.id)}});
+    }
+    return rows;
+}
+
+template <typename Row>
+QString Table(const World& world, const QString& title, std::span<const Row> designs, bool older) {
+    return Fill(
+        uR"(<div class="box"><h2>{title}</h2><div class="in"><table class="forms">{!rows}</table></div></div>)",
+        {{u"title", title}, {u"rows", Rows(world, designs, older)}});
+}
+
+} // namespace
+
+Response FormMap(Visit& visit) {
+    const World& world = visit.world;
+    const QString main = Table(world, u"Messages"_s, ComposeDesigns(), false) +
+                         Table(world, u"Messages, old pages"_s, ComposeDesigns(), true) +
+                         Table(world, u"Comments"_s, CommentDesigns(), false) +
+                         Table(world, u"Comments, old pages"_s, CommentDesigns(), true);
+    return Framed(visit, {.title = u"All forms"_s, .main = main, .tab = u"Lists"_s});
+}
+
+} // namespace qlm::practice
