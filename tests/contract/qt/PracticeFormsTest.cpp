@@ -1,0 +1,247 @@
+// SPDX-License-Identifier: MIT
+// The practice site's forms for messages and comments on the real engine, where their scripts run.
+#include "EngineWorld.h"
+#include "practice/CommentDesigns.h"
+#include "practice/ComposeDesigns.h"
+#include "practice/PracticeSite.h"
+#include "practice/server/ProxyServer.h"
+
+#include <QNetworkProxy>
+#include <QRegularExpression>
+#include <thread>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+using practice::CommentDesign;
+using practice::ComposeDesign;
+using practice::Editor;
+
+namespace {
+
+constexpr qint64 Target = 100003;
+const QString Subject = u"Tour \"dates\""_s;
+const QString Body = u"Hello,\r\nFriday \U0001F600"_s;
+
+class PracticeForms : public EngineTest {
+protected:
+    PracticeForms() : m_server(m_site), m_port(m_server.Bind(0)), m_serving([this] { m_server.Run(); }) {
+        QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, u"127.0.0.1"_s, quint16(m_port)});
+        Control(u"message-share sent 100"_s);
+        Control(u"comment-share posted 100"_s);
+        SignIn();
+    }
+    ~PracticeForms() override {
+        browser.reset();
+        m_server.Stop();
+        m_serving.join();
+        QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
+    }
+
+    void Control(const QString& line) { ASSERT_EQ(m_site.Control(line), QString()); }
+    void SignIn() {
+        Show(u"http://www.myspace.example.com/"_s);
+        Named(u"ctl00$Main$Email_Textbox"_s).SetValue(u"a@example.com"_s);
+        Named(u"ctl00$Main$Password_Textbox"_s).SetValue(u"secret"_s);
+        Named(u"ctl00$Main$loginBtn"_s).Click();
+        ASSERT_TRUE(WaitForText(u"Sign Out"_s));
+        m_site.TakeJournal();
+    }
+    void Show(const QString& url) {
+        browser->Navigate(url);
+        ASSERT_TRUE(WaitUntil([this] { return browser->ReadyState() == 4; }));
+    }
+    Element Named(const QString& name) {
+        const auto found = browser->Document().GetElementsByName(name);
+        return found.empty() ? Element() : found.front();
+    }
+    Element ById(const QString& id) { return browser->Document().GetElementById(id); }
+    void TypeIntoFrame(const QString& name, const QString& text) {
+        QString literal = text;
+        literal.replace(u"\r"_s, u"\\r"_s).replace(u"\n"_s, u"\\n"_s);
+        browser->Navigate(
+            u"javascript:document.getElementById('%1_f').contentDocument.body.innerHTML='%2';void 0"_s.arg(
+                name, literal));
+        PumpFor(100);
+    }
+    // As a user does who knows the page: whatever the editor is, the text goes in.
+    void Type(Editor editor, const QString& name, const QString& text) {
+        if (editor == Editor::Plain)
+            Named(name).SetValue(text);
+        if (editor == Editor::Frame)
+            TypeIntoFrame(name, text);
+        if (editor != Editor::Source)
+            return;
+        ById(name + u"_editsource"_s).Tags(u"a"_s).front().Click();
+        ById(name + u"_editsourcearea"_s).SetInnerText(text);
+    }
+    void ShowCompose(const ComposeDesign& design) {
+        Control(u"compose all "_s + design.name.toString());
+        Show(FormAddress(design, Target));
+        Named(design.subject.toString()).SetValue(Subject);
+        Type(design.editor, design.body.toString(), Body);
+    }
+    // Presses the first button of that caption, an input or a button element that is shown.
+    bool Press(const QString& caption) {
+        for (const QString& tag : {u"input"_s, u"button"_s})
+            for (const Element& button : browser->Document().GetElementsByTagName(tag)) {
+                const QString text = tag == u"input" ? button.Value() : button.InnerText();
+                if (text.trimmed().compare(caption, Qt::CaseInsensitive) != 0 ||
+                    button.OuterHTML().contains(u"DISPLAY: NONE"_s, Qt::CaseInsensitive))
+                    continue;
+                button.Click();
+                return true;
+            }
+        return false;
+    }
+    // Since the count was last taken.
+    QStringList Arrived() {
+        return m_site.Journal().mid(m_seen).filter(QRegularExpression(u"^(messaged|commented) "_s));
+    }
+    bool WaitForArrival() {
+        return WaitUntil([this] { return !Arrived().isEmpty(); });
+    }
+
+    practice::PracticeSite m_site;
+    practice::ProxyServer m_server;
+    int m_port;
+    std::thread m_serving;
+    qsizetype m_seen = 0;
+};
+
+// What a rich editor makes of the text that was typed into it.
+QString AsSent(const ComposeDesign& design) {
+    switch (design.editor) {
+    case Editor::Plain:
+        return uR"("Hello,\r\nFriday 😀")"_s;
+    case Editor::Source:
+        return uR"("Hello,\r\nFriday &#128512;")"_s;
+    case Editor::Frame:
+        break;
+    }
+    return design.breaks == practice::Breaks::Br ? uR"("Hello,<br>Friday &#128512;")"_s
+                                                 : uR"("Hello,<div>Friday &#128512;</div>")"_s;
+}
+
+// A post without a form keeps the line end of the page.
+QString AsSent(const CommentDesign& design) {
+    if (design.name == u"box-live")
+        return uR"("Hello,\nFriday 😀")"_s;
+    return design.editor == Editor::Plain ? uR"("Hello,\r\nFriday 😀")"_s
+                                          : uR"("Hello,\r\nFriday &#128512;")"_s;
+}
+
+const ComposeDesign& Compose(const QString& name) {
+    for (const ComposeDesign& design : practice::ComposeDesigns())
+        if (design.name == name)
+            return design;
+    throw std::logic_error("no such design");
+}
+
+} // namespace
+
+TEST_F(PracticeForms, EveryComposePageSendsWhatItsEditorMakesOfTheText) {
+    for (const ComposeDesign& design : practice::ComposeDesigns()) {
+        SCOPED_TRACE(design.name.toString().toStdString());
+        m_seen = m_site.Journal().size();
+        ShowCompose(design);
+        if (const Element span = ById(u"spanbtnSend"_s)) {
+            span.Click();
+            PumpFor(1500);
+            if (const Element again = ById(u"spanbtnSend"_s))
+                again.Click();
+        } else {
+            EXPECT_TRUE(Press(u"-send-"_s) || Press(u"send"_s) || Press(u"deliver"_s));
+        }
+        EXPECT_TRUE(WaitForArrival());
+        PumpFor(300);
+        EXPECT_EQ(Arrived(),
+                  QStringList{u"messaged 900001 100003 \"Tour \\\"dates\\\"\" "_s + AsSent(design)});
+        const bool isSilent = design.reply == ComposeDesign::Reply::Silent;
+        EXPECT_TRUE(WaitForText(isSilent ? u"that is all"_s : u"Your message has been sent"_s));
+    }
+}
+
+TEST_F(PracticeForms, ASleepingButtonSendsAtItsSecondPressOnly) {
+    ShowCompose(Compose(u"span-asleep"_s));
+    EXPECT_TRUE(ById(u"butbtnSend"_s).HasAttribute(u"disabled"_s));
+    ById(u"spanbtnSend"_s).Click();
+    EXPECT_TRUE(WaitUntil([this] { return !ById(u"butbtnSend"_s).HasAttribute(u"disabled"_s); }));
+    PumpFor(600);
+    EXPECT_TRUE(Arrived().isEmpty());
+    ById(u"spanbtnSend"_s).Click();
+    EXPECT_TRUE(WaitForArrival());
+}
+
+TEST_F(PracticeForms, ASpanPressedTwiceSendsOnce) {
+    ShowCompose(Compose(u"span"_s));
+    ById(u"spanbtnSend"_s).Click();
+    ById(u"spanbtnSend"_s).Click();
+    EXPECT_TRUE(WaitForText(u"Your message has been sent"_s));
+    PumpFor(800);
+    EXPECT_EQ(Arrived().size(), 1);
+}
+
+TEST_F(PracticeForms, ALateDraftButtonStandsNowhereBeforeItsTime) {
+    ShowCompose(Compose(u"source-draft-late"_s));
+    EXPECT_FALSE(browser->Document().BodyHTML().contains(u"Save Draft"_s));
+    EXPECT_TRUE(
+        WaitUntil([this] { return browser->Document().BodyHTML().contains(u"value=\"Save Draft\""_s); }));
+}
+
+TEST_F(PracticeForms, EveryCommentFormPostsTheText) {
+    for (const CommentDesign& design : practice::CommentDesigns()) {
+        SCOPED_TRACE(design.name.toString().toStdString());
+        if (design.after == CommentDesign::After::Back)
+            continue;
+        m_seen = m_site.Journal().size();
+        Control(u"comment-form all "_s + design.name.toString());
+        Show(FormAddress(design, Target));
+        const QString mark = (design.mark.isEmpty() ? design.box : design.mark).toString();
+        EXPECT_TRUE(WaitUntil([&] { return !Named(mark).IsNull(); }));
+        Type(design.editor, design.box.toString(), Body);
+        if (!Press(u"post a comment"_s) && !Press(u"post"_s) && !Press(u"share"_s))
+            ById(u"ctl00_cpMain_postComment_postcommentImageButton"_s).Click();
+        EXPECT_TRUE(WaitUntil(
+            [this] { return Text().contains(u"to confirm"_s) || Text().contains(u"has been posted"_s); }));
+        for (int round = 0; round < 2 && Arrived().isEmpty(); ++round) {
+            EXPECT_TRUE(WaitUntil([this] {
+                const Element button = Named(u"confirmComment"_s);
+                return button && !button.HasAttribute(u"disabled"_s);
+            }));
+            EXPECT_TRUE(Press(u"post a comment"_s));
+            EXPECT_TRUE(WaitUntil([this] { return browser->ReadyState() == 4; }));
+        }
+        EXPECT_TRUE(WaitForText(u"Your comment has been posted!"_s));
+        EXPECT_EQ(Arrived(), QStringList{u"commented 900001 100003 "_s + AsSent(design)});
+    }
+}
+
+TEST_F(PracticeForms, TheBoxGrowsByItselfUnlessItIsShy) {
+    const QString grown = u"absolute"_s;
+    Control(u"comment-form all box"_s);
+    Show(u"http://www.myspace.example.com/100003/comments"_s);
+    const auto box = [this] { return ById(u"newComment"_s); };
+    EXPECT_TRUE(
+        WaitUntil([&] { return box().ParentElement().Read(ElementText::ClassName).contains(grown); }));
+    Control(u"comment-form all box-shy"_s);
+    Show(u"http://www.myspace.example.com/100003/comments"_s);
+    PumpFor(1000);
+    EXPECT_FALSE(box().ParentElement().Read(ElementText::ClassName).contains(grown));
+    box().Focus();
+    EXPECT_TRUE(
+        WaitUntil([&] { return box().ParentElement().Read(ElementText::ClassName).contains(grown); }));
+}
+
+TEST_F(PracticeForms, TheHintGoesWithTheFirstTextAndMarkupMayNotBeAllowed) {
+    Control(u"comment-outcome 100003 no-html"_s);
+    Show(u"http://www.myspace.example.com/100003/comments"_s);
+    EXPECT_TRUE(Text().contains(u"Post a comment..."_s));
+    Named(u"newComment"_s).SetValue(u"plain"_s);
+    EXPECT_TRUE(WaitUntil([this] { return !Text().contains(u"Post a comment..."_s); }));
+    EXPECT_FALSE(Text().contains(u"HTML not allowed"_s));
+    Named(u"newComment"_s).SetValue(u"<b>bold</b>"_s);
+    EXPECT_TRUE(WaitForText(u"HTML not allowed"_s));
+}
+
+} // namespace qlm
