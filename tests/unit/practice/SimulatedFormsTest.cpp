@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: MIT
+// The same forms where no script runs: what stands in for the scripts does what they do.
+#include "platform/sim/SimBrowser.h"
+#include "practice/CommentDesigns.h"
+#include "practice/ComposeDesigns.h"
+#include "practice/PracticeSite.h"
+#include "tests/support/PrintText.h"
+#include "tests/support/SimulatedSite.h"
+
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+using practice::CommentDesign;
+using practice::ComposeDesign;
+using practice::Editor;
+
+namespace {
+
+constexpr qint64 Target = 100003;
+const QString Body = u"Hello,\r\nFriday"_s;
+
+class SimulatedForms : public ::testing::Test {
+protected:
+    SimulatedForms() {
+        web.responder = [this](const SimRequest& request) { return AnswerOf(site, request); };
+        Control(u"message-share sent 100"_s);
+        Control(u"comment-share posted 100"_s);
+        Open(u"http://www.myspace.example.com/"_s);
+        Named(u"ctl00$Main$Email_Textbox"_s).SetValue(u"a@example.com"_s);
+        Named(u"ctl00$Main$Password_Textbox"_s).SetValue(u"secret"_s);
+        Named(u"ctl00$Main$loginBtn"_s).Click();
+        Settle();
+        site.TakeJournal();
+    }
+    ~SimulatedForms() override { EXPECT_EQ(web.problems, QStringList()); }
+
+    void Control(const QString& line) { EXPECT_EQ(site.Control(line), QString()); }
+    void Settle(qint64 milliseconds = 250) { pump.RunFor(milliseconds); }
+    void Open(const QString& url) {
+        browser.Navigate(url);
+        Settle();
+    }
+    QString Text() { return browser.Document().BodyText(); }
+    QString Markup() { return browser.Document().BodyHTML(); }
+    Element ById(const QString& id) { return browser.Document().GetElementById(id); }
+    Element Named(const QString& name) {
+        const auto found = browser.Document().GetElementsByName(name);
+        return found.empty() ? Element() : found.front();
+    }
+    void Type(Editor editor, const QString& name) {
+        if (editor != Editor::Source)
+            return Named(name).SetValue(Body);
+        ById(name + u"_editsource"_s).Tags(u"a"_s).front().Click();
+        ById(name + u"_editsourcearea"_s).SetInnerText(Body);
+    }
+    void ShowCompose(const ComposeDesign& design) {
+        Control(u"compose all "_s + design.name.toString());
+        Open(FormAddress(design, Target));
+        Named(design.subject.toString()).SetValue(u"Hi"_s);
+        Type(design.editor, design.body.toString());
+    }
+    bool Press(const QString& caption) {
+        for (const QString& tag : {u"input"_s, u"button"_s})
+            for (const Element& button : browser.Document().GetElementsByTagName(tag)) {
+                const QString text = tag == u"input" ? button.Value() : button.InnerText();
+                if (text.trimmed().compare(caption, Qt::CaseInsensitive) != 0 ||
+                    button.OuterHTML().contains(u"DISPLAY: NONE"_s, Qt::CaseInsensitive))
+                    continue;
+                button.Click();
+                return true;
+            }
+        return false;
+    }
+    QStringList Arrived() {
+        return site.TakeJournal().filter(QRegularExpression(u"^(messaged|commented) "_s));
+    }
+
+    practice::PracticeSite site;
+    VirtualClock clock;
+    SimPump pump{clock};
+    SimWeb web;
+    SimBrowser browser{web, pump};
+};
+
+} // namespace
+
+TEST_F(SimulatedForms, EveryComposePageSendsItsText) {
+    for (const ComposeDesign& design : practice::ComposeDesigns()) {
+        SCOPED_TRACE(design.name.toString().toStdString());
+        ShowCompose(design);
+        if (const Element span = ById(u"spanbtnSend"_s)) {
+            span.Click();
+            Settle(2000);
+            if (const Element again = ById(u"spanbtnSend"_s))
+                again.Click();
+        } else {
+            EXPECT_TRUE(Press(u"-send-"_s) || Press(u"send"_s) || Press(u"deliver"_s));
+        }
+        Settle(5000);
+        EXPECT_EQ(Arrived(), QStringList{uR"(messaged 900001 100003 "Hi" "Hello,\r\nFriday")"_s});
+        const bool isSilent = design.reply == ComposeDesign::Reply::Silent;
+        EXPECT_TRUE(Text().contains(isSilent ? u"that is all"_s : u"Your message has been sent"_s));
+    }
+}
+
+TEST_F(SimulatedForms, ASleepingButtonSendsAtItsSecondPressOnly) {
+    Control(u"compose all span-asleep"_s);
+    Open(u"http://www.myspace.example.com/my/mail/new?t=100003"_s);
+    EXPECT_TRUE(ById(u"butbtnSend"_s).HasAttribute(u"disabled"_s));
+    ById(u"spanbtnSend"_s).Click();
+    Settle(2000);
+    EXPECT_FALSE(ById(u"butbtnSend"_s).HasAttribute(u"disabled"_s));
+    EXPECT_TRUE(site.TakeJournal().isEmpty());
+    ById(u"spanbtnSend"_s).Click();
+    Settle();
+    EXPECT_EQ(site.TakeJournal(), QStringList{u"message 900001 100003 empty"_s});
+}
+
+TEST_F(SimulatedForms, ALateDraftButtonStandsNowhereBeforeItsTime) {
+    Control(u"compose all source-draft-late"_s);
+    Open(u"http://www.myspace.example.com/my/mail/new?t=100003"_s);
+    EXPECT_FALSE(Markup().contains(u"Save Draft"_s));
+    Settle(2500);
+    EXPECT_TRUE(Markup().contains(u"value=\"Save Draft\""_s));
+}
+
+TEST_F(SimulatedForms, EveryCommentFormPostsItsText) {
+    for (const CommentDesign& design : practice::CommentDesigns()) {
+        SCOPED_TRACE(design.name.toString().toStdString());
+        if (design.after == CommentDesign::After::Back)
+            continue;
+        Control(u"comment-form all "_s + design.name.toString());
+        Open(FormAddress(design, Target));
+        EXPECT_EQ(Named(design.mark.toString()).IsNull(), design.mark.isEmpty() || design.lateMark);
+        Settle(2500);
+        EXPECT_EQ(Named(design.mark.toString()).IsNull(), design.mark.isEmpty());
+        Type(design.editor, design.box.toString());
+        if (!Press(u"post a comment"_s) && !Press(u"post"_s) && !Press(u"share"_s))
+            ById(u"ctl00_cpMain_postComment_postcommentImageButton"_s).Click();
+        Settle();
+        EXPECT_EQ(Named(u"confirmComment"_s).HasAttribute(u"disabled"_s),
+                  design.after == CommentDesign::After::ConfirmAsleep);
+        Settle(6500);
+        while (Press(u"post a comment"_s))
+            Settle();
+        EXPECT_TRUE(Text().contains(u"Your comment has been posted!"_s));
+        EXPECT_EQ(Arrived(), QStringList{uR"(commented 900001 100003 "Hello,\r\nFriday")"_s});
+    }
+}
+
+TEST_F(SimulatedForms, TheBoxGrowsByItselfUnlessItIsShyAndLosesItsHintWithTheText) {
+    Control(u"comment-outcome 100003 no-html"_s);
+    for (const QString& design : {u"box"_s, u"box-shy"_s}) {
+        Control(u"comment-form all "_s + design);
+        Open(u"http://www.myspace.example.com/100003/comments"_s);
+        EXPECT_TRUE(Text().contains(u"Post a comment..."_s));
+        Settle(1000);
+        const bool grows = ById(u"entry"_s).Read(ElementText::ClassName).contains(u"absolute"_s);
+        EXPECT_EQ(grows, design == u"box");
+    }
+    ById(u"newComment"_s).Click();
+    EXPECT_TRUE(ById(u"entry"_s).Read(ElementText::ClassName).contains(u"absolute"_s));
+    ById(u"newComment"_s).SetValue(u"<b>bold</b>"_s);
+    EXPECT_FALSE(Text().contains(u"Post a comment..."_s));
+    EXPECT_TRUE(Text().contains(u"HTML not allowed"_s));
+}
+
+} // namespace qlm
