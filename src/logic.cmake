@@ -119,13 +119,16 @@ add_library(quillmere_logic STATIC
     campaigns/CaptchaCalls.cpp
     campaigns/ChainedStart.cpp
     campaigns/Comments.cpp
+    campaigns/ComposePage.cpp
     campaigns/ContentChoice.cpp
     campaigns/Counters.cpp
     campaigns/FriendCategories.cpp
     campaigns/FriendRequester.cpp
     campaigns/FriendRequests.cpp
     campaigns/LogDialog.cpp
+    campaigns/MessageSubmission.cpp
     campaigns/Messages.cpp
+    campaigns/Messenger.cpp
     campaigns/OpenNotes.cpp
     campaigns/Pacing.cpp
     campaigns/ReportDialog.cpp

@@ -62,6 +62,14 @@ void HandleRequesterErrorPage(App& app) {
 void HandleMessengerErrorPage(App& app) {
     RunState& state = app.state;
     TraceErrorPage(app, u"Maint: "_s);
+    app.Get<RunReport>().RemarkPage(state.intPageClass);
+    if (state.blnDailyLimitHit) {
+        state.blnDailyLimitHit = false;
+        app.Get<StopResume>().StopAll(StopReason::DailyLimit);
+        if (!app.Get<StopResume>().HandOverInChain())
+            app.Get<StopResume>().DoFinishedExit();
+        return;
+    }
     if (state.strFRResumeURL.isEmpty()) {
         state.intMsgStep = MessageStep::AfterSend;
         app.Get<StopResume>().ResumeNext();

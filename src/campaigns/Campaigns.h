@@ -84,6 +84,8 @@ struct Campaign {
     const char* log = "";            // the button
     const char* logFile = "";        // below the folder of the kind "Log"
     const char* whatLogRecords = ""; // "sent friend requests to"
+    // What the report says of somebody who is noted beside the log without standing in it.
+    const char* noteSays = "Quillmere ended while sending to this one; it may have been sent";
     QLatin1StringView checkLogBox{}; // empty: the log is always looked at
     // Ticked, an accept run looks at it whatever that one says; empty: never.
     QLatin1StringView acceptLogBox{};

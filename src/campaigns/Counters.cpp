@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/Counters.h"
 
+#include "browser/Cover.h"
 #include "campaigns/Campaigns.h"
 #include "core/App.h"
 #include "core/ProductServer.h"
@@ -137,6 +138,10 @@ bool Counters::StopUncounted() {
 bool Counters::StopAtLimit(const Campaign& campaign) {
     if (!LimitReached(campaign))
         return false;
+    if (!campaign.limitComesFirst) {
+        m_app.WebBrowser1().Stop();
+        m_app.Get<Cover>().Hide();
+    }
     m_app.Get<StopResume>().StopAll(*campaign.reasons.limitMet);
     if (m_app.Get<StopResume>().HandOverInChain())
         return true;

@@ -4,7 +4,6 @@
 #include "browser/Cover.h"
 #include "campaigns/Pacing.h"
 #include "campaigns/SendRuns.h"
-#include "campaigns/StartChecks.h"
 #include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/SettingsFields.h"
@@ -55,11 +54,6 @@ FriendRequester::FriendRequester(App& app) : m_app(app), m_categories(app) {
         m_app.platform.Settings().SaveSetting(u"General"_s, NoticeKey, notAgain ? u"1"_s : u"0"_s);
         m_app.Get<SettingsFields>().Sync();
         m_app.platform.Dialogs().CloseForm(u"frmTempMySpaceErrorFR"_s);
-    });
-    app.commands.Add(u"chkFrSendMessage_MouseDown"_s, [this] {
-        if (!m_app.controls.Ticked("chkFrSendMessage"_L1) && !HasMessenger(m_app))
-            m_app.ShowMessage(u"This version of Quillmere has no Auto Messenger yet, so it can't send a "
-                              "message after a friend request."_s);
     });
 }
 
@@ -131,10 +125,7 @@ Next FriendRequester::OpenTarget() {
 }
 
 void FriendRequester::OpenProfile() {
-    const QString& id = m_app.state.strCurrentID;
-    m_app.SetStatus(u"Navigating to ID "_s + id +
-                    u"'s profile page to see if it matches your filter settings..."_s);
-    m_app.WebBrowser1().Navigate(m_app.Expand(u"{SiteRootHost}/"_s) + id + u"/classic"_s);
+    m_app.Get<SendRuns>().OpenProfile();
     m_app.state.intFRStep = FriendStep::DecideFilter;
     Await(u"Text"_s, u"View"_s);
     m_app.timers->tmrCheckLinkLoaded.Restart();
@@ -163,18 +154,10 @@ Next FriendRequester::EndRun() {
 
 Next FriendRequester::DecideFilter() {
     RunState& state = m_app.state;
-    m_app.Get<Cover>().Hide();
-    if (!m_app.Get<ProfileFilters>().IsFilteredProfile()) {
-        ++state.lngFilteredCount;
-        m_app.Get<RunReport>().Close(ReportResult::Skipped, u"Doesn't match your filter settings"_s);
-        m_app.Get<SendRuns>().ShowCounts();
-        m_app.ClearPage();
-        m_app.Get<SendRuns>().RemoveUsedTarget(u"IterateAddFriends - 2"_s);
+    if (!m_app.Get<SendRuns>().PassesFilter(u"IterateAddFriends - 2"_s)) {
         state.intFRStep = FriendStep::NextTarget;
         return Next::Again;
     }
-    m_app.SetStatus(u"ID "_s + state.strCurrentID +
-                    u" matches your filter settings, proceeding to send friend request..."_s);
     // Unlike the direct way, this one uses the new address on both layouts.
     state.intFRStep = FriendStep::Submit;
     Await(u"Text"_s, u"Request Sent!"_s);

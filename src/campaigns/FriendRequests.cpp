@@ -33,11 +33,6 @@ bool LacksSelectedMessage(App& app, const Campaign&) {
     return SendsMessageAfter(app) && ListLacksSelected(app, Messages);
 }
 
-// Requests without the message that was asked for would be gone for good.
-bool LacksMessenger(App& app, const Campaign&) {
-    return SendsMessageAfter(app) && !HasMessenger(app);
-}
-
 bool LacksCategory(App& app, const Campaign&) {
     static const QStringList noCategories{u"Retrieving, please wait..."_s,
                                           u"Press button to fill list -> -> ->"_s,
@@ -72,9 +67,6 @@ const std::vector<StartCheck>& Checks() {
         {LacksSelectedMessage, u"You have selected to send a message with the friend request. "
                                u"On the messenger tab you selected 'send from list', "
                                u"but you havent selected any of the messages in your list."},
-        {LacksMessenger, u"You have selected to send a message after each friend request, "
-                         u"but this version of Quillmere has no Auto Messenger yet. "
-                         u"No friend requests have been sent."},
         {LogIsIllegible, u"The log of everybody you have asked is written in UTF-16 (\"Unicode\"). "
                          u"Nobody in it would be recognised, and all would be asked again. "
                          u"Please save it as plain text (ANSI or UTF-8), or clear it."},
@@ -123,6 +115,7 @@ constinit const Campaign FriendRequests{
     .log = "piccmdFrClearLog",
     .logFile = "FriendsLog.txt",
     .whatLogRecords = "sent friend requests to",
+    .noteSays = "You sent to this one before, although your log doesn't say so",
     .reportButton = "piccmdFrReport",
     .report = {.file = "FriendsReport.txt",
                .title = "Friend requests",

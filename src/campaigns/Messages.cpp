@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The campaign "messages". It waits for its machine.
+// The campaign "messages". Messenger is its machine.
 #include "campaigns/CampaignErrorPages.h"
 #include "campaigns/Campaigns.h"
+#include "campaigns/Messenger.h"
 #include "core/ActivityWords.h"
+#include "core/App.h"
 #include "steps/Steps.h"
 
 namespace qlm {
@@ -36,6 +38,7 @@ bool IsPartOfAnother(const RunState& state) {
 constinit const Campaign Messages{
     .activity = {.word = ActivityWord::Messages,
                  .step = &RunState::intMsgStep,
+                 .stepRoutine = [](App& app) { app.Get<Messenger>().IterateSendMessages(); },
                  .debugFile = "debugmsg.txt",
                  .stopMark = "MSG stop - (",
                  .resumable = true,
@@ -46,6 +49,7 @@ constinit const Campaign Messages{
                  .tracesPageClasses = true,
                  .stepAfterSkip = MessageStep::AfterSend,
                  .onErrorPage = HandleMessengerErrorPage},
+    .makeMachine = [](Families& families, App& app) { families.Make<Messenger>(app); },
     .tab = u"Auto Messenger",
     .send = "picCmdMsgSend",
     .startProcedure = "cmdMsgSend_Click",

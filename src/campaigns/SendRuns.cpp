@@ -10,6 +10,7 @@
 #include "core/ActivityWords.h"
 #include "core/App.h"
 #include "gather/GatheredList.h"
+#include "gather/ProfileFilters.h"
 #include "steps/Activities.h"
 #include "steps/RunReport.h"
 #include "steps/Steps.h"
@@ -103,6 +104,9 @@ void SendRuns::Reset(const Campaign& campaign) {
     state.blnInDelay = false;
     state.intFRLimitHits = 0;
     state.blnMsgAfterFR = false;
+    state.strAcceptMode.clear();
+    m_app.controls.SetItems("lstAcceptIDs"_L1, {});
+    state.blnFRWaitRequestSent = false;
     state.blnFRSkipMessage = false;
     state.blnErrorRedirectTold = false;
     state.lngSkippedCount = 0;
@@ -144,10 +148,10 @@ bool SendRuns::Accepting() const {
 }
 
 bool SendRuns::TargetLeft() const {
-    const qint32 index = m_app.state.intCurrentIDIndex;
     if (Accepting())
-        return index < m_app.controls.Items("lstAcceptIDs"_L1).size();
-    return !m_app.Get<GatheredList>().IsEmpty() && index <= m_app.Get<GatheredList>().UBound();
+        return !m_app.controls.Items("lstAcceptIDs"_L1).isEmpty();
+    return !m_app.Get<GatheredList>().IsEmpty() &&
+           m_app.state.intCurrentIDIndex <= m_app.Get<GatheredList>().UBound();
 }
 
 bool SendRuns::TakeTarget(const QString& caller) {
@@ -170,10 +174,10 @@ bool SendRuns::IsLogged() {
 
 void SendRuns::ReportSkip() {
     const QString id = m_app.state.strCurrentID;
-    const bool noted = RunningLog(m_app).IsNoted(id);
-    m_app.Get<RunReport>().PassOver(id,
-                                    noted ? u"You sent to this one before, although your log doesn't say so"_s
-                                          : u"You sent to this one before"_s);
+    const Campaign* campaign = FindTargetCampaign(m_app.state.CurrentAction);
+    const bool isNoted = campaign && RunningLog(m_app).IsNoted(id);
+    m_app.Get<RunReport>().PassOver(id, isNoted ? QString::fromLatin1(campaign->noteSays)
+                                                : u"You sent to this one before"_s);
 }
 
 void SendRuns::PassOver(const QString& caller) {
@@ -199,12 +203,46 @@ void SendRuns::BeginTarget() {
     const bool accepting = Accepting();
     const QStringList& accepted = m_app.controls.Items("lstAcceptIDs"_L1);
     const qsizetype total = accepting ? accepted.size() : state.arrFriendIDs.size();
-    state.strCurrentID =
-        accepting ? accepted.at(state.intCurrentIDIndex) : state.arrFriendIDs.at(state.intCurrentIDIndex);
+    const qint32 index = accepting ? 0 : state.intCurrentIDIndex;
+    state.strCurrentID = accepting ? accepted.first() : state.arrFriendIDs.at(index);
     // What the run has taken off the list counts as walked over.
-    const qint64 number = qint64(state.lngRemovedCount) + state.intCurrentIDIndex + 1;
+    const qint64 number = qint64(state.lngRemovedCount) + index + 1;
     const qint64 count = state.lngRemovedCount + total;
     m_app.controls.SetProgress({number, count});
+}
+
+bool SendRuns::NoteBeforeSend() {
+    if (RunningLog(m_app).NoteContact())
+        return true;
+    m_app.Get<StopResume>().StopAll(StopReason::Unnoted);
+    if (!m_app.Get<StopResume>().DoFinishedExit())
+        m_app.ShowMessage(u"Quillmere can't note whom it is about to send to, so somebody might get the same "
+                          "twice. The run has been stopped."_s);
+    return false;
+}
+
+void SendRuns::OpenProfile() {
+    const QString& id = m_app.state.strCurrentID;
+    m_app.SetStatus(u"Navigating to ID "_s + id +
+                    u"'s profile page to see if it matches your filter settings..."_s);
+    m_app.WebBrowser1().Navigate(m_app.Expand(u"{SiteRootHost}/"_s) + id + u"/classic"_s);
+}
+
+bool SendRuns::PassesFilter(const QString& caller) {
+    RunState& state = m_app.state;
+    m_app.Get<Cover>().Hide();
+    if (m_app.Get<ProfileFilters>().IsFilteredProfile()) {
+        const QString what = QString::fromLatin1(FindCampaign(state.CurrentAction)->what);
+        m_app.SetStatus(u"ID "_s + state.strCurrentID +
+                        u" matches your filter settings, proceeding to send "_s + what.chopped(1) + u"..."_s);
+        return true;
+    }
+    ++state.lngFilteredCount;
+    m_app.Get<RunReport>().Close(ReportResult::Skipped, u"Doesn't match your filter settings"_s);
+    ShowCounts();
+    m_app.ClearPage();
+    RemoveUsedTarget(caller);
+    return false;
 }
 
 void SendRuns::MoveCursor() {

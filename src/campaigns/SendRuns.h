@@ -29,6 +29,14 @@ public:
     bool TargetLeft() const;
     // Takes the target under the cursor into strCurrentID.
     void BeginTarget();
+    // Notes strCurrentID beside the log, before a click that can't be taken back. False when the disk refuses
+    // that: the run is stopped, since a message that nobody remembers may be sent twice.
+    bool NoteBeforeSend();
+    // Opens the profile that the filters are to judge.
+    void OpenProfile();
+    // A profile that the filters refuse is counted, and its target is done with. caller is the trace word of
+    // its removal.
+    bool PassesFilter(const QString& caller);
     // Moves on after the target under the cursor: the index, or with chkRemoveAfterSent the head of the
     // list.
     void AdvanceAfterUse(const QString& caller);

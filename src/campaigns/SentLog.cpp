@@ -55,11 +55,15 @@ bool SentLog::WriteLogEntry() {
     if (!error.isEmpty())
         return false;
     // A note that stays after its line holds nobody back whom the line doesn't.
-    m_app.diagnostics.Trap("StrikeOutNote", [&] {
-        if (const QString path = Path(); !path.isEmpty())
-            OpenNotes(m_app.files, path).StrikeOut({id});
-    });
+    WithdrawNote();
     return true;
+}
+
+void SentLog::WithdrawNote() {
+    m_app.diagnostics.Trap("StrikeOutNote", [this] {
+        if (const QString path = Path(); !path.isEmpty())
+            OpenNotes(m_app.files, path).StrikeOut({m_app.state.strCurrentID});
+    });
 }
 
 bool SentLog::NoteContact() {

@@ -30,6 +30,8 @@ public:
     // The notes beside the log hold who was contacted without a line in it; LogEntryExists finds them too.
     // Notes strCurrentID: on the disk when it answers true.
     bool NoteContact();
+    // Strikes the note of strCurrentID out: no log line is to come, and none is needed.
+    void WithdrawNote();
     bool IsNoted(const QString& id);
     // Strikes out the notes of those who stand in the log: a process that died after the line left them.
     void SettleNotes();

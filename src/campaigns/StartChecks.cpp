@@ -58,10 +58,6 @@ bool CampaignMayStart(App& app, const Campaign& campaign) {
     return true;
 }
 
-bool HasMessenger(const App& app) {
-    return app.commands.Has(QString::fromLatin1(Messages.send) + u"_Click"_s);
-}
-
 bool IsBlank(const App& app, QLatin1StringView field) {
     return app.controls.Text(field).trimmed().isEmpty();
 }

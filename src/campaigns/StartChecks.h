@@ -19,8 +19,6 @@ struct StartCheck {
 // Runs the checks in their order. The first that fails is told to the user, with its tab and field shown, and
 // the answer is false.
 bool CampaignMayStart(App& app, const Campaign& campaign);
-// Whether this version can send messages, alone or after a friend request.
-bool HasMessenger(const App& app);
 
 // Rows that campaigns share.
 extern const StartCheck WaitForLogin;

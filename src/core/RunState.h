@@ -143,6 +143,7 @@ struct RunState : RunFields, TimedFields {
     qint16 intCaptchaSkips = 0;
     bool blnMsgAfterFR = false;
     bool blnFRSkipMessage = false;
+    bool blnFRWaitRequestSent = false; // the request page to go back to is still to confirm
     bool blnCommentUsedEditor = false;
     bool blnSubmittingComment = false; // SubmitComment is on the stack
     // Last line used of each content list. Never reset: a new run goes on where the last one stopped.

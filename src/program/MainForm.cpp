@@ -83,7 +83,6 @@ void MainForm::Form_Load() {
         m_app.Get<Pacing>().UpdateTimeDelayLabel();
         m_app.Get<BlackList>().FillArrayFromFile(u"arrBlacklistIDs"_s, m_app.Get<BlackList>().Path());
         m_app.ShowTab(TabCaptions().first());
-        SayWhatIsMissing();
         m_app.timers->tmrNewVersionAvailable.SetEnabled(state.blnNewVersionAvailable);
         Diagnostics::IgnoreErrors([this] { m_app.files.CreateFolder(m_app.state.DataFolder); });
         m_app.diagnostics.Debug(u"debuginitial.txt"_s, u"frmLoad 3"_s);
@@ -96,12 +95,6 @@ void MainForm::Form_Load() {
         m_app.Get<ActionTick>().Timer1_Timer();
         m_app.waiting.Pump();
     });
-}
-
-void MainForm::SayWhatIsMissing() {
-    constexpr auto message = "chkFrSendMessage"_L1;
-    if (!HasMessenger(m_app))
-        m_app.controls.SetText(message, m_app.controls[message].row->PlainCaption() + u" (not yet)"_s);
 }
 
 bool MainForm::SaveAll() {

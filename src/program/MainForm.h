@@ -44,7 +44,6 @@ public:
 private:
     void RegisterCommands();
     // On the controls that need what the program cannot do yet.
-    void SayWhatIsMissing();
     bool MayClose();
     void Browse(const std::function<void()>& move);
 

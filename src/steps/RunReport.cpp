@@ -38,6 +38,7 @@ EndRow RowFor(Ending ending, const ReportKind& kind) {
         {Ending::Stopped, "You pressed Stop", Unfinished, "You pressed Stop"},
         {Ending::Closed, "The program was closed", Unfinished, "The program was closed"},
         {Ending::Uncounted, "The count of today could not be saved", Unfinished, ""},
+        {Ending::Unnoted, "Whom to send to could not be noted", Unfinished, "It was not sent"},
         {Ending::DailyLimit, "The site's daily limit was reached", ReportResult::Failed, ""},
         {Ending::Other, "The run was ended", Unfinished, "The run was ended"},
     };
@@ -164,6 +165,7 @@ void RunReport::Open(const QString& id) {
     m_row = {m_row.number + 1, m_app.NowText(), id, ReportResult::Unfinished, 0, {}};
     m_isOpen = true;
     m_isConfirmed = false;
+    m_sentAs.reset();
     m_lines.append(BegunLine(m_row));
     Write(Durability::Quick);
 }
@@ -183,14 +185,23 @@ void RunReport::Confirm() {
     m_isConfirmed = m_isOpen;
 }
 
+void RunReport::MarkSent(bool isLogged) {
+    if (!m_isOpen)
+        return;
+    m_sentAs = isLogged ? ReportResult::Sent : ReportResult::SentNotLogged;
+    if (!isLogged)
+        Remark(u"The log could not be written"_s);
+}
+
 void RunReport::Close(ReportResult result, const QString& why) {
     if (!m_isOpen)
         return;
     m_isOpen = false;
-    const bool wasSent = m_isConfirmed && result != ReportResult::Sent;
-    m_row.result = wasSent ? ReportResult::SentNotLogged : result;
+    const bool isMarked = m_sentAs && result == ReportResult::Unfinished;
+    const bool wasConfirmed = m_isConfirmed && result != ReportResult::Sent;
+    m_row.result = isMarked ? *m_sentAs : wasConfirmed ? ReportResult::SentNotLogged : result;
     m_row.time = m_app.NowText();
-    if (m_row.why.isEmpty())
+    if (m_row.why.isEmpty() && !isMarked)
         m_row.why = why;
     m_lines.append(ResultLine(m_row));
     Write(Durability::Synced);

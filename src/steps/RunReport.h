@@ -6,6 +6,7 @@
 #include "steps/StopReason.h"
 
 #include <functional>
+#include <optional>
 
 namespace qlm {
 
@@ -44,6 +45,9 @@ public:
     void RemarkPage(int pageClass);
     // The site has confirmed the request to the open target: however it ends now, it was sent.
     void Confirm();
+    // The open target has been sent to, and is in the log or could not be written there: an unfinished end
+    // counts as that.
+    void MarkSent(bool isLogged);
     // The open target's result; words given here stand in for a missing remark. Nothing when none is open.
     void Close(ReportResult result, const QString& why = {});
     // Lines that are still in memory go to the file.
@@ -74,6 +78,7 @@ private:
     ReportRow m_row; // the open target, or the last one
     bool m_isOpen = false;
     bool m_isConfirmed = false;
+    std::optional<ReportResult> m_sentAs;
     QString m_problem;
     bool m_problemTold = false;
 };

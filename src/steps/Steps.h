@@ -17,7 +17,21 @@ namespace FriendStep {
 enum : qint16 { None = 0, NextTarget = 5, End = 6, DecideFilter = 7, Submit = 8, AfterSend = 9 };
 }
 namespace MessageStep {
-enum : qint16 { None = 0, NextTarget = 4, End = 5, DecideFilter = 6, Submit = 7, AfterSend = 8, Captcha = 9 };
+enum : qint16 {
+    None = 0,
+    NextTarget = 4,
+    End = 5,
+    DecideFilter = 6,
+    Submit = 7,
+    AfterSend = 8,
+    Captcha = 9,
+    // Through a group, to who takes mail from its members alone.
+    JoinGroup = 13,
+    OpenGroupInvite = 14,
+    InviteToGroup = 15,
+    OpenGroupResign = 16,
+    ResignFromGroup = 17
+};
 }
 namespace CommentStep {
 enum : qint16 {

@@ -27,6 +27,7 @@ constexpr StopReasonRow Rows[] = {
     {StopReason::WindowStop, "MAINSTOP"_L1, Ending::Stopped},
     {StopReason::Closing, "FU"_L1, Ending::Closed},
     {StopReason::Uncounted, "UNCOUNTED"_L1, Ending::Uncounted},
+    {StopReason::Unnoted, "UNNOTED"_L1, Ending::Unnoted},
     {StopReason::DailyLimit, "LF2"_L1, Ending::DailyLimit},
     {StopReason::NotEnglish, "LF1"_L1},
     {StopReason::LoginDone, "ILA"_L1, Ending::Other, true},

@@ -25,6 +25,7 @@ enum class StopReason {
     WindowStop,  // the window's Stop
     Closing,     // the program ends
     Uncounted,   // the count of the day can't be saved
+    Unnoted,     // who is about to be sent to can't be noted
     DailyLimit,  // the site lets the account send nothing more today
     NotEnglish,  // the site speaks another language
     LoginDone,   // the account is signed in
@@ -41,7 +42,7 @@ enum class StopReason {
 };
 
 // What a reason means to a run that is ended by it.
-enum class Ending { AllDone, LimitMet, Stopped, Closed, Uncounted, DailyLimit, Other };
+enum class Ending { AllDone, LimitMet, Stopped, Closed, Uncounted, Unnoted, DailyLimit, Other };
 
 struct StopReasonRow {
     StopReason reason;

@@ -195,9 +195,18 @@ TEST_F(MessagingCaptchaTest, AnyOtherPageGivesTheTargetToTheStepBehind) {
     app->state.blnLoggingEnabled = true;
     Show(u"Something else"_s);
     app->state.blnHoldLinkCheck = true;
+    app->controls.SetTicked("chkRemoveAfterSent"_L1, false);
+    qint16 step = 0;
+    bool isHeld = true;
+    app->controls.AddListener([&](const Control&, Controls::Change, int) {
+        if (app->Status() != u"Message successfully sent")
+            return;
+        step = app->state.intMsgStep;
+        isHeld = app->state.blnHoldLinkCheck;
+    });
     app->Get<CaptchaCalls>().MessagingCAPTCHAReached();
-    EXPECT_EQ(app->state.intMsgStep, 8);
-    EXPECT_FALSE(app->state.blnHoldLinkCheck);
+    EXPECT_EQ(step, 8);
+    EXPECT_FALSE(isHeld);
     const QString trail = app->files.ReadLines(app->DataFile(u"debugmsg.txt"_s)).join(u'\n');
     EXPECT_TRUE(trail.contains(u"Something else"_s));
 }

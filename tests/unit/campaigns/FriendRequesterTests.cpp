@@ -85,7 +85,6 @@ TEST_F(FriendRequesterTest, AnotherErrorEndsTheStepAndTheEmptyPageRepeatsIt) {
 }
 
 TEST_F(FriendRequesterTest, AMessageBehindARequestIsHandedToTheMessenger) {
-    app->commands.Add(u"picCmdMsgSend_Click"_s, [] {});
     app->controls.SetTicked("chkFrSendMessage"_L1, true);
     app->controls.SetText("txtMsgSubject"_L1, u"Hi"_s);
     app->controls.SetText("txtMsgMessage"_L1, u"Hello"_s);
@@ -103,7 +102,6 @@ TEST_F(FriendRequesterTest, AMessageBehindARequestIsHandedToTheMessenger) {
 }
 
 TEST_F(FriendRequesterTest, TheTimeDelayComesBeforeTheMessageBehindARequest) {
-    app->commands.Add(u"picCmdMsgSend_Click"_s, [] {});
     app->controls.SetTicked("chkFrSendMessage"_L1, true);
     app->controls.SetText("txtMsgSubject"_L1, u"Hi"_s);
     app->controls.SetText("txtMsgMessage"_L1, u"Hello"_s);

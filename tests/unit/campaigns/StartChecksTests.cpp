@@ -109,13 +109,6 @@ TEST_F(StartChecksTest, AMessageBehindNeedsSubjectThenText) {
     EXPECT_TRUE(Refusal().endsWith(u"Please enter a message."_s));
 }
 
-TEST_F(StartChecksTest, AMessageBehindIsRefusedWhileThereIsNoMessenger) {
-    SendMessageBehind();
-    EXPECT_TRUE(Refusal().contains(u"has no Auto Messenger yet"_s));
-    app->commands.Add(u"picCmdMsgSend_Click"_s, [] {});
-    EXPECT_EQ(Refusal(), QString());
-}
-
 TEST_F(StartChecksTest, ACategoryMustHaveBeenChosen) {
     app->controls.SetTicked("chkFRAddToCategory"_L1, true);
     for (const QString& none : {u"Retrieving, please wait..."_s, u"Press button to fill list -> -> ->"_s,
@@ -161,11 +154,7 @@ TEST_F(StartChecksTest, OfFriendRequestsStandInTheirOrder) {
           "", [this] { Write(ContentKind::Message, u"S&Message=B&Selected=0"_s); }},
          {u"You have selected to send a message with the friend request. On the messenger tab you selected "
           u"'send from list', but you havent selected any of the messages in your list.",
-          "", [this] { Write(ContentKind::Message, u"S&Message=B&Selected=1"_s); }},
-         {u"You have selected to send a message after each friend request, but this version of Quillmere has "
-          u"no "
-          u"Auto Messenger yet. No friend requests have been sent.",
-          "", [this] { app->commands.Add(u"picCmdMsgSend_Click"_s, [] {}); }}});
+          "", [this] { Write(ContentKind::Message, u"S&Message=B&Selected=1"_s); }}});
 }
 
 TEST_F(StartChecksTest, OfASingleMessageStandInTheirOrder) {

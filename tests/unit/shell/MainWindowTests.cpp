@@ -228,22 +228,6 @@ TEST_F(MainWindowTest, TheOptionsOfARequestAreShownAndSayWhatTheyAreGoodFor) {
               u"Uses the message specified on the 'Auto Messenger' tab"_s);
 }
 
-TEST_F(MainWindowTest, TheMessageBehindARequestStaysOffWhileNoneCanBeSent) {
-    auto* message = Named<QCheckBox>("chkFrSendMessage");
-    EXPECT_TRUE(message->text().endsWith(u"(not yet)"_s));
-    message->click();
-    EXPECT_FALSE(message->isChecked());
-    EXPECT_EQ(dialogs.messages.size(), 1);
-    // What another version has stored can be taken away.
-    app->controls.SetTicked("chkFrSendMessage"_L1, true);
-    message->click();
-    EXPECT_FALSE(message->isChecked());
-    EXPECT_EQ(dialogs.messages.size(), 1);
-    Count("picCmdMsgSend_Click");
-    message->click();
-    EXPECT_TRUE(message->isChecked());
-}
-
 TEST_F(MainWindowTest, LaterErrorsHaveALineOnlyWhenThereIsOne) {
     auto* errors = Named<QLabel>("lblLaterErrors");
     EXPECT_TRUE(errors->isHidden());
