@@ -23,4 +23,5 @@ reuse_headers_of(quillmere_logic
     quillmere_scenario_parser quillmere_scenario_parts quillmere-fire loopback_server)
 reuse_headers_of(core_tests
     accounts_tests browser_tests campaigns_tests content_tests gather_tests platform_tests practice_tests shell_tests
-    contract_qt contract_sim engine_tests window_test_support)
+    contract_qt contract_sim engine_tests engine_loopback_tests engine_direct_tests loopback_world
+    window_test_support)

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/BrowserPage.h"
 
-#include "platform/qt/LoopbackGuard.h"
-
 #include <QAuthenticator>
 #include <QCoreApplication>
 #include <QFile>
@@ -161,10 +159,6 @@ void BrowserPage::triggerAction(WebAction action, bool checked) {
 }
 
 bool BrowserPage::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
-    // Where a redirect leads, the guard among the profile's interceptors isn't asked again.
-    const bool isGuarded = profile()->findChild<QWebEngineUrlRequestInterceptor*>() != nullptr;
-    if (isGuarded && type == NavigationTypeRedirect && LoopbackGuard::IsNear(url.host()))
-        return false;
     ++requestDepth;
     const bool isAccepted = m_observer && m_observer->AcceptNavigation(url, type, isMainFrame);
     --requestDepth;

@@ -4,6 +4,8 @@
 #include "platform/qt/BrowserPage.h"
 
 #include <QCoreApplication>
+#include <QNetworkProxy>
+#include <QSysInfo>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineProfile>
 #include <QWebEngineSettings>
@@ -33,6 +35,26 @@ constexpr std::array engineFlags = {
     "--disable-features=WebTransport,BackForwardCache,TranslateUI,OptimizationHints,MediaRouter",
 };
 
+// What leads to this machine and to the cable beside it, as the engine writes it when it has understood it.
+constexpr std::array nearHosts = {
+    "localhost",
+    "localhost.",
+    "*.localhost",
+    "*.localhost.",
+    "localhost.localdomain",
+    "ip6-localhost",
+    "ip6-loopback",
+    "127.???.???.???",
+    "0.???.???.???",
+    "169.254.???.???",
+    "::",
+    "::1",
+    "::ffff:7f??:*",
+    "::ffff:0:*",
+    "::ffff:a9fe:*",
+    "fe80:*",
+};
+
 struct Setting {
     QWebEngineSettings::WebAttribute attribute;
     bool isOn;
@@ -54,6 +76,11 @@ constexpr std::array settings = {
     Setting{QWebEngineSettings::AllowWindowActivationFromJavaScript, false},
 };
 
+void AddEngineFlag(const QByteArray& flag) {
+    const QByteArray flags = qgetenv("QTWEBENGINE_CHROMIUM_FLAGS") + ' ' + flag;
+    qputenv("QTWEBENGINE_CHROMIUM_FLAGS", flags.trimmed());
+}
+
 void Refuse(QWebEngineDownloadRequest* download) {
     const QString name = download->downloadFileName();
     download->cancel();
@@ -66,11 +93,24 @@ void Refuse(QWebEngineDownloadRequest* download) {
 void PrepareEngine() {
     // With the other event dispatcher, a call into a page made from a nested loop may never come back.
     qputenv("QT_NO_GLIB", "1");
-    QByteArray flags = qgetenv("QTWEBENGINE_CHROMIUM_FLAGS");
     for (const char* flag : engineFlags)
-        flags.append(' ').append(flag);
-    qputenv("QTWEBENGINE_CHROMIUM_FLAGS", flags.trimmed());
+        AddEngineFlag(flag);
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+}
+
+// The engine connects to nothing whose address it hasn't looked up here first, numbers included; so this
+// holds for redirects, too, which it follows before it asks anybody. The first rule that fits counts.
+void ConfineEngine(const QNetworkProxy& proxy) {
+    QByteArray rules;
+    if (proxy.type() == QNetworkProxy::HttpProxy) {
+        const QByteArray host = proxy.hostName().toLatin1();
+        rules = "MAP " + host + ':' + QByteArray::number(proxy.port()) + ' ' + host + ",MAP * ~NOTFOUND";
+    } else {
+        for (const char* host : nearHosts)
+            rules += QByteArray("MAP ") + host + " ~NOTFOUND,";
+        rules += "MAP " + QSysInfo::machineHostName().toLatin1() + " ~NOTFOUND";
+    }
+    AddEngineFlag("--host-resolver-rules=\"" + rules + '"');
 }
 
 QWebEngineProfile* CreateEngineProfile(QObject* owner) {

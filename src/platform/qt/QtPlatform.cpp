@@ -5,7 +5,6 @@
 #include "core/Descriptor.h"
 #include "core/FileSystem.h"
 #include "platform/qt/EngineProfile.h"
-#include "platform/qt/LoopbackGuard.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -90,8 +89,8 @@ void QtPlatform::SetProxy() {
 
 QtBrowser& QtPlatform::Browser(BrowserName name) {
     if (!m_profile) {
+        ConfineEngine(QNetworkProxy::applicationProxy());
         m_profile = CreateEngineProfile(&m_profileOwner);
-        m_profile->setUrlRequestInterceptor(new LoopbackGuard(m_profile));
     }
     std::unique_ptr<QtBrowser>& browser = m_browsers[name];
     if (!browser)

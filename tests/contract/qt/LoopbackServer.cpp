@@ -34,7 +34,7 @@ QString LoopbackRequest::Header(const QByteArray& name) const {
     return QString::fromUtf8(HeaderValue(headers, name));
 }
 
-LoopbackServer::LoopbackServer() {
+LoopbackServer::LoopbackServer(const QHostAddress& address) {
     m_unknown.status = 404;
     m_unknown.body = "<body>no such page</body>";
     // The helper object carries the server into its thread and dies there.
@@ -44,10 +44,10 @@ LoopbackServer::LoopbackServer() {
     m_thread.start();
     QMetaObject::invokeMethod(
         m_context,
-        [this] {
+        [this, address] {
             auto* server = new QTcpServer(m_context);
-            if (!server->listen(QHostAddress::LocalHost))
-                throw std::runtime_error("no loopback port");
+            if (!server->listen(address))
+                throw std::runtime_error("no port to listen at");
             m_port = server->serverPort();
             QObject::connect(server, &QTcpServer::newConnection, server, [this, server] {
                 while (QTcpSocket* socket = server->nextPendingConnection()) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QHash>
+#include <QHostAddress>
 #include <QMutex>
 #include <QPointer>
 #include <QString>
@@ -36,11 +37,11 @@ struct LoopbackRequest {
     QString Header(const QByteArray& name) const;
 };
 
-// A server of its own thread on the loopback address, so that it answers whatever the tested program does. It
-// takes absolute addresses too and can play every host as the program's proxy.
+// A server of its own thread, on the loopback address unless told, so that it answers whatever the tested
+// program does. It takes absolute addresses too and can play every host as the program's proxy.
 class LoopbackServer {
 public:
-    LoopbackServer();
+    explicit LoopbackServer(const QHostAddress& address = QHostAddress::LocalHost);
     ~LoopbackServer();
 
     quint16 Port() const { return m_port; }
