@@ -30,7 +30,23 @@ protected:
                 "ProductServerAlternate=http://product2.example.com\n"_s);
         app->state.blnLoggingEnabled = true;
         app->diagnostics.onLine = [this](const QString& line) { trail += line; };
+        app->controls.AddListener([this](const Control& control, Controls::Change, int) {
+            if (!m_givenUp && control.name == QLatin1StringView("lblFrFailedCount"))
+                m_givenUp = {State(), app->timers->tmrAutoResume.Enabled()};
+        });
     }
+
+    // What the step after the send was handed with the first target that was given up. It goes on at once.
+    struct Handed {
+        RunState state;
+        bool watchdog;
+    };
+    const RunState& GivenUp() const {
+        EXPECT_TRUE(m_givenUp.has_value());
+        return m_givenUp ? m_givenUp->state : app->state;
+    }
+    bool WatchdogAtGivingUp() const { return m_givenUp && m_givenUp->watchdog; }
+    void ForgetGivenUp() { m_givenUp.reset(); }
 
     // Shows a page in WebBrowser1; the address may hold {Role}s and needs no scheme.
     void Show(const QString& address, const QString& body, SimFault fault = SimFault::None) {
@@ -59,6 +75,9 @@ protected:
     }
 
     QStringList trail;
+
+private:
+    std::optional<Handed> m_givenUp;
 };
 
 } // namespace qlm

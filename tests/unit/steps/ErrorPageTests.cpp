@@ -69,7 +69,7 @@ TEST_F(ErrorPageTest, ARequestsStepKeepsNoOtherActivityFromAnErrorPage) {
     State().intFRStep = 9;
     State().intMsgStep = 9;
     EXPECT_FALSE(Check(u"MSG"_s, Refusal));
-    EXPECT_EQ(State().intMsgStep, 8);
+    EXPECT_EQ(GivenUp().intMsgStep, 8);
 }
 
 TEST_F(ErrorPageTest, TheThirdLimitPageIsBelieved) {
@@ -155,8 +155,8 @@ TEST_F(ErrorPageTest, AFailedMessageGoesToItsEnd) {
     State().intMsgStep = 9;
     EXPECT_FALSE(Check(u"MSG"_s, Refusal));
     EXPECT_TRUE(Said(u"Maint: 10"_s));
-    EXPECT_EQ(State().intMsgStep, 8);
-    EXPECT_TRUE(Resumed());
+    EXPECT_EQ(GivenUp().intMsgStep, 8);
+    EXPECT_TRUE(!GivenUp().blnHoldLinkCheck && WatchdogAtGivingUp());
     EXPECT_EQ(Address(), u"about:blank"_s);
 }
 

@@ -219,10 +219,10 @@ TEST_F(ExpectedElementTest, AnUnconfirmedMessageFailsAtTheTenthCompletePage) {
     EXPECT_EQ(State().intConfirmPolls, 9);
     EXPECT_FALSE(State().blnSkipCurrentID);
     EXPECT_FALSE(Look());
-    EXPECT_EQ(State().intConfirmPolls, 0);
-    EXPECT_TRUE(State().blnSkipCurrentID);
-    EXPECT_TRUE(app->timers->tmrAutoResume.Enabled());
-    EXPECT_EQ(State().intMsgStep, 8);
+    EXPECT_EQ(GivenUp().intConfirmPolls, 0);
+    EXPECT_TRUE(GivenUp().blnSkipCurrentID);
+    EXPECT_TRUE(WatchdogAtGivingUp());
+    EXPECT_EQ(GivenUp().intMsgStep, 8);
 }
 
 TEST_F(ExpectedElementTest, OnlyCompletePagesCountAgainstAMessage) {

@@ -31,9 +31,7 @@ protected:
         app->timers->Timer1.Restart();
         Browser().TakeVisited();
     }
-    void Take(Lending::Page page = Lending::Page::Kept) {
-        lending.Take(ActivityWord::Bulletins, page);
-    }
+    void Take(Lending::Page page = Lending::Page::Kept) { lending.Take(ActivityWord::Bulletins, page); }
     Lending& lending = app->Get<Lending>();
 };
 
@@ -63,10 +61,9 @@ TEST_F(LendingTest, OnlySendRunsLendTheBrowserAndOnlyOnce) {
 }
 
 TEST_F(LendingTest, EachLenderHasItsMark) {
-    const std::vector<std::pair<QString, bool RunState::*>> rows{
-        {u"FR"_s, &RunState::varResumeFR},
-        {u"MSG"_s, &RunState::blnResumeMsg},
-        {u"COM"_s, &RunState::blnResumeCom}};
+    const std::vector<std::pair<QString, bool RunState::*>> rows{{u"FR"_s, &RunState::varResumeFR},
+                                                                 {u"MSG"_s, &RunState::blnResumeMsg},
+                                                                 {u"COM"_s, &RunState::blnResumeCom}};
     for (const auto& [action, mark] : rows) {
         State().CurrentAction = action;
         Take();

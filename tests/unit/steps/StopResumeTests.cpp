@@ -148,8 +148,8 @@ TEST_F(StopResumeTest, ASkipGoesToTheStepBehindTheSending) {
     State().CurrentAction = u"MSG"_s;
     State().intMsgStep = 7;
     app->Get<StopResume>().SkipProfile();
-    EXPECT_EQ(State().intMsgStep, 8);
-    EXPECT_TRUE(State().blnSkipRequested);
+    EXPECT_EQ(GivenUp().intMsgStep, 8);
+    EXPECT_TRUE(GivenUp().blnSkipRequested);
     State().CurrentAction = u"COM"_s;
     State().intComStep = 7;
     app->Get<StopResume>().SkipProfile();
