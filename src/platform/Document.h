@@ -106,11 +106,14 @@ public:
     virtual bool HasAttribute(int node, const QString& name) = 0;
     virtual int Parent(int node) = 0;
     virtual std::vector<int> Descendants(int node, const QString& tag) = 0;
+    // The document in a frame element; nothing where the page has no way to it.
+    virtual std::shared_ptr<DocumentBackend> FrameDocument(int node) = 0;
 
     virtual void SetInnerText(int node, const QString& text) = 0;
     virtual void SetInnerHTML(int node, const QString& html) = 0;
     virtual void SetValue(int node, const QString& value) = 0;
     virtual void SetAttribute(int node, const QString& name, const QString& value) = 0;
+    virtual void SetSelected(int option, bool isSelected) = 0;
     virtual void Click(int node) = 0;
     virtual void Submit(int node) = 0;
     virtual void Focus(int node) = 0;
@@ -118,6 +121,8 @@ public:
     virtual void ScrollIntoView(int node) = 0;
     virtual void ScrollToEnd() = 0;
 };
+
+class Document;
 
 // A node of one document: a small value, null when nothing was found. Reading a property of a null element
 // gives empty text (a missing ancestor reads as empty text); doing something with one throws BrowserError.
@@ -142,7 +147,8 @@ public:
     QString Href() const { return Read(ElementText::Href); }
     QString TagName() const { return Read(ElementText::TagName); }
     // The pseudo attributes "innertext", "innerhtml", "outerhtml" and "class" read the property, in any
-    // letter case; "checked" is "checked" while the box is ticked, otherwise empty.
+    // letter case. "checked" of a box, "selected" of an option and "disabled" tell how it is now: the word
+    // itself while it is so, otherwise empty. What stands in a disabled fieldset is disabled too.
     QString GetAttribute(const QString& name) const {
         return IsNull() ? QString() : m_document->Attribute(m_node, name);
     }
@@ -155,6 +161,9 @@ public:
     // Ancestor(1) is the parent; null where the tree ends first.
     Element Ancestor(int n) const;
     std::vector<Element> Tags(const QString& tag) const;
+    // Of a frame: the document in it, an empty one until its page has come. A null document where the element
+    // is no frame, or where a page of another origin stands in it.
+    Document FrameDocument() const;
 
     void SetInnerText(const QString& text) const { Need().SetInnerText(m_node, text); }
     void SetInnerHTML(const QString& html) const { Need().SetInnerHTML(m_node, html); }
@@ -162,10 +171,16 @@ public:
     void SetAttribute(const QString& name, const QString& value) const {
         Need().SetAttribute(m_node, name, value);
     }
+    // Of an option: chooses it, or takes the choice away. A list of one choice has never two; it falls back
+    // to its first one when its only choice is taken away, if it shows no more than one. The page hears
+    // nothing (see FireChange).
+    void SetSelected(bool isSelected) const { Need().SetSelected(m_node, isSelected); }
+    // On any element, visible or not. A disabled one does nothing.
     void Click() const { Need().Click(m_node); }
     void Submit() const { Need().Submit(m_node); }
+    // The page hears of it, wherever the desktop's focus is.
     void Focus() const { Need().Focus(m_node); }
-    // The page hears what it hears when a user has changed the element: "onchange".
+    // The page hears what it hears when a user has changed the element: that there was input, and "onchange".
     void FireChange() const { Need().FireChange(m_node); }
     void ScrollIntoView() const { Need().ScrollIntoView(m_node); }
 
@@ -218,6 +233,8 @@ public:
     std::vector<Element> GetElementsByName(const QString& name) const {
         return Wrap(Need().Collect(ElementSet::ByName, name));
     }
+    // The document in the frame of that name, or else of that id; see Element::FrameDocument().
+    Document FrameDocument(const QString& name) const;
     Element GetElementById(const QString& id) const { return Element(m_backend, Need().ById(id)); }
     Element ActiveElement() const { return Element(m_backend, Need().ActiveElement()); }
     // Scrolls the window to the body's full height.
@@ -265,6 +282,17 @@ inline Element Element::Ancestor(int n) const {
     for (int i = 0; i < n && ancestor; ++i)
         ancestor = ancestor.ParentElement();
     return ancestor;
+}
+
+inline Document Element::FrameDocument() const {
+    return IsNull() ? Document() : Document(m_document->FrameDocument(m_node));
+}
+
+inline Document Document::FrameDocument(const QString& name) const {
+    for (const Element& element : GetElementsByName(name))
+        if (const Document frame = element.FrameDocument())
+            return frame;
+    return GetElementById(name).FrameDocument();
 }
 
 inline std::vector<Element> Element::Tags(const QString& tag) const {

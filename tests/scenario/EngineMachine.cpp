@@ -77,7 +77,6 @@ public:
     void ShowStatus(const QString&) override { throw BrowserError("the engine tells its own status"); }
     bool IsContextMenuShown() override { return false; }
 
-    Document FrameOf(const QString&) override { return {}; }
     QStringList ScriptsRun(BrowserName) override { return {}; }
     QStringList TakeVisited(BrowserName name) override { return std::exchange(m_visited[name], {}); }
     std::vector<SimBrowser::Posted> TakePosted(BrowserName name) override;

@@ -20,7 +20,6 @@ const std::vector<Row>& Rows() {
         {u"status-text", u""},         // the engine has no status texts of its own to be told
         {u"right-click", u""},         // offscreen there is no mouse
         {u"expect context-menu", u""}, //
-        {u"expect page in", u""},      // the engine gives no way into a frame
         {u"expect ran", u""},          // the engine doesn't tell which scripts it runs
         {u"expect elapsed", u""},      // what the engine needs counts as many times as the clock is faster
         {u"fault", u"nobody"},         // the engine makes a body of every answer

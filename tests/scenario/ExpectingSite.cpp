@@ -93,7 +93,8 @@ void Page(Stage& stage, Arguments& arguments) {
 // expect page in FRAME "text"
 void PageInFrame(Stage& stage, Arguments& arguments) {
     const QString name = arguments.Take("the frame");
-    const Document frame = stage.TheMachine().FrameOf(name);
+    const Document page = stage.Browser(BrowserName::WebBrowser1).Document();
+    const Document frame = page ? page.FrameDocument(name) : Document();
     if (!frame)
         Fail(u"the page has no frame %1"_s.arg(name));
     if (const QString body = frame.BodyText(); !body.contains(arguments.Take("the text")))

@@ -34,9 +34,6 @@ public:
     virtual void ShowStatus(const QString& text) = 0;
     virtual bool IsContextMenuShown() = 0;
 
-    // The document of the named frame of the page in WebBrowser1; null when there is none.
-    virtual Document FrameOf(const QString& name) = 0;
-
     // As SimBrowser tells them.
     virtual QStringList ScriptsRun(BrowserName name) = 0;
     virtual QStringList TakeVisited(BrowserName name) = 0;

@@ -24,8 +24,6 @@ public:
     void ShowStatus(const QString& text) override { Shown().ShowStatus(text); }
     bool IsContextMenuShown() override { return Shown().contextMenuShown.value_or(false); }
 
-    Document FrameOf(const QString& name) override { return Shown().FrameDocument(name); }
-
     QStringList ScriptsRun(BrowserName name) override { return m_platform.Browser(name).scripts; }
     QStringList TakeVisited(BrowserName name) override { return m_platform.Browser(name).TakeVisited(); }
     std::vector<SimBrowser::Posted> TakePosted(BrowserName name) override {

@@ -88,6 +88,11 @@ std::vector<int> BlankDocument::Descendants(int, const QString&) {
     return {};
 }
 
+std::shared_ptr<DocumentBackend> BlankDocument::FrameDocument(int) {
+    Check();
+    return nullptr;
+}
+
 void BlankDocument::SetInnerText(int, const QString&) {
     throw BrowserError();
 }
@@ -106,6 +111,10 @@ void BlankDocument::SetValue(int, const QString&) {
 }
 
 void BlankDocument::SetAttribute(int, const QString&, const QString&) {
+    throw BrowserError();
+}
+
+void BlankDocument::SetSelected(int, bool) {
     throw BrowserError();
 }
 

@@ -31,11 +31,13 @@ public:
     bool HasAttribute(int node, const QString& name) override;
     int Parent(int node) override;
     std::vector<int> Descendants(int node, const QString& tag) override;
+    std::shared_ptr<DocumentBackend> FrameDocument(int node) override;
 
     void SetInnerText(int node, const QString& text) override;
     void SetInnerHTML(int node, const QString& html) override;
     void SetValue(int node, const QString& value) override;
     void SetAttribute(int node, const QString& name, const QString& value) override;
+    void SetSelected(int option, bool isSelected) override;
     void Click(int node) override;
     void Submit(int node) override;
     void Focus(int node) override;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/PageDocument.h"
 
+#include "platform/qt/PageFrame.h"
+
 #include <algorithm>
 #include <array>
 
@@ -44,12 +46,11 @@ constexpr std::array pseudoAttributes = {
     PseudoAttribute{"classname", ElementText::ClassName},
 };
 
+// Of an element, as it is now; an attribute says how the page has come.
+constexpr std::array states = {"checked"_L1, "selected"_L1, "disabled"_L1};
+
 QString NameOf(ElementText which) {
     return QString::fromLatin1(propertyNames.at(static_cast<size_t>(which)));
-}
-
-QString NameOf(ElementSet set) {
-    return QString::fromLatin1(setNames.at(static_cast<size_t>(set)));
 }
 
 // What comes along with a collection that nobody had foreseen.
@@ -84,6 +85,10 @@ QJsonArray ToJson(const std::vector<int>& nodes) {
 }
 
 } // namespace
+
+QString NameOf(ElementSet set) {
+    return QString::fromLatin1(setNames.at(static_cast<size_t>(set)));
+}
 
 PageDocument::PageDocument(QtPump& pump, PageCalls& calls, DocumentOwner& owner, QString id)
     : m_pump(pump), m_calls(calls), m_owner(owner), m_id(std::move(id)) {}
@@ -232,7 +237,7 @@ int PageDocument::ById(const QString& id) {
     if (Cache().foresight.tree || Cache().Tree().ArePlacesAsked())
         if (PageTree* tree = Places())
             return tree->NodeOfId(id);
-    return Call(u"byId"_s, {id}).toInt();
+    return Call(u"byId"_s, {id, 0}).toInt();
 }
 
 bool PageDocument::Any(const Question& question) {
@@ -243,7 +248,7 @@ bool PageDocument::Any(const Question& question) {
 }
 
 int PageDocument::ActiveElement() {
-    return Call(u"activeElement"_s, {}).toInt();
+    return Call(u"activeElement"_s, {0}).toInt();
 }
 
 QString PageDocument::Read(int node, ElementText which) {
@@ -297,8 +302,9 @@ QString PageDocument::Attribute(int node, const QString& name) {
     for (const PseudoAttribute& pseudo : pseudoAttributes)
         if (name.compare(QLatin1String(pseudo.name), Qt::CaseInsensitive) == 0)
             return Read(node, pseudo.which);
-    if (name.compare("checked"_L1, Qt::CaseInsensitive) == 0)
-        return Call(u"checked"_s, {node}).toBool() ? u"checked"_s : QString();
+    for (const QLatin1String state : states)
+        if (name.compare(state, Qt::CaseInsensitive) == 0)
+            return Call(u"state"_s, {node, state}).toBool() ? QString(state) : QString();
     if (const PageTree* tree = Places())
         if (const int place = tree->PlaceOf(node); place >= 0)
             return tree->Outline().Attribute(place, name).value_or(QString());
@@ -363,6 +369,11 @@ std::vector<int> PageDocument::Descendants(int node, const QString& tag) {
     return nodes;
 }
 
+std::shared_ptr<DocumentBackend> PageDocument::FrameDocument(int node) {
+    const int frame = Call(u"frameDocument"_s, {node}).toInt();
+    return frame ? std::make_shared<PageFrame>(shared_from_this(), frame) : nullptr;
+}
+
 void PageDocument::SetInnerText(int node, const QString& text) {
     Act(u"setInnerText"_s, {node, text});
 }
@@ -377,6 +388,10 @@ void PageDocument::SetValue(int node, const QString& value) {
 
 void PageDocument::SetAttribute(int node, const QString& name, const QString& value) {
     Act(u"setAttribute"_s, {node, name, value});
+}
+
+void PageDocument::SetSelected(int option, bool isSelected) {
+    Act(u"setSelected"_s, {option, isSelected});
 }
 
 void PageDocument::Click(int node) {
@@ -400,7 +415,7 @@ void PageDocument::ScrollIntoView(int node) {
 }
 
 void PageDocument::ScrollToEnd() {
-    Act(u"scrollToEnd"_s, {});
+    Act(u"scrollToEnd"_s, {0});
 }
 
 } // namespace qlm

@@ -17,15 +17,22 @@ public:
     virtual void OnAddress(const QString& url) = 0;
 };
 
+// The bridge's name of a collection.
+QString NameOf(ElementSet set);
+
 // A document in the engine. The first look in a turn brings the body's text and markup in one call, and the
 // answers to the questions that were foreseen; what else was foreseen comes in a second call, as soon as any
 // of it is asked for. Reads of single nodes bring their neighbours along. All of it is kept until the turn
 // ends, and what follows from the tree alone until the tree changes.
-class PageDocument final : public DocumentBackend {
+class PageDocument final : public DocumentBackend, public std::enable_shared_from_this<PageDocument> {
 public:
     PageDocument(QtPump& pump, PageCalls& calls, DocumentOwner& owner, QString id);
 
     const QString& Id() const { return m_id; }
+    // What the bridge answers; throws where the document is gone or silent.
+    QVariant Call(const QString& name, const QJsonArray& arguments);
+    // Something that may change the page, which ends the turn.
+    void Act(const QString& name, const QJsonArray& arguments);
 
     void Foresee(const Foresight& foresight) override;
     bool IsPresent() const override { return m_owner.IsPresent(this); }
@@ -44,11 +51,13 @@ public:
     bool HasAttribute(int node, const QString& name) override;
     int Parent(int node) override;
     std::vector<int> Descendants(int node, const QString& tag) override;
+    std::shared_ptr<DocumentBackend> FrameDocument(int node) override;
 
     void SetInnerText(int node, const QString& text) override;
     void SetInnerHTML(int node, const QString& html) override;
     void SetValue(int node, const QString& value) override;
     void SetAttribute(int node, const QString& name, const QString& value) override;
+    void SetSelected(int option, bool isSelected) override;
     void Click(int node) override;
     void Submit(int node) override;
     void Focus(int node) override;
@@ -62,8 +71,6 @@ private:
     // Fetches the turn's look; false when the page does not answer or is just being replaced.
     bool Look();
     const PageLook& NeedLook();
-    QVariant Call(const QString& name, const QJsonArray& arguments);
-    void Act(const QString& name, const QJsonArray& arguments);
     bool IsFromHere(const PageCalls::Answer& answer);
     void ReadTogether(const std::vector<int>& nodes, ElementText which);
     void FetchForeseen();

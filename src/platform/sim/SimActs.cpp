@@ -12,13 +12,17 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 bool IsClickable(const SimNode& node) {
-    return node.Is(u"a") || node.Is(u"area") || node.Is(u"input") || node.Is(u"button") ||
-           node.Is(u"label") || node.Is(u"option");
+    return node.Is(u"a") || node.Is(u"area") || node.Is(u"input") || node.Is(u"button") || node.Is(u"label");
 }
 
-bool IsOwnWindow(const QString& target) {
-    const QString name = target.toLower();
-    return name.isEmpty() || name == u"_self" || name == u"_top" || name == u"_parent";
+bool IsOwnFrame(const QString& target) {
+    return target.isEmpty() || target.compare(u"_self"_s, Qt::CaseInsensitive) == 0;
+}
+
+// Frames stand in the page itself, so that what is around one is the top.
+bool IsTop(const QString& target) {
+    return target.compare(u"_top"_s, Qt::CaseInsensitive) == 0 ||
+           target.compare(u"_parent"_s, Qt::CaseInsensitive) == 0;
 }
 
 // The fields stand in for what a script could have read in the page at that moment.
@@ -32,8 +36,8 @@ std::vector<NavigationRequest::Input> InputsOf(const SimTree& tree) {
 
 } // namespace
 
-void SimBrowser::ElementClicked(int node) {
-    SimTree& tree = Tree();
+void SimBrowser::ElementClicked(SimDocument& page, int node) {
+    SimTree& tree = page.Tree();
     if (!tree.IsInPage(node))
         return;
     const int control = tree.Closest(node, IsClickable);
@@ -47,57 +51,59 @@ void SimBrowser::ElementClicked(int node) {
     const bool isReplaced = acting && control && tree.IsInside(acting, control) && !isToggle;
     const QString acts = acting ? tree.Attribute(acting, u"data-on-click") : QString();
     if (control && !isReplaced)
-        ClickControl(control);
-    RunStandIns(acts);
+        ClickControl(page, control);
+    RunStandIns(page, acts);
 }
 
-void SimBrowser::ClickControl(int node) {
-    SimTree& tree = Tree();
+void SimBrowser::ClickControl(SimDocument& page, int node) {
+    SimTree& tree = page.Tree();
     const SimNode& control = tree.At(node);
     const QString type = TypeOf(tree, node);
     if (control.Is(u"a") || control.Is(u"area")) {
         if (tree.HasAttribute(node, u"href"))
-            FollowAddress(ResolveAddress(m_document->BaseURL(), tree.Attribute(node, u"href")),
+            FollowAddress(page, ResolveAddress(page.BaseURL(), tree.Attribute(node, u"href")),
                           tree.Attribute(node, u"target"));
-    } else if (control.Is(u"option")) {
-        ChooseOption(tree, node);
     } else if (control.Is(u"label")) {
         const std::vector<int> inside = tree.Elements(node, u"input");
         const int named = tree.FindById(tree.Attribute(node, u"for"));
         if (named || !inside.empty())
-            ElementClicked(named ? named : inside.front());
+            ElementClicked(page, named ? named : inside.front());
     } else if (type == u"checkbox" || type == u"radio") {
         Toggle(tree, node);
     } else if ((type == u"submit" || type == u"image") && FormOf(tree, node)) {
-        SendForm(FormOf(tree, node), node);
+        SendForm(page, FormOf(tree, node), node);
     }
 }
 
-void SimBrowser::OpenElsewhere(const QString& url, const QString& target) {
-    if (IsFrameName(target)) {
-        SimRequest request;
-        request.url = url;
-        return LoadFrame(request, target, false);
+// What a page or a frame of it wants to load somewhere else than in the page's own place; true when it did.
+bool SimBrowser::LoadElsewhere(SimDocument& page, const SimRequest& request, const QString& target) {
+    const int frame = IsOwnFrame(target) ? FrameOf(page) : IsTop(target) ? 0 : FrameNamed(target);
+    if (frame != 0) {
+        LoadFrame(request, frame, false);
+        return true;
     }
-    Post([this, url] {
+    if (IsOwnFrame(target) || IsTop(target))
+        return false;
+    Post([this, url = request.url] {
         const auto ask = events.newWindow2;
         if (!ask || !ask(url))
             windows += url;
     });
+    return true;
 }
 
 // A link was followed, by whomever.
-void SimBrowser::FollowAddress(const QString& url, const QString& target) {
+void SimBrowser::FollowAddress(SimDocument& page, const QString& url, const QString& target) {
     const QString scheme = SchemeOf(url);
     if (scheme == u"javascript")
-        return RunScript(url);
+        return RunScript(page, url);
     if (RefusesNavigations() || !(scheme.startsWith(u"http") || scheme == u"about"))
         return;
-    if (!IsOwnWindow(target))
-        return OpenElsewhere(url, target);
     Load load;
     load.request.url = url;
     load.request.referrer = m_location;
+    if (LoadElsewhere(page, load.request, target))
+        return;
     if (IsMoveInPage(url))
         return Start(load);
     NavigationRequest question;
@@ -106,15 +112,15 @@ void SimBrowser::FollowAddress(const QString& url, const QString& target) {
     Ask(load, question);
 }
 
-void SimBrowser::FormSubmitted(int form) {
-    SendForm(form, 0);
+void SimBrowser::FormSubmitted(SimDocument& page, int form) {
+    SendForm(page, form, 0);
 }
 
-void SimBrowser::SendForm(int form, int pressed) {
-    SimTree& tree = Tree();
-    const QString action = m_document->AddressOfForm(form, pressed);
+void SimBrowser::SendForm(SimDocument& page, int form, int pressed) {
+    SimTree& tree = page.Tree();
+    const QString action = page.AddressOfForm(form, pressed);
     if (SchemeOf(action) == u"javascript")
-        return RunScript(action);
+        return RunScript(page, action);
     if (RefusesNavigations())
         return;
     const std::vector<SimField> fields = FieldsOf(tree, form, pressed);
@@ -126,7 +132,7 @@ void SimBrowser::SendForm(int form, int pressed) {
     question.isForm = true;
     question.inputs = InputsOf(tree);
     question.pageAddress = m_location;
-    question.pageText = m_document->BodyText(ElementText::InnerText);
+    question.pageText = page.BodyText(ElementText::InnerText);
     if (tree.Attribute(form, u"method").compare(u"post", Qt::CaseInsensitive) == 0) {
         load.request.method = u"POST"_s;
         load.request.url = action;
@@ -137,75 +143,82 @@ void SimBrowser::SendForm(int form, int pressed) {
         load.request.url = WithoutFragment(action).section(u'?', 0, 0) + u'?' + EncodedFields(fields);
     }
     question.url = load.request.url;
-    const QString target = tree.Attribute(form, u"target");
-    if (IsFrameName(target))
-        return LoadFrame(load.request, target, false);
-    if (!IsOwnWindow(target))
-        return OpenElsewhere(load.request.url, target);
+    if (LoadElsewhere(page, load.request, tree.Attribute(form, u"target")))
+        return;
     Tell(question);
     Start(load);
 }
 
-void SimBrowser::ScrolledToEnd() {
-    RunAllWith(u"data-on-scroll"_s);
+void SimBrowser::ScrolledToEnd(SimDocument& page) {
+    RunAllWith(page, u"data-on-scroll"_s);
 }
 
-void SimBrowser::ValueWritten(int node) {
-    RunStandIns(Tree().Attribute(node, u"data-on-input"));
+void SimBrowser::ValueWritten(SimDocument& page, int node) {
+    RunStandIns(page, page.Tree().Attribute(node, u"data-on-input"));
 }
 
-void SimBrowser::ChangeFired(int node) {
-    RunStandIns(Tree().Attribute(node, u"data-on-change"));
-}
-
-void SimBrowser::RunAllWith(const QString& attribute) {
+// What stands around the element hears it too.
+void SimBrowser::ChangeFired(SimDocument& page, int node) {
+    const SimTree& tree = page.Tree();
     QStringList acts;
-    Tree().Walk(Tree().Root(), [&](int element) {
-        if (Tree().HasAttribute(element, attribute))
-            acts += Tree().Attribute(element, attribute);
+    for (int hears = node; hears != 0; hears = tree.At(hears).parent)
+        acts += tree.Attribute(hears, u"data-on-change");
+    for (const QString& act : acts)
+        RunStandIns(page, act);
+}
+
+void SimBrowser::GotFocus(SimDocument& page, int node) {
+    RunStandIns(page, page.Tree().Attribute(node, u"data-on-focus"));
+}
+
+void SimBrowser::RunAllWith(SimDocument& page, const QString& attribute) {
+    const SimTree& tree = page.Tree();
+    QStringList acts;
+    tree.Walk(tree.Root(), [&](int element) {
+        if (tree.HasAttribute(element, attribute))
+            acts += tree.Attribute(element, attribute);
         return true;
     });
     for (const QString& act : acts)
-        RunStandIns(act);
+        RunStandIns(page, act);
 }
 
-void SimBrowser::RunScript(const QString& address) {
+void SimBrowser::RunScript(SimDocument& page, const QString& address) {
+    const SimTree& tree = page.Tree();
     const QString script = QUrl::fromPercentEncoding(address.toUtf8());
     scripts += script;
-    if (!m_document)
-        return;
     QStringList acts;
-    Tree().Walk(Tree().Root(), [&](int element) {
-        const QString part = Tree().Attribute(element, u"data-on-script");
+    tree.Walk(tree.Root(), [&](int element) {
+        const QString part = tree.Attribute(element, u"data-on-script");
         if (!part.isEmpty() && script.contains(part))
-            acts += Tree().Attribute(element, u"data-do");
+            acts += tree.Attribute(element, u"data-do");
         return true;
     });
     for (const QString& act : acts)
-        RunStandIns(act);
+        RunStandIns(page, act);
 }
 
-void SimBrowser::RunStandIns(const QString& text) {
+void SimBrowser::RunStandIns(SimDocument& page, const QString& text) {
     const StandIns parsed = ParseStandIns(text);
     if (!parsed.problem.isEmpty())
         m_web.problems += m_location + u": "_s + parsed.problem;
-    const std::shared_ptr<SimDocument> document = m_document;
+    const std::shared_ptr<SimDocument> document = page.shared_from_this();
     for (const StandIn& act : parsed.acts) {
         if (act.afterMs > 0)
             PostLater(act.afterMs, [this, act, document] {
-                if (document == m_document)
-                    CarryOut(act);
+                if (document->IsPresent())
+                    CarryOut(*document, act);
             });
-        else if (document == m_document)
-            CarryOut(act);
+        else if (document->IsPresent())
+            CarryOut(*document, act);
     }
 }
 
-void SimBrowser::CarryOut(const StandIn& act) {
+void SimBrowser::CarryOut(SimDocument& page, const StandIn& act) {
     Touched();
     if (act.verb == StandIn::Verb::Goto)
-        return FollowAddress(ResolveAddress(m_document->BaseURL(), act.target), {});
-    SimTree& tree = Tree();
+        return FollowAddress(page, ResolveAddress(page.BaseURL(), act.target), {});
+    SimTree& tree = page.Tree();
     const int node = tree.FindById(act.target);
     if (node == 0) {
         m_web.problems += m_location + u": no element #"_s + act.target;
@@ -228,9 +241,11 @@ void SimBrowser::CarryOut(const StandIn& act) {
         if (act.name == u"value")
             SetValueOf(tree, node, act.argument);
         else if (act.name == u"innertext")
-            m_document->SetInnerText(node, act.argument);
+            page.SetInnerText(node, act.argument);
         else if (act.name == u"innerhtml")
             tree.SetInnerHTML(node, act.argument);
+        else if (act.name == u"disabled" && act.argument == u"false")
+            tree.RemoveAttribute(node, act.name);
         else
             tree.SetAttribute(node, act.name, act.argument);
         break;
@@ -241,10 +256,10 @@ void SimBrowser::CarryOut(const StandIn& act) {
         tree.AppendHTML(node, act.argument);
         break;
     case StandIn::Verb::Submit:
-        m_document->Submit(node);
+        page.Submit(node);
         break;
     case StandIn::Verb::Click:
-        m_document->Click(node);
+        page.Click(node);
         break;
     }
 }

@@ -37,7 +37,12 @@ int SimBrowser::ReadyState() {
 void SimBrowser::GoTo(const QString& url) {
     Touched();
     if (SchemeOf(url.trimmed()) == u"javascript") {
-        Post([this, script = url.trimmed()] { RunScript(script); });
+        Post([this, script = url.trimmed()] {
+            if (m_document)
+                RunScript(*m_document, script);
+            else
+                scripts += script;
+        });
         return;
     }
     const QString address = CanonicalAddress(url);

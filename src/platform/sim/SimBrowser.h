@@ -57,8 +57,6 @@ public:
     const std::vector<Posted>& PostedForms() const { return m_posted; }
     // Windows that opened of their own, and scripts that "javascript:" addresses ran.
     QStringList windows;
-    // The document in the frame of that name; null while there is none.
-    qlm::Document FrameDocument(const QString& name);
     QStringList scripts;
     // Whether the page's own menu came up at the last right-click; unset until the program was asked.
     std::optional<bool> contextMenuShown;
@@ -91,31 +89,38 @@ private:
     void Reload(int historyIndex);
     bool IsMoveInPage(const QString& url) const;
 
-    // SimFrames.cpp: the frames of a page.
+    // SimFrames.cpp: the frames of a page, by the numbers of their elements.
+    std::shared_ptr<SimDocument> DocumentInFrame(SimDocument& page, int frame) override;
     void BeginEmbedded();
-    void ShowEmbeddedText(const QString& name, const QString& html);
-    void AskForEmbedded(const QString& url, const QString& frame, bool isFrame);
-    void LoadFrame(const SimRequest& request, const QString& name, bool holdsPage);
-    void ShowInFrame(const QString& name, const QString& html, const QString& url);
+    void ShowEmbeddedText(int frame);
+    void AskForEmbedded(const QString& url, int element, bool isFrame);
+    void LoadFrame(const SimRequest& request, int frame, bool holdsPage);
+    enum class Reach { Same, Foreign };
+    std::shared_ptr<SimDocument> ShowInFrame(int frame, const QString& html, const QString& url,
+                                             Reach reach = Reach::Same);
     void FrameCompletes(const QString& url, bool holdsPage);
+    void FrameIsDone(bool isAwaited);
     void DropFrames();
-    bool IsFrameName(const QString& name) const;
+    // 0: no frame of the page, or none of that name.
+    int FrameOf(const SimDocument& document) const;
+    int FrameNamed(const QString& name) const;
 
-    // SimActs.cpp: what clicks, forms and stand-ins do.
-    void ElementClicked(int node) override;
-    void FormSubmitted(int form) override;
-    void ScrolledToEnd() override;
-    void ValueWritten(int node) override;
-    void ChangeFired(int node) override;
+    // SimActs.cpp: what clicks, forms and stand-ins do, in the page or in a frame of it.
+    void ElementClicked(SimDocument& page, int node) override;
+    void FormSubmitted(SimDocument& page, int form) override;
+    void ScrolledToEnd(SimDocument& page) override;
+    void ValueWritten(SimDocument& page, int node) override;
+    void ChangeFired(SimDocument& page, int node) override;
+    void GotFocus(SimDocument& page, int node) override;
     void Touched() override { m_pump.Queue().EndTurn(); }
-    void ClickControl(int node);
-    void FollowAddress(const QString& url, const QString& target);
-    void SendForm(int form, int pressed);
-    void OpenElsewhere(const QString& url, const QString& target);
-    void RunScript(const QString& script);
-    void RunStandIns(const QString& text);
-    void CarryOut(const StandIn& act);
-    void RunAllWith(const QString& attribute);
+    void ClickControl(SimDocument& page, int node);
+    void FollowAddress(SimDocument& page, const QString& url, const QString& target);
+    void SendForm(SimDocument& page, int form, int pressed);
+    bool LoadElsewhere(SimDocument& page, const SimRequest& request, const QString& target);
+    void RunScript(SimDocument& page, const QString& script);
+    void RunStandIns(SimDocument& page, const QString& text);
+    void CarryOut(SimDocument& page, const StandIn& act);
+    void RunAllWith(SimDocument& page, const QString& attribute);
     int Need(const QString& selector);
     SimTree& Tree() { return m_document->Tree(); }
 
@@ -123,19 +128,12 @@ private:
     SimPump& m_pump;
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 
-    // Nobody clicks in a frame: neither the program nor a scenario has a way into one.
-    class FrameHost : public SimDocumentHost {
-        void ElementClicked(int) override {}
-        void FormSubmitted(int) override {}
-        void ScrolledToEnd() override {}
-        void ValueWritten(int) override {}
-        void ChangeFired(int) override {}
-        void Touched() override {}
-    };
-
     std::shared_ptr<SimDocument> m_document;
-    FrameHost m_frameHost;
-    std::map<QString, std::shared_ptr<SimDocument>> m_frames;
+    struct Frame {
+        std::shared_ptr<SimDocument> document;
+        Reach reach;
+    };
+    std::map<int, Frame> m_frames;
     QString m_location;
     bool m_isComplete = false;
 

@@ -26,6 +26,17 @@ constexpr std::array<PseudoAttribute, 4> pseudoAttributes{{
     {u"classname", ElementText::ClassName},
 }};
 
+struct State {
+    QStringView name;
+    bool (*holds)(const SimTree& tree, int node);
+};
+
+constexpr std::array<State, 3> states{{
+    {u"checked", IsTicked},
+    {u"selected", IsSelected},
+    {u"disabled", IsDisabled},
+}};
+
 bool HoldsValue(const SimNode& node) {
     return node.Is(u"input") || node.Is(u"textarea");
 }
@@ -217,8 +228,9 @@ QString SimDocument::Attribute(int node, const QString& name) {
     for (const PseudoAttribute& pseudo : pseudoAttributes)
         if (name.compare(pseudo.name, Qt::CaseInsensitive) == 0)
             return Read(node, pseudo.property);
-    if (name.compare("checked"_L1, Qt::CaseInsensitive) == 0)
-        return IsChecked(m_tree, node) ? u"checked"_s : QString();
+    for (const State& state : states)
+        if (name.compare(state.name, Qt::CaseInsensitive) == 0)
+            return state.holds(m_tree, node) ? state.name.toString() : QString();
     return m_tree.Attribute(node, name);
 }
 
@@ -238,13 +250,17 @@ std::vector<int> SimDocument::Descendants(int node, const QString& tag) {
     return m_tree.Elements(node, tag);
 }
 
+std::shared_ptr<DocumentBackend> SimDocument::FrameDocument(int node) {
+    return Present().DocumentInFrame(*this, node);
+}
+
 void SimDocument::SetInnerText(int node, const QString& text) {
     SimDocumentHost& host = Present();
     if (HoldsValue(m_tree.At(node)))
         return SetValue(node, text);
     m_tree.SetText(node, text);
     host.Touched();
-    host.ValueWritten(node);
+    host.ValueWritten(*this, node);
 }
 
 void SimDocument::SetInnerHTML(int node, const QString& html) {
@@ -257,7 +273,7 @@ void SimDocument::SetValue(int node, const QString& value) {
     SimDocumentHost& host = Present();
     SetValueOf(m_tree, node, value);
     host.Touched();
-    host.ValueWritten(node);
+    host.ValueWritten(*this, node);
 }
 
 void SimDocument::SetAttribute(int node, const QString& name, const QString& value) {
@@ -266,10 +282,18 @@ void SimDocument::SetAttribute(int node, const QString& name, const QString& val
     host.Touched();
 }
 
+void SimDocument::SetSelected(int option, bool isSelected) {
+    SimDocumentHost& host = Present();
+    if (!m_tree.At(option).Is(u"option"))
+        throw BrowserError();
+    ChooseOption(m_tree, option, isSelected);
+    host.Touched();
+}
+
 void SimDocument::Click(int node) {
     SimDocumentHost& host = Present();
     host.Touched();
-    host.ElementClicked(node);
+    host.ElementClicked(*this, node);
 }
 
 void SimDocument::Submit(int node) {
@@ -278,20 +302,22 @@ void SimDocument::Submit(int node) {
     if (form == 0)
         throw BrowserError();
     host.Touched();
-    host.FormSubmitted(form);
+    host.FormSubmitted(*this, form);
 }
 
 void SimDocument::Focus(int node) {
     SimDocumentHost& host = Present();
-    if (CanHaveFocus(m_tree, node))
-        m_focus = node;
     host.Touched();
+    if (!CanHaveFocus(m_tree, node) || m_focus == node)
+        return;
+    m_focus = node;
+    host.GotFocus(*this, node);
 }
 
 void SimDocument::FireChange(int node) {
     SimDocumentHost& host = Present();
     host.Touched();
-    host.ChangeFired(node);
+    host.ChangeFired(*this, node);
 }
 
 void SimDocument::ScrollIntoView(int node) {
@@ -302,7 +328,7 @@ void SimDocument::ScrollIntoView(int node) {
 void SimDocument::ScrollToEnd() {
     SimDocumentHost& host = Present();
     host.Touched();
-    host.ScrolledToEnd();
+    host.ScrolledToEnd(*this);
 }
 
 } // namespace qlm

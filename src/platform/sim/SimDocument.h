@@ -9,22 +9,26 @@
 
 namespace qlm {
 
-// What a simulated document asks of the browser that shows it.
+class SimDocument;
+
+// What a simulated document, of a page or of a frame, asks of the browser that shows it.
 class SimDocumentHost {
 public:
     virtual ~SimDocumentHost() = default;
-    virtual void ElementClicked(int node) = 0;
-    virtual void FormSubmitted(int form) = 0;
-    virtual void ScrolledToEnd() = 0;
+    virtual void ElementClicked(SimDocument& page, int node) = 0;
+    virtual void FormSubmitted(SimDocument& page, int form) = 0;
+    virtual void ScrolledToEnd(SimDocument& page) = 0;
     // A value was written to the element, by the program or the user.
-    virtual void ValueWritten(int node) = 0;
-    virtual void ChangeFired(int node) = 0;
+    virtual void ValueWritten(SimDocument& page, int node) = 0;
+    virtual void ChangeFired(SimDocument& page, int node) = 0;
+    virtual void GotFocus(SimDocument& page, int node) = 0;
+    virtual std::shared_ptr<SimDocument> DocumentInFrame(SimDocument& page, int node) = 0;
     // Something was written or clicked: the turn is over.
     virtual void Touched() = 0;
 };
 
 // One loaded page of a SimBrowser. Texts and collections are kept until the page changes.
-class SimDocument : public DocumentBackend {
+class SimDocument : public DocumentBackend, public std::enable_shared_from_this<SimDocument> {
 public:
     SimDocument(SimDocumentHost& host, const QString& html, const QString& url);
 
@@ -51,10 +55,12 @@ public:
     bool HasAttribute(int node, const QString& name) override;
     int Parent(int node) override;
     std::vector<int> Descendants(int node, const QString& tag) override;
+    std::shared_ptr<DocumentBackend> FrameDocument(int node) override;
     void SetInnerText(int node, const QString& text) override;
     void SetInnerHTML(int node, const QString& html) override;
     void SetValue(int node, const QString& value) override;
     void SetAttribute(int node, const QString& name, const QString& value) override;
+    void SetSelected(int option, bool isSelected) override;
     void Click(int node) override;
     void Submit(int node) override;
     void Focus(int node) override;

@@ -4,6 +4,7 @@
 #include "platform/sim/SimAddress.h"
 
 #include <QStringList>
+#include <algorithm>
 #include <utility>
 
 namespace qlm {
@@ -23,23 +24,44 @@ bool IsMultiple(const SimTree& tree, int select) {
     return tree.HasAttribute(select, u"multiple");
 }
 
+bool IsDropDown(const SimTree& tree, int select) {
+    return !IsMultiple(tree, select) && tree.Attribute(select, u"size").toInt() <= 1;
+}
+
+bool IsMarked(const SimTree& tree, int node, QStringView attribute) {
+    return tree.At(node).checked.value_or(tree.HasAttribute(node, attribute));
+}
+
+// What a drop-down list shows when nothing in it was chosen; 0 when there is nothing to show.
+int FirstChoice(const SimTree& tree, const std::vector<int>& options) {
+    const auto first = std::ranges::find_if(options, [&](int option) { return !IsDisabled(tree, option); });
+    return first == options.end() ? 0 : *first;
+}
+
 std::vector<int> ChosenOptions(const SimTree& tree, int select) {
     const std::vector<int> options = tree.Elements(select, u"option");
     std::vector<int> chosen;
     bool wasChosenByHand = false;
     for (const int option : options) {
         wasChosenByHand = wasChosenByHand || tree.At(option).checked;
-        if (IsChecked(tree, option))
+        if (IsMarked(tree, option, u"selected"))
             chosen.push_back(option);
     }
-    if (IsMultiple(tree, select) || tree.Attribute(select, u"size").toInt() > 1)
-        return chosen;
-    if (chosen.size() > 1)
+    if (!IsMultiple(tree, select) && chosen.size() > 1)
         chosen.erase(chosen.begin(), chosen.end() - 1);
-    // A drop-down list always shows something unless its choice was taken away.
-    if (chosen.empty() && !wasChosenByHand && !options.empty())
-        chosen.push_back(options.front());
+    if (chosen.empty() && !wasChosenByHand && IsDropDown(tree, select) && FirstChoice(tree, options))
+        chosen.push_back(FirstChoice(tree, options));
     return chosen;
+}
+
+int SelectOf(const SimTree& tree, int option) {
+    return tree.Closest(option, [](const SimNode& n) { return n.Is(u"select"); });
+}
+
+// Whether the element is one that a group around it can disable.
+bool CanBeDisabled(const SimTree& tree, int node) {
+    const SimNode& control = tree.At(node);
+    return CanSend(tree, node) || control.Is(u"fieldset") || control.Is(u"option") || control.Is(u"optgroup");
 }
 
 void AddControl(const SimTree& tree, int node, int pressed, std::vector<SimField>& fields) {
@@ -53,7 +75,7 @@ void AddControl(const SimTree& tree, int node, int pressed, std::vector<SimField
     }
     if (name.isEmpty() || (IsButton(tree, node) && node != pressed))
         return;
-    if ((type == u"checkbox" || type == u"radio") && !IsChecked(tree, node))
+    if ((type == u"checkbox" || type == u"radio") && !IsTicked(tree, node))
         return;
     if (!tree.At(node).Is(u"select")) {
         fields.push_back({name, ValueOf(tree, node)});
@@ -104,14 +126,34 @@ QString TypeOf(const SimTree& tree, int node) {
 }
 
 bool IsDisabled(const SimTree& tree, int node) {
-    const int fieldset =
-        tree.Closest(tree.At(node).parent, [](const SimNode& n) { return n.Is(u"fieldset"); });
-    return tree.HasAttribute(node, u"disabled") || (fieldset && tree.HasAttribute(fieldset, u"disabled"));
+    if (tree.HasAttribute(node, u"disabled"))
+        return true;
+    if (!CanBeDisabled(tree, node))
+        return false;
+    const bool isChoice = tree.At(node).Is(u"option");
+    // What stands in the legend of a group stays as it is.
+    int legend = 0;
+    for (int above = tree.At(node).parent; above != 0; above = tree.At(above).parent) {
+        const SimNode& group = tree.At(above);
+        const bool isGroup = isChoice ? group.Is(u"optgroup") : group.Is(u"fieldset");
+        if (isGroup && tree.HasAttribute(above, u"disabled") && tree.At(legend).parent != above)
+            return true;
+        if (group.Is(u"legend"))
+            legend = above;
+    }
+    return false;
 }
 
-bool IsChecked(const SimTree& tree, int node) {
-    const QStringView attribute = tree.At(node).Is(u"option") ? u"selected" : u"checked";
-    return tree.At(node).checked.value_or(tree.HasAttribute(node, attribute));
+bool IsTicked(const SimTree& tree, int node) {
+    return tree.At(node).Is(u"input") && IsMarked(tree, node, u"checked");
+}
+
+bool IsSelected(const SimTree& tree, int option) {
+    if (!tree.At(option).Is(u"option"))
+        return false;
+    const int select = SelectOf(tree, option);
+    return select ? std::ranges::count(ChosenOptions(tree, select), option) > 0
+                  : IsMarked(tree, option, u"selected");
 }
 
 QString ValueOf(const SimTree& tree, int node) {
@@ -145,19 +187,22 @@ void SetValueOf(SimTree& tree, int node, const QString& value) {
     }
 }
 
-void ChooseOption(SimTree& tree, int option) {
-    const int select = tree.Closest(option, [](const SimNode& n) { return n.Is(u"select"); });
-    if (select == 0)
+void ChooseOption(SimTree& tree, int option, bool isChosen) {
+    const int select = SelectOf(tree, option);
+    if (IsSelected(tree, option) == isChosen)
         return;
-    if (!IsMultiple(tree, select))
-        for (const int other : tree.Elements(select, u"option"))
-            tree.SetChecked(other, false);
-    tree.SetChecked(option, true);
+    if (select == 0 || IsMultiple(tree, select))
+        return tree.SetChecked(option, isChosen);
+    const std::vector<int> options = tree.Elements(select, u"option");
+    for (const int other : options)
+        tree.SetChecked(other, isChosen && other == option);
+    if (!isChosen && IsDropDown(tree, select) && FirstChoice(tree, options))
+        tree.SetChecked(FirstChoice(tree, options), true);
 }
 
 void Toggle(SimTree& tree, int node) {
     if (TypeOf(tree, node) == u"checkbox") {
-        tree.SetChecked(node, !IsChecked(tree, node));
+        tree.SetChecked(node, !IsTicked(tree, node));
         return;
     }
     const QString name = tree.Attribute(node, u"name");

@@ -19,11 +19,14 @@ QString TypeOf(const SimTree& tree, int node);
 bool IsButton(const SimTree& tree, int node);
 // Has a value that a form sends.
 bool CanSend(const SimTree& tree, int node);
+// By its own attribute, or by what it stands in.
 bool IsDisabled(const SimTree& tree, int node);
-bool IsChecked(const SimTree& tree, int node);
+// A check box or an option button is ticked; an option is chosen, shown or not.
+bool IsTicked(const SimTree& tree, int node);
+bool IsSelected(const SimTree& tree, int option);
 // A click on a check box or an option button.
 void Toggle(SimTree& tree, int node);
-void ChooseOption(SimTree& tree, int option);
+void ChooseOption(SimTree& tree, int option, bool isChosen);
 
 // The form that a control belongs to, 0 when there is none.
 int FormOf(const SimTree& tree, int node);

@@ -189,10 +189,10 @@ void SimBrowser::StartPageClock(const std::vector<SimAnswer::Swap>& swaps) {
         const QString url = ResolveAddress(m_document->BaseURL(), target);
         PostLater(content.section(u';', 0, 0).toInt() * 1000, [this, url, document = m_document] {
             if (document == m_document)
-                FollowAddress(url, {});
+                FollowAddress(*m_document, url, {});
         });
     }
-    RunAllWith(u"data-on-load"_s);
+    RunAllWith(*m_document, u"data-on-load"_s);
 }
 
 } // namespace qlm

@@ -11,7 +11,8 @@ namespace qlm {
 //   goto URL
 //   show #id
 //   hide #id
-//   set #id name value    the names "value", "innertext" and "innerhtml", or an attribute
+//   set #id name value    the names "value", "innertext" and "innerhtml", or an attribute;
+//                         "disabled false" takes that one away
 //   remove #id
 //   append #id <html>
 //   submit #id
@@ -19,7 +20,8 @@ namespace qlm {
 //
 // Where the attributes stand:
 //   data-on-click    on what is clicked; on a link or a button in place of what the click does otherwise
-//   data-on-change   on a field: carried out when its "onchange" is fired
+//   data-on-change   on a field or around it: carried out when the field's "onchange" is fired
+//   data-on-focus    carried out when the element gets the focus
 //   data-on-input    carried out when a value or a text was written to the element
 //   data-on-load     carried out once the page is complete
 //   data-on-scroll   carried out when the window was scrolled to its end

@@ -343,11 +343,13 @@ public:
         std::make_shared<LateLinks>(*this, u"<html><body>x</body></html>"_s, QString());
 
 private:
-    void ElementClicked(int) override {}
-    void FormSubmitted(int) override {}
-    void ValueWritten(int) override {}
-    void ChangeFired(int) override {}
-    void ScrolledToEnd() override {}
+    void ElementClicked(SimDocument&, int) override {}
+    void FormSubmitted(SimDocument&, int) override {}
+    void ValueWritten(SimDocument&, int) override {}
+    void ChangeFired(SimDocument&, int) override {}
+    void GotFocus(SimDocument&, int) override {}
+    void ScrolledToEnd(SimDocument&) override {}
+    std::shared_ptr<SimDocument> DocumentInFrame(SimDocument&, int) override { return nullptr; }
     void Touched() override {}
 };
 

@@ -243,23 +243,23 @@ TEST_F(SimBrowserTests, AFrameHasADocumentOfItsOwn) {
         u"<iframe name=own srcdoc=\"<p>own</p><a href='/x'>x</a>\"></iframe><iframe name=other "
         u"src='/in'></iframe>"
         "<form id=f action='/sent' target=own><input name=a value=1></form><a href='/in' target=own>go</a>"_s);
-    const Document own = browser.FrameDocument(u"own"_s);
+    const Document own = browser.Document().FrameDocument(u"own"_s);
     EXPECT_EQ(own.BodyText(), u"own\n\nx"_s);
     EXPECT_EQ(own.Links().front().Href(), u"http://site.example.com/x"_s);
-    EXPECT_EQ(browser.FrameDocument(u"other"_s).BodyText(), u"loaded"_s);
-    EXPECT_TRUE(browser.FrameDocument(u"none"_s).IsNull());
+    EXPECT_EQ(browser.Document().FrameDocument(u"other"_s).BodyText(), u"loaded"_s);
+    EXPECT_TRUE(browser.Document().FrameDocument(u"none"_s).IsNull());
     web.SetPage(u"http://site.example.com/sent?a=1"_s, u"<p>taken</p>"_s);
     ById(u"f"_s).Submit();
     Settle();
-    EXPECT_EQ(browser.FrameDocument(u"own"_s).BodyText(), u"taken"_s);
+    EXPECT_EQ(browser.Document().FrameDocument(u"own"_s).BodyText(), u"taken"_s);
     EXPECT_FALSE(own.IsPresent());
     EXPECT_EQ(browser.LocationURL(), page);
     ASSERT_EQ(browser.PostedForms().size(), 1u);
     browser.FollowLink(u"go"_s);
     Settle();
-    EXPECT_EQ(browser.FrameDocument(u"own"_s).BodyText(), u"loaded"_s);
+    EXPECT_EQ(browser.Document().FrameDocument(u"own"_s).BodyText(), u"loaded"_s);
     Open(u"about:blank"_s);
-    EXPECT_TRUE(browser.FrameDocument(u"own"_s).IsNull());
+    EXPECT_TRUE(browser.Document().FrameDocument(u"own"_s).IsNull());
 }
 
 TEST_F(SimBrowserTests, WhatAStyleHidesCanBeShown) {

@@ -21,6 +21,9 @@
         return (object, ...args) => run.apply(object, args);
     };
     const bodyOf = getter(Document.prototype, 'body');
+    const addressOf = getter(Document.prototype, 'URL');
+    const viewOf = getter(Document.prototype, 'defaultView');
+    const ownerOf = getter(Node.prototype, 'ownerDocument');
     const parentOf = getter(Node.prototype, 'parentElement');
     const tagOf = getter(Element.prototype, 'tagName');
     const idOf = getter(Element.prototype, 'id');
@@ -39,13 +42,24 @@
     const descendants = method(Element.prototype, 'getElementsByTagName');
     const query = method(Document.prototype, 'querySelectorAll');
     const actionOf = getter(HTMLFormElement.prototype, 'action');
-    // Kinds of elements that send forms or stand in them: how each tells its form and an address of its own.
-    const formOwners = [HTMLInputElement, HTMLButtonElement, HTMLTextAreaElement, HTMLSelectElement].map(
-        kind => [
-            kind.prototype,
-            getter(kind.prototype, 'form'),
-            'formAction' in kind.prototype ? getter(kind.prototype, 'formAction') : null
-        ]);
+    const fires = method(EventTarget.prototype, 'dispatchEvent');
+    const fits = method(Element.prototype, 'matches');
+    // By tag, since an element of a frame has prototypes of its own. Elements that send forms or stand in them:
+    // how each tells its form and an address of its own.
+    const formOf = {
+        INPUT: getter(HTMLInputElement.prototype, 'form'),
+        BUTTON: getter(HTMLButtonElement.prototype, 'form'),
+        TEXTAREA: getter(HTMLTextAreaElement.prototype, 'form'),
+        SELECT: getter(HTMLSelectElement.prototype, 'form')
+    };
+    const formActionOf = {
+        INPUT: getter(HTMLInputElement.prototype, 'formAction'),
+        BUTTON: getter(HTMLButtonElement.prototype, 'formAction')
+    };
+    const contentOf = {
+        IFRAME: getter(HTMLIFrameElement.prototype, 'contentDocument'),
+        FRAME: getter(HTMLFrameElement.prototype, 'contentDocument')
+    };
 
     const id = Array.from(crypto.getRandomValues(new Uint32Array(3)), n => n.toString(36)).join('-');
     const nodes = [null];
@@ -64,10 +78,14 @@
 
     function node(known) {
         const found = nodes[known];
-        if (!found)
+        // A frame's document may be gone while the page stands.
+        if (!found || !viewOf(ownerOf(found) || found))
             throw new Error('no such node');
         return found;
     }
+
+    // 0 is the page itself, any other number the document of a frame.
+    const documentOf = known => (known === 0 ? document : node(known));
 
     function list(items) {
         const known = [];
@@ -90,11 +108,12 @@
     }
 
     function sentTo(element) {
-        const owner = formOwners.find(([prototype]) => prototype.isPrototypeOf(element));
-        const form = owner && owner[1](element);
+        const tag = tagOf(element);
+        const form = formOf[tag] && formOf[tag](element);
         if (!form)
             return '';
-        return owner[2] && hasAttribute(element, 'formaction') ? owner[2](element) : actionOf(form);
+        return formActionOf[tag] && hasAttribute(element, 'formaction') ? formActionOf[tag](element)
+                                                                       : actionOf(form);
     }
 
     const readers = {
@@ -278,12 +297,29 @@
     }
 
     const collections = {
-        Links: () => linksOf(document),
-        Images: () => imagesOf(document),
-        Scripts: () => scriptsOf(document),
-        ByTag: name => byTag(document, name),
-        ByName: name => byName(document, name)
+        Links: (name, owner = document) => linksOf(owner),
+        Images: (name, owner = document) => imagesOf(owner),
+        Scripts: (name, owner = document) => scriptsOf(owner),
+        ByTag: (name, owner = document) => byTag(owner, name),
+        ByName: (name, owner = document) => byName(owner, name)
     };
+
+    function frameDocument(element) {
+        const content = contentOf[tagOf(element)];
+        return number(content && content(element));
+    }
+
+    const states = {
+        checked: element => element.checked === true,
+        selected: element => element.selected === true,
+        disabled: element => hasAttribute(element, 'disabled') || fits(element, ':disabled')
+    };
+
+    function setSelected(element, isSelected) {
+        if (tagOf(element) !== 'OPTION')
+            throw new Error('no option');
+        element.selected = isSelected;
+    }
 
     function setInnerText(element, value) {
         if (holdsValue(element))
@@ -327,28 +363,58 @@
         HTMLFormElement.prototype.submit.call(form);
     }
 
+    // A page in a window without the desktop's focus is not told who has its own.
+    function focus(element) {
+        const owner = ownerOf(element);
+        const before = activeOf(owner);
+        let isTold = false;
+        const hear = () => { isTold = true; };
+        element.addEventListener('focus', hear, {once: true});
+        element.focus();
+        element.removeEventListener('focus', hear);
+        if (isTold || activeOf(owner) !== element || before === element)
+            return;
+        fires(element, new FocusEvent('focus', {view: window}));
+        fires(element, new FocusEvent('focusin', {bubbles: true, view: window}));
+    }
+
+    function fireChange(element) {
+        fires(element, new Event('input', {bubbles: true}));
+        fires(element, new Event('change', {bubbles: true}));
+    }
+
+    function scrollToEnd(owner) {
+        const body = bodyOf(owner);
+        viewOf(owner).scrollTo(0, body ? body.scrollHeight : 0);
+    }
+
     const calls = {
         look,
         rest,
         read,
         ancestors,
         version: treeVersion,
-        byId: name => number(byId(document, name)),
+        byId: (name, owner) => number(byId(documentOf(owner), name)),
+        collect: (set, argument, owner) => list(collections[set](argument, documentOf(owner))),
+        address: owner => addressOf(documentOf(owner)),
+        body: owner => number(bodyOf(documentOf(owner))),
+        frameDocument: known => frameDocument(node(known)),
         attribute: (known, name) => text(attribute(node(known), name)),
-        checked: known => node(known).checked === true,
+        state: (known, name) => states[name](node(known)),
         hasAttribute: (known, name) => hasAttribute(node(known), name),
         descendants: (known, tag) => list(descendants(node(known), tag)),
-        activeElement: () => number(activeOf(document)),
+        activeElement: owner => number(activeOf(documentOf(owner))),
         setInnerText: (known, value) => setInnerText(node(known), value),
         setInnerHTML: (known, value) => { node(known).innerHTML = value; },
         setValue: (known, value) => { node(known).value = value; },
         setAttribute: (known, name, value) => setAttribute(node(known), name, value),
+        setSelected: (known, isSelected) => setSelected(node(known), isSelected),
         click: known => click(node(known)),
         submit: known => submit(node(known)),
-        focus: known => node(known).focus(),
-        fireChange: known => void node(known).dispatchEvent(new Event('change', {bubbles: true})),
+        focus: known => focus(node(known)),
+        fireChange: known => fireChange(node(known)),
         scrollIntoView: known => node(known).scrollIntoView(),
-        scrollToEnd: () => window.scrollTo(0, bodyOf(document) ? bodyOf(document).scrollHeight : 0),
+        scrollToEnd: owner => scrollToEnd(documentOf(owner)),
         // The page leaves as if it had decided so itself: the next page gets its address as referrer.
         leaveFor: address => location.assign(address)
     };
