@@ -36,7 +36,9 @@ TEST_F(FrameDocumentsContract, WhatAFrameHoldsIsReadAsAPageIs) {
     EXPECT_EQ(ById(u"deep"_s).InnerText(), u"outside"_s);
     ASSERT_EQ(frame.Links().size(), 1U);
     EXPECT_EQ(frame.Links()[0].Href(), At(u"x?1"_s));
+    ASSERT_EQ(frame.Images().size(), 1U);
     EXPECT_EQ(frame.Images()[0].Read(ElementText::NameProp), u"a.gif"_s);
+    ASSERT_EQ(frame.GetElementsByName(u"field"_s).size(), 1U);
     EXPECT_EQ(frame.GetElementsByName(u"field"_s)[0].Value(), u"7"_s);
     const Element bold = frame.GetElementsByTagName(u"b"_s)[0];
     EXPECT_EQ(bold.ParentElement().Id(), u"deep"_s);
@@ -94,7 +96,7 @@ TEST_F(FrameDocumentsContract, AClickInAFrameStaysInIt) {
     ServeBody(u"frame"_s,
               u"<p id=out>not yet</p><span id=go onclick=\"document.getElementById('out').innerText='done'\""
               " data-on-click='set #out innertext done'>go</span>"_s);
-    Show(u"<p id=out>outside</p><iframe name=box src='/frame'></iframe>"_s);
+    Show(u"<i>x</i><b>y</b><p id=out>outside</p><iframe name=box src='/frame'></iframe>"_s);
     Frame(u"box"_s).GetElementById(u"go"_s).Click();
     EXPECT_EQ(Frame(u"box"_s).GetElementById(u"out"_s).InnerText(), u"done"_s);
     EXPECT_EQ(ById(u"out"_s).InnerText(), u"outside"_s);
