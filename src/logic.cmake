@@ -27,6 +27,7 @@ add_library(quillmere_logic STATIC
     core/Deployment.cpp
     core/Descriptor.cpp
     core/Diagnostics.cpp
+    core/FileDownload.cpp
     core/FileSystem.cpp
     core/IdList.cpp
     core/IniFile.cpp

@@ -6,7 +6,7 @@ top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 packages=(g++ cmake ninja-build ccache pkg-config git
     qt6-base-dev qt6-webengine-dev qt6-multimedia-dev qt6-svg-dev
-    libgumbo-dev libcpp-httplib-dev libssl-dev openssl libbrotli-dev zlib1g-dev
+    libgumbo-dev libzip-dev libcpp-httplib-dev libssl-dev openssl libbrotli-dev zlib1g-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     fonts-dejavu-core)
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/Archive.h"
 #include "platform/BrowserControl.h"
 #include "platform/Pump.h"
 #include "platform/Services.h"
@@ -35,6 +36,8 @@ public:
     virtual SettingsStore& Settings() = 0;
     virtual qlm::Shell& Shell() = 0;
     virtual qlm::Attention& Attention() = 0;
+    virtual qlm::Tray& Tray() = 0;
+    virtual qlm::Archive& Archive() = 0;
     virtual qlm::Random& Random() = 0;
     virtual qlm::Desktop& Desktop() = 0;
     // Created on first use; lives as long as the platform.

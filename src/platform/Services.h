@@ -4,7 +4,10 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <functional>
+#include <memory>
 #include <optional>
+#include <stdexcept>
 
 namespace qlm {
 
@@ -12,8 +15,9 @@ namespace qlm {
 // message loop turns meanwhile.
 class Dialogs {
 public:
-    // OkOrStay is a message before an end that can still be called off: Cancel stays.
-    enum class Buttons { Ok, YesNo, YesNoCancel, OkOrStay };
+    // OkOrStay is a message before an end that can still be called off: Cancel stays. OkCancel asks before
+    // something that cannot be taken back.
+    enum class Buttons { Ok, YesNo, YesNoCancel, OkOrStay, OkCancel };
     enum class Answer { Ok, Yes, No, Cancel };
 
     virtual ~Dialogs() = default;
@@ -34,10 +38,32 @@ public:
     virtual bool CloseWindowTitled(const QString& title) = 0;
 };
 
+// An address could not be fetched, or not to its end.
+class HttpError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// The bytes at an address, piece by piece. The fetching ends with the object, wherever it stands.
+class Download {
+public:
+    virtual ~Download() = default;
+    // Adds the next bytes to the empty array, and pumps messages while it waits for them; false when those
+    // were the last. Throws HttpError when the server cannot be reached, answers with an error status, says
+    // nothing for long or ends before its announced end, and after Cancel().
+    virtual bool NextPart(QByteArray& part) = 0;
+    // How many bytes the server has announced; -1 while it has not.
+    virtual qint64 Announced() const = 0;
+    // From a handler, while NextPart() pumps.
+    virtual void Cancel() = 0;
+};
+
 // Plain GET outside the browser, past any cache.
 class Http {
 public:
     virtual ~Http() = default;
+    // Begins at once. It is not to outlive the platform.
+    virtual std::unique_ptr<qlm::Download> Download(const QString& url) = 0;
     // The body of the answer; nothing when the address could not be opened. Pumps messages while it waits.
     virtual std::optional<QString> Get(const QString& url) = 0;
 };
@@ -83,6 +109,25 @@ public:
     virtual void FlashWindow() = 0;
     // Restores the main window if it is minimised.
     virtual void RestoreWindow() = 0;
+    // A note beside the icon in the tray, which goes by itself. False where there is none: without an icon,
+    // or on a desktop that shows no notes.
+    virtual bool Notify(const QString& title, const QString& text) = 0;
+};
+
+// The program's icon among those that a desktop keeps for programs without a window. Its events arrive from
+// PumpMessages().
+class Tray {
+public:
+    virtual ~Tray() = default;
+    // False, and nothing shows, on a desktop that keeps no such icons.
+    virtual bool Show(const QString& toolTip, const QStringList& menu) = 0;
+    virtual void Hide() = 0;
+    virtual bool IsShown() const = 0;
+
+    // A double-click; a single one too, since many a desktop tells no other.
+    std::function<void()> onActivate;
+    // The number of the menu's item, from 0.
+    std::function<void(int item)> onMenuItem;
 };
 
 // The windows on the screen, as far as the program may touch them.

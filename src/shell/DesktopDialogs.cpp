@@ -73,6 +73,10 @@ Dialogs::Answer DesktopDialogs::RunMessage(const QString& text, const QString& t
         box.button(QMessageBox::Ok)->setText(u"&Close Anyway"_s);
         box.button(QMessageBox::Cancel)->setText(u"&Stay Open"_s);
         box.setDefaultButton(QMessageBox::Cancel);
+    } else if (buttons == Buttons::OkCancel) {
+        box.setIcon(QMessageBox::Question);
+        box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+        box.setDefaultButton(QMessageBox::Cancel);
     } else {
         box.setIcon(QMessageBox::Question);
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/BrowserControl.h"
-#include "platform/Pump.h"
+#include "platform/Platform.h"
 
 #include <QStringList>
 #include <memory>
 
 namespace qlm {
 
-enum class ServeFault { None, Hang, Reset };
+// BreakOff announces more than it sends; to downloads alone.
+enum class ServeFault { None, Hang, Reset, BreakOff };
 
 struct ServeOptions {
     int delayMs = 0;
@@ -39,6 +39,8 @@ public:
     virtual BrowserControl& Browser() = 0;
     virtual BrowserControl& OtherBrowser() = 0;
     virtual qlm::Pump& Pump() = 0;
+    virtual qlm::Http& Http() = 0;
+    virtual qlm::Archive& Archive() = 0;
     // Scripts of the pages run. Where they do not, attributes beside them stand in.
     virtual bool RunsScripts() const = 0;
 };

@@ -22,6 +22,14 @@ public:
             answer.latencyMs = options.delayMs;
         if (!options.setCookie.isEmpty())
             answer.setCookies += options.setCookie;
+        if (options.fault == ServeFault::Hang)
+            m_world.http.Hang(url);
+        else if (options.fault == ServeFault::BreakOff)
+            m_world.http.BreakOff(url, html);
+        else if (options.fault == ServeFault::Reset || options.status != 200)
+            m_world.http.Fail(url);
+        else
+            m_world.http.Set(url, html);
         if (options.fault != ServeFault::None)
             answer.fault = options.fault == ServeFault::Hang ? SimFault::Hang : SimFault::Reset;
         m_answers[url] = answer;
@@ -30,6 +38,8 @@ public:
     BrowserControl& Browser() override { return m_platform.Browser(BrowserName::WebBrowser1); }
     BrowserControl& OtherBrowser() override { return m_platform.Browser(BrowserName::webHide); }
     qlm::Pump& Pump() override { return m_platform.Pump(); }
+    qlm::Http& Http() override { return m_platform.Http(); }
+    qlm::Archive& Archive() override { return m_platform.Archive(); }
     bool RunsScripts() const override { return false; }
 
 private:

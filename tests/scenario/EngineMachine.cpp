@@ -29,6 +29,8 @@ public:
     SettingsStore& Settings() override { return m_services.Settings(); }
     qlm::Shell& Shell() override { return m_services.Shell(); }
     qlm::Attention& Attention() override { return m_services.Attention(); }
+    qlm::Tray& Tray() override { return m_services.Tray(); }
+    qlm::Archive& Archive() override { return m_services.Archive(); }
     qlm::Random& Random() override { return m_services.Random(); }
     qlm::Desktop& Desktop() override { return m_services.Desktop(); }
     qlm::WriteGate* WriteGate() override { return m_services.WriteGate(); }

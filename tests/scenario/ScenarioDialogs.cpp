@@ -16,6 +16,13 @@ QString AsWritten(QString text) {
     return text.replace(u"\r\n"_s, u"\n"_s);
 }
 
+// In a box with OK and Cancel, Yes presses OK.
+Dialogs::Answer PressedOf(Dialogs::Answer answer) {
+    if (answer == Dialogs::Answer::No)
+        Fail(u"a box with OK and Cancel is answered Yes or Cancel"_s);
+    return answer == Dialogs::Answer::Yes ? Dialogs::Answer::Ok : answer;
+}
+
 } // namespace
 
 ScenarioDialogs::ScenarioDialogs(std::function<Play&()> play) : m_play(std::move(play)) {}
@@ -31,7 +38,7 @@ Dialogs::Answer ScenarioDialogs::RunMessage(const QString& text, const QString& 
             continue;
         const Answer chosen = answer->answer;
         answers.erase(answer);
-        return chosen;
+        return buttons == Buttons::OkCancel ? PressedOf(chosen) : chosen;
     }
     if (isMessage)
         return Answer::Ok;

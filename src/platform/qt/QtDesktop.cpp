@@ -7,8 +7,10 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QMediaDevices>
+#include <QMenu>
 #include <QPixmap>
 #include <QRandomGenerator>
+#include <QSystemTrayIcon>
 #include <QUrl>
 #include <cstdlib>
 
@@ -54,6 +56,71 @@ void QtAttention::RestoreWindow() {
         return;
     m_window->showNormal();
     m_window->raise();
+}
+
+bool QtAttention::Notify(const QString& title, const QString& text) {
+    return m_tray && m_tray->Note(title, text);
+}
+
+QtTray::QtTray(QtPump& pump) : m_pump(pump) {}
+
+QtTray::~QtTray() = default;
+
+// An icon that has been hidden by then has nothing more to say.
+void QtTray::Post(std::function<void()> event) {
+    m_pump.Queue().Post([shown = std::weak_ptr(m_shown), event = std::move(event)] {
+        if (!shown.expired())
+            event();
+    });
+}
+
+bool QtTray::Show(const QString& toolTip, const QStringList& menu) {
+    Hide();
+    if (!QSystemTrayIcon::isSystemTrayAvailable())
+        return false;
+    m_menu = std::make_unique<QMenu>();
+    for (int item = 0; item < menu.size(); ++item)
+        QObject::connect(m_menu->addAction(menu[item]), &QAction::triggered, m_menu.get(), [this, item] {
+            Post([this, item] {
+                if (onMenuItem)
+                    onMenuItem(item);
+            });
+        });
+    m_icon = std::make_unique<QSystemTrayIcon>(QApplication::windowIcon());
+    m_icon->setToolTip(toolTip);
+    m_icon->setContextMenu(m_menu.get());
+    QObject::connect(m_icon.get(), &QSystemTrayIcon::activated, m_icon.get(),
+                     [this](QSystemTrayIcon::ActivationReason reason) {
+                         if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
+                             Post([this] {
+                                 if (onActivate)
+                                     onActivate();
+                             });
+                     });
+    m_icon->show();
+    m_shown = std::make_shared<bool>(true);
+    return true;
+}
+
+// From one of its own events, too.
+void QtTray::Hide() {
+    if (!m_icon)
+        return;
+    m_shown.reset();
+    m_icon->hide();
+    m_icon.release()->deleteLater();
+    m_menu.release()->deleteLater();
+}
+
+bool QtTray::IsShown() const {
+    return m_icon != nullptr;
+}
+
+bool QtTray::Note(const QString& title, const QString& text) {
+    if (!m_icon || !QSystemTrayIcon::supportsMessages())
+        return false;
+    m_icon->showMessage(title, text);
+    return true;
 }
 
 namespace {

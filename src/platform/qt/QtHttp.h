@@ -9,7 +9,8 @@
 namespace qlm {
 
 // Plain GET on Qt's network stack, which follows the application's proxy. Answers of every status count as
-// answers; an address that cannot be reached, or whose server says nothing for timeLimitMs, gives nothing.
+// answers to Get(); an address that cannot be reached, or whose server says nothing for timeLimitMs, gives
+// nothing.
 class QtHttp final : public Http {
 public:
     static constexpr int timeLimitMs = 30 * 1000;
@@ -17,6 +18,7 @@ public:
     explicit QtHttp(qlm::Pump& pump, int limitMs = timeLimitMs);
 
     std::optional<QString> Get(const QString& url) override;
+    std::unique_ptr<qlm::Download> Download(const QString& url) override;
 
 private:
     qlm::Pump& m_pump;

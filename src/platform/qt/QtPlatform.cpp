@@ -42,7 +42,9 @@ QtPlatform::QtPlatform(const QtPlatformOptions& options, qlm::Dialogs& dialogs)
       m_pump(options.clockRate),
       m_settings(DataFolder(options.localDataFolder)),
       m_http(m_pump),
-      m_shell(m_pump) {
+      m_shell(m_pump),
+      m_tray(m_pump) {
+    m_attention.SetTray(&m_tray);
     ReadDeployment(options.deploymentFile.isEmpty() ? m_installationFolder + u"/deployment.ini"_s
                                                     : options.deploymentFile);
     SetProxy();

@@ -3,6 +3,7 @@
 
 #include "platform/Platform.h"
 #include "platform/qt/PracticeServer.h"
+#include "platform/qt/QtArchive.h"
 #include "platform/qt/QtBrowser.h"
 #include "platform/qt/QtDesktop.h"
 #include "platform/qt/QtHttp.h"
@@ -40,6 +41,8 @@ public:
     SettingsStore& Settings() override { return m_settings; }
     qlm::Shell& Shell() override { return m_shell; }
     QtAttention& Attention() override { return m_attention; }
+    QtTray& Tray() override { return m_tray; }
+    QtArchive& Archive() override { return m_archive; }
     qlm::Random& Random() override { return m_random; }
     qlm::Desktop& Desktop() override { return m_desktop; }
     QtBrowser& Browser(BrowserName name) override;
@@ -74,7 +77,9 @@ private:
     std::unique_ptr<PracticeServer> m_practice;
     QtHttp m_http;
     QtShell m_shell;
+    QtTray m_tray;
     QtAttention m_attention;
+    QtArchive m_archive;
     QtRandom m_random;
     QtDesktop m_desktop;
     // Pages must go before their profile.

@@ -4,7 +4,7 @@
 namespace qlm {
 
 SimPlatform::SimPlatform(SimWorld& world, qlm::Dialogs& dialogs)
-    : m_world(world), m_dialogs(dialogs), m_pump(world.clock), m_http(world.http, m_pump) {}
+    : m_world(world), m_dialogs(dialogs), m_pump(world.clock), m_http(world.http, m_pump), m_tray(m_pump) {}
 
 SimBrowser& SimPlatform::Browser(BrowserName name) {
     std::unique_ptr<SimBrowser>& browser = m_browsers[name];

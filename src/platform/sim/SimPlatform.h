@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/sim/SimArchive.h"
 #include "platform/sim/SimBrowser.h"
 #include "platform/sim/SimServices.h"
 
@@ -35,6 +36,8 @@ public:
     SimSettings& Settings() override { return m_world.settings; }
     SimShell& Shell() override { return m_shell; }
     SimAttention& Attention() override { return m_attention; }
+    SimTray& Tray() override { return m_tray; }
+    SimArchive& Archive() override { return m_archive; }
     SimRandom& Random() override { return m_world.random; }
     SimDesktop& Desktop() override { return m_desktop; }
     SimBrowser& Browser(BrowserName name) override;
@@ -50,6 +53,8 @@ private:
     SimHttp m_http;
     SimShell m_shell;
     SimAttention m_attention;
+    SimTray m_tray;
+    SimArchive m_archive;
     SimDesktop m_desktop;
     std::map<BrowserName, std::unique_ptr<SimBrowser>> m_browsers;
 };

@@ -8,6 +8,50 @@ namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+// Answers come in parts of some size, each as late as a whole answer to Get().
+class SimDownload : public Download {
+public:
+    SimDownload(SimHttpAnswers::Row answer, SimPump& pump, int latencyMs)
+        : m_answer(std::move(answer)),
+          m_bytes(m_answer.text.value_or(QString()).toUtf8()),
+          m_pump(pump),
+          m_latencyMs(m_answer.hangs ? SimHttpAnswers::hangMs : latencyMs) {}
+
+    bool NextPart(QByteArray& part) override {
+        for (const qint64 endMs = m_pump.NowMs() + m_latencyMs; m_pump.NowMs() < endMs && !m_isCancelled;) {
+            m_pump.PumpMessages();
+            m_pump.Sleep(10);
+        }
+        if (m_isCancelled)
+            throw HttpError("The download was cancelled");
+        if (!m_answer.text)
+            throw HttpError("The server did not answer");
+        part += m_bytes.mid(m_given, SimHttpAnswers::partSize);
+        m_given += part.size();
+        if (part.isEmpty() && m_answer.breaksOff)
+            throw HttpError("The connection was broken");
+        m_isBegun = true;
+        return m_given < m_bytes.size() || m_answer.breaksOff;
+    }
+    qint64 Announced() const override {
+        return m_isBegun ? m_bytes.size() + (m_answer.breaksOff ? SimHttpAnswers::partSize : 0) : -1;
+    }
+    void Cancel() override { m_isCancelled = true; }
+
+private:
+    SimHttpAnswers::Row m_answer;
+    QByteArray m_bytes;
+    SimPump& m_pump;
+    int m_latencyMs;
+    qint64 m_given = 0;
+    bool m_isBegun = false;
+    bool m_isCancelled = false;
+};
+
+} // namespace
+
 std::optional<QString> SimHttp::Get(const QString& url) {
     m_answers.asked += url;
     const auto row = m_answers.table.find(url);
@@ -21,6 +65,16 @@ std::optional<QString> SimHttp::Get(const QString& url) {
     if (isListed)
         return row->second.text;
     return m_answers.responder ? m_answers.responder(url) : std::nullopt;
+}
+
+std::unique_ptr<Download> SimHttp::Download(const QString& url) {
+    m_answers.asked += url;
+    const auto row = m_answers.table.find(url);
+    const bool isListed = row != m_answers.table.end();
+    return std::make_unique<SimDownload>(
+        isListed ? row->second
+                 : SimHttpAnswers::Row{m_answers.responder ? m_answers.responder(url) : std::nullopt},
+        m_pump, m_answers.latencyMs);
 }
 
 QString SimSettings::GetSetting(const QString& section, const QString& key, const QString& fallback) const {
@@ -90,6 +144,48 @@ void SimAttention::RestoreWindow() {
     calls += u"restore"_s;
     if (onRestore)
         onRestore();
+}
+
+bool SimAttention::Notify(const QString& title, const QString& text) {
+    if (showsNotes)
+        calls += u"note "_s + title + u": "_s + text;
+    return showsNotes;
+}
+
+bool SimTray::Show(const QString& newToolTip, const QStringList& newMenu) {
+    m_isShown = isThere;
+    toolTip = newToolTip;
+    menu = newMenu;
+    return m_isShown;
+}
+
+// The queue may outlive the icon.
+void SimTray::Post(std::function<void()> event) {
+    m_pump.Queue().Post([this, alive = std::weak_ptr(m_alive), event = std::move(event)] {
+        if (!alive.expired() && m_isShown)
+            event();
+    });
+}
+
+bool SimTray::Activate() {
+    if (!m_isShown)
+        return false;
+    Post([this] {
+        if (onActivate)
+            onActivate();
+    });
+    return true;
+}
+
+bool SimTray::Choose(const QString& item) {
+    const qsizetype place = menu.indexOf(item);
+    if (place < 0 || !m_isShown)
+        return false;
+    Post([this, place] {
+        if (onMenuItem)
+            onMenuItem(static_cast<int>(place));
+    });
+    return true;
 }
 
 double SimRandom::Next() {

@@ -16,11 +16,16 @@ struct SimHttpAnswers {
     void Fail(const QString& url) { table[url] = {std::nullopt, false}; }
     // Accepts and never answers: fails when the product's time limit is over.
     void Hang(const QString& url) { table[url] = {std::nullopt, true}; }
+    // The connection ends with the text, before what was announced.
+    void BreakOff(const QString& url, const QString& text) { table[url] = {text, false, true}; }
 
     struct Row {
         std::optional<QString> text;
         bool hangs = false;
+        bool breaksOff = false;
     };
+    // How much of a download comes at once.
+    static constexpr qint64 partSize = 1000;
     static constexpr int hangMs = 30 * 1000;
     std::map<QString, Row> table;
     // Answers addresses that the table doesn't name; without one they cannot be opened.
@@ -33,6 +38,7 @@ class SimHttp : public Http {
 public:
     SimHttp(SimHttpAnswers& answers, SimPump& pump) : m_answers(answers), m_pump(pump) {}
     std::optional<QString> Get(const QString& url) override;
+    std::unique_ptr<qlm::Download> Download(const QString& url) override;
 
 private:
     SimHttpAnswers& m_answers;
@@ -82,9 +88,36 @@ public:
     void PlayWAV(const QString& path) override { calls += QStringLiteral("sound ") + path; }
     void FlashWindow() override { calls += QStringLiteral("flash"); }
     void RestoreWindow() override;
+    bool Notify(const QString& title, const QString& text) override;
 
-    QStringList calls; // "sound PATH", "flash", "restore"
+    QStringList calls; // "sound PATH", "flash", "restore", "note TITLE: TEXT"
     std::function<void()> onRestore;
+    bool showsNotes = true;
+};
+
+class SimTray : public Tray {
+public:
+    explicit SimTray(SimPump& pump) : m_pump(pump) {}
+
+    bool Show(const QString& newToolTip, const QStringList& newMenu) override;
+    void Hide() override { m_isShown = false; }
+    bool IsShown() const override { return m_isShown; }
+
+    // The user at the icon. False where none is shown, or its menu has no such item.
+    bool Activate();
+    bool Choose(const QString& item);
+
+    // The desktop keeps such icons.
+    bool isThere = true;
+    QString toolTip;
+    QStringList menu;
+
+private:
+    void Post(std::function<void()> event);
+
+    SimPump& m_pump;
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    bool m_isShown = false;
 };
 
 class SimDesktop : public Desktop {

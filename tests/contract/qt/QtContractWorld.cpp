@@ -2,7 +2,9 @@
 #include "ContractWorld.h"
 #include "LoopbackServer.h"
 #include "platform/qt/EngineProfile.h"
+#include "platform/qt/QtArchive.h"
 #include "platform/qt/QtBrowser.h"
+#include "platform/qt/QtHttp.h"
 
 #include <QNetworkProxy>
 #include <QWebEngineProfile>
@@ -20,6 +22,21 @@ LoopbackServer& Network() {
     return server;
 }
 
+LoopbackAnswer::Fault FaultOf(ServeFault fault) {
+    using Fault = LoopbackAnswer::Fault;
+    switch (fault) {
+    case ServeFault::Hang:
+        return Fault::Hang;
+    case ServeFault::Reset:
+        return Fault::Reset;
+    case ServeFault::BreakOff:
+        return Fault::BreakOff;
+    case ServeFault::None:
+        break;
+    }
+    return Fault::None;
+}
+
 class QtContractWorld final : public ContractWorld {
 public:
     QtContractWorld() : m_profile(CreateEngineProfile(&m_profileOwner)) {
@@ -34,7 +51,6 @@ public:
     }
 
     void Serve(const QString& url, const QString& html, const ServeOptions& options) override {
-        using Fault = LoopbackAnswer::Fault;
         LoopbackAnswer answer;
         answer.body = html.toUtf8();
         answer.status = options.redirectTo.isEmpty() ? options.status : 302;
@@ -43,8 +59,7 @@ public:
             answer.headers += "Location: " + options.redirectTo.toUtf8() + "\r\n";
         if (!options.setCookie.isEmpty())
             answer.headers += "Set-Cookie: " + options.setCookie.toUtf8() + "\r\n";
-        if (options.fault != ServeFault::None)
-            answer.fault = options.fault == ServeFault::Hang ? Fault::Hang : Fault::Reset;
+        answer.fault = FaultOf(options.fault);
         Network().AnswerOnly(url, answer);
     }
 
@@ -60,10 +75,16 @@ public:
     BrowserControl& Browser() override { return *m_browser; }
     BrowserControl& OtherBrowser() override { return *m_otherBrowser; }
     qlm::Pump& Pump() override { return m_pump; }
+    qlm::Http& Http() override { return m_http; }
+    qlm::Archive& Archive() override { return m_archive; }
     bool RunsScripts() const override { return true; }
 
 private:
+    static constexpr int silenceMs = 500;
+
     QtPump m_pump;
+    QtHttp m_http{m_pump, silenceMs};
+    QtArchive m_archive;
     QObject m_profileOwner;
     QWebEngineProfile* m_profile;
     std::unique_ptr<QtBrowser> m_browser;

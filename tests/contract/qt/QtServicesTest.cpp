@@ -86,6 +86,19 @@ TEST(QtAttentionTest, WithoutWindowFileOrLoudspeakerNothingHappens) {
     EXPECT_FALSE(window.isMinimized());
 }
 
+// Offscreen there is no tray.
+TEST(QtTrayTest, ADesktopWithoutATraySaysSo) {
+    QtPump pump;
+    QtTray tray(pump);
+    QtAttention attention;
+    EXPECT_FALSE(attention.Notify(u"Quillmere"_s, u"A word is asked for"_s));
+    attention.SetTray(&tray);
+    EXPECT_FALSE(tray.Show(u"Quillmere"_s, {u"Show"_s, u"Exit"_s}));
+    EXPECT_FALSE(tray.IsShown());
+    EXPECT_FALSE(attention.Notify(u"Quillmere"_s, u"A word is asked for"_s));
+    tray.Hide();
+}
+
 TEST(QtRandomTest, NumbersLieInTheUnitInterval) {
     QtRandom random;
     double lowest = 1.0;

@@ -109,6 +109,52 @@ TEST(SimHttpTests, AnswersByTableThenByResponder) {
     EXPECT_EQ(answers.asked.size(), 3);
 }
 
+TEST(SimTrayTests, WhatTheUserDoesAtTheIconArrivesFromThePump) {
+    VirtualClock clock;
+    SimPump pump(clock);
+    SimTray tray(pump);
+    QStringList seen;
+    tray.onActivate = [&] { seen += u"activated"_s; };
+    tray.onMenuItem = [&](int item) { seen += QString::number(item); };
+    EXPECT_FALSE(tray.Activate());
+    EXPECT_TRUE(tray.Show(u"Quillmere"_s, {u"Show"_s, u"Exit"_s}));
+    EXPECT_TRUE(tray.IsShown());
+    EXPECT_FALSE(tray.Choose(u"Open"_s));
+    EXPECT_TRUE(tray.Choose(u"Exit"_s));
+    EXPECT_TRUE(tray.Activate());
+    EXPECT_EQ(seen, QStringList());
+    pump.PumpMessages();
+    EXPECT_EQ(seen, (QStringList{u"1"_s, u"activated"_s}));
+    EXPECT_TRUE(tray.Activate());
+    tray.Hide();
+    pump.PumpMessages();
+    EXPECT_EQ(seen.size(), 2);
+    EXPECT_FALSE(tray.IsShown());
+}
+
+TEST(SimTrayTests, ADesktopMayHaveNoTray) {
+    VirtualClock clock;
+    SimPump pump(clock);
+    SimTray tray(pump);
+    tray.isThere = false;
+    EXPECT_FALSE(tray.Show(u"Quillmere"_s, {}));
+    EXPECT_FALSE(tray.IsShown());
+    SimAttention attention;
+    EXPECT_TRUE(attention.Notify(u"Quillmere"_s, u"text"_s));
+    attention.showsNotes = false;
+    EXPECT_FALSE(attention.Notify(u"Quillmere"_s, u"text"_s));
+    EXPECT_EQ(attention.calls, QStringList{u"note Quillmere: text"_s});
+}
+
+TEST(SimArchiveTests, AStrangersArchiveMayHoldAnything) {
+    SimArchive archive;
+    const auto read = archive.Read(SimArchive::Pack(
+        {{{u"l"_s, ArchiveEntry::Kind::Link, 3}, "abc"}, {{u"lie"_s, ArchiveEntry::Kind::File, 5}, "abc"}}));
+    EXPECT_EQ(read->Entries()[0].kind, ArchiveEntry::Kind::Link);
+    EXPECT_EQ(read->Content(0), "abc");
+    EXPECT_THROW(read->Content(1), ArchiveError);
+}
+
 TEST(SimRandomTests, AListIsRepeatedAndASeedIsFixed) {
     SimRandom random;
     SimRandom same;
@@ -168,7 +214,10 @@ TEST(RecordingDialogsTests, QuestionsTakeTheScriptedAnswers) {
     EXPECT_EQ(dialogs.ShowMessage(u"sure?"_s, {}, Dialogs::Buttons::YesNo), Dialogs::Answer::Yes);
     EXPECT_EQ(dialogs.ShowMessage(u"really?"_s, {}, Dialogs::Buttons::YesNo), Dialogs::Answer::No);
     EXPECT_EQ(dialogs.Texts(), (QStringList{u"note"_s, u"sure?"_s, u"really?"_s}));
-    EXPECT_EQ(dialogs.unanswered, QStringList{u"really?"_s});
+    EXPECT_EQ(dialogs.ShowMessage(u"replace?"_s, {}, Dialogs::Buttons::OkCancel), Dialogs::Answer::Cancel);
+    dialogs.answers = {Dialogs::Answer::Ok};
+    EXPECT_EQ(dialogs.ShowMessage(u"replace?"_s, {}, Dialogs::Buttons::OkCancel), Dialogs::Answer::Ok);
+    EXPECT_EQ(dialogs.unanswered, (QStringList{u"really?"_s, u"replace?"_s}));
 }
 
 TEST(RecordingDialogsTests, AModalFormIsOpenWhileItsActRuns) {

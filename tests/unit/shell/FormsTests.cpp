@@ -304,6 +304,25 @@ TEST(Question, HasNoAsItsDefaultUnlessItCanBeCancelled) {
     };
     EXPECT_EQ(answerByReturn(Dialogs::Buttons::YesNo), Dialogs::Answer::No);
     EXPECT_EQ(answerByReturn(Dialogs::Buttons::YesNoCancel), Dialogs::Answer::Yes);
+    EXPECT_EQ(answerByReturn(Dialogs::Buttons::OkCancel), Dialogs::Answer::Cancel);
+}
+
+TEST(Question, WithOkAndCancelHasTheseTwoAnswers) {
+    DesktopDialogs dialogs;
+    const auto answerBy = [&](const std::function<void(QMessageBox&)>& act) {
+        QTimer::singleShot(0, [act] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            EXPECT_EQ(box->standardButtons(), QMessageBox::Ok | QMessageBox::Cancel);
+            act(*box);
+        });
+        return dialogs.ShowMessage(u"That file already exists, replace?"_s, u"Backup"_s,
+                                   Dialogs::Buttons::OkCancel);
+    };
+    EXPECT_EQ(answerBy([](QMessageBox& box) { box.button(QMessageBox::Ok)->click(); }), Dialogs::Answer::Ok);
+    EXPECT_EQ(answerBy([](QMessageBox& box) { box.button(QMessageBox::Cancel)->click(); }),
+              Dialogs::Answer::Cancel);
+    EXPECT_EQ(answerBy([](QMessageBox& box) { box.reject(); }), Dialogs::Answer::Cancel);
 }
 
 TEST(FileFilter, IsTranslatedForTheFileDialog) {

@@ -35,7 +35,7 @@ protected:
     Answer RunMessage(const QString& text, const QString& title, Buttons buttons) override {
         messages.append(title + u": "_s + text);
         const bool isMessage = buttons == Buttons::Ok || buttons == Buttons::OkOrStay;
-        return isMessage ? Answer::Ok : Answer::No;
+        return isMessage ? Answer::Ok : buttons == Buttons::OkCancel ? Answer::Cancel : Answer::No;
     }
 };
 
