@@ -93,6 +93,16 @@ void SetCaptchaWord(World& world, Arguments& args) {
     world.requests.SetCaptchaWord(word);
 }
 
+void SetName(World& world, Arguments& args) {
+    const qint64 id = args.Number();
+    QString name = args.Word();
+    while (!args.AtEnd())
+        name += u' ' + args.Word();
+    if (!world.people.Find(id))
+        throw BadControl(u"nobody has the number %1"_s.arg(id));
+    world.people.Rename(id, name);
+}
+
 void SetFriends(World& world, Arguments& args) {
     const qint64 owner = args.Number();
     const int count = args.Count();
@@ -179,6 +189,7 @@ struct ControlRow {
 constexpr std::array controlRows{
     ControlRow{"seed"_L1, SetSeed},
     ControlRow{"account"_L1, SetAccount},
+    ControlRow{"name"_L1, SetName},
     ControlRow{"sign-in"_L1, SetSignIn},
     ControlRow{"limit"_L1, SetLimit},
     ControlRow{"share"_L1, SetShare},

@@ -107,6 +107,13 @@ void People::AddMember(qint64 id) {
         m_others.insert(id, Invent(m_seed, id, true));
 }
 
+void People::Rename(qint64 id, const QString& name) {
+    if (id >= firstId && id < firstId + crowdSize)
+        m_crowd[id - firstId].name = name;
+    else if (const auto other = m_others.find(id); other != m_others.end())
+        other->name = name;
+}
+
 const Person* People::Find(qint64 id) const {
     if (id >= firstId && id < firstId + crowdSize)
         return &m_crowd[id - firstId];

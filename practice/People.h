@@ -44,6 +44,9 @@ public:
     /// Gives the owner of an account a profile of its own.
     void AddMember(qint64 id);
 
+    /// Does nothing for an ID that nobody has. The address stays.
+    void Rename(qint64 id, const QString& name);
+
     /// nullptr when nobody has that ID.
     const Person* Find(qint64 id) const;
     /// nullptr when nobody has that name in the address; letter case doesn't matter.

@@ -44,6 +44,7 @@ struct World;
 ///
 ///     seed N                         new people; who was asked is forgotten
 ///     account MAIL PASSWORD ID       adds or changes an account
+///     name ID NAME                   renames somebody; all words up to the end are the name
 ///     sign-in DESIGN                 ids, splash, names, button, image, link, element or get
 ///     limit friend-requests N|off    requests of one account in a day before the limit page
 ///     share OUTCOME PERCENT          how many profiles answer so

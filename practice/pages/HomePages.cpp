@@ -52,7 +52,7 @@ Response HomePage(Visit& visit) {
 <p class="quote">&ldquo;{headline}&rdquo;</p><p>Mood: {mood}</p>
 <ul class="links"><li><a href="{own}">My profile</a></li><li>
 <a href="{own}/friends">My friends ({count})</a></li>
-<li><a href="{browse}">Browse people</a></li></ul></div></div>
+<li><a href="{mail}">My mail</a></li><li><a href="{browse}">Browse people</a></li></ul></div></div>
 </div><div class="col wideCol">
 <div class="box"><h2>Friend Updates</h2><div class="in">{!updates}</div></div>
 <div class="box"><h2>Cool New People</h2><div class="in faces">{!people}</div></div>
@@ -63,6 +63,7 @@ Response HomePage(Visit& visit) {
                                {u"mood", me.mood},
                                {u"own", own},
                                {u"count", QString::number(visit.world.friends.Count(me.id))},
+                               {u"mail", Url(Role::Messaging, u"/index.cfm?fuseaction=mail.inbox"_s)},
                                {u"browse", Url(Role::SiteRoot, u"/browse/people"_s)},
                                {u"updates", Updates(visit.world, me.id)},
                                {u"people", NewPeople(visit.world, me.id)}});

@@ -420,6 +420,20 @@ TEST_F(MessengerTest, TheEditorGetsTheTextInItsSourceView) {
     EXPECT_EQ(page.GetElementById(u"log"_s).InnerText(), u"toggled"_s);
 }
 
+TEST_F(MessengerTest, AnEditorFrameGetsTheTextInItsBody) {
+    const QString compose =
+        u"ctl00_ctl00_ctl00_cpMain_cpMain_messagingMain_ComposeMessage_sendMessageCommonControl_"_s;
+    for (const QString& frame : {u"ctl00_f"_s, u"ctl01_f"_s}) {
+        Show(u"<iframe name='other' srcdoc='<body>kept</body>'></iframe><iframe name='"_s + compose + frame +
+             u"' srcdoc='<body>old</body>'></iframe>"_s);
+        const Document page = Browser().Document();
+        TypeMessage(page, {u"S"_s, u"<b>new</b>"_s}, false);
+        EXPECT_EQ(page.FrameDocument(compose + frame).Body().InnerHTML().toLower(), u"<b>new</b>"_s)
+            << frame.toStdString();
+        EXPECT_EQ(page.FrameDocument(u"other"_s).BodyText(), u"kept"_s);
+    }
+}
+
 TEST_F(MessengerTest, WhichButtonSends) {
     struct Row {
         QString body;

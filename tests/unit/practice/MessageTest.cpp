@@ -128,6 +128,18 @@ TEST_F(Messages, TheNewEditorSendsItsSourceOnlyWhileThatIsOpen) {
     }
 }
 
+TEST_F(Messages, ANameIsWhatAControlMakesOfIt) {
+    client.Control(u"name 100003 Mary Jane Lee O'Hara"_s);
+    EXPECT_TRUE(Holds(Text(New(100003)), u" alt=\"Mary Jane Lee O'Hara\""_s));
+    EXPECT_TRUE(Holds(Text(Old(100003)), u"<span class=\"rcptText\">Mary Jane Lee O'Hara</span"_s));
+    client.Control(u"name 900001 Tim"_s);
+    EXPECT_TRUE(Holds(Text(SiteClient::root + u"/900001"_s), u"<h2>Tim</h2>"_s));
+    EXPECT_EQ(client.site.Control(u"name 77 Tim"_s), u"name: nobody has the number 77"_s);
+    EXPECT_NE(client.site.Control(u"name 100003"_s), QString());
+    client.Control(u"seed 1"_s);
+    EXPECT_FALSE(Text(New(100003)).contains(u"Mary"_s));
+}
+
 TEST_F(Messages, TheEditorsFieldIsTheLastTextAreaOfThePage) {
     client.Control(u"compose all source"_s);
     const QStringList areas = Between(Text(New(100003)), u"<textarea "_s, u">"_s);
