@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/ComposePage.h"
 
+#include "core/Diagnostics.h"
+
 #include <vector>
 
 namespace qlm {
@@ -31,6 +33,11 @@ const std::vector<ComposeFields>& Designs() {
          {u"ctl00$ctl00$ctl00$cpMain$cpMain$messagingMain$SendMessage$bodyTextBox"}},
         {COMPOSE u"txtSubject", {COMPOSE u"ctl00", COMPOSE u"ctl01"}},
     };
+    return rows;
+}
+
+const std::vector<const char16_t*>& EditorFrames() {
+    static const std::vector<const char16_t*> rows{COMPOSE u"ctl00_f", COMPOSE u"ctl01_f"};
     return rows;
 }
 #undef COMPOSE
@@ -64,6 +71,11 @@ void TypeMessage(const Document& page, const SubjectAndBody& text, bool newLayou
         for (const char16_t* body : design.bodies)
             SetValues(page, body, text.body);
     }
+    for (const char16_t* name : EditorFrames())
+        Diagnostics::IgnoreErrors([&] {
+            if (const Document frame = page.FrameDocument(QString::fromUtf16(name)))
+                frame.Body().SetInnerHTML(text.body);
+        });
     if (newLayout)
         TypeIntoEditor(page, text);
 }

@@ -144,12 +144,12 @@ void FriendRequester::MoveTargetToEnd() {
     if (!m_app.controls.Ticked("chkRemoveAfterSent"_L1) &&
         state.arrFriendIDs.value(place) == state.strCurrentID) {
         const qsizetype before = state.arrFriendIDs.size();
-        m_app.Get<GatheredList>().ProcessArrayAndList(u"REMOVE"_s, place, {}, caller);
+        m_app.Get<GatheredList>().Remove(place, caller);
         // An entry beyond the view of the list stays where it is, after the cursor.
         if (state.arrFriendIDs.size() < before)
             state.intCurrentIDIndex = place;
     }
-    m_app.Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, state.strCurrentID, caller);
+    m_app.Get<GatheredList>().Add(state.strCurrentID, caller);
 }
 
 // No page check runs in the waits of the step, and the page may be gone when Stop or Skip ends one.

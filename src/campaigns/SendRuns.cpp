@@ -277,7 +277,7 @@ void SendRuns::RemoveUsedTarget(const QString& caller) {
         targets.value(state.intCurrentIDIndex) != state.strCurrentID)
         return;
     const qsizetype before = targets.size();
-    m_app.Get<GatheredList>().ProcessArrayAndList(u"REMOVE"_s, state.intCurrentIDIndex, {}, caller);
+    m_app.Get<GatheredList>().Remove(state.intCurrentIDIndex, caller);
     const bool removed = targets.size() < before || targets.IsBlank(0);
     // An entry without a row in the box can't be removed; the walk must not stay on it.
     ++(removed ? state.lngRemovedCount : state.intCurrentIDIndex);

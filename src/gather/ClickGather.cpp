@@ -60,7 +60,7 @@ void ClickGather::AddClickedProfile(const Element& link) {
     if (known)
         return;
     Trace(u"CLICK-GATHER7 - ADD TO LIST"_s);
-    m_app.Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, id, u"WebBrowser1_BeforeNavigate2"_s);
+    m_app.Get<GatheredList>().Add(id, u"WebBrowser1_BeforeNavigate2"_s);
 }
 
 } // namespace qlm

@@ -24,8 +24,7 @@ void LinkScanner::FilterNewProfiles(Pass& pass) {
         const bool remove = visit.Fails(m_app.state.strCurrentID);
         m_app.waiting.LeaveIfObsolete();
         if (remove)
-            m_app.Get<GatheredList>().ProcessArrayAndList(u"REMOVE"_s, index, {},
-                                                          u"GatherPageProfiles - 2"_s);
+            m_app.Get<GatheredList>().Remove(index, u"GatherPageProfiles - 2"_s);
         else
             ++index;
     }

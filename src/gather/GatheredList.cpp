@@ -29,21 +29,23 @@ qint32 GatheredList::UBound() const {
     return static_cast<qint32>(m_app.state.arrFriendIDs.size()) - 1;
 }
 
-void GatheredList::ProcessArrayAndList(const QString& action, qint32 index, const QString& id,
-                                       const QString& caller) {
-    m_app.diagnostics.Trap(
-        "ProcessArrayAndList",
-        [&] {
-            if (action == u"REMOVE"_s)
-                Remove(index);
-            else if (action == u"ADD"_s)
-                Add(id);
-            SetScannedLabel();
-        },
-        [&] { return caller; });
+void GatheredList::ProcessArrayAndList(const QString& caller, const std::function<void()>& change) {
+    const auto changeBoth = [&] {
+        change();
+        SetScannedLabel();
+    };
+    m_app.diagnostics.Trap("ProcessArrayAndList", changeBoth, [&] { return caller; });
 }
 
-void GatheredList::Add(const QString& id) {
+void GatheredList::Add(const QString& id, const QString& caller) {
+    ProcessArrayAndList(caller, [&] { Append(id); });
+}
+
+void GatheredList::Remove(qint32 index, const QString& caller) {
+    ProcessArrayAndList(caller, [&] { RemoveAt(index); });
+}
+
+void GatheredList::Append(const QString& id) {
     IdList& ids = m_app.state.arrFriendIDs;
     if (ids.IsBlank(0))
         ids = {id};
@@ -55,7 +57,7 @@ void GatheredList::Add(const QString& id) {
 
 // An entry beyond the view can't be removed; a row that goes makes room for the first entry that stood
 // hidden.
-void GatheredList::Remove(qint32 index) {
+void GatheredList::RemoveAt(qint32 index) {
     IdList& ids = m_app.state.arrFriendIDs;
     const QStringList& rows = m_app.controls.Items("lstFriendIDs"_L1);
     if (index < 0 || index >= rows.size())

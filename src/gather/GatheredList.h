@@ -4,13 +4,14 @@
 #include "core/IdList.h"
 
 #include <QString>
+#include <functional>
 
 namespace qlm {
 
 class App;
 
 // The work list: arrFriendIDs is the truth, lstFriendIDs a capped view of it. Every change that keeps the two
-// in step goes through ProcessArrayAndList.
+// in step is an Add or a Remove.
 class GatheredList {
 public:
     explicit GatheredList(App& app);
@@ -19,8 +20,9 @@ public:
     // Upper bound of the array: 0 for the empty list too.
     qint32 UBound() const;
 
-    // action is "ADD" or "REMOVE"; any other word only refreshes the label. caller is a trace word.
-    void ProcessArrayAndList(const QString& action, qint32 index, const QString& id, const QString& caller);
+    // caller is a trace word. A row that the view doesn't show can't be removed.
+    void Add(const QString& id, const QString& caller);
+    void Remove(qint32 index, const QString& caller);
     // In arrFriendIDs, while accepting friends in lstAcceptIDs; with the flag among the addresses fetched
     // already.
     bool IsInList(const QString& id, bool fullGatherList);
@@ -47,8 +49,9 @@ public:
     void GoToIDsPage();
 
 private:
-    void Add(const QString& id);
-    void Remove(qint32 index);
+    void ProcessArrayAndList(const QString& caller, const std::function<void()>& change);
+    void Append(const QString& id);
+    void RemoveAt(qint32 index);
     void ReadLinesInto(const QString& path, bool checkDuplicates);
     // The list as it is now; with turns, the message loop turns between two parts of it.
     bool WriteList(const QString& path, bool turns);

@@ -97,7 +97,7 @@ void GatheredList::lstFriendIDs_KeyDown(int keyCode) {
     const int row = m_app.controls.Selected("lstFriendIDs"_L1);
     if (keyCode != DeleteKey || m_app.controls.SelectedText("lstFriendIDs"_L1).isEmpty())
         return;
-    ProcessArrayAndList(u"REMOVE"_s, row, {}, u"lstFriendIDs_KeyDown"_s);
+    Remove(row, u"lstFriendIDs_KeyDown"_s);
     const auto rows = static_cast<int>(m_app.controls.Items("lstFriendIDs"_L1).size());
     m_app.controls.SetSelected("lstFriendIDs"_L1, std::min(row, rows - 1));
 }

@@ -261,7 +261,7 @@ void LinkScanner::Consider(Pass& pass, const QString& id) {
             return;
         Trace(u"GPP6 - ALREADY IN LIST"_s);
         const auto index = static_cast<qint32>(state.arrFriendIDs.indexOf(id));
-        list.ProcessArrayAndList(u"REMOVE"_s, index, {}, u"ScanForProfiles - 1"_s);
+        list.Remove(index, u"ScanForProfiles - 1"_s);
         return;
     }
     Trace(u"GPP7 - "_s + id);
@@ -278,7 +278,7 @@ void LinkScanner::Consider(Pass& pass, const QString& id) {
     if (id == state.MyProfileID)
         return;
     Trace(u"GPP11 - "_s + id + u", ADD TO LIST"_s);
-    list.ProcessArrayAndList(u"ADD"_s, 0, id, u"ScanForProfiles"_s);
+    list.Add(id, u"ScanForProfiles"_s);
 }
 
 void LinkScanner::FindNextPage() {

@@ -124,7 +124,7 @@ void WebSearch::ExtractIDsFromText(const QString& html) {
             if (m_app.Get<GatheredList>().IsInList(id, false))
                 ++duplicates;
             else
-                m_app.Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, id, u"ExtractIDsFromText"_s);
+                m_app.Get<GatheredList>().Add(id, u"ExtractIDsFromText"_s);
         }
         Trace(u"COUNT: "_s + QString::number(matches) + u" ("_s + QString::number(duplicates) +
               u" duplicates)"_s);
@@ -154,7 +154,7 @@ void WebSearch::FilterWholeList() {
             return;
         const qsizetype before = m_app.state.arrFriendIDs.size();
         if (remove)
-            m_app.Get<GatheredList>().ProcessArrayAndList(u"REMOVE"_s, index, {}, u"picScanStart_Click"_s);
+            m_app.Get<GatheredList>().Remove(index, u"picScanStart_Click"_s);
         // An entry beyond the view stays.
         if (m_app.state.arrFriendIDs.size() == before)
             ++index;

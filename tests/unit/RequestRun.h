@@ -13,7 +13,7 @@ protected:
         using namespace Qt::Literals::StringLiterals;
         if (app->Get<GatheredList>().IsEmpty())
             for (int id = 1001; id <= 1006; ++id)
-                app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, QString::number(id), u"test"_s);
+                app->Get<GatheredList>().Add(QString::number(id), u"test"_s);
         State().CurrentAction = u"FR"_s;
         State().strCurrentID = u"1001"_s;
         State().intCurrentIDIndex = 1;

@@ -17,7 +17,7 @@ class CursorTest : public SimulatedProgram {
 protected:
     void Fill(const QStringList& ids) {
         for (const QString& id : ids)
-            app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
+            app->Get<GatheredList>().Add(id, u"test"_s);
         app->state.CurrentAction = u"FR"_s;
     }
     void RemoveAfterSent() { app->controls.SetTicked("chkRemoveAfterSent"_L1, true); }
@@ -56,7 +56,7 @@ TEST_F(CursorTest, AnEntryTheUserHasTakenAwayHimselfIsNotTakenTwice) {
     Fill({u"11"_s, u"12"_s});
     RemoveAfterSent();
     app->Get<SendRuns>().BeginTarget();
-    app->Get<GatheredList>().ProcessArrayAndList(u"REMOVE"_s, 0, {}, u"lstFriendIDs_KeyDown"_s);
+    app->Get<GatheredList>().Remove(0, u"lstFriendIDs_KeyDown"_s);
     app->Get<SendRuns>().RemoveUsedTarget(u"test"_s);
     EXPECT_EQ(app->state.arrFriendIDs.ToStringList(), QStringList{u"12"_s});
 }

@@ -17,7 +17,7 @@ protected:
     FriendRequesterTest() {
         app->state.blnNewLayout = true;
         for (const QString& id : {u"1001"_s, u"1002"_s}) {
-            app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
+            app->Get<GatheredList>().Add(id, u"test"_s);
             world.web.SetPage(u"http://www.example.com/my/friends/addtofriends/"_s + id,
                               u"<html><body><a href='/'>Home</a>Request Sent!</body></html>"_s);
         }
@@ -286,7 +286,7 @@ TEST_F(FriendRequesterTest, AStartSilencesTheBrowsersAndUncoversThemBeforeItChec
 }
 
 TEST_F(FriendRequesterTest, TheThirdLimitPageEndsAProgramThatIsToExit) {
-    app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, u"1003"_s, u"test"_s);
+    app->Get<GatheredList>().Add(u"1003"_s, u"test"_s);
     for (const QString& id : {u"1001"_s, u"1002"_s, u"1003"_s})
         world.web.SetPage(u"http://www.example.com/my/friends/addtofriends/"_s + id,
                           u"<html><body><a href='/'>Home</a>You have reached the maximum limit of friend "
@@ -341,7 +341,7 @@ TEST_F(FriendRequesterTest, CutOffAtAnyWriteNobodyWhoIsNotedIsOpenedAgain) {
         StartOn(deployment);
         app->state.blnNewLayout = true;
         for (const QString& id : {u"1001"_s, u"1002"_s})
-            app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
+            app->Get<GatheredList>().Add(id, u"test"_s);
         for (const QString& opened : Run())
             EXPECT_FALSE((noted + logged).contains(opened.section(u'/', -1))) << write;
         app->files.DeleteFile(log);

@@ -38,7 +38,7 @@ protected:
     }
     void People(const QStringList& ids) {
         for (const QString& id : ids) {
-            app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
+            app->Get<GatheredList>().Add(id, u"test"_s);
             world.web.SetPage(NewPage + id, Form(id));
         }
     }
@@ -116,7 +116,6 @@ TEST_F(MessengerTest, ALimitOfThreeStopsAfterTheThird) {
         app->controls.SetTicked("chkMsgDontSendAgain"_L1, false);
         app->controls.SetText("txtMsgStopAt"_L1, u"3"_s);
         app->controls.SetText("cboMSGPerDayOrSession"_L1, period);
-        app->Get<GatheredList>().ProcessArrayAndList(u"CLEAR"_s, 0, {}, u"test"_s);
         State().arrFriendIDs = {QString()};
         app->controls.SetItems("lstFriendIDs"_L1, {});
         People({u"1001"_s, u"1002"_s, u"1003"_s, u"1004"_s});

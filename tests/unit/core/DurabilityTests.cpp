@@ -56,6 +56,11 @@ TEST_F(DurabilityTest, ALineOfTheLogIsOnTheDiskWhenItIsWritten) {
     ExpectSteps({u"write"_s, u"sync FriendsLog.txt"_s});
 }
 
+TEST_F(DurabilityTest, ANoteIsOnTheDiskBeforeWhatItIsFor) {
+    EXPECT_TRUE(RunningLog(*app).NoteContact());
+    ExpectSteps({u"write"_s, u"sync FriendsLog.open.txt"_s, u"sync program"_s});
+}
+
 TEST_F(DurabilityTest, ALogThatIsMadeByLookingIntoItStandsInItsFolder) {
     app->state.blnCheckLog = true;
     EXPECT_FALSE(RunningLog(*app).LogEntryExists(u"1001"_s));

@@ -20,9 +20,9 @@ protected:
 
     void Add(const QStringList& ids) {
         for (const QString& id : ids)
-            List().ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
+            List().Add(id, u"test"_s);
     }
-    void Remove(int index) { List().ProcessArrayAndList(u"REMOVE"_s, index, {}, u"test"_s); }
+    void Remove(int index) { List().Remove(index, u"test"_s); }
     QString File(const QStringList& lines) {
         const QString path = app->ProgramFile(u"import.txt"_s);
         app->files.WriteLines(path, lines);
@@ -76,13 +76,6 @@ TEST_F(GatheredListTest, RemovingBehindTheBoxChangesNothing) {
     Remove(2);
     Remove(-1);
     EXPECT_EQ(Ids(), (QStringList{u"11"_s, u"12"_s}));
-}
-
-TEST_F(GatheredListTest, AnotherWordOnlyRefreshesTheLabel) {
-    app->state.arrFriendIDs = {u"11"_s, u"12"_s};
-    List().ProcessArrayAndList(u"SHOW"_s, 0, u"99"_s, u"test"_s);
-    EXPECT_EQ(Ids().size(), 2);
-    EXPECT_EQ(Label(), u"Profiles Gathered: 2"_s);
 }
 
 TEST_F(GatheredListTest, TheBoxStopsAtItsCapAndARemovalPullsTheNextEntryIn) {

@@ -307,7 +307,7 @@ TEST_F(LinkScannerTest, AStopDuringAFetchCollectsNothingMore) {
 TEST_F(LinkScannerTest, ComparingTakesOutTheFirstExactMatchAlone) {
     app->state.blnComparingIDs = true;
     for (const QString& id : {u"1"_s, u"11"_s, u"111"_s, u"11"_s})
-        app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
+        app->Get<GatheredList>().Add(id, u"test"_s);
     ShowProfiles({u"11"_s, u"12"_s});
     app->Get<LinkScanner>().GatherPageProfiles();
     EXPECT_EQ(Ids(), (QStringList{u"1"_s, u"111"_s, u"11"_s}));

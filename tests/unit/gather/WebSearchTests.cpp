@@ -208,7 +208,7 @@ TEST_F(WebSearchTest, TheFilterLooksAtWhatStoodInTheListBeforeToo) {
     app->controls.SetTicked("optFilterWhenGathering"_L1, true);
     app->controls.SetTicked("optFilterFemale"_L1, true);
     for (const QString& id : {u"5"_s, u"6"_s})
-        app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, id, u"test"_s);
+        app->Get<GatheredList>().Add(id, u"test"_s);
     Classic(u"5"_s, u"Male"_s);
     Classic(u"6"_s, u"Female"_s);
     Classic(u"11"_s, u"Female"_s);
@@ -222,7 +222,7 @@ TEST_F(WebSearchTest, TheFilterLooksAtWhatStoodInTheListBeforeToo) {
 TEST_F(WebSearchTest, TheFilterGoesOnBehindAnEntryBeyondTheView) {
     app->controls.SetTicked("optFilterWhenGathering"_L1, true);
     app->controls.SetTicked("optFilterFemale"_L1, true);
-    app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, u"6"_s, u"test"_s);
+    app->Get<GatheredList>().Add(u"6"_s, u"test"_s);
     for (const QString& id : {u"5"_s, u"7"_s})
         app->state.arrFriendIDs.append(id); // not in the view, so that nothing removes them
     Classic(u"5"_s, u"Male"_s);

@@ -90,7 +90,7 @@ TEST_F(GlobalSettingsTest, AnAccountThatLeavesTheSharedValuesStartsWithEmptyOnes
 TEST_F(GlobalSettingsTest, TheGatheredListFollowsItsFlagUnlessARunWalksIt) {
     Restart();
     Inputs().SetTicked("chkSaveScanned"_L1, true);
-    app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, u"1001"_s, u"test"_s);
+    app->Get<GatheredList>().Add(u"1001"_s, u"test"_s);
     app->state.CurrentAction = u"FR"_s;
     Untick("frmGlobalSettings.chkUseGlobalGatheredIDsList"_L1);
     EXPECT_EQ(app->state.arrFriendIDs.ToStringList(), QStringList{u"1001"_s});
@@ -100,7 +100,7 @@ TEST_F(GlobalSettingsTest, TheGatheredListFollowsItsFlagUnlessARunWalksIt) {
         Close();
     });
     EXPECT_EQ(app->state.arrFriendIDs.ToStringList(), QStringList{u"1001"_s});
-    app->Get<GatheredList>().ProcessArrayAndList(u"ADD"_s, 0, u"1002"_s, u"test"_s);
+    app->Get<GatheredList>().Add(u"1002"_s, u"test"_s);
     Untick("frmGlobalSettings.chkUseGlobalGatheredIDsList"_L1);
     EXPECT_EQ(app->state.arrFriendIDs.ToStringList(), QStringList{u"1001"_s});
 }
