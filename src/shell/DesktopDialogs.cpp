@@ -98,8 +98,11 @@ Dialogs::Answer DesktopDialogs::RunMessage(const QString& text, const QString& t
         return Answer::No;
     case QMessageBox::Cancel:
         return Answer::Cancel;
-    default:
+    case QMessageBox::Ok:
         return Answer::Ok;
+    default:
+        // Dismissed without a button, as at the program's end.
+        return buttons == Buttons::OkCancel ? Answer::Cancel : Answer::Ok;
     }
 }
 
