@@ -34,7 +34,7 @@ KnownNames::KnownNames() {
 
 void KnownNames::AddWindow(const QWidget& window) {
     for (const QObject* object : window.findChildren<QObject*>())
-        m_controls.insert(object->objectName());
+        m_controls << object->objectName() << object->objectName().section(u'.', -1);
 }
 
 bool KnownNames::IsControl(const QString& name) const {

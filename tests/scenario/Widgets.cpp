@@ -80,6 +80,19 @@ const QAbstractItemModel* ModelOf(const QWidget* list) {
 
 } // namespace
 
+namespace {
+
+// Where several panels have one of that name, each carries its panel's in front: "picMessanger.lstSendList".
+QList<QWidget*> WidgetsCalled(const QWidget* root, const QString& name) {
+    QList<QWidget*> found = root->findChildren<QWidget*>();
+    found.removeIf([&name](const QWidget* widget) {
+        return widget->objectName() != name && !widget->objectName().endsWith(u'.' + name);
+    });
+    return found;
+}
+
+} // namespace
+
 bool Shows(const QWidget* widget) {
     return widget->isVisibleTo(widget->window());
 }
@@ -89,7 +102,7 @@ QWidget* FindWidget(QWidget* window, const QString& name) {
     const QStringList path = name.split(u'.');
     for (const QString& part : path) {
         QWidget* best = nullptr;
-        const QList<QWidget*> found = root->findChildren<QWidget*>(part);
+        const QList<QWidget*> found = WidgetsCalled(root, part);
         for (QWidget* widget : found)
             if (!best || (Shows(widget) && !Shows(best)))
                 best = widget;
