@@ -135,6 +135,7 @@ add_library(quillmere_logic STATIC
     campaigns/ReportDialog.cpp
     campaigns/RequestFields.cpp
     campaigns/RequestSubmission.cpp
+    campaigns/SampleReading.cpp
     campaigns/SendRuns.cpp
     campaigns/SentLog.cpp
     campaigns/StartChecks.cpp

@@ -74,6 +74,8 @@ struct Campaign {
     // A send that is part of another activity and counts nothing; nullptr for none.
     bool (*isPartOfAnother)(const RunState&) = nullptr;
     QLatin1StringView sentLabel{};
+    QLatin1StringView failedLabel{}; // empty, like the next, without targets
+    QLatin1StringView skippedLabel{};
     const char* sentAtStart = ""; // its text at the start and
     const char* sentSoFar = "";   // after a send, up to the number; their case differs
     QLatin1StringView amount{};   // the limit; of a campaign without targets the number of posts

@@ -74,6 +74,8 @@ constinit const Campaign Comments{
     .today = {"Daily Comments Count", "Daily Comments Count", &RunState::lngDailyCom, "lblComTotalToday"_L1},
     .isPartOfAnother = IsPartOfAnother,
     .sentLabel = "lblComSentCount"_L1,
+    .failedLabel = "lblComFailedCount"_L1,
+    .skippedLabel = "lblComSkippedCount"_L1,
     .sentAtStart = "Comments sent: ",
     .sentSoFar = "Comments sent: ",
     .amount = "txtComStopAt"_L1,
@@ -83,6 +85,7 @@ constinit const Campaign Comments{
     .whatLogRecords = "sent comments to",
     .checkLogBox = "chkComDontSendAgain"_L1,
     .acceptLogBox = "mnuAddToLogWhenAccepting"_L1,
+    .reportButton = "piccmdComReport",
     .report = {.file = "CommentsReport.txt", .title = "Comments"},
 };
 

@@ -107,6 +107,8 @@ constinit const Campaign FriendRequests{
     .session = &RunState::lngSessionFR,
     .today = {"Daily Friends Count", "Daily Friends Count", &RunState::lngDailyFR, "lblFrTotalToday"_L1},
     .sentLabel = "lblFrSentCount"_L1,
+    .failedLabel = "lblFrFailedCount"_L1,
+    .skippedLabel = "lblFrSkippedCount"_L1,
     .sentAtStart = "Friends requested: ",
     .sentSoFar = "Friends Requested: ",
     .amount = "txtFriendRequestsToSend"_L1,

@@ -138,9 +138,12 @@ void SendRuns::chkRemoveAfterSent_MouseDown() {
 
 void SendRuns::ShowCounts() {
     const RunState& state = m_app.state;
-    m_app.controls.SetText("lblFrSkippedCount"_L1,
+    const Campaign* campaign = FindTargetCampaign(state.CurrentAction);
+    if (!campaign || (campaign->isPartOfAnother && campaign->isPartOfAnother(state)))
+        return;
+    m_app.controls.SetText(campaign->skippedLabel,
                            u"Skipped: "_s + QString::number(state.lngSkippedCount + state.lngFilteredCount));
-    m_app.controls.SetText("lblFrFailedCount"_L1, u"Failed: "_s + QString::number(state.lngFailedCount));
+    m_app.controls.SetText(campaign->failedLabel, u"Failed: "_s + QString::number(state.lngFailedCount));
 }
 
 bool SendRuns::Accepting() const {

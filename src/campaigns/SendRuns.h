@@ -47,7 +47,7 @@ public:
     // With chkRemoveAfterSent ticked, takes the used target off the head of the list. In accept mode the
     // head of lstAcceptIDs goes.
     void RemoveUsedTarget(const QString& caller);
-    // lblFrSkippedCount and lblFrFailedCount.
+    // How many the running campaign has passed over, and how many have failed.
     void ShowCounts();
 
 private:

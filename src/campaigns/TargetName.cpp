@@ -13,6 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+const QString NameToken = u"&NAME&"_s;
 constexpr qsizetype FarthestEnd = 100'000;
 
 // From place to the next "<", or as far as the text or the limit goes.
@@ -109,12 +110,12 @@ QString GetTargetName(App& app, const QString& html, const QString& kind) {
     return name;
 }
 
+QString PutName(QString text, const QString& name) {
+    return text.replace(NameToken, name, Qt::CaseInsensitive);
+}
+
 QString ReplaceTargetName(App& app, const QString& text, const QString& html, const QString& kind) {
-    const QString token = u"&NAME&"_s;
-    QString replaced = text;
-    if (Has(text, token))
-        replaced.replace(token, GetTargetName(app, html, kind), Qt::CaseInsensitive);
-    return replaced;
+    return Has(text, NameToken) ? PutName(text, GetTargetName(app, html, kind)) : text;
 }
 
 } // namespace qlm

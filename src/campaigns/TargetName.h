@@ -13,7 +13,9 @@ class App;
 QString GetTargetName(App& app, const QString& html, const QString& kind);
 // The first name, with a capital letter and small ones after it.
 QString CleanTargetName(const QString& name);
-// Puts the name in the place of every "&NAME&"; without a name the token just goes.
+// Puts a name in the place of every "&NAME&", in any letter case; an empty one just takes it away.
+QString PutName(QString text, const QString& name);
+// The same with the target's name.
 QString ReplaceTargetName(App& app, const QString& text, const QString& html, const QString& kind);
 
 } // namespace qlm

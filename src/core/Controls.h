@@ -54,7 +54,7 @@ struct ControlRow {
     QStringList (*choices)() = nullptr; // of a combo box whose choices never change
     const char16_t* toolTip = u"";
     const char16_t* spoken = u""; // what a screen reader calls it, where the caption doesn't say enough
-    const char16_t* hint = u"";   // stands in an empty line
+    const char16_t* hint = u"";   // stands in an empty input
     const char16_t* whatsThis = u"";
 
     // The row with that said, too.

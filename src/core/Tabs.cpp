@@ -7,6 +7,8 @@ const std::vector<Tab>& Tabs() {
     static const std::vector<Tab> tabs{
         {u"Gather ID's", "TABGATHER", "picScanIDs"},
         {u"Friend Requester", "TABFRIENDS", "picFriendRequester"},
+        {u"Auto Messenger", "TABMESSAGES", "picMessanger"},
+        {u"Auto Commenter", "TABCOMMENTS", "picCommentor"},
     };
     return tabs;
 }

@@ -12,6 +12,7 @@
 #include "campaigns/Counters.h"
 #include "campaigns/FriendRequester.h"
 #include "campaigns/Pacing.h"
+#include "campaigns/SampleReading.h"
 #include "campaigns/SendRuns.h"
 #include "content/ContentLists.h"
 #include "core/App.h"
@@ -109,6 +110,7 @@ void App::Connect() {
         const Activity* activity = RunningActivity(*this);
         return activity && activity->tracesPageClasses;
     };
+    ShowSampleReadings(*this);
     auto& list = Get<GatheredList>();
     Get<SettingsFields>().stores = {
         .restoreCounters = [this] { Get<Counters>().Restore(); },

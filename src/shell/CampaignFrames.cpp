@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/CampaignFrames.h"
 
+#include "shell/ElidedLabel.h"
 #include "shell/FormParts.h"
+#include "shell/LowWidget.h"
 #include "shell/PictureButtons.h"
 
 #include <QBoxLayout>
@@ -19,8 +21,32 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int SignsOfALimit = 14;
-constexpr int LinesOfABody = 5;
-constexpr int LeastListHeight = 70;
+constexpr int LeastLinesOfABody = 4;
+constexpr int LeastListHeight = 62;
+
+QWidget* NewReading(QLatin1StringView name) {
+    ElidedLabel* reading = NewElidedLabel(name, u"reading"_s);
+    reading->setProperty("hideWhenEmpty", true);
+    return reading;
+}
+
+QLayout* SingleRow(const Commands& commands, const ContentNames& names) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2);
+    row->addWidget(Named(new QRadioButton, names.single), 1);
+    AddPictureButtons(*row, commands, Caption::None, names.singleTools);
+    return row;
+}
+
+void AddSubject(QVBoxLayout& column, const ContentNames& names) {
+    QLineEdit* subject = NewLine(names.subject);
+    auto* row = new QHBoxLayout;
+    row->addWidget(NewCaptionOf(*subject));
+    row->addWidget(subject, 1);
+    column.addLayout(row);
+    if (!names.subjectReads.isEmpty())
+        column.addWidget(NewReading(names.subjectReads));
+}
 } // namespace
 
 QGroupBox* NewLimitFrame(QLatin1StringView limit, QLatin1StringView period) {
@@ -60,22 +86,29 @@ QVBoxLayout* NewRunBand(const Commands& commands, QLatin1StringView start, QLati
     return band;
 }
 
-QGroupBox* NewContentFrame(const ContentNames& names) {
+QVBoxLayout* NewReadText(QLatin1StringView text, int leastLines, QLatin1StringView reads) {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(2);
+    column->addWidget(NewGrowingLines(text, leastLines), 1);
+    if (!reads.isEmpty())
+        column->addWidget(NewReading(reads));
+    return column;
+}
+
+QGroupBox* NewContentFrame(const Commands& commands, const ContentNames& names) {
     auto* frame = new QGroupBox(u"What to send"_s);
     auto* column = new QVBoxLayout(frame);
-    column->addWidget(Named(new QRadioButton, names.single));
-    if (!names.subject.isEmpty()) {
-        QLineEdit* subject = NewLine(names.subject);
-        auto* row = new QHBoxLayout;
-        row->addWidget(NewCaptionOf(*subject));
-        row->addWidget(subject, 1);
-        column->addLayout(row);
-    }
-    column->addWidget(NewLines(names.body, LinesOfABody));
+    column->addLayout(SingleRow(commands, names));
+    if (!names.subject.isEmpty())
+        AddSubject(*column, names);
+    column->addLayout(NewReadText(names.body, LeastLinesOfABody, names.bodyReads), 2);
+    if (!names.bodyReads.isEmpty())
+        column->addWidget(NewText(
+            u"*Note: Anywhere that you write &NAME& will be replaced by the target's name"_s, u"quiet"_s));
     column->addWidget(Named(new QRadioButton, names.fromList));
-    auto* list = Named(new QListView, names.list);
+    auto* list = Named(new LowWidget<QListView>, names.list);
     list->setMinimumHeight(LeastListHeight);
-    column->addWidget(list);
+    column->addWidget(list, 1);
     return frame;
 }
 

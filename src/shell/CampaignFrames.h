@@ -33,6 +33,9 @@ QHBoxLayout* NewRunRow(const Commands& commands, QLatin1StringView start, QLatin
 QVBoxLayout* NewRunBand(const Commands& commands, QLatin1StringView start, QLatin1StringView stop,
                         const CounterNames& counters);
 
+// A text, and below it the line that shows how it reads to somebody.
+QVBoxLayout* NewReadText(QLatin1StringView text, int leastLines, QLatin1StringView reads);
+
 // What goes out: the text that is written here, or entries of a list.
 struct ContentNames {
     QLatin1StringView single;
@@ -40,7 +43,10 @@ struct ContentNames {
     QLatin1StringView list;
     QLatin1StringView subject; // empty where there is none
     QLatin1StringView body;
+    QLatin1StringView subjectReads = {}; // how they read to somebody; empty where they go to nobody
+    QLatin1StringView bodyReads = {};
+    std::initializer_list<QLatin1StringView> singleTools = {}; // small buttons for the text
 };
-QGroupBox* NewContentFrame(const ContentNames& names);
+QGroupBox* NewContentFrame(const Commands& commands, const ContentNames& names);
 
 } // namespace qlm

@@ -21,6 +21,7 @@
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScopedValueRollback>
+#include <QScrollArea>
 #include <QTableView>
 #include <QTextBrowser>
 
@@ -42,9 +43,13 @@ constexpr KeyCode KeyCodes[] = {
     {Qt::Key_Insert, 45},
 };
 
-// A line comes with its text selected, ready to be replaced, also when it never lost the focus.
+// It is scrolled to where it is out of sight. A line comes with its text selected, ready to be replaced, also
+// when it never lost the focus.
 void TakeFocus(QWidget& widget) {
     widget.setFocus(Qt::OtherFocusReason);
+    for (QWidget* around = widget.parentWidget(); around; around = around->parentWidget())
+        if (auto* area = qobject_cast<QScrollArea*>(around))
+            area->ensureWidgetVisible(&widget);
     if (auto* line = qobject_cast<QLineEdit*>(&widget))
         line->selectAll();
 }
@@ -145,6 +150,8 @@ void ControlBinder::ShowWords(QWidget& widget, const ControlRow& row) {
     widget.setWhatsThis(QString::fromUtf16(row.whatsThis));
     if (auto* line = qobject_cast<QLineEdit*>(&widget))
         line->setPlaceholderText(QString::fromUtf16(row.hint));
+    if (auto* lines = qobject_cast<QPlainTextEdit*>(&widget))
+        lines->setPlaceholderText(QString::fromUtf16(row.hint));
     if (!IsInput(widget) || !*row.caption)
         return;
     for (auto* label : m_root->findChildren<QLabel*>())

@@ -2,6 +2,8 @@
 #include "shell/FormParts.h"
 
 #include "core/App.h"
+#include "shell/ElidedLabel.h"
+#include "shell/LowWidget.h"
 
 #include <QBoxLayout>
 #include <QDialogButtonBox>
@@ -22,6 +24,10 @@ public:
     using QPushButton::QPushButton;
     QSize sizeHint() const override { return QPushButton::sizeHint() + QSize(2, 0); }
 };
+
+int HeightOf(const QWidget& lines, int linesInSight) {
+    return lines.fontMetrics().lineSpacing() * linesInSight + 14;
+}
 
 class SecondClickFilter : public QObject {
 public:
@@ -64,7 +70,14 @@ QLineEdit* NewNumber(QLatin1StringView name, int signs) {
 QPlainTextEdit* NewLines(QLatin1StringView name, int linesInSight) {
     auto* lines = Named(new QPlainTextEdit, name);
     lines->setTabChangesFocus(true);
-    lines->setFixedHeight(lines->fontMetrics().lineSpacing() * linesInSight + 14);
+    lines->setFixedHeight(HeightOf(*lines, linesInSight));
+    return lines;
+}
+
+QPlainTextEdit* NewGrowingLines(QLatin1StringView name, int leastLines) {
+    auto* lines = Named(new LowWidget<QPlainTextEdit>, name);
+    lines->setTabChangesFocus(true);
+    lines->setMinimumHeight(HeightOf(*lines, leastLines));
     return lines;
 }
 
@@ -79,6 +92,14 @@ QLabel* NewWrappedLabel(QLatin1StringView name, const QString& look, bool hideWh
     QLabel* label = NewLabel(name, look);
     label->setWordWrap(true);
     label->setProperty("hideWhenEmpty", hideWhenEmpty);
+    return label;
+}
+
+ElidedLabel* NewElidedLabel(QLatin1StringView name, const QString& look) {
+    auto* label = Named(new ElidedLabel, name);
+    label->setTextFormat(Qt::PlainText);
+    label->setProperty("look", look);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     return label;
 }
 

@@ -15,6 +15,7 @@ class QPlainTextEdit;
 namespace qlm {
 
 class App;
+class ElidedLabel;
 
 // Building stones of the forms. name is that of the control and becomes the object name, by which the widget
 // is bound; all words come with its row in the table of controls.
@@ -36,11 +37,15 @@ QLineEdit* NewLine(QLatin1StringView name);
 QLineEdit* NewNumber(QLatin1StringView name, int signs);
 // Several lines of text, so many of them in sight. Tab leaves it.
 QPlainTextEdit* NewLines(QLatin1StringView name, int linesInSight);
+// The same, with the room that is left over as well.
+QPlainTextEdit* NewGrowingLines(QLatin1StringView name, int leastLines);
 // A label that shows a control; look names its part in the style sheet ("heading", "quiet", "badge", or
 // empty).
 QLabel* NewLabel(QLatin1StringView name, const QString& look = {});
 // One that wraps; where hideWhenEmpty, it is there only while it has something to say.
 QLabel* NewWrappedLabel(QLatin1StringView name, const QString& look = {}, bool hideWhenEmpty = false);
+// One of a single line that a long text doesn't make wider.
+ElidedLabel* NewElidedLabel(QLatin1StringView name, const QString& look = {});
 // The label in front of an input: it shows the caption of the input's row, whose letter leads there.
 QLabel* NewCaptionOf(QWidget& input);
 // A fixed text that wraps.

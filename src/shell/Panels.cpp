@@ -18,6 +18,8 @@ struct PanelRow {
 constexpr PanelRow Panels[] = {
     {"picScanIDs"_L1, BuildScanIDs},
     {"picFriendRequester"_L1, BuildFriendRequester},
+    {"picMessanger"_L1, BuildMessenger},
+    {"picCommentor"_L1, BuildCommenter},
 };
 
 } // namespace

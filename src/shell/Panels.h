@@ -17,5 +17,7 @@ QWidget* BuildPanel(QLatin1StringView name, App& app, ControlBinder& binder);
 // The builders, one a file.
 QWidget* BuildScanIDs(App& app, ControlBinder& binder);
 QWidget* BuildFriendRequester(App& app, ControlBinder& binder);
+QWidget* BuildMessenger(App& app, ControlBinder& binder);
+QWidget* BuildCommenter(App& app, ControlBinder& binder);
 
 } // namespace qlm

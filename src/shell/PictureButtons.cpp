@@ -47,6 +47,22 @@ constexpr PictureButton Table[] = {
     {"piccmdFrReport", "REPORT"},
     {"piccmdFRRefreshCategories", "REFRESH", "", true},
     {"piccmdFrTimeDelay", "DELAY", "mnuTimeDelay_Click"},
+
+    // Auto Messenger.
+    {"piccmdMsgLoad", "IMPORT"},
+    {"piccmdMsgSave", "SAVETOFILE"},
+    {"picCmdMsgSend", "SEND", "", true},
+    {"picCmdMsgStop", "SENDSTOP"},
+    {"piccmdMsgTimeDelay", "DELAY", "mnuTimeDelay_Click"},
+    {"piccmdMsgClearLog", "LOG"},
+    {"piccmdMsgReport", "REPORT"},
+
+    // Auto Commenter.
+    {"picCmdComSend", "SEND", "", true},
+    {"picCmdComStop", "SENDSTOP"},
+    {"piccmdComTimeDelay", "DELAY", "mnuTimeDelay_Click"},
+    {"piccmdComClearLog", "LOG"},
+    {"piccmdComReport", "REPORT"},
 };
 
 } // namespace

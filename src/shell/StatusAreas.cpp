@@ -24,26 +24,18 @@ QProgressBar* NewProgressBar() {
     return bar;
 }
 
-ElidedLabel* NewElided(QLatin1StringView name, const QString& look) {
-    auto* label = Named(new ElidedLabel, name);
-    label->setTextFormat(Qt::PlainText);
-    label->setProperty("look", look);
-    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    return label;
-}
-
 } // namespace
 
 ActivityStrip::ActivityStrip(App& app) : m_app(app), m_bar(NewProgressBar()) {
     setObjectName(u"fraActivity"_s);
     setAttribute(Qt::WA_StyledBackground);
-    ElidedLabel* action = NewElided("myfraCurrentAction"_L1, u"activity"_s);
+    ElidedLabel* action = NewElidedLabel("myfraCurrentAction"_L1, u"activity"_s);
     action->setAccessibleDescription(u"What is being done now"_s);
     action->SetPlaceholder(u"Ready"_s);
-    ElidedLabel* waiting = NewElided("lblWaitingFor"_L1, u"waiting"_s);
+    ElidedLabel* waiting = NewElidedLabel("lblWaitingFor"_L1, u"waiting"_s);
     waiting->setProperty("hideWhenEmpty", true);
 
-    ElidedLabel* errors = NewElided("lblLaterErrors"_L1, u"problem"_s);
+    ElidedLabel* errors = NewElidedLabel("lblLaterErrors"_L1, u"problem"_s);
     errors->setProperty("hideWhenEmpty", true);
 
     auto* words = new QVBoxLayout;
@@ -81,7 +73,7 @@ void ActivityStrip::ShowProgress() {
 FootLine::FootLine() {
     setObjectName(u"fraFoot"_s);
     setAttribute(Qt::WA_StyledBackground);
-    ElidedLabel* status = NewElided("lblStatus"_L1, u"quiet"_s);
+    ElidedLabel* status = NewElidedLabel("lblStatus"_L1, u"quiet"_s);
     status->setAccessibleDescription(u"The browser's status"_s);
     QLabel* account = NewLabel("lblLoggedInAs"_L1);
     account->setAccessibleDescription(u"The account that is logged in"_s);

@@ -60,11 +60,14 @@ public:
 private:
     static void DrawCaption(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,
                             bool isChosen) {
+        const QRect room = option.rect.adjusted(TabStrip::NarrowWidth, 0, -6, 0);
         QFont font = option.font;
         font.setWeight(isChosen ? QFont::DemiBold : QFont::Normal);
+        // A long caption is rather whole than heavy.
+        if (QFontMetrics(font).horizontalAdvance(index.data().toString()) > room.width())
+            font.setWeight(QFont::Normal);
         painter.setFont(font);
         painter.setPen(option.palette.color(QPalette::WindowText));
-        const QRect room = option.rect.adjusted(TabStrip::NarrowWidth, 0, -6, 0);
         painter.drawText(
             room, Qt::AlignVCenter | Qt::AlignLeft,
             QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, room.width()));

@@ -24,8 +24,15 @@ std::vector<ControlRow> GatherForms();
 std::vector<ControlRow> SettingsForms();
 std::vector<ControlRow> SmallForms();
 
-// What a limit counts for.
+// What a limit counts for, and what is said of that.
 QStringList Periods();
+inline constexpr const char16_t* PeriodTip =
+    u"If you select \"per day\" then QLM takes all your sending activity into account and "
+    u"ensures you don't send too much in a 24-hour period";
+
+// Said of every text that goes to somebody.
+inline constexpr const char16_t* NameTip =
+    u"Write &NAME& where the target's name is to stand. A name that can't be read is left out";
 
 inline ControlRow Label(const char* name, const char16_t* caption = u"") {
     return {name, ControlType::Label, caption};

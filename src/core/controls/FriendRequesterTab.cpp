@@ -19,8 +19,7 @@ std::vector<ControlRow> FriendRequesterTab() {
         Choice("cboFRPerDayOrSession", u"requests")
             .Choices(Periods)
             .Holds(u"this session")
-            .Tip(u"If you select \"per day\" then QLM takes all your sending activity into account and "
-                 u"ensures you don't send too much in a 24-hour period")
+            .Tip(PeriodTip)
             .Spoken(u"Limit counts for")
             .Kept("FriendRequest"),
         Box("chkFRNote", u"Add this &note:").Tip(TipOfThePage).Kept("FriendRequest"),

@@ -344,6 +344,38 @@ TEST_F(CursorTest, AFriendRequestRunAlwaysLooksInTheLog) {
     EXPECT_EQ(app->controls.Text("lblFrSentCount"_L1), u"Friends requested: 0"_s);
 }
 
+// Each campaign tells its counts on its own tab, and what is part of another tells none.
+TEST_F(CursorTest, TheCountsOfARunStandOnItsOwnTab) {
+    RunState& state = app->state;
+    state.lngSkippedCount = 2;
+    state.lngFilteredCount = 1;
+    state.lngFailedCount = 4;
+    const QStringList labels{u"lblFr"_s, u"lblMsg"_s, u"lblCom"_s};
+    const QStringList words{u"FR"_s, u"MSG"_s, u"COM"_s};
+    auto shown = [this](const QString& label) {
+        return app->controls.Text(QLatin1StringView((label + u"SkippedCount"_s).toLatin1())) + u' ' +
+               app->controls.Text(QLatin1StringView((label + u"FailedCount"_s).toLatin1()));
+    };
+    for (qsizetype campaign = 0; campaign < words.size(); ++campaign) {
+        state.CurrentAction = words[campaign];
+        app->Get<SendRuns>().ShowCounts();
+        for (qsizetype other = 0; other < labels.size(); ++other)
+            EXPECT_EQ(shown(labels[other]),
+                      other <= campaign ? u"Skipped: 3 Failed: 4"_s : u"Skipped: 0 Failed: 0"_s);
+    }
+    state.lngFailedCount = 5;
+    for (const QString& word : {u"MSG"_s, u"COM"_s}) {
+        state.CurrentAction = word;
+        state.strAcceptMode = word;
+        app->Get<SendRuns>().ShowCounts();
+    }
+    EXPECT_EQ(shown(u"lblMsg"_s), u"Skipped: 3 Failed: 4"_s);
+    EXPECT_EQ(shown(u"lblCom"_s), u"Skipped: 3 Failed: 4"_s);
+    state.CurrentAction.clear();
+    app->Get<SendRuns>().ShowCounts();
+    EXPECT_EQ(shown(u"lblFr"_s), u"Skipped: 3 Failed: 4"_s);
+}
+
 TEST_F(CursorTest, ACampaignThatCannotRunYetHasNoButtons) {
     EXPECT_TRUE(app->commands.Has(u"piccmdAddFriends_Click"_s));
     EXPECT_TRUE(app->commands.Has(u"piccmdAddFriendsStop_Click"_s));

@@ -103,11 +103,11 @@ TEST_F(WordsTest, ACaptionStandsInFrontOfItsInputAndNamesIt) {
 TEST_F(WordsTest, TheSharedFramesAreBuiltForAnyCampaign) {
     QWidget window;
     auto* column = new QVBoxLayout(&window);
-    column->addWidget(
-        NewContentFrame({"optSendSingle(0)"_L1, "optSendFromList(0)"_L1, "picMessanger.lstSendList"_L1,
-                         "txtMsgSubject"_L1, "txtMsgMessage"_L1}));
-    column->addWidget(NewLimitFrame("txtMsgStopAt"_L1, "cboMSGPerDayOrSession"_L1));
     Commands commands(app->diagnostics);
+    column->addWidget(
+        NewContentFrame(commands, {"optSendSingle(0)"_L1, "optSendFromList(0)"_L1,
+                                   "picMessanger.lstSendList"_L1, "txtMsgSubject"_L1, "txtMsgMessage"_L1}));
+    column->addWidget(NewLimitFrame("txtMsgStopAt"_L1, "cboMSGPerDayOrSession"_L1));
     commands.Add(u"picScanStart_Click"_s, [] {});
     column->addLayout(NewRunBand(commands, "picScanStart"_L1, "picScanStop"_L1,
                                  {"lblMsgSentCount"_L1, "lblMsgTotalToday"_L1}));
