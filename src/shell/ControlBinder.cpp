@@ -48,8 +48,12 @@ constexpr KeyCode KeyCodes[] = {
 void TakeFocus(QWidget& widget) {
     widget.setFocus(Qt::OtherFocusReason);
     for (QWidget* around = widget.parentWidget(); around; around = around->parentWidget())
-        if (auto* area = qobject_cast<QScrollArea*>(around))
-            area->ensureWidgetVisible(&widget);
+        if (auto* area = qobject_cast<QScrollArea*>(around)) {
+            // The whole of it, and not the line of its cursor alone.
+            const QRect place(widget.mapTo(area->widget(), QPoint()), widget.size());
+            area->ensureVisible(place.left(), place.bottom(), 0, 4);
+            area->ensureVisible(place.left(), place.top(), 0, 4);
+        }
     if (auto* line = qobject_cast<QLineEdit*>(&widget))
         line->selectAll();
 }
