@@ -119,6 +119,12 @@ add_library(quillmere_logic STATIC
     campaigns/Campaigns.cpp
     campaigns/CaptchaCalls.cpp
     campaigns/ChainedStart.cpp
+    campaigns/CommentBox.cpp
+    campaigns/CommentConfirmation.cpp
+    campaigns/CommentForm.cpp
+    campaigns/CommentPosting.cpp
+    campaigns/CommentSubmission.cpp
+    campaigns/Commenter.cpp
     campaigns/Comments.cpp
     campaigns/ComposePage.cpp
     campaigns/ContentChoice.cpp

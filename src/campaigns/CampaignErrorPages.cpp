@@ -89,6 +89,7 @@ void HandleMessengerErrorPage(App& app) {
 void HandleCommenterErrorPage(App& app) {
     RunState& state = app.state;
     TraceErrorPage(app, u"Maint: "_s);
+    app.Get<RunReport>().RemarkPage(state.intPageClass);
     if (state.blnDailyLimitHit) {
         state.blnDailyLimitHit = false;
         state.intComStep = CommentStep::None;

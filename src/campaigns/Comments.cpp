@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The campaign "comments". It waits for its machine.
+// The campaign "comments". Commenter is its machine.
 #include "campaigns/CampaignErrorPages.h"
 #include "campaigns/Campaigns.h"
+#include "campaigns/Commenter.h"
 #include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/Text.h"
@@ -44,6 +45,7 @@ bool IsPartOfAnother(const RunState& state) {
 constinit const Campaign Comments{
     .activity = {.word = ActivityWord::Comments,
                  .step = &RunState::intComStep,
+                 .stepRoutine = [](App& app) { app.Get<Commenter>().IterateSendComments(); },
                  .debugFile = "debugcom.txt",
                  .stopMark = "COM stop - (",
                  .resumable = true,
@@ -54,6 +56,7 @@ constinit const Campaign Comments{
                  .tracesPageClasses = true,
                  .stepAfterSkip = CommentStep::AfterSend,
                  .onErrorPage = HandleCommenterErrorPage},
+    .makeMachine = [](Families& families, App& app) { families.Make<Commenter>(app); },
     .tab = u"Auto Commenter",
     .send = "picCmdComSend",
     .startProcedure = "cmdComSend_Click",

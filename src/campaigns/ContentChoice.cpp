@@ -78,17 +78,11 @@ bool IsAccepting(const App& app) {
     return !app.state.strAcceptMode.isEmpty();
 }
 
-std::optional<QString> SkipTarget(App& app) {
-    app.state.blnSkipCurrentID = true;
-    return std::nullopt;
-}
-
-// The entry is drawn first: skipped or not, the walk has moved on.
-std::optional<QString> NonHTMLFromList(App& app) {
+CommentChoice CommentFromList(App& app) {
     const ContentFields fields = PickFields(app, Comments);
     if (app.controls.Ticked("chkCOMListSkipNonHMTL"_L1))
-        return SkipTarget(app);
-    return fields.usesNonHTML ? fields.nonHTML : fields.text;
+        return {fields.text, std::nullopt};
+    return {fields.text, fields.usesNonHTML ? fields.nonHTML : fields.text};
 }
 
 // What a profile that refuses HTML gets: nothing, the alternative, or, by the option left, the same comment.
@@ -123,18 +117,15 @@ SubjectAndBody ChooseText(App& app, const Campaign& campaign) {
     return {fields.subject, fields.text};
 }
 
-std::optional<QString> ChooseComment(App& app, bool refusesHTML) {
+CommentChoice ChooseComment(App& app) {
     const bool accepting = IsAccepting(app);
-    if (!refusesHTML)
-        return ChooseText(app, Comments).body;
     if (!accepting && app.controls.Ticked(Comments.content.fromList))
-        return NonHTMLFromList(app);
+        return CommentFromList(app);
+    const QString text = ChooseText(app, Comments).body;
     const Fallback& fallback = accepting ? AcceptFallback : SingleFallback;
     if (app.controls.Ticked(fallback.skip))
-        return SkipTarget(app);
-    if (app.controls.Ticked(fallback.alternative))
-        return app.controls.Text(fallback.nonHTML);
-    return ChooseText(app, Comments).body;
+        return {text, std::nullopt};
+    return {text, app.controls.Ticked(fallback.alternative) ? app.controls.Text(fallback.nonHTML) : text};
 }
 
 QString ForRichEditor(const QString& text) {

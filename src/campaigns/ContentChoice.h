@@ -24,9 +24,14 @@ QString PickContentLine(App& app, const Campaign& campaign);
 // Of a campaign without subject that is empty. The message after a friend request shares the messenger's list
 // and index.
 SubjectAndBody ChooseText(App& app, const Campaign& campaign);
-// refusesHTML: the profile disables HTML comments. Nothing when the target is skipped for it;
-// blnSkipCurrentID then says so.
-std::optional<QString> ChooseComment(App& app, bool refusesHTML);
+
+// A comment, and what a profile gets in its place that refuses HTML: nothing where such a target is skipped.
+struct CommentChoice {
+    QString text;
+    std::optional<QString> nonHTML;
+};
+
+CommentChoice ChooseComment(App& app);
 
 // What the source view of a rich text editor gets: each carriage return as "<br>", the line feed stays.
 QString ForRichEditor(const QString& text);

@@ -9,6 +9,7 @@
 #include "browser/ProfileLinks.h"
 #include "campaigns/Campaigns.h"
 #include "campaigns/CaptchaCalls.h"
+#include "campaigns/Commenter.h"
 #include "campaigns/Counters.h"
 #include "campaigns/FriendRequester.h"
 #include "campaigns/Pacing.h"
@@ -111,6 +112,7 @@ void App::Connect() {
         return activity && activity->tracesPageClasses;
     };
     ShowSampleReadings(*this);
+    Get<StepDispatcher>().confirmComment = [this] { Get<Commenter>().ConfirmComment(); };
     auto& list = Get<GatheredList>();
     Get<SettingsFields>().stores = {
         .restoreCounters = [this] { Get<Counters>().Restore(); },

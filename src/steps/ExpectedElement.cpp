@@ -136,6 +136,8 @@ const std::vector<StandInRow>& StandIns() {
         // A request page that is opened once more after a refused answer may send without its button, or ask
         // with another one.
         {FriendRequests, {FriendStep::Submit}, u"addFrdBtn", {}, IsRequestSentOrCaptcha},
+        // The site may post without a page in between.
+        {Comments, {CommentStep::Confirm}, u"", Says(u"your comment has been posted!"), nullptr},
     };
     return rows;
 }
@@ -172,11 +174,8 @@ bool AcceptAdvertiser(App& app, bool found) {
     return !found && (app.Get<PageSigns>().IsAdvertiserProfile() || ShownPage(app).Shows(u"view my:"));
 }
 
-bool BeginCommentAnew(App& app, bool found) {
-    if (found || !StepDispatcher::IsCommentFormBack(app))
-        return false;
-    app.state.intComStep = CommentStep::NextTarget;
-    return true;
+bool LeaveComment(App& app, bool found) {
+    return !found && StepDispatcher::IsCommentFormBack(app) && StepDispatcher::LeaveComment(app);
 }
 
 // A message that the site doesn't confirm on one complete page after another counts as failed.
@@ -205,7 +204,7 @@ const std::vector<TextRiderRow>& TextRiders() {
     static const std::vector<TextRiderRow> rows{
         {Comments, {CommentStep::AfterSend}, u"your comment has been posted", ConfirmComment},
         {ActivitySet::Any(), {}, u"last login:", AcceptAdvertiser},
-        {Comments, {CommentStep::AfterSend}, u"", BeginCommentAnew},
+        {Comments, {CommentStep::AfterSend}, u"", LeaveComment},
         {Messages, {MessageStep::AfterSend}, u"your message has been sent", GiveMessageUp},
     };
     return rows;

@@ -32,13 +32,6 @@ bool PassEmptyList(App& app) {
     return true;
 }
 
-bool BeginCommentAnew(App& app) {
-    app.diagnostics.DebugForAction(u"GONE BACK - "_s + app.WebBrowser1().Document().BodyText());
-    app.state.intComStep = CommentStep::NextTarget;
-    app.state.blnLinkFound = true;
-    return true;
-}
-
 bool CountRepeatedPage(App& app) {
     RunState& state = app.state;
     ++state.intGatherRetryTicks;
@@ -69,7 +62,7 @@ const std::vector<LastPageRow>& LastPageRules() {
     using namespace ActivityWord;
     static const std::vector<LastPageRow> rows{
         {Accepting, {AcceptStep::OpenList, AcceptStep::Approve}, AwaitsApproveButton, PassEmptyList},
-        {Comments, {CommentStep::Confirm}, StepDispatcher::IsCommentFormBack, BeginCommentAnew},
+        {Comments, {CommentStep::Confirm}, StepDispatcher::IsCommentFormBack, StepDispatcher::LeaveComment},
         {Gathering, {GatherStep::ScanPage}, nullptr, CountRepeatedPage},
         {{Comments, FriendRequests}, {}, nullptr, TellOfLastPage},
     };

@@ -143,6 +143,7 @@ void PassProfile(App& app) {
 // Noted where the friend requester's landings on the home page are, whose pages these are, too.
 void GiveUpComment(App& app) {
     app.diagnostics.Debug(TrailOf(ActivityWord::FriendRequests), u"FR LF-Homepage3"_s);
+    Remark(app, "The site showed its front page instead of the comment form");
     SkipTarget(app);
 }
 
@@ -239,6 +240,11 @@ void TakeMessageCaptcha(App& app) {
     app.state.blnLinkFound = true;
 }
 
+void TakeCommentCaptcha(App& app) {
+    app.state.intComStep = CommentStep::Confirm;
+    app.state.blnLinkFound = true;
+}
+
 enum class Answer { NotFound, Found };
 enum class Captcha { OrNot, Asked };
 
@@ -291,6 +297,13 @@ const std::vector<DetourRow>& Detours() {
         {{Accepting, Messages}, {}, MailSetUp, nullptr, SkipMailSetUp},
         {FriendRequests, {}, {}, AwaitsNoCaptcha, TakeRequestCaptcha, Found, Asked},
         {Messages, {}, {}, nullptr, TakeMessageCaptcha, Found, Asked},
+        {Comments,
+         {CommentStep::AfterSend, CommentStep::Confirm},
+         {},
+         nullptr,
+         TakeCommentCaptcha,
+         Found,
+         Asked},
         {Messages, {}, Says(u"your message has been sent"), AwaitsCaptcha, TakeMessageCaptcha, Found},
     };
     return rows;

@@ -56,7 +56,17 @@ bool StepDispatcher::IsCommentFormBack(App& app) {
     const QString form = app.state.blnCommentUsedEditor
                              ? u"ctl00$ctl00$cpMain$UserWriteCommentsControl$commentTextBox"_s
                              : u"ctl00_ctl00_cpMain_cpMain_ctl02_ctl00"_s;
-    return app.Get<PageSigns>().IsTextInPage(form, true);
+    // Until the next page has come the form stands there as it was sent.
+    return app.Get<PageSigns>().IsTextInPage(form, true) && app.WebBrowser1().ReadyState() == 4;
+}
+
+bool StepDispatcher::LeaveComment(App& app) {
+    RunState& state = app.state;
+    app.diagnostics.DebugForAction(u"GONE BACK - "_s + app.WebBrowser1().Document().BodyText());
+    state.intComStep = CommentStep::NextTarget;
+    state.blnLinkFound = true;
+    state.blnForceAdvance = true;
+    return true;
 }
 
 void StepDispatcher::GiveUpRequest(App& app, bool skipCurrentID) {

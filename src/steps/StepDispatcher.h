@@ -33,8 +33,10 @@ public:
     // Presses the second button of a comment. Set by the machine that sends them.
     std::function<void()> confirmComment;
 
-    // The comment form that had been sent already stands on the page again.
+    // The comment form that had been sent already stands on the page again: the post has failed.
     static bool IsCommentFormBack(App& app);
+    // Leaves its target; the commenter's next step knows that it is done with.
+    static bool LeaveComment(App& app);
     // Gives the current target of the friend requester up: after-send step, message left out.
     static void GiveUpRequest(App& app, bool skipCurrentID);
 

@@ -26,6 +26,7 @@ enum class StopReason {
     Closing,     // the program ends
     Uncounted,   // the count of the day can't be saved
     Unnoted,     // who is about to be sent to can't be noted
+    Flooding,    // the site takes no more comments for now
     DailyLimit,  // the site lets the account send nothing more today
     NotEnglish,  // the site speaks another language
     LoginDone,   // the account is signed in
@@ -42,7 +43,7 @@ enum class StopReason {
 };
 
 // What a reason means to a run that is ended by it.
-enum class Ending { AllDone, LimitMet, Stopped, Closed, Uncounted, Unnoted, DailyLimit, Other };
+enum class Ending { AllDone, LimitMet, Stopped, Closed, Uncounted, Unnoted, Flooding, DailyLimit, Other };
 
 struct StopReasonRow {
     StopReason reason;

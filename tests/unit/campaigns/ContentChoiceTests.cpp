@@ -178,10 +178,10 @@ TEST_P(CommentChoiceTest, GoesByTheOptionOnAProfileThatRefusesHtml) {
     if (row.option.startsWith("optACC"_L1))
         app->state.strAcceptMode = u"COM"_s;
     Choose(row.option);
-    const std::optional<QString> text = ChooseComment(*app, row.refuses);
+    const CommentChoice chosen = ChooseComment(*app);
+    const std::optional<QString> text = row.refuses ? chosen.nonHTML : chosen.text;
     EXPECT_EQ(text.has_value(), row.text != nullptr);
     EXPECT_EQ(text.value_or(QString()), row.text ? QString::fromUtf16(row.text) : QString());
-    EXPECT_EQ(app->state.blnSkipCurrentID, row.text == nullptr);
 }
 
 INSTANTIATE_TEST_SUITE_P(Options, CommentChoiceTest,
@@ -200,27 +200,28 @@ TEST_F(ContentChoiceTest, AListedCommentBringsItsAlternative) {
     Choose("optSendFromList(1)"_L1);
     Write(ContentKind::Comment, {u"A&usenonhtml=1&nonhtmlcomment=a%nl%b&Selected=1"_s,
                                  u"B&usenonhtml=0&nonhtmlcomment=b&Selected=1"_s});
-    EXPECT_EQ(ChooseComment(*app, false), u"A"_s);
-    EXPECT_EQ(ChooseComment(*app, true), u"B"_s);
-    EXPECT_EQ(ChooseComment(*app, true), u"a\r\nb"_s);
-    EXPECT_FALSE(app->state.blnSkipCurrentID);
+    const CommentChoice first = ChooseComment(*app);
+    EXPECT_EQ(first.text, u"A"_s);
+    EXPECT_EQ(first.nonHTML, u"a\r\nb"_s);
+    const CommentChoice second = ChooseComment(*app);
+    EXPECT_EQ(second.text, u"B"_s);
+    EXPECT_EQ(second.nonHTML, u"B"_s);
 }
 
 TEST_F(ContentChoiceTest, AListedCommentIsSkippedByWishEvenWithAnAlternative) {
     Choose("optSendFromList(1)"_L1);
     app->controls.SetTicked("chkCOMListSkipNonHMTL"_L1, true);
     Write(ContentKind::Comment, {u"A&usenonhtml=1&nonhtmlcomment=a&Selected=1"_s});
-    EXPECT_EQ(ChooseComment(*app, false), u"A"_s);
-    EXPECT_FALSE(app->state.blnSkipCurrentID);
-    EXPECT_EQ(ChooseComment(*app, true), std::nullopt);
-    EXPECT_TRUE(app->state.blnSkipCurrentID);
+    const CommentChoice chosen = ChooseComment(*app);
+    EXPECT_EQ(chosen.text, u"A"_s);
+    EXPECT_EQ(chosen.nonHTML, std::nullopt);
 }
 
 TEST_F(ContentChoiceTest, InAcceptModeTheListOfCommentsIsLeftAlone) {
     Choose("optSendFromList(1)"_L1);
     Type("txtAcceptComment"_L1, u"welcome"_s);
     app->state.strAcceptMode = u"COM"_s;
-    EXPECT_EQ(ChooseComment(*app, false), u"welcome"_s);
+    EXPECT_EQ(ChooseComment(*app).text, u"welcome"_s);
 }
 
 TEST(RichEditor, GetsTagsForCarriageReturnsAndKeepsTheLineFeeds) {

@@ -180,16 +180,22 @@ TEST_F(ErrorPageTest, AFailedMessageGoesBackToTheRequestThatWaits) {
 }
 
 TEST_F(ErrorPageTest, AFailedCommentGoesToItsEnd) {
+    QStringList said;
+    app->controls.AddListener([&said](const Control& control, Controls::Change, int) {
+        if (control.name == "myfraCurrentAction"_L1)
+            said += control.text;
+    });
     State().intComStep = 7;
     EXPECT_FALSE(Check(u"COM"_s, Refusal));
     EXPECT_TRUE(Said(u"Maint: 10"_s));
-    EXPECT_EQ(State().intComStep, 8);
-    EXPECT_TRUE(State().blnSkipCurrentID);
-    EXPECT_TRUE(Resumed());
+    EXPECT_TRUE(SaidBeginningWith(u"cmdRes - "_s));
+    EXPECT_EQ(State().lngFailedCount, 1);
+    EXPECT_FALSE(said.contains(u"Comment successfully posted"_s));
     // At its end it is not given up again.
-    State().blnSkipCurrentID = false;
+    State().intComStep = 8;
     EXPECT_FALSE(Check(u"COM"_s, Refusal));
-    EXPECT_FALSE(State().blnSkipCurrentID);
+    EXPECT_EQ(State().lngFailedCount, 1);
+    EXPECT_TRUE(said.contains(u"Comment successfully posted"_s));
 }
 
 TEST_F(ErrorPageTest, TheDailyLimitPressesTheCommentersStop) {

@@ -128,6 +128,8 @@ TEST_F(ExpectedElementTest, ACommentFormInPlaceOfTheConfirmationBeginsAnew) {
     const QString form = u"<i id=ctl00_ctl00_cpMain_cpMain_ctl02_ctl00></i>"_s;
     EXPECT_TRUE(Find(u"Text"_s, u"your comment has been posted"_s, form));
     EXPECT_EQ(State().intComStep, 4);
+    EXPECT_TRUE(State().blnForceAdvance);
+    EXPECT_TRUE(SaidBeginningWith(u"GONE BACK - "_s));
     State().intComStep = 9;
     EXPECT_FALSE(Find(u"Text"_s, u"your comment has been posted"_s, form));
     EXPECT_EQ(State().intComStep, 9);
@@ -142,6 +144,19 @@ TEST_F(ExpectedElementTest, APostedCommentIsNotBegunAnewByTheFormBesideIt) {
     EXPECT_TRUE(Find(u"Text"_s, u"your comment has been posted"_s,
                      u"Your comment has been posted!<i id=ctl00_ctl00_cpMain_cpMain_ctl02_ctl00></i>"_s));
     EXPECT_EQ(State().intComStep, 8);
+}
+
+// Without a page in between.
+TEST_F(ExpectedElementTest, APostedCommentCountsForThePageThatConfirmsIt) {
+    State().CurrentAction = u"COM"_s;
+    State().intComStep = 11;
+    EXPECT_TRUE(Find(u"Button"_s, u"post a comment"_s, u"<p>Your comment has been posted!</p>"_s));
+    EXPECT_FALSE(Find(u"Button"_s, u"post a comment"_s, u"<p title='your comment has been posted!'>x</p>"_s));
+    State().intComStep = 6;
+    EXPECT_FALSE(Find(u"Button"_s, u"post a comment"_s, u"<p>Your comment has been posted!</p>"_s));
+    State().CurrentAction = u"MSG"_s;
+    State().intComStep = 11;
+    EXPECT_FALSE(Find(u"Button"_s, u"post a comment"_s, u"<p>Your comment has been posted!</p>"_s));
 }
 
 // A comment that the site wants confirmed on a page of its own.

@@ -95,6 +95,7 @@ TEST_F(LastPageTest, ACommentFormThatIsBackBeginsTheCommentAnew) {
         EXPECT_TRUE(Check());
         EXPECT_EQ(State().intComStep, 4);
         EXPECT_TRUE(State().blnLinkFound);
+        EXPECT_TRUE(State().blnForceAdvance);
         EXPECT_TRUE(SaidBeginningWith(u"GONE BACK - page before"_s));
         // The other form is none.
         State().intComStep = 11;
@@ -106,6 +107,16 @@ TEST_F(LastPageTest, ACommentFormThatIsBackBeginsTheCommentAnew) {
     State().blnCommentUsedEditor = true;
     EXPECT_FALSE(Check());
     EXPECT_EQ(State().intComStep, 10);
+}
+
+// Until the answer has come the form stands there as it was sent.
+TEST_F(LastPageTest, ACommentFormThatIsBeingSentIsNotBack) {
+    Show(u"{SiteRootHost}/form"_s, u"<p>page before</p><i id=ctl00_ctl00_cpMain_cpMain_ctl02_ctl00></i>"_s,
+         SimFault::Incomplete);
+    Begin(u"COM"_s);
+    State().intComStep = 11;
+    EXPECT_FALSE(Check());
+    EXPECT_EQ(State().intComStep, 11);
 }
 
 TEST_F(LastPageTest, TheThousandAndFirstPageStopsGatheringAtTheTenthLook) {

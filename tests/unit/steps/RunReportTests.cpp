@@ -151,6 +151,8 @@ TEST_F(RunReportTest, EachCampaignEndsForItsOwnReasons) {
     for (const Row& row : std::vector<Row>{
              {StopReason::MessagesDone, u"All targets were gone through"_s, u"Unfinished"_s},
              {StopReason::MessageLimit, u"Your limit was reached"_s, u"Unfinished"_s},
+             {StopReason::Flooding, u"The site says that you are flooding comments"_s,
+              u"Failed, The site takes no more comments for now"_s},
              {StopReason::MessageStop, u"You pressed Stop"_s, u"Unfinished, You pressed Stop"_s},
              {StopReason::OtherSignIn, u"The run was ended"_s, u"Unfinished, The run was ended"_s}}) {
         report.BeginRun(Messages.report);
@@ -163,6 +165,18 @@ TEST_F(RunReportTest, EachCampaignEndsForItsOwnReasons) {
         EXPECT_EQ(Texts(run), QStringList{u"1001: "_s + row.target}) << RowOf(row.reason).tag.data();
     }
     EXPECT_TRUE(report.Runs(kind).isEmpty());
+}
+
+TEST_F(RunReportTest, ATargetThatWasSentToStaysSoHoweverTheRunEnds) {
+    for (const bool isLogged : {true, false}) {
+        report.BeginRun(Messages.report);
+        report.Open(u"1001"_s);
+        report.MarkSent(isLogged);
+        report.EndRun(StopReason::WindowStop);
+        EXPECT_EQ(Texts(report.Runs(Messages.report).constLast()),
+                  QStringList{isLogged ? u"1001: Sent"_s
+                                       : u"1001: Sent, not logged, The log could not be written"_s});
+    }
 }
 
 // A campaign without targets, which may borrow the browser of another, leaves its report alone.

@@ -152,8 +152,11 @@ TEST_F(StopResumeTest, ASkipGoesToTheStepBehindTheSending) {
     EXPECT_TRUE(GivenUp().blnSkipRequested);
     State().CurrentAction = u"COM"_s;
     State().intComStep = 7;
+    State().lngFailedCount = 0;
     app->Get<StopResume>().SkipProfile();
-    EXPECT_EQ(State().intComStep, 8);
+    EXPECT_EQ(State().lngFailedCount, 1);
+    EXPECT_EQ(dialogs.Texts(), QStringList{u"Finished sending comments."_s});
+    dialogs.messages.clear();
     State().CurrentAction = u"BUL"_s;
     State().intBulStep = 2;
     app->Get<StopResume>().SkipProfile();
