@@ -242,6 +242,7 @@ void TakeMessageCaptcha(App& app) {
 
 void TakeCommentCaptcha(App& app) {
     app.state.intComStep = CommentStep::Confirm;
+    app.state.intConfirmPolls = 0;
     app.state.blnLinkFound = true;
 }
 

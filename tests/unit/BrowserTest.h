@@ -31,7 +31,8 @@ protected:
         app->state.blnLoggingEnabled = true;
         app->diagnostics.onLine = [this](const QString& line) { trail += line; };
         app->controls.AddListener([this](const Control& control, Controls::Change, int) {
-            if (!m_givenUp && control.name == QLatin1StringView("lblFrFailedCount"))
+            if (!m_givenUp && State().lngFailedCount > 0 &&
+                control.name.endsWith(QLatin1StringView("FailedCount")))
                 m_givenUp = {State(), app->timers->tmrAutoResume.Enabled()};
         });
     }

@@ -193,6 +193,7 @@ TEST_F(CommentConfirmationTest, AnyOtherLookBeginsTheCountAnew) {
         {ConfirmPage + u"Type the two words:"_s, SimFault::None},
         {ConfirmPage + u"Your comment has been posted"_s, SimFault::None}};
     for (const auto& [page, fault] : others) {
+        State().intComStep = 8;
         State().intConfirmPolls = 4;
         FindConfirmation(page, fault);
         EXPECT_EQ(State().intConfirmPolls, 0) << page.toStdString();
@@ -215,6 +216,7 @@ TEST_F(CommentConfirmationTest, AnErrorOfTheLookIsLeftToTheNextOne) {
 TEST_F(CommentConfirmationTest, OnlyTheStepThatAwaitsTheConfirmationCounts) {
     State().intConfirmPolls = 4;
     State().intComStep = 7;
+    State().blnSubmittingComment = true;
     FindConfirmation(ConfirmPage);
     State().intComStep = 8;
     Find(u"Text"_s, u"something else"_s, ConfirmPage);

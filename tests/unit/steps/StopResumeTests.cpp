@@ -155,7 +155,8 @@ TEST_F(StopResumeTest, ASkipGoesToTheStepBehindTheSending) {
     State().lngFailedCount = 0;
     app->Get<StopResume>().SkipProfile();
     EXPECT_EQ(State().lngFailedCount, 1);
-    EXPECT_EQ(dialogs.Texts(), QStringList{u"Finished sending comments."_s});
+    EXPECT_EQ(dialogs.Texts(),
+              (QStringList{u"Finished sending messages."_s, u"Finished sending comments."_s}));
     dialogs.messages.clear();
     State().CurrentAction = u"BUL"_s;
     State().intBulStep = 2;
