@@ -51,8 +51,10 @@ public:
 
     static constexpr int GenerousLimitMs = 40 * 1000;
 
-private:
+    // As the user's own acts: from the program's queue, never in the middle of a call into a page.
     void Act(std::function<void()> act);
+
+private:
     void PressStart(const char* kind);
     bool IsIdle() const { return m_program->app.state.CurrentAction.isEmpty(); }
 
