@@ -7,6 +7,7 @@
 #include "core/App.h"
 #include "core/SettingsFields.h"
 #include "core/Text.h"
+#include "steps/Lending.h"
 #include "steps/StepDispatcher.h"
 #include "steps/Steps.h"
 #include "steps/StopResume.h"
@@ -206,6 +207,7 @@ void LoginFlow::LogInSpecifiedAccount(const QString& email, const QString& passw
         m_app.timers->Timer1.SetEnabled(false);
         // What a login that came to no end has restored belongs to another account.
         state.AccountsLoadedOnce = false;
+        m_app.Get<Lending>().Forget();
         state.CurrentAction = ActivityWord::Login;
         state.blnHoldLinkCheck = false;
         state.intLoginStep = LoginStep::SignOut;

@@ -17,7 +17,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qint16 ErrorRedirectClass = 32;
 constexpr qint16 LimitPagesToStop = 3;
 
 // A limit page may be a passing state: only the third is believed.

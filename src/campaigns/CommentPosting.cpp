@@ -57,6 +57,8 @@ Next Commenter::SubmitBox() {
         return GiveTargetUp({}, Caller);
     if (!WaitForGrownBox())
         return GiveTargetUp(u"The box for the comment did not open"_s, Caller);
+    if (!m_app.Get<SendRuns>().IsOnSite())
+        return LeaveStranger();
     m_app.SetStatus(u"Posting comment..."_s);
     if (page.IsTextInPage(u"you must be a friend to post a comment"_s))
         return GiveTargetUp(u"Only friends may comment on this profile"_s, Caller);

@@ -70,12 +70,18 @@ Next Commenter::SkipTarget(const QString& why) {
     return Next::Wait;
 }
 
+Next Commenter::LeaveStranger() {
+    return GiveTargetUp(u"A page that is not the site's came; nothing was typed into it"_s, Caller);
+}
+
 Next Commenter::SubmitForm() {
     if (m_app.Get<PageSigns>().IsTextInPage(Flooding)) {
         m_app.Get<StopResume>().StopAll(StopReason::Flooding);
         return Next::Wait;
     }
     WaitForForm();
+    if (!m_app.Get<SendRuns>().IsOnSite())
+        return LeaveStranger();
     const std::optional<QString> text = TextOfTarget();
     if (!text)
         return GiveTargetUp({}, Caller);

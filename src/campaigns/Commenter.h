@@ -31,6 +31,7 @@ private:
     Next DecideFilter();
     Next AfterSend();
     void CloseReport();
+    Next LeaveStranger();
     Next GiveTargetUp(const QString& why, const QString& caller);
     Next GoOn(const QString& caller);
     bool IsSkipped() const;

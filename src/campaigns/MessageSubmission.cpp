@@ -33,9 +33,13 @@ Next Messenger::SubmitMessage() {
     if (!WaitForComposePage())
         return Next::Wait;
     WaitUntilComplete();
+    if (!m_app.Get<SendRuns>().IsOnSite())
+        return LeaveStranger();
     m_app.SetStatus(u"Submitting message..."_s);
     TypeText();
     WaitUntilComplete();
+    if (!m_app.Get<SendRuns>().IsOnSite())
+        return LeaveStranger();
     const SendButton button = FindSendButton(m_app.WebBrowser1().Document());
     if (!button.element && state.strFRResumeURL.isEmpty() && !state.blnMsgAfterFR)
         return GiveUpTarget();
@@ -68,7 +72,8 @@ bool Messenger::WaitForComposePage() {
     m_app.waiting.WaitFor(u"the message page"_s,
                           [this] { return m_app.WebBrowser1().Document().Body().IsNull(); });
     m_app.waiting.WaitFor(u"\"Save Draft\" on the page"_s, [&] {
-        return !state.blnHoldLinkCheck && !m_app.Get<PageSigns>().IsTextInPage(u"Save Draft"_s, true);
+        return !state.blnHoldLinkCheck && m_app.Get<SendRuns>().IsOnSite() &&
+               !m_app.Get<PageSigns>().IsTextInPage(u"Save Draft"_s, true);
     });
     return !state.blnHoldLinkCheck;
 }
@@ -88,6 +93,13 @@ void Messenger::TypeText() {
                 {ReplaceTargetName(m_app, text.subject, html, u"Message"_s),
                  ReplaceTargetName(m_app, text.body, html, u"Message"_s)},
                 m_app.state.blnNewLayout);
+}
+
+Next Messenger::LeaveStranger() {
+    m_app.state.blnSkipCurrentID = true;
+    m_app.Get<RunReport>().Remark(u"A page that is not the site's came; nothing was typed into it"_s);
+    m_app.state.intMsgStep = MessageStep::AfterSend;
+    return Next::Again;
 }
 
 Next Messenger::GiveUpTarget() {

@@ -25,6 +25,10 @@ const std::vector<StartCheck>& Checks() {
         {ListLacksEntries,
          u"You have selected 'send from list', but you havent added any messages to the list yet."},
         {ListLacksSelected, u"Please select at least one message in the list to send."},
+        {LogIsIllegible,
+         u"The log of everybody you have sent messages to is written in UTF-16 (\"Unicode\"). "
+         u"Nobody in it would be recognised, and all would get another message. "
+         u"Please save it as plain text (ANSI or UTF-8), or clear it."},
     };
     return rows;
 }

@@ -37,6 +37,7 @@ private:
     void WaitUntilComplete();
     bool WaitForComposePage();
     void TypeText();
+    Next LeaveStranger();
     Next GiveUpTarget();
     void CountAndLog();
     void PressSpanAgain();

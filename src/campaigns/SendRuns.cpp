@@ -12,6 +12,7 @@
 #include "gather/GatheredList.h"
 #include "gather/ProfileFilters.h"
 #include "steps/Activities.h"
+#include "steps/Lending.h"
 #include "steps/RunReport.h"
 #include "steps/Steps.h"
 #include "steps/StopResume.h"
@@ -104,6 +105,8 @@ void SendRuns::Reset(const Campaign& campaign) {
     state.blnInDelay = false;
     state.intFRLimitHits = 0;
     state.blnMsgAfterFR = false;
+    // Whoever had lent the browser is over: it has been taken by hand.
+    m_app.Get<Lending>().Forget();
     state.strAcceptMode.clear();
     m_app.controls.SetItems("lstAcceptIDs"_L1, {});
     state.blnFRWaitRequestSent = false;
@@ -222,6 +225,11 @@ bool SendRuns::NoteBeforeSend() {
         m_app.ShowMessage(u"Quillmere can't note whom it is about to send to, so somebody might get the same "
                           "twice. The run has been stopped."_s);
     return false;
+}
+
+bool SendRuns::IsOnSite() {
+    const Document page = m_app.WebBrowser1().Document();
+    return page && m_app.deployment.IsSitePage(page.Address());
 }
 
 void SendRuns::OpenProfile() {

@@ -32,6 +32,9 @@ public:
     // Notes strCurrentID beside the log, before a click that can't be taken back. False when the disk refuses
     // that: the run is stopped, since a message that nobody remembers may be sent twice.
     bool NoteBeforeSend();
+    // The page in WebBrowser1 is the site's own. Texts are typed into such pages alone: a stranger's may show
+    // the same form.
+    bool IsOnSite();
     // Opens the profile that the filters are to judge.
     void OpenProfile();
     // A profile that the filters refuse is counted, and its target is done with. caller is the trace word of

@@ -92,6 +92,8 @@ bool ListLacksSelected(App& app, const Campaign& campaign) {
 }
 
 bool LogIsIllegible(App& app, const Campaign& campaign) {
+    if (!campaign.checkLogBox.isEmpty() && !app.controls.Ticked(campaign.checkLogBox))
+        return false;
     bool isIllegible = false;
     Diagnostics::IgnoreErrors([&] { isIllegible = app.files.IsIllegible(SentLog(app, &campaign).Path()); });
     return isIllegible;

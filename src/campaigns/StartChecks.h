@@ -38,6 +38,7 @@ bool ListLacksEntries(App& app, const Campaign& campaign);
 bool ListLacksSelected(App& app, const Campaign& campaign);
 // A log that can't be opened counts as empty, and the run tells; one that can be and says nothing would have
 // everybody contacted again without a word.
+// One that isn't looked at may say what it likes.
 bool LogIsIllegible(App& app, const Campaign& campaign);
 
 } // namespace qlm

@@ -81,6 +81,9 @@ bool Lending::GiveBack() {
 }
 
 void Lending::Forget() {
+    if (m_loan)
+        m_app.state.*m_loan->lender->lent = false;
+    m_app.state.strResumeURL.clear();
     m_loan.reset();
 }
 

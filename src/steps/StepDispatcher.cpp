@@ -13,12 +13,6 @@ namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-constexpr qint16 ErrorRedirectClass = 32;
-
-} // namespace
-
 bool StepDispatcher::CheckLinkFound() {
     try {
         return RunStages();

@@ -12,6 +12,9 @@ namespace qlm {
 class App;
 struct RunState;
 
+// The page class of the site's error page, which comes although the request has gone out.
+inline constexpr qint16 ErrorRedirectClass = 32;
+
 // What a stage of the check answers: nothing when it doesn't apply, else the result of the whole check.
 using Verdict = std::optional<bool>;
 

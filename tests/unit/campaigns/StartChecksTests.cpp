@@ -287,6 +287,22 @@ TEST_F(StartChecksTest, ALogInUtf16RefusesTheStartAndOneWithAMarkOrBareReturnsDo
     EXPECT_TRUE(RunningLog(*app).LogEntryExists(u"11"_s));
 }
 
+TEST_F(StartChecksTest, ALogInUtf16RefusesWhoeverLooksAtIt) {
+    for (const Campaign* campaign : {&Messages, &Comments}) {
+        const StartCheck& check = campaign->checks().back();
+        app->files.WriteBytes(app->ProgramFile(QString::fromLatin1(campaign->logFile)),
+                              QByteArray("\xFF\xFE"
+                                         "1\0"
+                                         "0\0\r\0\n\0",
+                                         10));
+        app->controls.SetTicked(campaign->checkLogBox, true);
+        EXPECT_TRUE(check.fails(*app, *campaign)) << campaign->what;
+        EXPECT_TRUE(QString::fromUtf16(check.message).contains(u"is written in UTF-16"_s)) << campaign->what;
+        app->controls.SetTicked(campaign->checkLogBox, false);
+        EXPECT_FALSE(check.fails(*app, *campaign)) << campaign->what;
+    }
+}
+
 // A refused start has silenced the browsers and lifted the cover already.
 TEST_F(StartChecksTest, ARefusedStartShowsAQuietBrowser) {
     app->controls.SetItems("lstFriendIDs"_L1, {});

@@ -233,6 +233,20 @@ TEST_F(LendingTest, TheOwnEndOfAnotherActivitySparesWhatWaitsForItsMinute) {
     }
 }
 
+// The borrower's run is ended by it, and nobody is left to give the browser back.
+TEST_F(LendingTest, ACampaignThatIsStartedByHandEndsTheLoan) {
+    BeginRun();
+    Take();
+    app->controls.SetText("txtMsgSubject"_L1, u"Hi"_s);
+    app->controls.SetText("txtMsgMessage"_L1, u"Hello"_s);
+    app->commands.Run(u"picCmdMsgSend_Click"_s);
+    EXPECT_EQ(State().CurrentAction, u"MSG"_s);
+    EXPECT_FALSE(lending.IsLent());
+    EXPECT_FALSE(State().varResumeFR);
+    EXPECT_EQ(State().strResumeURL, QString());
+    EXPECT_TRUE(lending.MayTake());
+}
+
 TEST_F(LendingTest, WhichStopsAreOwnEnds) {
     const std::vector<StopReason> own{StopReason::RequestsDone, StopReason::MessagesDone,
                                       StopReason::CommentsDone, StopReason::RequestLimit,
