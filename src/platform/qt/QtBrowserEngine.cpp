@@ -169,6 +169,10 @@ QtBrowser::LoadEnd QtBrowser::EndOf(const QWebEngineLoadingInfo& info) {
 // about those that never reached a document.
 void QtBrowser::OnLoading(const QWebEngineLoadingInfo& info) {
     using Info = QWebEngineLoadingInfo;
+    // The failure that the error page is about, told once more under the error page's own address, while that
+    // is still being loaded.
+    if (info.status() == Info::LoadFailedStatus && info.errorCode() == 0 && info.url().scheme() == u"data"_s)
+        return;
     m_isEngineLoading = info.status() == Info::LoadStartedStatus;
     if (m_isEngineLoading)
         return;
@@ -193,10 +197,6 @@ void QtBrowser::OnLoading(const QWebEngineLoadingInfo& info) {
 
 void QtBrowser::OnEnd(const QUrl& url, LoadEnd end) {
     const bool isTarget = url == m_target;
-    // The engine may report the failure that the error page is about once more, under the error page's
-    // address. It comes nevertheless; shown again, it would be about itself.
-    if (end == LoadEnd::Failed && !m_failing.isEmpty() && url.scheme() == u"data"_s)
-        return;
     if (end == LoadEnd::Failed && (isTarget || !m_isOnItsWay))
         OnFailed(url);
     else if (end == LoadEnd::Stopped && isTarget)
