@@ -132,7 +132,7 @@ QVariant PageCalls::Run(const QString& script, Kind kind) {
             isLate = true;
             loop.quit();
         });
-        deadline.start(answerMs);
+        deadline.start(m_answerLimitMs);
         wait->loop = &loop;
         const auto outer = std::exchange(m_wait, wait);
         loop.exec(QEventLoop::ExcludeUserInputEvents);

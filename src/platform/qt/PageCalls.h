@@ -18,7 +18,7 @@ namespace qlm {
 // one place besides the pump where an event loop is nested; it lets neither the user's input nor a handler
 // in.
 //
-// A page that is busy with itself doesn't answer. A call gives up after answerMs; from then on every further
+// A page that is busy with itself doesn't answer. A call gives up after a limit; from then on every further
 // call fails at once until the page has answered after all or was replaced. A page that did answer, but late,
 // is slow and not stuck: what it was asked is kept and answers the same question when that comes again, so
 // that a huge page is read in the end and no call ever takes longer.
@@ -54,6 +54,9 @@ public:
     void Post(const QString& script);
     void PostCall(const QString& document, const QString& name, const QJsonArray& arguments);
 
+    int AnswerLimit() const { return m_answerLimitMs; }
+    void SetAnswerLimit(int milliseconds) { m_answerLimitMs = milliseconds; }
+
     bool IsSilent() const { return m_silent; }
     bool IsUnderWay() const { return m_wait != nullptr; }
     bool CanCall() const { return m_page && !m_silent; }
@@ -75,6 +78,7 @@ private:
     std::shared_ptr<Wait> m_wait;
     // Lets what outlives this object see that it is gone.
     std::shared_ptr<PageCalls*> m_self;
+    int m_answerLimitMs = answerMs;
     bool m_silent = false;
     QHash<QString, QVariant> m_late; // by the script that asked
     // Moves on when what is owed has become void.

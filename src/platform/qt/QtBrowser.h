@@ -52,7 +52,8 @@ public:
     qint64 RendererProcessId() const override;
     qint64 EngineCalls() const override { return m_calls.Count(); }
 
-    // How long a page may stay silent before it is given up.
+    // How long a single call waits for the page, and how long a page may stay silent before it is given up.
+    void SetAnswerLimit(int milliseconds) { m_calls.SetAnswerLimit(milliseconds); }
     void SetGiveUpAfter(int milliseconds) { m_giveUpAfterMs = milliseconds; }
 
     // The widget that shows the page. A container may own it.

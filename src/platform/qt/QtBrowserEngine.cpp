@@ -325,7 +325,7 @@ void QtBrowser::Connect() {
 // What is on its way may never arrive in a page that is stuck. It is not asked for again: the server may have
 // heard it.
 void QtBrowser::OnSilence() {
-    m_silenceLimit.start(std::max(m_giveUpAfterMs - PageCalls::answerMs, 0));
+    m_silenceLimit.start(std::max(m_giveUpAfterMs - m_calls.AnswerLimit(), 0));
 }
 
 void QtBrowser::GiveUpPage() {

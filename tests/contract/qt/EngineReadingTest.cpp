@@ -163,6 +163,7 @@ TEST_F(EngineReading, TwentyThousandLinksAreRead) {
     for (int i = 0; i < 20'000; ++i)
         page += "<a href='/" + QByteArray::number(i) + "'>link " + QByteArray::number(i) + "</a> ";
     Serve(u"/many"_s, page);
+    browser->SetAnswerLimit(20'000);
     ASSERT_TRUE(Open(u"/many"_s));
     ASSERT_TRUE(WaitForText(u"link 19999"_s));
     const std::vector<Element> links = browser->Document().Links();

@@ -22,6 +22,8 @@ LoopbackServer& Network() {
     return server;
 }
 
+constexpr int patienceMs = 20'000;
+
 LoopbackAnswer::Fault FaultOf(ServeFault fault) {
     using Fault = LoopbackAnswer::Fault;
     switch (fault) {
@@ -48,6 +50,8 @@ public:
             QNetworkProxy(QNetworkProxy::HttpProxy, u"127.0.0.1"_s, Network().Port()));
         m_browser = std::make_unique<QtBrowser>(m_pump, *m_profile);
         m_otherBrowser = std::make_unique<QtBrowser>(m_pump, *m_profile);
+        // The contract is about what is read. That a slow page is asked again is told elsewhere.
+        m_browser->SetAnswerLimit(patienceMs);
     }
 
     void Serve(const QString& url, const QString& html, const ServeOptions& options) override {
