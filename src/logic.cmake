@@ -40,7 +40,6 @@ add_library(quillmere_logic STATIC
     core/Registry.cpp
     core/SettingsFields.cpp
     core/SupportFiles.cpp
-    core/Tabs.cpp
     core/Text.cpp
     core/Waiting.cpp
 

@@ -50,6 +50,18 @@ ControlRow ControlRow::Explains(const char16_t* words) const {
     return With(*this, &ControlRow::whatsThis, words);
 }
 
+ControlRow ControlRow::Picture(const char* drawing) const {
+    return With(*this, &ControlRow::image, drawing);
+}
+
+ControlRow ControlRow::Runs(const char* sharedCommand) const {
+    return With(*this, &ControlRow::command, sharedCommand);
+}
+
+ControlRow ControlRow::Begins() const {
+    return With(*this, &ControlRow::begins, true);
+}
+
 QString ControlRow::PlainCaption() const {
     const QChar doubled(0xE000); // a private sign stands for "&&" meanwhile
     return QString::fromUtf16(caption).replace(u"&&"_s, doubled).remove(u'&').replace(doubled, u'&');
@@ -62,6 +74,10 @@ QString ControlRow::SpokenName() const {
     if (plain.endsWith(u':'))
         plain.chop(1);
     return plain;
+}
+
+QString ControlRow::Command() const {
+    return command[0] ? QString::fromLatin1(command) : QString::fromLatin1(name) + u"_Click"_s;
 }
 
 } // namespace qlm

@@ -56,6 +56,9 @@ struct ControlRow {
     const char16_t* spoken = u""; // what a screen reader calls it, where the caption doesn't say enough
     const char16_t* hint = u"";   // stands in an empty input
     const char16_t* whatsThis = u"";
+    const char* image = "";   // of a button that bears a drawing
+    const char* command = ""; // of a button that shares one; usually its name + "_Click"
+    bool begins = false;      // a run or a fetch: a double click is one click
 
     // The row with that said, too.
     ControlRow Kept(const char* kindOfData, const char* settingsKey = "") const;
@@ -67,11 +70,16 @@ struct ControlRow {
     ControlRow Spoken(const char16_t* words) const;
     ControlRow Hint(const char16_t* words) const;
     ControlRow Explains(const char16_t* words) const;
+    ControlRow Picture(const char* drawing) const;
+    ControlRow Runs(const char* sharedCommand) const;
+    ControlRow Begins() const;
 
     // The caption without its letter.
     QString PlainCaption() const;
     // What is said of it to a screen reader; empty where its own text says it.
     QString SpokenName() const;
+    // What a click on it runs.
+    QString Command() const;
 };
 
 // One named input or label that the logic reads or writes.
@@ -112,6 +120,8 @@ public:
     Controls();
 
     static const std::vector<ControlRow>& Table();
+    // Throws std::logic_error on a name that the table doesn't hold.
+    static const ControlRow& RowNamed(QLatin1StringView name);
 
     bool Has(QLatin1StringView name) const { return m_index.contains(name); }
     const Control& operator[](QLatin1StringView name) const;

@@ -19,11 +19,6 @@ QString KeyOf(const ControlRow& row) {
     return QString::fromLatin1(row.key[0] ? row.key : row.name);
 }
 
-const ControlRow& RowOf(QLatin1StringView name) {
-    return *std::find_if(Controls::Table().begin(), Controls::Table().end(),
-                         [name](const ControlRow& row) { return name == QLatin1StringView(row.name); });
-}
-
 bool IsListKind(const QString& kind) {
     static const QSet<QString> lists{u"BookmarksList"_s, u"Log"_s,          u"GatheredList"_s,
                                      u"BulletinsList"_s, u"StatusesList"_s, u"CommentsList"_s,
@@ -225,7 +220,7 @@ void SettingsFields::SettleFields() {
                      [this](QLatin1StringView name) { return m_app.controls.Ticked(name); }))
         m_app.controls.SetTicked("optScanFollowing"_L1, true);
     // What another account calls its friends means nothing here.
-    const ControlRow& categories = RowOf("cboFRCategories"_L1);
+    const ControlRow& categories = Controls::RowNamed("cboFRCategories"_L1);
     if (!IsStored(SectionOf(u"FriendRequest"_s), categories) ||
         m_app.controls.Text("cboFRCategories"_L1).isEmpty())
         SetStartingValue(categories);

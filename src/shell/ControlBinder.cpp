@@ -242,9 +242,11 @@ bool ControlBinder::Run(const QString& command, int argument) {
 
 void ControlBinder::ConnectCommands(QWidget& widget, const QString& name) {
     if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
-        const QString own = button->property("command").toString();
-        connect(button, &QAbstractButton::clicked, this,
-                [this, command = own.isEmpty() ? name + u"_Click"_s : own] { Run(command); });
+        const QByteArray row = name.toLatin1();
+        const QString command = m_app.controls.Has(QLatin1StringView(row))
+                                    ? m_app.controls[QLatin1StringView(row)].row->Command()
+                                    : name + u"_Click"_s;
+        connect(button, &QAbstractButton::clicked, this, [this, command] { Run(command); });
     }
     if (auto* box = dynamic_cast<TickBox*>(&widget))
         GuardTick(*box, name);

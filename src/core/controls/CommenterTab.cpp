@@ -56,11 +56,20 @@ std::vector<ControlRow> CommenterTab() {
         Label("lblComFailedCount", u"Failed: 0"),
         Label("lblComSkippedCount", u"Skipped: 0"),
         Button("picCmdComSend", u"&Send Comments")
+            .Picture("SEND")
+            .Begins()
             .Tip(u"Post a comment on the profile of each ID in the gathered list"),
-        Button("picCmdComStop", u"S&top").Tip(u"Stop sending comments"),
-        Button("piccmdComTimeDelay", u"Time &Delay...").Tip(u"Set the pause between two comments"),
-        Button("piccmdComClearLog", u"&Log...").Tip(u"The record of everyone you have sent comments to"),
-        Button("piccmdComReport", u"&Report...").Tip(u"What became of each profile of a run"),
+        Button("picCmdComStop", u"S&top").Picture("SENDSTOP").Tip(u"Stop sending comments"),
+        Button("piccmdComTimeDelay", u"Time &Delay...")
+            .Picture("DELAY")
+            .Runs("mnuTimeDelay_Click")
+            .Tip(u"Set the pause between two comments"),
+        Button("piccmdComClearLog", u"&Log...")
+            .Picture("LOG")
+            .Tip(u"The record of everyone you have sent comments to"),
+        Button("piccmdComReport", u"&Report...")
+            .Picture("REPORT")
+            .Tip(u"What became of each profile of a run"),
     };
 }
 

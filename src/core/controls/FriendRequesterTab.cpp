@@ -41,14 +41,24 @@ std::vector<ControlRow> FriendRequesterTab() {
         Label("lblFrFailedCount", u"Failed: 0"),
         Label("lblFrSkippedCount", u"Skipped: 0"),
         Button("piccmdAddFriends", u"&Send Friend Requests")
+            .Picture("SEND")
+            .Begins()
             .Tip(u"Send a friend request to each ID in the gathered list"),
-        Button("piccmdAddFriendsStop", u"S&top").Tip(u"Stop sending friend requests"),
+        Button("piccmdAddFriendsStop", u"S&top").Picture("SENDSTOP").Tip(u"Stop sending friend requests"),
         Button("piccmdFRRefreshCategories", u"Fill the list of categories")
+            .Picture("REFRESH")
+            .Begins()
             .Tip(u"Fill the list with the categories of your friends"),
-        Button("piccmdFrTimeDelay", u"Time &Delay...").Tip(u"Set the pause between two friend requests"),
+        Button("piccmdFrTimeDelay", u"Time &Delay...")
+            .Picture("DELAY")
+            .Runs("mnuTimeDelay_Click")
+            .Tip(u"Set the pause between two friend requests"),
         Button("piccmdFrClearLog", u"&Log...")
+            .Picture("LOG")
             .Tip(u"The record of everyone you have sent friend requests to"),
-        Button("piccmdFrReport", u"&Report...").Tip(u"What became of each profile of a run"),
+        Button("piccmdFrReport", u"&Report...")
+            .Picture("REPORT")
+            .Tip(u"What became of each profile of a run"),
     };
 }
 

@@ -10,9 +10,15 @@ constexpr const char16_t* FullGatherTip =
 
 std::vector<ControlRow> GatherTab() {
     return {
-        Button("piccmdFrGotoBrowse", u"&Browse").Tip(u"Navigate to the MySpace browse page"),
-        Button("piccmdFrGotoFriends", u"&Friends").Tip(u"Navigate to the current profile's friends list"),
-        Button("piccmdFrGotoComments", u"&Comments").Tip(u"Navigate to the current profile's comments list"),
+        Button("piccmdFrGotoBrowse", u"&Browse")
+            .Picture("GOTOBROWSE")
+            .Tip(u"Navigate to the MySpace browse page"),
+        Button("piccmdFrGotoFriends", u"&Friends")
+            .Picture("GOTOFRIENDS")
+            .Tip(u"Navigate to the current profile's friends list"),
+        Button("piccmdFrGotoComments", u"&Comments")
+            .Picture("GOTOCOMMENTS")
+            .Tip(u"Navigate to the current profile's comments list"),
         List("lstFriendIDs").Spoken(u"Gathered profile ID's"),
         List("lstAcceptIDs"),
         Label("lblProfilesGathered", u"Profiles Gathered: 0"),
@@ -39,16 +45,23 @@ std::vector<ControlRow> GatherTab() {
             .Kept("GatherSettings"),
         Button("lblFullGatherHelp", u"- Help -"),
         Button("picScanStart", u"&Start Gathering")
+            .Picture("SCANSTART")
+            .Begins()
             .Tip(u"Gather the profile ID's of the page in the browser"),
-        Button("picScanStop", u"S&top").Tip(u"Stop gathering"),
-        Button("picFilterOptions", u"Fi&lters...").Tip(u"Choose which profiles are kept"),
+        Button("picScanStop", u"S&top").Picture("SCANSTOP").Tip(u"Stop gathering"),
+        Button("picFilterOptions", u"Fi&lters...").Picture("FILTER").Tip(u"Choose which profiles are kept"),
         Button("picRandomize", u"Shuffle")
+            .Picture("RANDOMIZE")
             .Tip(u"Clicking this button will re-sort the ID's in the list in a random order"),
-        Button("piccmdClearList", u"Clear").Tip(u"Clear the ID's in the list"),
-        Button("picImport", u"Import").Tip(u"Import ID's into the list from a text file"),
-        Button("picSaveToFile", u"Save").Tip(u"Save the ID's in the list to a text file"),
-        Button("piccmdBlackList", u"Black list").Tip(u"Manage your blacklisted ID's"),
+        Button("piccmdClearList", u"Clear").Picture("CLEARLIST").Tip(u"Clear the ID's in the list"),
+        Button("picImport", u"Import").Picture("IMPORT").Tip(u"Import ID's into the list from a text file"),
+        Button("picSaveToFile", u"Save")
+            .Picture("SAVETOFILE")
+            .Tip(u"Save the ID's in the list to a text file"),
+        Button("piccmdBlackList", u"Black list").Picture("BLACKLIST").Tip(u"Manage your blacklisted ID's"),
         Button("picRemoveFriends", u"Remove friends")
+            .Picture("REMOVEFRIENDS")
+            .Begins()
             .Tip(u"After clicking this button, Quillmere will go through all your existing friends and "
                  u"remove those ID's from the scanned list above"),
         Box("chkSaveScanned", u"Sa&ve on exit")

@@ -7,14 +7,18 @@ namespace qlm::rows {
 std::vector<ControlRow> MainWindow() {
     return {
         Line("txtAddress").Spoken(u"Address").Hint(u"Address"),
-        Button("picBack", u"Back").Tip(u"Go back one page"),
-        Button("picForward", u"Forward").Tip(u"Go forward one page"),
-        Button("picHome", u"Home").Tip(u"Go to your MySpace home page"),
-        Button("picRefresh", u"Refresh").Tip(u"Load this page again"),
-        Button("picStop", u"Stop").Tip(u"Stop the page and whatever is running"),
-        Button("picGO", u"Go").Tip(u"Go to the address"),
-        Button("picSkip", u"S&kip").Tip(u"Skip the current profile, or end a running time delay"),
-        Button("picCollapse", u"Fold the control panel away").Tip(u"Fold the control panel away"),
+        Button("picBack", u"Back").Picture("NAVBACK").Tip(u"Go back one page"),
+        Button("picForward", u"Forward").Picture("NAVFORWARD").Tip(u"Go forward one page"),
+        Button("picHome", u"Home").Picture("NAVHOME").Tip(u"Go to your MySpace home page"),
+        Button("picRefresh", u"Refresh").Picture("REFRESH").Tip(u"Load this page again"),
+        Button("picStop", u"Stop").Picture("STOP").Tip(u"Stop the page and whatever is running"),
+        Button("picGO", u"Go").Picture("GO").Tip(u"Go to the address"),
+        Button("picSkip", u"S&kip")
+            .Picture("SKIP")
+            .Tip(u"Skip the current profile, or end a running time delay"),
+        Button("picCollapse", u"Fold the control panel away")
+            .Picture("COLLAPSE_LEFT")
+            .Tip(u"Fold the control panel away"),
         Label("lblStatus"),
         Label("lblLoggedInAs"),
         Label("myfraCurrentAction"),

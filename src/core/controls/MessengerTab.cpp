@@ -37,13 +37,27 @@ std::vector<ControlRow> MessengerTab() {
         Label("lblMsgTotalToday", u"Total Today: 0"),
         Label("lblMsgFailedCount", u"Failed: 0"),
         Label("lblMsgSkippedCount", u"Skipped: 0"),
-        Button("piccmdMsgLoad", u"Load a message").Tip(u"Load subject and message from a file"),
-        Button("piccmdMsgSave", u"Save the message").Tip(u"Save subject and message to a file"),
-        Button("picCmdMsgSend", u"&Send Messages").Tip(u"Send a message to each ID in the gathered list"),
-        Button("picCmdMsgStop", u"S&top").Tip(u"Stop sending messages"),
-        Button("piccmdMsgTimeDelay", u"Time &Delay...").Tip(u"Set the pause between two messages"),
-        Button("piccmdMsgClearLog", u"&Log...").Tip(u"The record of everyone you have sent messages to"),
-        Button("piccmdMsgReport", u"&Report...").Tip(u"What became of each profile of a run"),
+        Button("piccmdMsgLoad", u"Load a message")
+            .Picture("IMPORT")
+            .Tip(u"Load subject and message from a file"),
+        Button("piccmdMsgSave", u"Save the message")
+            .Picture("SAVETOFILE")
+            .Tip(u"Save subject and message to a file"),
+        Button("picCmdMsgSend", u"&Send Messages")
+            .Picture("SEND")
+            .Begins()
+            .Tip(u"Send a message to each ID in the gathered list"),
+        Button("picCmdMsgStop", u"S&top").Picture("SENDSTOP").Tip(u"Stop sending messages"),
+        Button("piccmdMsgTimeDelay", u"Time &Delay...")
+            .Picture("DELAY")
+            .Runs("mnuTimeDelay_Click")
+            .Tip(u"Set the pause between two messages"),
+        Button("piccmdMsgClearLog", u"&Log...")
+            .Picture("LOG")
+            .Tip(u"The record of everyone you have sent messages to"),
+        Button("piccmdMsgReport", u"&Report...")
+            .Picture("REPORT")
+            .Tip(u"What became of each profile of a run"),
     };
 }
 

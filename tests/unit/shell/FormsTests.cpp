@@ -33,8 +33,8 @@ QStringList IdleButtons(const App& app, const QWidget& window, const QString& pr
         const bool isQts = name.isEmpty() || name.startsWith(u"qt_"_s);
         if (isQts || button->isCheckable() || name == "picCollapse"_L1)
             continue;
-        const QString own = button->property("command").toString();
-        if (!app.commands.Has(own.isEmpty() ? prefix + name + u"_Click"_s : own))
+        const QByteArray row = (prefix + name).toLatin1();
+        if (!app.commands.Has(Controls::RowNamed(QLatin1StringView(row)).Command()))
             idle.append(prefix + name);
     }
     return idle;
@@ -353,9 +353,9 @@ TEST(FileToSave, TakesTheUsualSuffixWhenTheUserTypesNone) {
     EXPECT_EQ(choose(u"any"_s, {}, u"All files (*.*)|*.*"_s), u"any"_s);
 }
 
-TEST(PictureButtonTable, KnowsNoOtherNames) {
-    EXPECT_STREQ(PictureButtonNamed("picSkip"_L1).image, "SKIP");
-    EXPECT_THROW(PictureButtonNamed("picNowhere"_L1), std::logic_error);
+TEST(ControlsTable, KnowsNoOtherNames) {
+    EXPECT_STREQ(Controls::RowNamed("picSkip"_L1).image, "SKIP");
+    EXPECT_THROW(Controls::RowNamed("picNowhere"_L1), std::logic_error);
 }
 
 } // namespace qlm
