@@ -24,14 +24,14 @@ struct Expectation {
 struct RunFields : Expectation {
     // The running activity and its step. Values 16 bit, 0 at rest.
     QString CurrentAction;
-    qint16 intGatherStep = 0;
-    qint16 intFRStep = 0;
-    qint16 intMsgStep = 0;
-    qint16 intComStep = 0;
-    qint16 intBulStep = 0;
-    qint16 intAccStep = 0;
-    qint16 intLoginStep = 0;
-    qint16 intDelPenStep = 0;
+    qint16 intGatherStep{};
+    qint16 intFRStep{};
+    qint16 intMsgStep{};
+    qint16 intComStep{};
+    qint16 intBulStep{};
+    qint16 intAccStep{};
+    qint16 intLoginStep{};
+    qint16 intDelPenStep{};
 
     // Decisions about the profile being worked on.
     QString strCurrentID;
@@ -109,7 +109,7 @@ struct RunState : RunFields, TimedFields {
 
     // Chaining of accounts.
     bool blnChaining = false;
-    QString ChainedCampaign; // "FR", "MSG" or "BUL"
+    QString ChainedCampaign; // its word; empty without one
 
     // Ending the program.
     bool blnExitWhenFinished = false;

@@ -15,7 +15,7 @@ std::vector<ControlRow> Menus() {
         MenuItem("mnuResetSettings", u"&Reset Settings..."),
         MenuItem("mnuSaveScreenshot", u"&Save screenshot and page source..."),
         MenuItem("mnuGoToQLMDataFolder", u"&Go to QLM Data Folder"),
-        // Chaining. The items of the friend requests are stored without their "FR".
+        // Chaining. The items of the friend requests are stored without the activity's word.
         MenuItem("mnuMultipleAccountsFROn", u"On (always)")
             .In("chainFR")
             .Kept("General", "mnuMultipleAccountsOn"),
