@@ -25,26 +25,28 @@ constexpr int PanelWidth = 340;
 constexpr int PanelWidthInWideWindow = 360;
 } // namespace
 
-WorkArea::WorkArea(App& app, ControlBinder& binder, BrowserViews& views)
-    : m_app(app),
+// From the outside in: a widget that joins another one is dressed anew, with all that it holds.
+WorkArea::WorkArea(App& app, ControlBinder& binder, BrowserViews& views, QWidget* parent)
+    : QWidget(parent),
+      m_app(app),
       m_strip(new TabStrip),
       m_collapse(NewPictureButton("picCollapse"_L1, Caption::None)),
       m_panels(new QStackedWidget),
       m_splitter(new QSplitter) {
     m_panels->setObjectName(u"fraPanels"_s);
-    AddPanels(binder);
-    m_splitter->setChildrenCollapsible(false);
-    m_splitter->setHandleWidth(0); // the edge itself is dragged
-    m_splitter->addWidget(m_panels);
-    m_splitter->addWidget(new BrowserStack(app, views));
-    m_splitter->setStretchFactor(0, 0);
-    m_splitter->setStretchFactor(1, 1);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     m_stripColumn = NewStripColumn();
     row->addWidget(m_stripColumn);
     row->addWidget(m_splitter, 1);
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->setHandleWidth(0); // the edge itself is dragged
+    m_splitter->addWidget(m_panels);
+    m_splitter->addWidget(new BrowserStack(app, views));
+    m_splitter->setStretchFactor(0, 0);
+    m_splitter->setStretchFactor(1, 1);
+    AddPanels(binder);
 
     connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_isDragged = true; });
     connect(m_strip, &TabStrip::clicked, this, [this] { Fold(false); });

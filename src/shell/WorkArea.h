@@ -20,7 +20,7 @@ class TabStrip;
 // can be folded away; the strip stays, and a click on it brings the panel back.
 class WorkArea : public QWidget {
 public:
-    WorkArea(App& app, ControlBinder& binder, BrowserViews& views);
+    WorkArea(App& app, ControlBinder& binder, BrowserViews& views, QWidget* parent);
     ~WorkArea() override;
 
     void FocusTabs();

@@ -39,17 +39,16 @@ frmMain::frmMain(App& app, WindowDialogs& dialogs, BrowserViews& views)
     : m_app(app), m_dialogs(dialogs), m_binder(app, {}, [&dialogs] { return dialogs.MessageCount(); }) {
     setObjectName(u"frmMain"_s);
     setWindowTitle(u"Quillmere"_s);
-    auto* column = new QVBoxLayout;
+    auto* centre = new QWidget(this);
+    setCentralWidget(centre);
+    auto* column = new QVBoxLayout(centre);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(new AddressBar(app));
     column->addWidget(new ActivityStrip(app));
-    auto* work = new WorkArea(app, m_binder, views);
+    auto* work = new WorkArea(app, m_binder, views, centre);
     column->addWidget(work, 1);
     column->addWidget(new FootLine);
-    auto* centre = new QWidget;
-    centre->setLayout(column);
-    setCentralWidget(centre);
     FillMenuBar(*menuBar(), app, m_binder);
     m_binder.BindAll(*this);
     work->FocusTabs();
