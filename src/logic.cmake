@@ -131,6 +131,7 @@ add_library(quillmere_logic STATIC
     campaigns/FriendCategories.cpp
     campaigns/FriendRequester.cpp
     campaigns/FriendRequests.cpp
+    campaigns/GroupWay.cpp
     campaigns/LogDialog.cpp
     campaigns/MessageSubmission.cpp
     campaigns/Messages.cpp

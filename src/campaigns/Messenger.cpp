@@ -6,6 +6,7 @@
 #include "campaigns/Campaigns.h"
 #include "campaigns/CaptchaCalls.h"
 #include "campaigns/Counters.h"
+#include "campaigns/GroupWay.h"
 #include "campaigns/Pacing.h"
 #include "campaigns/SendRuns.h"
 #include "campaigns/SentLog.h"
@@ -39,7 +40,12 @@ const StepMachine<Messenger>& Messenger::Machine() {
                    {MessageStep::DecideFilter, &Messenger::DecideFilter},
                    {MessageStep::Submit, &Messenger::SubmitMessage},
                    {MessageStep::AfterSend, &Messenger::AfterSend},
-                   {MessageStep::Captcha, &Messenger::CallForCaptcha}},
+                   {MessageStep::Captcha, &Messenger::CallForCaptcha},
+                   {MessageStep::JoinGroup, &Messenger::JoinGroup},
+                   {MessageStep::OpenGroupInvite, &Messenger::OpenGroupInvite},
+                   {MessageStep::InviteToGroup, &Messenger::InviteToGroup},
+                   {MessageStep::OpenGroupResign, &Messenger::OpenGroupResign},
+                   {MessageStep::ResignFromGroup, &Messenger::ResignFromGroup}},
         .errorData = nullptr,
     };
     return machine;
@@ -196,6 +202,44 @@ Next Messenger::CallForCaptcha() {
     }
     m_app.Get<CaptchaCalls>().MessagingCAPTCHAReached();
     return Next::Wait;
+}
+
+Next Messenger::JoinGroup() {
+    return LeaveGroupPage(GroupWay(m_app).JoinGroup());
+}
+
+Next Messenger::OpenGroupInvite() {
+    m_app.state.intMsgStep = MessageStep::InviteToGroup;
+    return OpenGroupPage(GroupWay(m_app).InviteAddress(), u"add to group"_s);
+}
+
+Next Messenger::InviteToGroup() {
+    return LeaveGroupPage(GroupWay(m_app).SubmitGroupInvite());
+}
+
+Next Messenger::OpenGroupResign() {
+    m_app.state.intMsgStep = MessageStep::ResignFromGroup;
+    return OpenGroupPage(GroupWay(m_app).ResignAddress(), u"resign"_s);
+}
+
+Next Messenger::ResignFromGroup() {
+    return LeaveGroupPage(GroupWay(m_app).SubmitGroupResign());
+}
+
+Next Messenger::OpenGroupPage(const QString& address, const QString& button) {
+    Await(u"Button"_s, button);
+    m_app.WebBrowser1().Navigate(address);
+    return Next::Wait;
+}
+
+// A page without its button would be looked at for ever.
+Next Messenger::LeaveGroupPage(bool isPressed) {
+    if (isPressed)
+        return Next::Wait;
+    m_app.state.blnSkipCurrentID = true;
+    m_app.Get<RunReport>().Remark(u"A page of the group had no button for the next step"_s);
+    m_app.state.intMsgStep = MessageStep::AfterSend;
+    return Next::Again;
 }
 
 } // namespace qlm

@@ -32,6 +32,15 @@ private:
     Next ReturnToPage();
     Next CallForCaptcha();
 
+    // Through a group, to who takes mail from its members alone. No step leads here.
+    Next JoinGroup();
+    Next OpenGroupInvite();
+    Next InviteToGroup();
+    Next OpenGroupResign();
+    Next ResignFromGroup();
+    Next LeaveGroupPage(bool isPressed);
+    Next OpenGroupPage(const QString& address, const QString& button);
+
     Next SubmitMessage();
     const SubjectAndBody& TextOfTarget();
     void WaitUntilComplete();

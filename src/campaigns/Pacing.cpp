@@ -28,6 +28,15 @@ qint32 RandomBetween(App& app, qint32 upper, qint32 lower) {
     return static_cast<qint32>(std::nearbyint(app.platform.Random().Next() * span + lower));
 }
 
+QString RandomLowerAlnum(App& app, qint32 length) {
+    static const QString letters = u"0123456789abcdefghijklmnopqrstuvwxyz"_s;
+    QString text;
+    for (qint32 i = 0; i < length; ++i)
+        text += letters.at(
+            static_cast<qsizetype>(app.platform.Random().Next() * static_cast<double>(letters.size())));
+    return text;
+}
+
 Pacing::Pacing(App& app) : m_app(app), m_dialog(app) {
     app.commands.Add(u"mnuTimeDelay_Click"_s, [this] {
         m_dialog.Show();

@@ -3,6 +3,7 @@
 
 #include "campaigns/TimeDelayDialog.h"
 
+#include <QString>
 #include <QtGlobal>
 
 namespace qlm {
@@ -30,5 +31,7 @@ private:
 
 // A random whole number from lower; by rounding it can reach upper + 1.
 qint32 RandomBetween(App& app, qint32 upper, qint32 lower);
+// So many small letters and digits.
+QString RandomLowerAlnum(App& app, qint32 length);
 
 } // namespace qlm

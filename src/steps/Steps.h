@@ -14,7 +14,17 @@ namespace GatherStep {
 enum : qint16 { None = 0, ScanPage = 3, TurnPage = 4 };
 }
 namespace FriendStep {
-enum : qint16 { None = 0, NextTarget = 5, End = 6, DecideFilter = 7, Submit = 8, AfterSend = 9 };
+enum : qint16 {
+    None = 0,
+    NextTarget = 5,
+    End = 6,
+    DecideFilter = 7,
+    Submit = 8,
+    AfterSend = 9,
+    // Through a group: no state of the machine stands for these.
+    OpenGroupInvite = 14,
+    OpenGroupResign = 16
+};
 }
 namespace MessageStep {
 enum : qint16 {

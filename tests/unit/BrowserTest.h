@@ -25,7 +25,7 @@ protected:
                 "MusicHost=music.site.example.com\nTopArtistsHost=top.site.example.com\n"
                 "ForumHost=forums.site.example.com\nSchoolHost=school.site.example.com\n"
                 "CreativeHost=creative.site.example.com\nInviteHost=invite.site.example.com\n"
-                "LinkRedirectHost=links.site.example.com\n"
+                "LinkRedirectHost=links.site.example.com\nGroupID=77\nFriendID=88\n"
                 "ProductServer=http://product.example.com\n"
                 "ProductServerAlternate=http://product2.example.com\n"_s);
         app->state.blnLoggingEnabled = true;

@@ -51,6 +51,12 @@ TEST_F(PacingTest, ASpanOfNothingGivesTheLowerBound) {
     EXPECT_EQ(Draw(0.999, 4, 5), 5);
 }
 
+TEST_F(PacingTest, ARandomTextHoldsSmallLettersAndDigits) {
+    world.random.SetNumbers({0.0, 0.27, 0.28, 0.9999});
+    EXPECT_EQ(RandomLowerAlnum(*app, 4), u"09az"_s);
+    EXPECT_EQ(RandomLowerAlnum(*app, 0), QString());
+}
+
 TEST_F(PacingTest, EqualBoundsWaitOneSecondMore) {
     SetBounds(u"5"_s, u"5"_s);
     EXPECT_EQ(Label(), u"Time Delay: ON"_s);
