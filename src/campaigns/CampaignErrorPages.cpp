@@ -91,8 +91,9 @@ void HandleCommenterErrorPage(App& app) {
     app.Get<RunReport>().RemarkPage(state.intPageClass);
     if (state.blnDailyLimitHit) {
         state.blnDailyLimitHit = false;
-        state.intComStep = CommentStep::None;
-        app.commands.Run(u"picCmdComStop_Click"_s);
+        app.Get<Cover>().Hide();
+        app.Get<StopResume>().StopAll(StopReason::DailyLimit);
+        app.Get<StopResume>().DoFinishedExit();
         return;
     }
     if (state.intComStep != CommentStep::AfterSend)

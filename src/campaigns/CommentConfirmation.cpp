@@ -16,6 +16,7 @@ namespace {
 constexpr int CompletePageSeconds = 25;
 constexpr int PostedSeconds = 10;
 const QString Posted = u"your comment has been posted"_s;
+const QString ToBeApproved = u"this user requires all comments to be approved"_s;
 const QString ConfirmedStatus = u"Comment confirmed, waiting for MySpace confirmation..."_s;
 const QString Caller = u"ConfirmComment"_s;
 
@@ -39,8 +40,10 @@ Next Commenter::Confirm() {
         WaitForConfirmPage();
     if (page.IsCaptchaPage())
         return AwaitPosted(ConfirmedStatus);
-    if (!IsPosted())
-        return PressConfirm();
+    return IsPosted() ? TakeConfirmed() : PressConfirm();
+}
+
+Next Commenter::TakeConfirmed() {
     CountOnce();
     m_app.state.intComStep = CommentStep::AfterSend;
     return Next::Again;
@@ -58,6 +61,9 @@ void Commenter::WaitForConfirmPage() {
 
 Next Commenter::PressConfirm() {
     const ConfirmButton button = FindConfirmButton(m_app.WebBrowser1().Document());
+    // A comment that its profile approves first has been taken like any other.
+    if (!button.element && m_app.Get<PageSigns>().IsTextInPage(ToBeApproved))
+        return TakeConfirmed();
     if (!button.element)
         return GiveTargetUp(u"The page that confirms it has no button"_s, Caller);
     CountOnce();

@@ -77,6 +77,7 @@ Next Commenter::LeaveStranger() {
 Next Commenter::SubmitForm() {
     if (m_app.Get<PageSigns>().IsTextInPage(Flooding)) {
         m_app.Get<StopResume>().StopAll(StopReason::Flooding);
+        m_app.Get<StopResume>().DoFinishedExit();
         return Next::Wait;
     }
     WaitForForm();

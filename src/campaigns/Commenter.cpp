@@ -151,7 +151,7 @@ Next Commenter::AfterSend() {
 void Commenter::CloseReport() {
     const RunState& state = m_app.state;
     RunReport& report = m_app.Get<RunReport>();
-    if (state.blnSkipCurrentID)
+    if (state.blnSkipCurrentID || report.HasRefusal())
         report.Close(ReportResult::Failed, u"The site did not confirm it"_s);
     else if (state.blnSkipRequested && !m_target.isPressed)
         report.Close(ReportResult::Failed, u"You pressed Skip"_s);

@@ -66,6 +66,7 @@ private:
     Next Confirm();
     void WaitForConfirmPage();
     Next PressConfirm();
+    Next TakeConfirmed();
     Next CallForCaptcha();
     void AwaitCaptchaAnswer();
     Next AwaitPosted(const QString& status);

@@ -131,6 +131,7 @@ Next Messenger::AfterSend() {
     // The wait for the confirmation may have been cut short by it.
     if (LimitIsMet())
         return Next::Wait;
+    const bool isRefused = state.blnSkipCurrentID || m_app.Get<RunReport>().HasRefusal();
     CloseReport();
     if (!IsLogged())
         RunningLog(m_app).WithdrawNote();
@@ -138,7 +139,7 @@ Next Messenger::AfterSend() {
         m_app.SetStatus(u"Message successfully sent"_s);
         m_app.Get<Pacing>().DoDelay();
     }
-    if (!state.blnMsgAfterFR && (state.blnSkipCurrentID || !IsSubmitted())) {
+    if (!state.blnMsgAfterFR && (isRefused || !IsSubmitted())) {
         ++state.lngFailedCount;
         m_app.Get<SendRuns>().ShowCounts();
     }
@@ -159,7 +160,7 @@ Next Messenger::AfterSend() {
 void Messenger::CloseReport() {
     const RunState& state = m_app.state;
     RunReport& report = m_app.Get<RunReport>();
-    if (state.blnSkipCurrentID)
+    if (state.blnSkipCurrentID || report.HasRefusal())
         report.Close(ReportResult::Failed, u"The site did not confirm it"_s);
     else if (IsSubmitted())
         report.Close(ReportResult::Unfinished);

@@ -130,6 +130,7 @@ void SendRuns::Reset(const Campaign& campaign) {
 void SendRuns::Stop(const Campaign& campaign) {
     m_app.WebBrowser1().SetSilent(true);
     m_app.WebBrowser1().Stop();
+    m_app.state.blnUserNavigated = true;
     m_app.Get<Cover>().Hide();
     m_app.Get<StopResume>().StopAll(campaign.reasons.stopped);
 }

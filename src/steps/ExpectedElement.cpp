@@ -115,6 +115,14 @@ bool IsRequestSentOrCaptcha(App& app) {
     return IsRequestSent(app) || app.Get<PageSigns>().IsCaptchaPage();
 }
 
+// A page that has taken the comment and says no more; the pages before it still have their button.
+bool IsTakenForApproval(App& app) {
+    const ShownPage page(app);
+    return page.IsComplete() && !page.Shows(u"click the button below to confirm") &&
+           !StepDispatcher::IsCommentFormBack(app) &&
+           !IsAnyTrue(app, AboutButton(app.state, u"post a comment"_s));
+}
+
 // What counts as found in place of the awaited element.
 struct StandInRow {
     ActivitySet activities;
@@ -138,6 +146,11 @@ const std::vector<StandInRow>& StandIns() {
         {FriendRequests, {FriendStep::Submit}, u"addFrdBtn", {}, IsRequestSentOrCaptcha},
         // The site may post without a page in between.
         {Comments, {CommentStep::Confirm}, u"", Says(u"your comment has been posted!"), nullptr},
+        {Comments,
+         {CommentStep::Confirm, CommentStep::AfterSend},
+         u"",
+         Says(u"this user requires all comments to be approved"),
+         IsTakenForApproval},
     };
     return rows;
 }

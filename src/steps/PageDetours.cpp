@@ -227,6 +227,7 @@ void ExplainCertificate(App& app) {
 
 void SkipMailSetUp(App& app) {
     Trace(app, u"LINKFOUND: CREATE EMAIL PAGE - SKIP!"_s);
+    Remark(app, "The site wants you to set up your mail first");
     app.Get<StopResume>().SkipProfile();
 }
 

@@ -43,6 +43,8 @@ public:
     // Says beforehand why the open target will end as it will.
     void Remark(const QString& why, int pageClass = 0);
     void RemarkPage(int pageClass);
+    // A page of the site's has refused the open target.
+    bool HasRefusal() const { return m_isOpen && m_row.pageClass != 0; }
     // The site has confirmed the request to the open target: however it ends now, it was sent.
     void Confirm();
     // The open target has been sent to, and is in the log or could not be written there: an unfinished end

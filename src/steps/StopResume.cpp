@@ -30,6 +30,7 @@ void StopResume::StopAll(StopReason reason) {
 
     m_app.waiting.OutdateSteps();
     static_cast<RunFields&>(state) = {};
+    state.strAcceptMode.clear();
 
     if (!RowOf(reason).isOwnEnd)
         EndTimedPosts();

@@ -198,12 +198,13 @@ TEST_F(ErrorPageTest, AFailedCommentGoesToItsEnd) {
     EXPECT_TRUE(said.contains(u"Comment successfully posted"_s));
 }
 
-TEST_F(ErrorPageTest, TheDailyLimitPressesTheCommentersStop) {
-    int pressed = 0;
-    app->commands.Add(u"picCmdComStop_Click"_s, [&pressed] { ++pressed; });
+TEST_F(ErrorPageTest, TheDailyLimitEndsTheRunOfComments) {
     State().intComStep = 7;
+    app->webHide().ZOrder(0);
     EXPECT_FALSE(Check(u"COM"_s, u"<p>you have exceeded your daily useage</p>"_s));
-    EXPECT_EQ(pressed, 1);
+    EXPECT_TRUE(SaidBeginningWith(u"COM stop - (LF2)"_s));
+    EXPECT_EQ(app->webHide().Position(), 1);
+    EXPECT_EQ(State().CurrentAction, QString());
     EXPECT_EQ(State().intComStep, 0);
     EXPECT_FALSE(State().blnDailyLimitHit);
 }

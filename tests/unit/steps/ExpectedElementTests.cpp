@@ -159,6 +159,31 @@ TEST_F(ExpectedElementTest, APostedCommentCountsForThePageThatConfirmsIt) {
     EXPECT_FALSE(Find(u"Button"_s, u"post a comment"_s, u"<p>Your comment has been posted!</p>"_s));
 }
 
+// The profile's owner sees it first; the site says no more.
+TEST_F(ExpectedElementTest, ACommentThatIsToBeApprovedHasBeenPosted) {
+    const QString says = u"<p>This user requires all comments to be approved</p>"_s;
+    State().CurrentAction = u"COM"_s;
+    for (const auto& [step, type, awaited] : {std::tuple(11, u"Button"_s, u"post a comment"_s),
+                                              std::tuple(8, u"Text"_s, u"your comment has been posted"_s)}) {
+        State().intComStep = static_cast<qint16>(step);
+        State().blnCommentUsedEditor = false;
+        EXPECT_TRUE(Find(type, awaited, says)) << step;
+        EXPECT_FALSE(Find(type, awaited, says, SimFault::Incomplete)) << step;
+        EXPECT_FALSE(Find(type, awaited, says + u"Click the button below to confirm"_s)) << step;
+        State().blnCommentUsedEditor = true;
+        EXPECT_FALSE(
+            Find(u"TextHTML"_s, u"not there"_s,
+                 says + u"<i id='ctl00$ctl00$cpMain$UserWriteCommentsControl$commentTextBox'></i>"_s))
+            << step;
+    }
+    State().blnCommentUsedEditor = false;
+    State().intComStep = 8;
+    const QString button = u"<input type=submit value='Post a Comment'>"_s;
+    EXPECT_FALSE(Find(u"Text"_s, u"your comment has been posted"_s, says + button));
+    State().intComStep = 6;
+    EXPECT_FALSE(Find(u"Text"_s, u"your comment has been posted"_s, says));
+}
+
 // A comment that the site wants confirmed on a page of its own.
 class CommentConfirmationTest : public ExpectedElementTest {
 protected:

@@ -25,10 +25,10 @@ TEST_F(StopResumeTest, AStopClearsWhatBelongsToTheRun) {
         &RunState::blnSkipCurrentID, &RunState::blnBulletinDeleted, &RunState::blnCommentFormShown,
         &RunState::blnSkipRequested, &RunState::blnInDelay,         &RunState::blnBulletinWaiting,
         &RunState::blnStatusWaiting, &RunState::SwitchingAccount};
-    const std::vector<QString RunState::*> texts{&RunState::CurrentAction,   &RunState::strLinkType,
-                                                 &RunState::strLinkValue,    &RunState::strLastPageText,
-                                                 &RunState::strLastPageHref, &RunState::strFRResumeURL,
-                                                 &RunState::strNextPageLink, &RunState::strCurrentID};
+    const std::vector<QString RunState::*> texts{
+        &RunState::CurrentAction,   &RunState::strLinkType,     &RunState::strLinkValue,
+        &RunState::strLastPageText, &RunState::strLastPageHref, &RunState::strFRResumeURL,
+        &RunState::strNextPageLink, &RunState::strCurrentID,    &RunState::strAcceptMode};
     for (auto number : numbers)
         state.*number = 3;
     for (auto flag : flags)
@@ -227,6 +227,20 @@ TEST_F(StopResumeTest, TheStopButtonStopsThePageToo) {
     EXPECT_EQ(app->webHide().Position(), 1);
     EXPECT_EQ(State().CurrentAction, QString());
     EXPECT_TRUE(SaidBeginningWith(u"MSG stop - (MAINSTOP)"_s));
+}
+
+TEST_F(StopResumeTest, ACampaignsStopStopsThePageAsTheWindowsDoes) {
+    for (const auto& stop : {u"picCmdMsgStop_Click"_s, u"picCmdComStop_Click"_s}) {
+        State().CurrentAction = u"MSG"_s;
+        State().blnUserNavigated = false;
+        app->webHide().ZOrder(0);
+        Browser().Navigate(u"http://www.site.example.com/slow"_s);
+        app->commands.Run(stop);
+        EXPECT_FALSE(Browser().Busy());
+        EXPECT_TRUE(State().blnUserNavigated);
+        EXPECT_EQ(app->webHide().Position(), 1);
+        EXPECT_EQ(State().CurrentAction, QString());
+    }
 }
 
 TEST_F(StopResumeTest, TheRefreshButtonIsNoNavigationOfTheUsers) {
