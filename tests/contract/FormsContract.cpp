@@ -43,6 +43,26 @@ TEST_F(FormsContract, APostSendsAllFieldsInPageOrder) {
               QByteArray("token=x%26y%3Dz&first=1&body=one%0D%0Atwo+%E2%82%AC&pick=q&on=on&act=doit"));
 }
 
+// Whoever presses Refresh, or waits for a page that has not come, sends nothing a second time.
+TEST_F(FormsContract, APageThatAFormHasLedToIsLoadedAgainWithoutTheForm) {
+    ServeBody(u"sent"_s, u"thank you"_s);
+    Show(
+        u"<form method=post action='/sent'><input name=a value=1><input type=submit id=go value=Send></form>"_s);
+    ById(u"go"_s).Click();
+    ASSERT_TRUE(WaitForText(u"thank you"_s));
+    ASSERT_TRUE(WaitUntil([this] { return !browser.Busy(); }));
+    EXPECT_EQ(LastSent().method, u"POST"_s);
+    ServeBody(u"sent"_s, u"nothing was sent"_s);
+    browser.Refresh();
+    ASSERT_TRUE(WaitForText(u"nothing was sent"_s));
+    EXPECT_EQ(browser.LocationURL(), At(u"sent"_s));
+    EXPECT_EQ(LastSent().method, u"GET"_s);
+    int posts = 0;
+    for (const ContractWorld::Request& request : world->Requests())
+        posts += request.method == u"POST" ? 1 : 0;
+    EXPECT_EQ(posts, 1);
+}
+
 TEST_F(FormsContract, SubmitSendsWithoutAnyButton) {
     ServeBody(u"sent?a=1"_s, u"thank you"_s);
     Show(u"<form id=f action='/sent'><input name=a value=1><input type=submit name=go value=Send></form>"_s);

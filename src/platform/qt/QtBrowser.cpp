@@ -119,7 +119,8 @@ void QtBrowser::Refresh() {
     m_pump.Queue().EndTurn();
     if (m_isBlank) {
         NavigateToBlank();
-    } else if (m_isError || m_calls.IsSilent()) {
+    } else if (m_isError || m_calls.IsSilent() || m_answersForm) {
+        // The engine would send the form again, without a question.
         ++m_wish;
         Load(QUrl(m_location));
     } else if (m_document) {

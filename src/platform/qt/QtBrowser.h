@@ -144,6 +144,8 @@ private:
     bool m_isProgramLoad = false;
     bool m_isOnItsWay = false; // the engine was sent to m_target and nothing has arrived yet
     bool m_isLoading = false;
+    bool m_sendsForm = false;   // what is on its way was asked for by a form
+    bool m_answersForm = false; // the document was
     QUrl m_target;
     std::vector<QUrl> m_refused; // whose end the engine has still to report
     QUrl m_failing;              // the error page for this address is on its way

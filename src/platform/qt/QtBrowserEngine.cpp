@@ -103,6 +103,7 @@ void QtBrowser::Arrive(const QString& document, const QString& url) {
     m_refused.clear();
     m_silenceLimit.stop();
     m_isOnItsWay = false;
+    m_answersForm = std::exchange(m_sendsForm, false);
     m_isProgramLoad = false;
     m_granted.clear();
     if (url == u"about:blank"_s) {

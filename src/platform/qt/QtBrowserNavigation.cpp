@@ -237,6 +237,7 @@ void QtBrowser::SetOnItsWay(const QUrl& url) {
     m_target = url;
     m_isOnItsWay = true;
     m_isLoading = true;
+    m_sendsForm = false;
     m_formLimit.stop();
 }
 
@@ -324,6 +325,7 @@ bool QtBrowser::AcceptForm(const QUrl& url) {
     m_asking.reset();
     ++m_loads;
     SetOnItsWay(url);
+    m_sendsForm = true;
     NavigationRequest request = std::exchange(m_form, {});
     request.url = url.toString(QUrl::FullyEncoded);
     request.isForm = true;

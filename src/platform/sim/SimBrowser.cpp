@@ -82,7 +82,12 @@ void SimBrowser::Reload(int historyIndex) {
     Touched();
     Supersede();
     Load load;
-    load.request = m_history[static_cast<size_t>(historyIndex)];
+    // A form is never sent again: the page is asked for by its address.
+    SimRequest& entry = m_history[static_cast<size_t>(historyIndex)];
+    entry.method = u"GET"_s;
+    entry.body.clear();
+    entry.contentType.clear();
+    load.request = entry;
     load.historyIndex = historyIndex;
     NavigationRequest question;
     question.url = load.request.url;
