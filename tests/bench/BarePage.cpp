@@ -37,14 +37,27 @@ QString BarePage::Read(const QString& script) {
     return text;
 }
 
+void BarePage::LoadBy(const QString& script) {
+    QEventLoop loop;
+    QObject::connect(&m_page, &QWebEnginePage::loadFinished, &loop, &QEventLoop::quit);
+    m_page.runJavaScript(script);
+    loop.exec();
+}
+
+QString BarePage::ReadAll() {
+    const QString text = Read(u"document.body.innerText"_s);
+    const QString markup = Read(u"document.body.innerHTML"_s);
+    if (markup.size() < text.size())
+        throw std::runtime_error("a page without markup");
+    return text;
+}
+
 double BarePage::Visit(const QStringList& addresses) {
     const long long start = NowNs();
     for (const QString& address : addresses) {
         Load(QUrl(u"about:blank"_s));
         Load(QUrl(address));
-        const QString text = Read(u"document.body.innerText"_s);
-        const QString markup = Read(u"document.body.innerHTML"_s);
-        if (!text.contains(u"Request Sent!"_s) || markup.size() < text.size())
+        if (!ReadAll().contains(u"Request Sent!"_s))
             throw std::runtime_error("no confirmation at " + address.toStdString());
     }
     return static_cast<double>(NowNs() - start) / 1e6;

@@ -20,6 +20,10 @@ public:
     // Each until it has been done.
     void Load(const QUrl& url);
     QString Read(const QString& script);
+    // Until the page that the script leads to has come.
+    void LoadBy(const QString& script);
+    // Text and markup; answers the text.
+    QString ReadAll();
 
 private:
     QWebEnginePage m_page;

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Whether a long run stays as light and as quick as it began: bench_soak [TURNS]
+// Whether a long run stays as light and as quick as it began: bench_soak [TURNS [messages]]
 //
 // One friend request after the other, as the user's own run sends them: each turn loads a blank page and a
-// request page, in the real window, on the real engine, against the practice site. The step's delay of 400 ms
-// is shortened, nothing else.
+// request page; or one message after the other: a blank page, a compose page that is filled in, and the page
+// that confirms it. In the real window, on the real engine, against the practice site. The step's delay of
+// 400 ms is shortened, nothing else.
 #include "Figures.h"
 #include "ProcessFigures.h"
 #include "RunningProgram.h"
@@ -35,6 +36,7 @@ public:
     }
 
     void PlanRequests();
+    void PlanMessages();
     bool Run() { return program.Run(); }
     void Report() const;
 
@@ -44,6 +46,7 @@ private:
         ProgramFigures figures;
     };
 
+    void PlanTurns();
     void OnTurn();
     double MeanMemory(int firstTurn, int count) const;
     double MedianTurn(int firstTurn, int count) const;
@@ -61,6 +64,24 @@ private:
 };
 
 void Soak::PlanRequests() {
+    PlanTurns();
+    program.PlanSending();
+    program.PlanReport(3600);
+}
+
+void Soak::PlanMessages() {
+    site.Tell(u"message-share sent 100"_s);
+    site.Tell(u"message-limit off"_s);
+    site.Tell(u"compose all source"_s);
+    PlanTurns();
+    program.PlanSending(u"Auto Messenger"_s, "picCmdMsgSend", [this] {
+        program.app.controls.SetText("txtMsgSubject"_L1, u"Hi &NAME&"_s);
+        program.app.controls.SetText("txtMsgMessage"_L1, u"Hello &NAME&,\r\nhow are you?"_s);
+    });
+    program.PlanReport(3600);
+}
+
+void Soak::PlanTurns() {
     // After the last turn a target more, so that it ends as all others do.
     folders.SaveList(SomeTargets(turns + 1));
     program.app.controls.AddListener([this](const Control& control, Controls::Change, int) {
@@ -68,8 +89,6 @@ void Soak::PlanRequests() {
             std::exchange(lastProgress, control.text) != control.text)
             OnTurn();
     });
-    program.PlanSending();
-    program.PlanReport(3600);
 }
 
 void Soak::OnTurn() {
@@ -140,11 +159,14 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     const int turns = argc > 1 ? std::atoi(argv[1]) : 2000;
     if (turns < 2 * qlm::MeanOver) {
-        std::fprintf(stderr, "usage: bench_soak [TURNS, at least %d]\n", 2 * qlm::MeanOver);
+        std::fprintf(stderr, "usage: bench_soak [TURNS, at least %d [messages]]\n", 2 * qlm::MeanOver);
         return 2;
     }
     qlm::Soak soak(turns);
-    soak.PlanRequests();
+    if (argc > 2 && qstrcmp(argv[2], "messages") == 0)
+        soak.PlanMessages();
+    else
+        soak.PlanRequests();
     if (!soak.Run()) {
         std::printf("The run came to no end.\n");
         return 1;

@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 
 namespace qlm::fire {
 
@@ -44,12 +45,23 @@ void WriteFile(const QString& path, const QByteArray& bytes) {
         throw std::runtime_error("cannot write " + path.toStdString());
 }
 
-// The target of a request page's address; empty for any other address.
-QString RequestedID(const QString& url) {
-    for (const QString& mark : {u"/my/friends/addtofriends/"_s, u"invite.addfriend_verify&friendID="_s})
-        if (const qsizetype at = url.indexOf(mark); at >= 0)
-            return url.mid(at + mark.size());
-    return {};
+QString LogIn(const QTemporaryDir& folder, const Campaign& campaign) {
+    return folder.filePath(u"program/"_s + QString::fromLatin1(campaign.logFile));
+}
+
+QString NotesIn(const QTemporaryDir& folder, const Campaign& campaign) {
+    return LogIn(folder, campaign).replace(u".txt"_s, u".open.txt"_s);
+}
+
+// The target of a page of the campaigns; empty for any other address.
+QString TargetOf(const QString& url) {
+    static const QRegularExpression pages(
+        u"(?:/my/friends/addtofriends/|invite\\.addfriend_verify&friendID=|/my/mail/new\\?t=|"
+        "fuseaction=mail\\.message&friendID=|user\\.viewProfile_commentForm&friendID=|"
+        "user\\.confirmComment&friendID=)(\\d+)|/(\\d+)/comments"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = pages.match(url);
+    return match.captured(match.lastCapturedIndex());
 }
 
 } // namespace
@@ -66,16 +78,16 @@ void FormsWithoutWidgets::ShowForm(const QString& form) {
         app->Get<MainForm>().Form_Load();
 }
 
-Trial::Trial(quint64 seed, int targets, bool isTraced)
-    : m_seed(seed),
+Trial::Trial(quint64 seed, int targets, const Campaign& campaign, bool isTraced)
+    : m_campaign(campaign),
+      m_seed(seed),
       m_isTraced(isTraced),
-      m_plan(seed, targets),
+      m_plan(seed, targets, campaign),
       m_dice(seed * 2),
       m_folder(FolderTemplate()),
       m_site(seed, [this] { return m_world.clock.Now(); }),
-      m_judge(m_plan, m_folder.filePath(u"program/FriendsLog.txt"_s),
-              m_folder.filePath(u"program/FriendsLog.open.txt"_s)) {
-    m_judge.trace = [this](const QString& text) { Trace(text); };
+      m_judge(MakeJudge(m_plan, LogIn(m_folder, campaign), NotesIn(m_folder, campaign))) {
+    m_judge->trace = [this](const QString& text) { Trace(text); };
 }
 
 Trial::~Trial() {
@@ -90,9 +102,10 @@ void Trial::Trace(const QString& text) const {
 
 void Trial::TraceState() {
     const RunState& state = m_app->state;
-    const QString now = u"    %1 step %2, target %3, \"%4\", at %5"_s.arg(state.CurrentAction)
-                            .arg(state.CurrentAction == u"LOGIN"_s ? state.intLoginStep : state.intFRStep)
-                            .arg(state.strCurrentID, m_app->Status(), m_app->WebBrowser1().LocationURL());
+    const QString now =
+        u"    %1 step %2, target %3, \"%4\", at %5"_s.arg(state.CurrentAction)
+            .arg(state.CurrentAction == u"LOGIN"_s ? state.intLoginStep : state.*m_campaign.activity.step)
+            .arg(state.strCurrentID, m_app->Status(), m_app->WebBrowser1().LocationURL());
     if (now != std::exchange(m_traced, now))
         Trace(now);
 }
@@ -109,6 +122,8 @@ void Trial::SetUp() {
     WriteFile(m_folder.filePath(u"program/scalemodelight.txt"_s),
               EncodeAccountLine(Account + u";secret"_s).toLatin1() + "\r\n");
     SimSettings& settings = m_world.settings;
+    if (m_isTraced)
+        settings.SaveSetting(u"General"_s, u"mnuEnableLogging"_s, u"1"_s);
     settings.SaveSetting(Fields, u"Login - chkTOS"_s, u"1"_s);
     settings.SaveSetting(Fields, u"Login - txtEmail"_s, Account);
     settings.SaveSetting(Fields, u"chkSaveScanned"_s, u"1"_s);
@@ -125,8 +140,8 @@ void Trial::SetUp() {
         return ProductAnswer(url.mid(url.indexOf(u'/', 8)), m_world.clock.Now());
     };
     m_dialogs.onMessage = [this](const QString& text) {
-        m_judge.OnMessage(*m_app, text);
-        m_isOver = m_isOver || text.startsWith(u"Finished sending friend requests."_s);
+        m_judge->OnMessage(*m_app, text);
+        m_isOver = m_isOver || text.startsWith(u"Finished sending "_s);
         if (text.startsWith(u"You have reached the maximum limit"_s) && ++m_siteStops == SiteStopsOfADay)
             LiftRefusals();
     };
@@ -137,7 +152,7 @@ void Trial::SetUp() {
 void Trial::LiftRefusals() {
     Trace(u"the site lifts its refusals"_s);
     for (const QString& line : m_plan.controls)
-        if (line.startsWith(u"refuse "_s))
+        if (line.section(u' ', 0, 0).endsWith(u"refuse"_s))
             m_site.Control(line.section(u' ', 0, 1) + u" off"_s);
         else if (line.endsWith(u" limit"_s))
             m_site.Control(line.section(u' ', 0, 1) + u" sent"_s);
@@ -149,18 +164,57 @@ SimAnswer Trial::AnswerPage(const SimRequest& request) {
         answer.html = u"<html><body><a href='/'>a short pause</a></body></html>"_s;
         return answer;
     }
-    const QString id = RequestedID(request.url);
+    const QString id = TargetOf(request.url);
+    // The word for an image that stood before the page is no text.
+    const bool isPost = request.method == u"POST" &&
+                        (request.body.contains("Hello") || request.url.contains(u"user.confirmComment"_s));
     if (!id.isEmpty())
-        m_judge.BeforeRequest(id);
+        m_judge->BeforeRequest(id, isPost);
     m_site.TakeJournal();
     answer = AnswerOf(m_site, request);
     if (!id.isEmpty())
-        m_judge.AfterRequest(id, m_site.TakeJournal(), answer.html);
+        m_judge->AfterRequest(id, m_site.TakeJournal(), answer.html);
+    // Nor does the site refuse for ever whoever tells nobody of it.
+    if (&m_campaign != &FriendRequests && answer.html.contains(u"daily useage"_s) &&
+        ++m_siteStops == SiteStopsOfADay)
+        LiftRefusals();
+    // The site's flood is over when it has been told once.
+    if (answer.html.contains(u"flooding comments"_s))
+        m_site.Control(u"comment-outcome "_s + id + u" posted"_s);
+    if (isPost)
+        Spoil(answer, id);
     return answer;
 }
 
+void Trial::Spoil(SimAnswer& answer, const QString& id) {
+    const auto reply = m_plan.replies.constFind(id);
+    if (reply == m_plan.replies.constEnd())
+        return;
+    Trace(u"the answer is spoilt"_s);
+    switch (*reply) {
+    case Plan::Reply::Reset:
+        answer.fault = SimFault::Reset;
+        break;
+    case Plan::Reply::NoBody:
+        answer.fault = SimFault::NoBody;
+        break;
+    case Plan::Reply::Hang:
+        answer.fault = SimFault::Hang;
+        break;
+    case Plan::Reply::Late:
+        answer.latencyMs = 8'000;
+        break;
+    case Plan::Reply::VeryLate:
+        answer.latencyMs = 150'000;
+        break;
+    }
+    m_plan.replies.erase(reply);
+}
+
 int Trial::StoredCount() const {
-    return m_world.settings.GetSetting(u"Counters\\"_s + Account, u"Daily Friends Count"_s, u"0"_s).toInt();
+    return m_world.settings
+        .GetSetting(u"Counters\\"_s + Account, QString::fromLatin1(m_campaign.today.key), u"0"_s)
+        .toInt();
 }
 
 void Trial::StartProgram() {
@@ -168,10 +222,11 @@ void Trial::StartProgram() {
     m_platform->Pump().onPump = [this] { Watch(); };
     m_app = std::make_unique<App>(*m_platform);
     m_dialogs.app = m_app.get();
+    m_app->diagnostics.onLine = [this](const QString& line) { Trace(u"trail: "_s + line); };
     m_standing.clear();
     m_answerAtMs = -1;
     m_pressedFor = -1;
-    m_judge.OnStart();
+    m_judge->OnStart();
     Trace(u"the program starts"_s);
     m_platform->Pump().Queue().Post([this] {
         m_app->Get<StartUp>().Main();
@@ -197,7 +252,7 @@ void Trial::LiveOn() {
     try {
         m_platform->Pump().RunUntil([this] { return m_isOver; }, LongestTrialMs);
         if (!m_isOver)
-            throw Broken(u"the program has come to rest without an end"_s);
+            throw Broken{u"the program has come to rest without an end"_s};
     } catch (const ProcessEnds&) {
         ++m_kills;
         Trace(u"the program is killed"_s);
@@ -215,13 +270,13 @@ QString Trial::Run() {
             LiveOn();
             if (m_isOver)
                 break;
-            m_judge.OnKill(StoredCount());
+            m_judge->OnKill(StoredCount());
             DropProgram();
         }
-        m_judge.Look(*m_app, StoredCount(), m_diskRefusesUntilMs >= 0);
-        m_judge.OnEnd(*m_app);
-    } catch (const std::exception& broken) {
-        return QString::fromUtf8(broken.what());
+        m_judge->Look(*m_app, StoredCount(), m_diskRefusesUntilMs >= 0);
+        m_judge->OnEnd(*m_app);
+    } catch (const Broken& broken) {
+        return broken.promise;
     }
     return {};
 }
@@ -229,12 +284,12 @@ QString Trial::Run() {
 // At each turn of the message loop, also deep inside the program's waits.
 void Trial::Watch() {
     if (++m_turnsSinceLook > MostTurnsBetweenLooks)
-        throw Broken(u"the program turns without letting time pass"_s);
+        throw Broken{u"the program turns without letting time pass"_s};
     if (m_writesSeen != m_world.gate.writes) {
         m_writesSeen = m_world.gate.writes;
-        m_judge.Look(*m_app, StoredCount(), m_diskRefusesUntilMs >= 0);
+        m_judge->Look(*m_app, StoredCount(), m_diskRefusesUntilMs >= 0);
     }
-    m_judge.Watch(*m_app, m_diskRefusesUntilMs >= 0);
+    m_judge->Watch(*m_app, m_diskRefusesUntilMs >= 0);
     if (m_isTraced)
         TraceState();
     if (m_killAtTurn >= 0 && --m_killAtTurn < 0)
@@ -250,9 +305,13 @@ void Trial::MaybeKill() {
         m_killAtTurn = m_dice.Below(300);
 }
 
-void Trial::Do(const char* command) {
-    Trace(u"user: "_s + QString::fromLatin1(command));
-    m_app->commands.Run(QString::fromLatin1(command));
+void Trial::Do(const QString& command) {
+    Trace(u"user: "_s + command);
+    m_app->commands.Run(command);
+}
+
+void Trial::Click(const char* button) {
+    Do(QString::fromLatin1(button) + u"_Click"_s);
 }
 
 // The user before the window.
@@ -260,11 +319,11 @@ void Trial::Look() {
     m_platform->Pump().Queue().PostAt(m_world.clock.NowMs() + LookEveryMs, [this] { Look(); });
     m_turnsSinceLook = 0;
     if (m_world.clock.NowMs() > LongestTrialMs)
-        throw Broken(u"the trial takes longer than a day"_s);
+        throw Broken{u"the trial takes longer than a day"_s};
     MaybeKill();
     if (m_diskRefusesUntilMs >= 0 && m_world.clock.NowMs() > m_diskRefusesUntilMs) {
         m_world.gate.readOnlyFolders.clear();
-        m_judge.Look(*m_app, StoredCount(), true);
+        m_judge->Look(*m_app, StoredCount(), true);
         m_diskRefusesUntilMs = -1;
     } else if (m_diskRefusesUntilMs < 0 && m_dice.Happens(m_plan.refusedDisksInThousandLooks)) {
         Trace(u"the disk refuses"_s);
@@ -282,45 +341,52 @@ void Trial::LookAtIdleProgram() {
     if (m_isOver || !isLoggedIn)
         return;
     if (++m_runs > MostRuns)
-        throw Broken(u"the run doesn't come to its end"_s);
+        throw Broken{u"the run doesn't come to its end"_s};
     Controls& controls = m_app->controls;
     controls.SetTicked("chkRemoveAfterSent"_L1, m_plan.removeAfterSent);
     controls.SetTicked("mnuSkipProfileCAPTCHAs"_L1, m_plan.skipCaptchas);
-    controls.SetText("cboFRPerDayOrSession"_L1, m_plan.limitPerDay ? u"per day"_s : u"this session"_s);
+    controls.SetText(m_campaign.period, m_plan.limitPerDay ? u"per day"_s : u"this session"_s);
     // A limit for the day that has been reached would let one more out at each start.
     m_limitLifted =
         m_limitLifted || (m_plan.limitPerDay && StoredCount() >= m_plan.limit && m_dice.Happens(500));
     const bool limited = m_plan.limit > 0 && !m_limitLifted;
-    controls.SetText("txtFriendRequestsToSend"_L1, limited ? QString::number(m_plan.limit) : QString());
+    controls.SetText(m_campaign.amount, limited ? QString::number(m_plan.limit) : QString());
+    if (!m_campaign.checkLogBox.isEmpty())
+        controls.SetTicked(m_campaign.checkLogBox, true);
+    if (!m_campaign.content.subject.isEmpty())
+        controls.SetText(m_campaign.content.subject, u"Hi &NAME&"_s);
+    if (!m_campaign.content.text.isEmpty())
+        controls.SetText(m_campaign.content.text,
+                         m_plan.holdsMarkup ? u"<b>Hello</b> &NAME&"_s : u"Hello &NAME&,\r\nhow are you?"_s);
     m_app->state.blnNewLayout = !m_plan.oldLayout;
-    m_judge.OnRun(m_app->state.lngDailyFR);
-    Do("piccmdAddFriends_Click");
+    m_judge->OnRun(m_app->state.*m_campaign.today.count);
+    Click(m_campaign.send);
 }
 
 void Trial::LookAtRunningProgram() {
     const RunState& state = m_app->state;
     const QString standing = state.CurrentAction + QString::number(state.lngTargetNumber) + u' ' +
-                             QString::number(state.intFRStep) + QString::number(state.intLoginStep) +
-                             state.strLinkValue;
+                             QString::number(state.*m_campaign.activity.step) +
+                             QString::number(state.intLoginStep) + state.strLinkValue;
     if (standing != m_standing) {
         m_standing = standing;
         m_standingSinceMs = m_world.clock.NowMs();
     }
     const qint64 standsMs = m_world.clock.NowMs() - m_standingSinceMs;
     if (standsMs > LongestStandMs)
-        throw Broken(u"the program waits without an end at "_s + m_app->Status());
-    if (state.CurrentAction != u"FR"_s || AnswerCaptcha())
+        throw Broken{u"the program waits without an end at "_s + m_app->Status()};
+    if (state.CurrentAction != m_campaign.Word() || AnswerCaptcha())
         return;
     PressOldButton();
     const bool isTold = !m_app->controls.Text("lblWaitingFor"_L1).isEmpty();
     if (standsMs > SilentWaitMs && !isTold)
-        throw Broken(u"a wait of two minutes isn't told: "_s + m_app->Status());
+        throw Broken{u"a wait of two minutes isn't told: "_s + m_app->Status()};
     if (isTold || m_dice.Happens(m_plan.skipsInThousandLooks)) {
-        m_judge.OnUserGivesUp(state.strCurrentID);
-        Do("picSkip_Click");
+        m_judge->OnUserGivesUp(state.strCurrentID);
+        Click("picSkip");
     } else if (m_dice.Happens(m_plan.stopsInThousandLooks)) {
-        m_judge.OnUserGivesUp(state.strCurrentID);
-        Do("piccmdAddFriendsStop_Click");
+        m_judge->OnUserGivesUp(state.strCurrentID);
+        Click(m_campaign.stop);
     }
 }
 
@@ -338,19 +404,26 @@ bool Trial::AnswerCaptcha() {
         return true;
     m_answerAtMs = -1;
     const bool errs = m_dice.Happens(300);
-    // The site's own gate before a page that isn't about a request has a word for everybody.
-    const bool isGate = m_app->WebBrowser1().LocationURL().endsWith(u"/classic"_s);
-    const qint64 target = isGate ? 0 : m_app->state.strCurrentID.toLongLong();
-    field.SetValue(errs ? u"surely-not"_s : m_site.CaptchaWord(AccountID, target));
+    field.SetValue(errs ? u"surely-not"_s : m_site.CaptchaWord(AccountID, AskedTarget()));
     Trace(errs ? u"user: a wrong answer"_s : u"user: the right answer"_s);
-    document.GetElementById(u"addFrdBtn"_s).Click();
+    const std::vector<Element> confirming = document.GetElementsByName(u"confirmComment"_s);
+    (confirming.empty() ? document.GetElementById(u"addFrdBtn"_s) : confirming.front()).Click();
     return true;
+}
+
+// Whom the image on the page is about; a gate's is about nobody.
+qint64 Trial::AskedTarget() const {
+    static const QRegularExpression image(u"/captcha/(\\d+)-"_s);
+    for (const Element& each : m_app->WebBrowser1().Document().Images())
+        if (const auto match = image.match(each.Read(ElementText::Src)); match.hasMatch())
+            return match.captured(1).toLongLong();
+    return 0;
 }
 
 // On the older page nothing but its button sends the request, and no step presses it.
 void Trial::PressOldButton() {
     const qint32 target = m_app->state.lngTargetNumber;
-    if (!m_plan.oldLayout || target == m_pressedFor || !m_dice.Happens(300))
+    if (&m_campaign != &FriendRequests || !m_plan.oldLayout || target == m_pressedFor || !m_dice.Happens(300))
         return;
     const Document document = m_app->WebBrowser1().Document();
     const Element button = document.IsNull() ? Element() : document.GetElementById(u"addFrdBtn"_s);

@@ -29,14 +29,14 @@ public:
 // whatever the site, the disk and the process do meanwhile.
 class Trial {
 public:
-    Trial(quint64 seed, int targets, bool isTraced);
+    Trial(quint64 seed, int targets, const Campaign& campaign, bool isTraced);
     ~Trial();
 
     // Nothing, or the promise that was broken.
     QString Run();
 
     const Plan& ThePlan() const { return m_plan; }
-    const Judge& TheJudge() const { return m_judge; }
+    const Judge& TheJudge() const { return *m_judge; }
     int Kills() const { return m_kills; }
     qint64 VirtualSeconds() const { return m_world.clock.NowMs() / 1000; }
 
@@ -54,11 +54,15 @@ private:
     bool AnswerCaptcha();
     void PressOldButton();
     void MaybeKill();
-    void Do(const char* command);
+    void Do(const QString& command);
+    void Click(const char* button);
+    qint64 AskedTarget() const;
+    void Spoil(SimAnswer& answer, const QString& id);
     int StoredCount() const;
     void Trace(const QString& text) const;
     void TraceState();
 
+    const Campaign& m_campaign;
     const quint64 m_seed;
     const bool m_isTraced;
     Plan m_plan;
@@ -67,7 +71,7 @@ private:
     SimWorld m_world;
     practice::PracticeSite m_site;
     FormsWithoutWidgets m_dialogs;
-    Judge m_judge;
+    std::unique_ptr<Judge> m_judge;
     std::unique_ptr<SimPlatform> m_platform;
     std::unique_ptr<App> m_app;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// quillmere-fire: many runs of the friend requester against a site, a disk and a process that fail. Each seed
+// quillmere-fire: many runs of a campaign against a site, a disk and a process that fail. Each seed
 // is a run of its own, from a list of 500 to its end; the same seed is the same run.
 #include "Trial.h"
 
@@ -21,29 +21,42 @@ struct Options {
     int targets = 500;
     int processes = 1;
     bool isTraced = false;
+    QString campaign = u"requests"_s;
+
+    const qlm::Campaign& TheCampaign() const {
+        return campaign == u"messages"   ? qlm::Messages
+               : campaign == u"comments" ? qlm::Comments
+                                         : qlm::FriendRequests;
+    }
 };
 
 Options Read(const QCoreApplication& application) {
     QCommandLineParser parser;
-    parser.setApplicationDescription(u"Runs the friend requester under fire, a run for each seed."_s);
+    parser.setApplicationDescription(u"Runs a campaign under fire, a run for each seed."_s);
     parser.addHelpOption();
-    parser.addOptions({{u"seeds"_s, u"How many seeds."_s, u"number"_s, u"20"_s},
-                       {u"first"_s, u"The first of them."_s, u"seed"_s, u"1"_s},
-                       {u"step"_s, u"The distance from one to the next."_s, u"number"_s, u"1"_s},
-                       {u"targets"_s, u"Profiles on the list."_s, u"number"_s, u"500"_s},
-                       {u"processes"_s, u"How many work side by side."_s, u"number"_s, u"1"_s},
-                       {u"trace"_s, u"Tells what happens, with the virtual time."_s}});
+    parser.addOptions(
+        {{u"seeds"_s, u"How many seeds."_s, u"number"_s, u"20"_s},
+         {u"first"_s, u"The first of them."_s, u"seed"_s, u"1"_s},
+         {u"step"_s, u"The distance from one to the next."_s, u"number"_s, u"1"_s},
+         {u"targets"_s, u"Profiles on the list."_s, u"number"_s, u"500"_s},
+         {u"processes"_s, u"How many work side by side."_s, u"number"_s, u"1"_s},
+         {u"campaign"_s, u"\"requests\", \"messages\" or \"comments\"."_s, u"word"_s, u"requests"_s},
+         {u"trace"_s, u"Tells what happens, with the virtual time."_s}});
     parser.process(application);
-    return {parser.value(u"first"_s).toULongLong(), parser.value(u"seeds"_s).toInt(),
-            parser.value(u"step"_s).toInt(),        parser.value(u"targets"_s).toInt(),
-            parser.value(u"processes"_s).toInt(),   parser.isSet(u"trace"_s)};
+    return {parser.value(u"first"_s).toULongLong(),
+            parser.value(u"seeds"_s).toInt(),
+            parser.value(u"step"_s).toInt(),
+            parser.value(u"targets"_s).toInt(),
+            parser.value(u"processes"_s).toInt(),
+            parser.isSet(u"trace"_s),
+            parser.value(u"campaign"_s)};
 }
 
 // A line for each seed; a parent process counts them.
 bool RunSeed(quint64 seed, const Options& options) {
     QElapsedTimer time;
     time.start();
-    Trial trial(seed, options.targets, options.isTraced);
+    Trial trial(seed, options.targets, options.TheCampaign(), options.isTraced);
     const QString broken = trial.Run();
     const Judge& judge = trial.TheJudge();
     std::printf(
@@ -53,8 +66,10 @@ bool RunSeed(quint64 seed, const Options& options) {
         trial.Kills(), static_cast<long long>(trial.VirtualSeconds() / 60),
         static_cast<long long>(time.elapsed()));
     if (!broken.isEmpty())
-        std::printf("  %s\n  repeat: quillmere-fire --first %llu --seeds 1 --targets %d --trace\n",
-                    qPrintable(broken), static_cast<unsigned long long>(seed), options.targets);
+        std::printf(
+            "  %s\n  repeat: quillmere-fire --campaign %s --first %llu --seeds 1 --targets %d --trace\n",
+            qPrintable(broken), qPrintable(options.campaign), static_cast<unsigned long long>(seed),
+            options.targets);
     std::fflush(stdout);
     return broken.isEmpty();
 }
@@ -79,7 +94,7 @@ int RunProcesses(const Options& options) {
         worker->start(QCoreApplication::applicationFilePath(),
                       {u"--first"_s, QString::number(options.first + static_cast<quint64>(i)), u"--seeds"_s,
                        QString::number(share), u"--step"_s, QString::number(options.processes),
-                       u"--targets"_s, QString::number(options.targets)});
+                       u"--targets"_s, QString::number(options.targets), u"--campaign"_s, options.campaign});
         workers.push_back(std::move(worker));
     }
     int passed = 0;

@@ -21,14 +21,20 @@ RunningProgram::~RunningProgram() {
     m_dialogs.Detach();
 }
 
-void RunningProgram::PlanSending() {
+void RunningProgram::PlanLogin(std::function<void()> next) {
     driver.Add({u"The login screen"_s, 60, [this] { return driver.Form("frmInteken") != nullptr; },
                 [this] { driver.Press("frmInteken", "cmdContinue"); }});
-    driver.Add({u"The login"_s, 60, [this] { return app.Status() == u"Login successful!"_s; },
-                [this] { driver.ChooseTab(u"Friend Requester"_s); }});
-    driver.Add({u"The Friend Requester"_s, 10,
-                [this] { return driver.Find("frmMain", "piccmdAddFriends") != nullptr; },
-                [this] { driver.Press("frmMain", "piccmdAddFriends"); }});
+    driver.Add(
+        {u"The login"_s, 60, [this] { return app.Status() == u"Login successful!"_s; }, std::move(next)});
+}
+
+void RunningProgram::PlanSending(const QString& tab, const char* send, std::function<void()> fillIn) {
+    PlanLogin([this, tab] { driver.ChooseTab(tab); });
+    driver.Add({tab, 10, [this, send] { return driver.Find("frmMain", send) != nullptr; },
+                [this, send, fillIn = std::move(fillIn)] {
+                    fillIn();
+                    driver.Press("frmMain", send);
+                }});
 }
 
 void RunningProgram::PlanReport(int limitSeconds) {

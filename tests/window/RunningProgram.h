@@ -18,8 +18,12 @@ public:
     explicit RunningProgram(const UsedProgram& folders, int clockRate = 1);
     ~RunningProgram();
 
-    // Adds the steps up to the press on Send.
-    void PlanSending();
+    // Adds the steps up to the end of the login, and what comes next.
+    void PlanLogin(std::function<void()> next);
+    // Adds the steps up to the press on Send of that tab, filled in before it.
+    void PlanSending(
+        const QString& tab = QStringLiteral("Friend Requester"), const char* send = "piccmdAddFriends",
+        std::function<void()> fillIn = [] {});
     // Adds the step that waits for the run's report and ends.
     void PlanReport(int limitSeconds);
     // From the program's start until the driver has ended. False when the driver met a problem.
