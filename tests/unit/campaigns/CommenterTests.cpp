@@ -1,73 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "BrowserTest.h"
-#include "campaigns/Campaigns.h"
+#include "CommenterTest.h"
 #include "campaigns/Commenter.h"
-#include "campaigns/OpenNotes.h"
-#include "campaigns/SentLog.h"
-#include "gather/GatheredList.h"
 #include "steps/RunReport.h"
 
 #include <utility>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace qlm {
 namespace {
 
 // Whether the site shows the newer or the older comment page.
-class CommenterTest : public BrowserTest, public testing::WithParamInterface<bool> {
+class CommenterTest : public CommentRun, public testing::WithParamInterface<bool> {
 protected:
-    CommenterTest() {
-        ShowPages();
-        Prepare();
-    }
+    CommenterTest() : CommentRun(GetParam()) {}
 
-    void ShowPages() {
-        const QString comments = app->Expand(u"http://{CommentHost}/"_s);
-        SetPage(comments + u"done"_s, u"Your comment has been posted!"_s);
-        SetPage(app->Expand(u"http://{SiteRootHost}/posted"_s), u"x"_s);
-        for (const QString& id : {u"1001"_s, u"1002"_s}) {
-            SetPage(app->Expand(u"http://{SiteRootHost}/%1/comments"_s).arg(id), NewPage(id));
-            SetPage(comments + u"index.cfm?fuseaction=user.viewProfile_commentForm&friendID="_s + id,
-                    OldPage(id));
-            SetPage(comments + u"confirm/"_s + id,
-                    u"<form method=post action=/done><input type=submit value='Post a Comment'></form>"_s);
-        }
-    }
-    void SetPage(const QString& url, const QString& body) {
-        world.web.SetPage(url, u"<html><body><a href='/home'>Home</a>"_s + body + u"</body></html>"_s);
-    }
-    static QString NewPage(const QString& id) {
-        return u"<p id=hint>Post a comment...</p>"
-               "<form id=form method=post action='/posted?%1' target=sink><div id=frame>"
-               "<textarea id=box name=comment placeholder='Post a comment' data-on-input='hide #hint'"
-               " data-on-focus='set #frame class absolute'></textarea></div></form>"
-               "<iframe name=sink srcdoc=x></iframe>"
-               "<button data-on-click='submit #form'>Post</button>"_s.arg(id);
-    }
-    QString OldPage(const QString& id) {
-        return app->Expand(
-            u"<a href='http://{ProfileHost}/index.cfm?fuseaction=user.viewprofile&friendID=1'>x"
-            "</a><form method=post action='/confirm/%1'><textarea name=commentText></textarea>"
-            "<input type=submit value='Post a Comment'></form>"_s.arg(id));
-    }
-
-    // A program that has just been started.
-    void Prepare() {
-        State().blnNewLayout = GetParam();
-        for (const QString& id : {u"1001"_s, u"1002"_s})
-            app->Get<GatheredList>().Add(id, u"test"_s);
-        app->controls.SetText("txtComment"_L1, u"Hello"_s);
-        app->controls.SetText("txtAcceptComment"_L1, u"Welcome"_s);
-        app->controls.SetTicked("chkComDontSendAgain"_L1, true);
-    }
-    void Run() {
-        app->commands.Run(u"picCmdComSend_Click"_s);
-        RunOn();
-    }
-    void RunOn() {
-        platform->Pump().RunUntil([this] { return State().CurrentAction != u"COM"_s; }, 600'000);
-    }
     void RunAccepting(const QStringList& ids) {
         State().strAcceptMode = u"COM"_s;
         State().CurrentAction = u"COM"_s;
@@ -77,19 +22,6 @@ protected:
         app->Get<Commenter>().IterateSendComments();
         RunOn();
     }
-    // What was posted to whom, since the last look.
-    QStringList Posted() {
-        QStringList posted;
-        for (const auto& form : Browser().TakePosted())
-            if (form.url.contains(u"/posted?"_s) || form.url.contains(u"/confirm/"_s))
-                posted += form.url.right(4) + u' ' + form.fields.at(0).value;
-        return posted;
-    }
-    QStringList Log() {
-        const QString path = SentLog(*app, &Comments).Path();
-        return app->files.FileExists(path) ? app->files.ReadLines(path) : QStringList();
-    }
-    QStringList Notes() { return OpenNotes(app->files, SentLog(*app, &Comments).Path()).All(); }
 };
 
 INSTANTIATE_TEST_SUITE_P(Layouts, CommenterTest, testing::Values(true, false));
@@ -132,11 +64,8 @@ TEST_P(CommenterTest, AnAcceptedFriendIsLoggedAndPassedOverByWish) {
 
 // The page on which the accepter's friend refuses HTML.
 TEST_P(CommenterTest, AnAcceptedFriendWhoseProfileRefusesHtmlIsSkippedByTheOption) {
-    SetPage(app->Expand(u"http://{SiteRootHost}/1001/comments"_s),
-            NewPage(u"1001"_s) + u"This user disables HTML comments"_s);
-    SetPage(app->Expand(
-                u"http://{CommentHost}/index.cfm?fuseaction=user.viewProfile_commentForm&friendID=1001"_s),
-            OldPage(u"1001"_s) + u"This user disables HTML comments"_s);
+    SetPage(CommentPage(u"1001"_s),
+            (GetParam() ? NewPage(u"1001"_s) : OldPage(u"1001"_s)) + u"This user disables HTML comments"_s);
     RunAccepting({u"1001"_s, u"1002"_s});
     EXPECT_EQ(Posted(), QStringList{u"1002 Welcome"_s});
     app->controls.SetTicked("optACCcomHTMLBLocked(1)"_L1, true);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What may arrive in the waits of a message: the user, a power cut, a page of somebody else's.
+#include "MeetInWait.h"
 #include "MessengerTest.h"
 #include "campaigns/Campaigns.h"
 #include "campaigns/OpenNotes.h"
@@ -23,67 +24,145 @@ TEST_F(MessengerTest, AStrangersPageWithTheSameFormGetsNothing) {
                     .contains(u"A page that is not the site's came; nothing was typed into it"_s));
 }
 
-// The waits of a step, each by a page that never ends it, and what may come in it.
+// A wait of a step, by pages that never end it.
 struct Wait {
     const char* name;
-    const char16_t* status; // that says that the wait has begun
-    const char16_t* body;   // of the page that takes the message
-    bool isPressed;         // the message is out by then
+    const char16_t* form;          // the body of the page that takes the message
+    const char16_t* answer = u"x"; // and of the one after it
+    SimFault formFault = SimFault::None;
+    SimFault answerFault = SimFault::None;
+    // What tells that it stands, and how long it has to stand like that until something arrives.
+    const char16_t* status;
+    int standsMs;
+    bool isTyped = false;
+    int posts = 0;
+    const char16_t* saysFor = u""; // what the window says that is waited for
+    bool isPressed = false;        // the message is out by then
 };
 
 void PrintTo(const Wait& wait, std::ostream* stream) {
     *stream << wait.name;
 }
 
+#define FORM u"<form method=post action='http://www.site.example.com/sent'>"
+#define DRAFT u"<input type=hidden name=to value=1001><input type=submit value='Save Draft'>"
+#define SEND u"<textarea id=box name=Mailbody></textarea><input type=submit value=Send>"
+#define LEAVES                                                                                               \
+    u"<textarea id=box name=Mailbody data-on-input='goto /hangs'></textarea><input type=submit value=Send>"
+constexpr const char16_t* Loading = u"Waiting for message page to finish loading...";
+constexpr const char16_t* Sent = u"Message sent, waiting for confirmation page...";
+
+// The page of the first one is gone after the judge has found its button, and before the step begins.
+constexpr Wait Waits[] = {
+    {.name = "Body",
+     .form = u"<p data-on-load='after 3100ms goto /bodiless'></p>" FORM DRAFT SEND,
+     .status = u"Sending message to ID 1001...",
+     .standsMs = 130'000,
+     .saysFor = u" for a page with a body. "},
+    {.name = "Draft",
+     .form = FORM SEND,
+     .status = Loading,
+     .standsMs = 130'000,
+     .saysFor = u" for \"Save Draft\" on the page. "},
+    {.name = "CompleteForm",
+     .form = FORM DRAFT SEND,
+     .formFault = SimFault::Incomplete,
+     .status = Loading,
+     .standsMs = 8'000},
+    {.name = "CompleteTyped",
+     .form = FORM DRAFT LEAVES,
+     .status = u"Submitting message...",
+     .standsMs = 8'000,
+     .isTyped = true},
+    {.name = "CompleteAnswer",
+     .form = FORM DRAFT SEND,
+     .answerFault = SimFault::Incomplete,
+     .status = Sent,
+     .standsMs = 8'000,
+     .posts = 1,
+     .isPressed = true},
+    {.name = "Span",
+     .form = u"Save Draft<button id=butbtnSend>send</button><span id=spanbtnSend>Send</span>",
+     .status = Sent,
+     .standsMs = 1'500,
+     .isPressed = true},
+    {.name = "CompleteCaptcha",
+     .form = FORM DRAFT SEND,
+     .answer = u"Please enter the image text",
+     .answerFault = SimFault::Incomplete,
+     .status = u"Waiting for user to enter and submit CAPTCHA...",
+     .standsMs = 130'000,
+     .posts = 1,
+     .saysFor = u" for the page to be complete. ",
+     .isPressed = true},
+};
+#undef LEAVES
+#undef SEND
+#undef DRAFT
+#undef FORM
+
 class MessengerWaitTest : public MessengerTest, public testing::WithParamInterface<Wait> {
 protected:
-    // Until the run stands in that wait.
-    void BeginWait() {
+    MessengerWaitTest() {
+        const Wait& wait = GetParam();
         People({u"1001"_s, u"1002"_s});
-        world.web.SetPage(SentPage, u"<html><body>Something else</body></html>"_s);
-        world.web.SetPage(NewPage + u"1001"_s,
-                          u"<html><body>"_s + QString::fromUtf16(GetParam().body) + u"</body></html>"_s);
-        app->controls.AddListener([this](const Control&, Controls::Change, int) {
-            if (!m_isIn && app->Status() == QString::fromUtf16(GetParam().status)) {
-                m_isIn = true;
-                app->Pump().Queue().Post([this] { act(); });
-            }
-        });
+        SetPage(NewPage + u"1001"_s, wait.form, wait.formFault);
+        SetPage(SentPage, wait.answer, wait.answerFault);
+        world.web.SetFault(u"http://www.site.example.com/bodiless"_s, SimFault::NoBody);
+        world.web.SetFault(u"http://www.site.example.com/hangs"_s, SimFault::Hang);
+    }
+    void SetPage(const QString& url, const char16_t* body, SimFault fault) {
+        SimAnswer answer;
+        answer.html = u"<html><body>"_s + QString::fromUtf16(body) + u"</body></html>"_s;
+        answer.fault = fault;
+        world.web.SetAnswer(url, answer);
+    }
+
+    void MeetInWait(const std::function<void()>& act) {
         Start();
-        for (int i = 0; i < 30 && !m_isIn; ++i)
-            platform->Pump().RunFor(500);
-        platform->Pump().RunFor(2000);
-        EXPECT_TRUE(m_isIn);
+        const QString says = QString::fromUtf16(GetParam().saysFor);
+        const auto actThere = [&] {
+            const QString said = app->controls.Text("lblWaitingFor"_L1);
+            EXPECT_TRUE(says.isEmpty() ? said.isEmpty() : said.contains(says)) << said.toStdString();
+            act();
+        };
+        EXPECT_TRUE(qlm::MeetInWait(
+            platform->Pump(), [this] { return Stands(); }, GetParam().standsMs, actThere));
+    }
+    // Within the step, and not before it.
+    bool Stands() {
+        const Wait& wait = GetParam();
+        const Document page = Browser().Document();
+        const Element box = page ? page.GetElementById(u"box"_s) : Element();
+        return State().strCurrentID == u"1001" && app->Status() == QString::fromUtf16(wait.status) &&
+               (State().blnLinkFound || wait.isPressed) && (!box || box.Value().isEmpty() != wait.isTyped) &&
+               int(Browser().PostedForms().size()) == wait.posts;
     }
     QStringList LoggedOf1001() { return Log().filter(u"1001"_s); }
     QStringList Expected() { return GetParam().isPressed ? QStringList{u"1001"_s} : QStringList(); }
-
-    std::function<void()> act;
-
-private:
-    bool m_isIn = false;
 };
 
-constexpr Wait Waits[] = {
-    {"Draft", u"Waiting for message page to finish loading...", u"<input type=submit value=Send>", false},
-    {"Span", u"Message sent, waiting for confirmation page...",
-     u"Save Draft<button id=butbtnSend>send</button><span id=spanbtnSend>Send</span>", true},
-};
-INSTANTIATE_TEST_SUITE_P(Each, MessengerWaitTest, testing::ValuesIn(Waits));
+INSTANTIATE_TEST_SUITE_P(Each, MessengerWaitTest, testing::ValuesIn(Waits),
+                         [](const auto& wait) { return wait.param.name; });
 
+// The user goes on to a page like those of the run.
 TEST_P(MessengerWaitTest, StopIsTheLastWord) {
-    act = [this] { app->commands.Run(u"picStop_Click"_s); };
-    BeginWait();
+    MeetInWait([this] {
+        app->commands.Run(u"picStop_Click"_s);
+        Browser().TakePosted();
+        Browser().Navigate(NewPage + u"1002"_s);
+    });
     EXPECT_EQ(State().CurrentAction, QString());
     EXPECT_EQ(LoggedOf1001(), Expected());
-    Finish(30);
+    platform->Pump().RunFor(30'000);
+    EXPECT_EQ(Posted(), QStringList());
+    EXPECT_EQ(Browser().Document().GetElementsByName(u"Mailbody"_s).front().Value(), QString());
     EXPECT_FALSE(Log().contains(u"1002"_s));
     EXPECT_EQ(State().arrFriendIDs.size(), 2);
 }
 
 TEST_P(MessengerWaitTest, SkipGoesToTheNextTargetAlone) {
-    act = [this] { app->Get<StopResume>().SkipProfile(); };
-    BeginWait();
+    MeetInWait([this] { app->Get<StopResume>().SkipProfile(); });
     EXPECT_EQ(LoggedOf1001(), Expected());
     EXPECT_EQ(State().lngFailedCount, GetParam().isPressed ? 0 : 1);
     for (int i = 0; i < 100 && !Log().contains(u"1002"_s); ++i)
@@ -92,12 +171,12 @@ TEST_P(MessengerWaitTest, SkipGoesToTheNextTargetAlone) {
 }
 
 TEST_P(MessengerWaitTest, ASecondStartBeginsAnewAndSendsNobodyTwice) {
-    act = [this] {
+    MeetInWait([this] {
         world.web.SetPage(NewPage + u"1001"_s, Form(u"1001"_s));
         world.web.SetPage(SentPage, u"<html><body>Your message has been sent!</body></html>"_s);
         Start();
-    };
-    BeginWait();
+    });
+    Browser().TakePosted();
     Finish(60);
     EXPECT_EQ(Log().filter(u"1001"_s).size(), 1);
     EXPECT_EQ(Posted().filter(u"1001"_s).size(), GetParam().isPressed ? 0 : 1);
@@ -105,9 +184,7 @@ TEST_P(MessengerWaitTest, ASecondStartBeginsAnewAndSendsNobodyTwice) {
 }
 
 TEST_P(MessengerWaitTest, TheEndOfTheProgramLeavesTheWait) {
-    act = [this] { State().blnClosing = true; };
-    // Without an end of the wait the message loop would not come back.
-    BeginWait();
+    MeetInWait([this] { State().blnClosing = true; });
     EXPECT_EQ(LoggedOf1001(), Expected());
 }
 
