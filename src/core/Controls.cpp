@@ -97,9 +97,15 @@ void Controls::SetTicked(QLatin1StringView name, bool ticked) {
     Notify(control, Change::Ticked);
 }
 
-void Controls::SetItems(QLatin1StringView name, const QStringList& items) {
+bool Controls::RowTicked(QLatin1StringView name, int row) const {
+    const std::vector<bool>& ticks = (*this)[name].rowTicks;
+    return row >= 0 && row < static_cast<int>(ticks.size()) && ticks[static_cast<size_t>(row)];
+}
+
+void Controls::SetItems(QLatin1StringView name, const QStringList& items, const std::vector<bool>& rowTicks) {
     Control& control = Get(name);
     control.items = items;
+    control.rowTicks = rowTicks;
     control.selected = -1;
     Notify(control, Change::Items);
 }
@@ -113,6 +119,8 @@ void Controls::AddItem(QLatin1StringView name, const QString& item) {
 void Controls::RemoveItem(QLatin1StringView name, int row) {
     Control& control = Get(name);
     control.items.removeAt(row);
+    if (row < static_cast<int>(control.rowTicks.size()))
+        control.rowTicks.erase(control.rowTicks.begin() + row);
     if (control.selected == row)
         control.selected = -1;
     else if (control.selected > row)
@@ -127,6 +135,14 @@ void Controls::SetSelected(QLatin1StringView name, int row) {
         control.text = control.items.at(valid);
     control.selected = valid;
     Notify(control, Change::Selected);
+}
+
+void Controls::SetRowTicked(QLatin1StringView name, int row, bool ticked) {
+    Control& control = Get(name);
+    if (row < 0 || row >= static_cast<int>(control.rowTicks.size()) || RowTicked(name, row) == ticked)
+        return;
+    control.rowTicks[static_cast<size_t>(row)] = ticked;
+    Notify(control, Change::RowTicked, row);
 }
 
 void Controls::SetEnabled(QLatin1StringView name, bool enabled) {

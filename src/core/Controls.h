@@ -90,8 +90,9 @@ struct Control {
     QLatin1StringView group;         // option buttons of one group exclude one another
     QString text; // caption of a label, button, box or item; content of a text or combo box
     bool ticked = false;
-    QStringList items; // rows of a list or combo box
-    int selected = -1; // row; -1 none
+    QStringList items;          // rows of a list or combo box
+    std::vector<bool> rowTicks; // of a list whose rows have boxes; rows beyond it have none
+    int selected = -1;          // row; -1 none
     bool enabled = true;
     bool visible = true;
     QString toolTip;
@@ -107,6 +108,7 @@ public:
         Items,
         RowAdded,
         RowRemoved,
+        RowTicked,
         Selected,
         Enabled,
         Visible,
@@ -114,7 +116,7 @@ public:
         Pointer,
         Focus
     };
-    // row is the row that was added or removed.
+    // row is the row that was added, removed or ticked.
     using Listener = std::function<void(const Control&, Change, int row)>;
 
     Controls();
@@ -135,14 +137,17 @@ public:
     void ListBoxToArray(QLatin1StringView name, QStringList& array) const;
     // Text of the selected row; empty when there is none.
     QString SelectedText(QLatin1StringView name) const;
+    bool RowTicked(QLatin1StringView name, int row) const;
 
     void SetText(QLatin1StringView name, const QString& text);
     // Ticking an option button unticks the others of its group.
     void SetTicked(QLatin1StringView name, bool ticked);
-    void SetItems(QLatin1StringView name, const QStringList& items);
+    void SetItems(QLatin1StringView name, const QStringList& items, const std::vector<bool>& rowTicks = {});
     void AddItem(QLatin1StringView name, const QString& item);
     void RemoveItem(QLatin1StringView name, int row);
     void SetSelected(QLatin1StringView name, int row);
+    // Of a row without a box nothing changes.
+    void SetRowTicked(QLatin1StringView name, int row, bool ticked);
     void SetEnabled(QLatin1StringView name, bool enabled);
     void SetVisible(QLatin1StringView name, bool visible);
     void SetToolTip(QLatin1StringView name, const QString& toolTip);

@@ -8,6 +8,7 @@
 
 namespace qlm {
 
+// webPreview is sealed from the start.
 enum class BrowserName { WebBrowser1, webHide, webTemp, webNews, webPreview };
 
 // A navigation that is about to begin. headers is empty for a plain click on a link; a load that an embedded
@@ -99,11 +100,19 @@ public:
     }
     void EndRefusal(quint64 number) { m_refusals.erase(number); }
     void EndRefusals() { m_refusals.clear(); }
-    bool RefusesNavigations() const { return !m_refusals.empty(); }
+    bool RefusesNavigations() const { return m_isSealed || !m_refusals.empty(); }
 
     // Suppresses script and certificate boxes. A box that is suppressed is answered with its safe default.
     void SetSilent(bool silent) { m_silent = silent; }
     bool Silent() const { return m_silent; }
+
+    // From now on the control shows what it is given and nothing more: no script of a page runs, nothing is
+    // fetched but what Navigate() asks for, and nobody but Navigate() leads to another page.
+    void Seal() {
+        m_isSealed = true;
+        OnSealed();
+    }
+    bool IsSealed() const { return m_isSealed; }
 
     void SetVisible(bool visible) { m_visible = visible; }
     bool Visible() const { return m_visible; }
@@ -125,9 +134,11 @@ public:
 
 protected:
     virtual void GoTo(const QString& url) = 0;
+    virtual void OnSealed() {}
 
 private:
     bool m_silent = false;
+    bool m_isSealed = false;
     bool m_visible = true;
     std::set<quint64> m_refusals;
     quint64 m_lastRefusal = 0;

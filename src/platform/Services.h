@@ -32,6 +32,8 @@ public:
     virtual void ShowModal(const QString& form) = 0;
     virtual void ShowForm(const QString& form) = 0;
     virtual void CloseForm(const QString& form) = 0;
+    // Takes an open form off the screen, or brings it back, without closing it: who waits for it waits on.
+    virtual void SetFormVisible(const QString& form, bool visible) = 0;
     virtual bool IsFormOpen(const QString& form) const = 0;
     virtual QStringList OpenForms() const = 0;
     // Closes the open window with that title, of the program or of the page; false when there is none.

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -53,8 +54,13 @@ QString DesktopDialogs::ChooseFileToSave(const QString& title, const QString& su
     return dialog.exec() == QDialog::Accepted ? Remember(dialog.selectedFiles().value(0)) : QString();
 }
 
+// Its own exec() would end when the dialog is hidden for a while.
 void DesktopDialogs::RunModal(const QString&, QDialog& dialog) {
-    dialog.exec();
+    QEventLoop loop;
+    QObject::connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
+    QObject::connect(&dialog, &QObject::destroyed, &loop, &QEventLoop::quit);
+    dialog.show();
+    loop.exec(QEventLoop::DialogExec);
 }
 
 Dialogs::Answer DesktopDialogs::RunMessage(const QString& text, const QString& title, Buttons buttons) {

@@ -130,6 +130,16 @@ void WindowDialogs::CloseForm(const QString& form) {
         widget->deleteLater();
 }
 
+void WindowDialogs::SetFormVisible(const QString& form, bool visible) {
+    QWidget* widget = FormWidget(form);
+    if (!widget)
+        return;
+    if (visible)
+        BringToFront(*widget);
+    else
+        widget->hide();
+}
+
 void WindowDialogs::MainClosed() {
     Forget(u"frmMain"_s);
 }

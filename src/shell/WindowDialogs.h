@@ -41,11 +41,14 @@ public:
     // Showing "frmMain" also runs its Form_Load.
     void ShowForm(const QString& form) override;
     void CloseForm(const QString& form) final;
+    void SetFormVisible(const QString& form, bool visible) final;
     bool IsFormOpen(const QString& form) const final;
     // In the order in which they came up; the last is the top-most.
     QStringList OpenForms() const final;
     bool CloseWindowTitled(const QString& title) final;
 
+    // The widget of a browser, for a form that shows one.
+    QWidget* ViewOf(BrowserName name) const { return m_views->ViewOf(name); }
     // The widget of an open form, nullptr when it isn't open.
     QWidget* FormWidget(const QString& form) const;
     // Message boxes so far.

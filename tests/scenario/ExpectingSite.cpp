@@ -19,6 +19,8 @@ BrowserName TakeBrowser(Arguments& arguments) {
         return BrowserName::webHide;
     if (arguments.TakeWord("webTemp"_L1))
         return BrowserName::webTemp;
+    if (arguments.TakeWord("webPreview"_L1))
+        return BrowserName::webPreview;
     arguments.TakeWord("WebBrowser1"_L1);
     return BrowserName::WebBrowser1;
 }
@@ -83,7 +85,7 @@ QString PageText(Stage& stage, BrowserName name) {
     return document ? document.BodyText() : QString();
 }
 
-// expect page [webHide|webTemp] "text"
+// expect page [webHide|webTemp|webPreview] "text"
 void Page(Stage& stage, Arguments& arguments) {
     const QString body = PageText(stage, TakeBrowser(arguments));
     if (!body.contains(arguments.Take("the text")))

@@ -54,15 +54,20 @@ void Question(Stage& stage, Arguments& arguments) {
         ExpectText(u"the question's title"_s, arguments.Take("the title"), box.title);
 }
 
+bool IsSeen(Stage& stage, const QString& form) {
+    const std::vector<QWidget*> forms = stage.OpenForms();
+    return std::ranges::find(forms, stage.dialogs.FormWidget(form)) != forms.end();
+}
+
 void Form(Stage& stage, Arguments& arguments) {
     const QString form = arguments.Take("the form");
-    if (!stage.dialogs.IsFormOpen(form))
+    if (!IsSeen(stage, form))
         Fail(u"%1 is not open; open: %2"_s.arg(form, stage.dialogs.OpenForms().join(u", "_s)));
 }
 
 void NoForm(Stage& stage, Arguments& arguments) {
     const QString form = arguments.Take("the form");
-    if (stage.dialogs.IsFormOpen(form))
+    if (IsSeen(stage, form))
         Fail(u"%1 is open"_s.arg(form));
 }
 

@@ -39,6 +39,14 @@ QWidget* Need(QWidget* widget, const QString& name, const ScenarioDialogs& dialo
     return widget;
 }
 
+void InstallTemplates(const QString& folder) {
+    const QDir installed(QStringLiteral(QUILLMERE_TEMPLATES));
+    const QDir copies(folder + u"/Preview Templates"_s);
+    copies.mkpath(copies.path());
+    for (const QString& name : installed.entryList(QDir::Files))
+        QFile::copy(installed.filePath(name), copies.filePath(name));
+}
+
 } // namespace
 
 Stage::Stage(MachineMaker makeMachine)
@@ -47,6 +55,7 @@ Stage::Stage(MachineMaker makeMachine)
     world.dataFolder = m_folder.filePath(u"data"_s);
     QDir().mkpath(world.installationFolder);
     QDir().mkpath(world.dataFolder);
+    InstallTemplates(world.installationFolder);
     world.deploymentText = DeploymentText();
     world.settings.SaveSetting(u"General"_s, u"mnuEnableLogging"_s, u"True"_s);
     world.http.responder = [this](const QString& url) { return AnswerHttp(url); };
@@ -188,7 +197,9 @@ std::vector<QWidget*> Stage::OpenForms() {
     std::vector<QWidget*> forms;
     const QStringList open = dialogs.OpenForms();
     for (auto name = open.rbegin(); name != open.rend(); ++name)
-        forms.push_back(dialogs.FormWidget(*name));
+        // A modal form may be off the screen for a while.
+        if (QWidget* form = dialogs.FormWidget(*name); !form->isModal() || !form->isHidden())
+            forms.push_back(form);
     return forms;
 }
 

@@ -18,6 +18,8 @@
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
+#include <QWebEngineSettings>
+#include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
 
 #include <algorithm>
@@ -33,6 +35,15 @@ namespace {
 constexpr auto boxTitle = "Message from webpage";
 
 int requestDepth = 0;
+
+// Lets through what the program itself asked for and nothing that a page names.
+class PageSeal final : public QWebEngineUrlRequestInterceptor {
+public:
+    using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
+    void interceptRequest(QWebEngineUrlRequestInfo& info) override {
+        info.block(info.resourceType() != QWebEngineUrlRequestInfo::ResourceTypeMainFrame);
+    }
+};
 
 std::vector<BrowserPage*>& LivePages() {
     static std::vector<BrowserPage*> pages;
@@ -127,6 +138,13 @@ void BrowserPage::RefusePermissions() {
             [](const QUrl&, QAuthenticator* authenticator, const QString&) {
                 *authenticator = QAuthenticator();
             });
+}
+
+// The program's own script world is not the page's and goes on running.
+void BrowserPage::Seal() {
+    settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, false);
+    setUrlRequestInterceptor(new PageSeal(this));
+    setAudioMuted(true);
 }
 
 QString BrowserPage::BridgeSource() const {

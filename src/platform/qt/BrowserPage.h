@@ -51,6 +51,8 @@ public:
 
     // From now on nothing is told any more and everything is refused.
     void Disown() { m_observer = nullptr; }
+    // No script of a page runs from now on, nothing that a page names is fetched, and none is heard.
+    void Seal();
     // What installs the bridge and the watching script in a document, with this page's secret.
     QString BridgeSource() const;
     void Notice(const QString& text);

@@ -40,6 +40,7 @@ public:
     ~QtBrowser() override;
 
     void GoTo(const QString& url) override;
+    void OnSealed() override { m_page->Seal(); }
     void Stop() override;
     void GoBack() override;
     void GoForward() override;

@@ -283,6 +283,8 @@ void QtBrowser::RenewPage(OldRenderer oldRenderer) {
     BrowserPage* old = m_page;
     m_page = new BrowserPage(&m_profile, *this, this);
     m_calls.SetPage(m_page);
+    if (IsSealed())
+        m_page->Seal();
     Connect();
     if (m_view)
         m_view->setPage(m_page);

@@ -129,6 +129,8 @@ void QtBrowser::GoInHistory(QWebEnginePage::WebAction action) {
 }
 
 void QtBrowser::OnHistoryWish(QWebEnginePage::WebAction action) {
+    if (IsSealed())
+        return;
     if (action == QWebEnginePage::Back || action == QWebEnginePage::Forward)
         GoInHistory(action);
     else

@@ -95,8 +95,11 @@ QtBrowser& QtPlatform::Browser(BrowserName name) {
         m_profile = CreateEngineProfile(&m_profileOwner);
     }
     std::unique_ptr<QtBrowser>& browser = m_browsers[name];
-    if (!browser)
+    if (!browser) {
         browser = std::make_unique<QtBrowser>(m_pump, *m_profile);
+        if (name == BrowserName::webPreview)
+            browser->Seal();
+    }
     return *browser;
 }
 

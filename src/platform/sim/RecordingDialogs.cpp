@@ -49,6 +49,12 @@ void RecordingDialogs::ShowForm(const QString& form) {
         m_open += form;
 }
 
+void RecordingDialogs::SetFormVisible(const QString& form, bool visible) {
+    hiddenForms.removeAll(form);
+    if (!visible)
+        hiddenForms += form;
+}
+
 bool RecordingDialogs::CloseWindowTitled(const QString& title) {
     return windowTitles.removeOne(title);
 }

@@ -28,6 +28,7 @@ public:
     void ShowModal(const QString& form) override;
     void ShowForm(const QString& form) override;
     void CloseForm(const QString& form) override { m_open.removeAll(form); }
+    void SetFormVisible(const QString& form, bool visible) override;
     bool IsFormOpen(const QString& form) const override { return m_open.contains(form); }
     QStringList OpenForms() const override { return m_open; }
     bool CloseWindowTitled(const QString& title) override;
@@ -39,8 +40,9 @@ public:
     std::deque<QString> files; // the next file dialogs' choices; empty text cancels
     // What the file dialogs were opened with: title, suggested name and filter, on a line each.
     QStringList fileDialogs;
-    QStringList shownForms;   // in order, modal or not
-    QStringList windowTitles; // open windows that CloseWindowTitled() can close
+    QStringList shownForms;          // in order, modal or not
+    QStringList hiddenForms;         // open, and off the screen for a while
+    QStringList windowTitles;        // open windows that CloseWindowTitled() can close
     std::function<void()> onMessage; // what happens while a box is up
     // What happens in a modal form until it closes.
     std::map<QString, std::function<void()>> onModal;

@@ -95,7 +95,7 @@ bool SimBrowser::LoadElsewhere(SimDocument& page, const SimRequest& request, con
 // A link was followed, by whomever.
 void SimBrowser::FollowAddress(SimDocument& page, const QString& url, const QString& target) {
     const QString scheme = SchemeOf(url);
-    if (scheme == u"javascript")
+    if (scheme == u"javascript" && !IsSealed())
         return RunScript(page, url);
     if (RefusesNavigations() || !(scheme.startsWith(u"http") || scheme == u"about"))
         return;
@@ -119,7 +119,7 @@ void SimBrowser::FormSubmitted(SimDocument& page, int form) {
 void SimBrowser::SendForm(SimDocument& page, int form, int pressed) {
     SimTree& tree = page.Tree();
     const QString action = page.AddressOfForm(form, pressed);
-    if (SchemeOf(action) == u"javascript")
+    if (SchemeOf(action) == u"javascript" && !IsSealed())
         return RunScript(page, action);
     if (RefusesNavigations())
         return;
@@ -199,6 +199,8 @@ void SimBrowser::RunScript(SimDocument& page, const QString& address) {
 }
 
 void SimBrowser::RunStandIns(SimDocument& page, const QString& text) {
+    if (IsSealed())
+        return;
     const StandIns parsed = ParseStandIns(text);
     if (!parsed.problem.isEmpty())
         m_web.problems += m_location + u": "_s + parsed.problem;

@@ -69,6 +69,8 @@ int SimBrowser::FrameNamed(const QString& name) const {
 
 // Frames load on their own and hold the page's completion; other embedded parts only ask.
 void SimBrowser::BeginEmbedded() {
+    if (IsSealed())
+        return;
     Tree().Walk(Tree().Root(), [this](int element) {
         const SimNode& node = Tree().At(element);
         const bool isFrame = IsFrame(node);

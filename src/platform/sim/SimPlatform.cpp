@@ -8,8 +8,11 @@ SimPlatform::SimPlatform(SimWorld& world, qlm::Dialogs& dialogs)
 
 SimBrowser& SimPlatform::Browser(BrowserName name) {
     std::unique_ptr<SimBrowser>& browser = m_browsers[name];
-    if (!browser)
+    if (!browser) {
         browser = std::make_unique<SimBrowser>(m_world.web, m_pump);
+        if (name == BrowserName::webPreview)
+            browser->Seal();
+    }
     return *browser;
 }
 

@@ -3,6 +3,9 @@
 
 #include "platform/sim/SimAddress.h"
 
+#include <QFile>
+#include <QUrl>
+
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
@@ -67,9 +70,21 @@ std::optional<SimAnswer> SimWeb::AnswerFromTable(const QString& url) {
     return answer;
 }
 
+// A file of this machine, as the product's browser shows it.
+std::optional<SimAnswer> SimWeb::AnswerFromDisk(const QString& url) {
+    QFile file(QUrl(url).toLocalFile());
+    if (!url.startsWith(u"file:"_s) || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    SimAnswer answer;
+    answer.html = QString::fromUtf8(file.readAll());
+    return answer;
+}
+
 SimAnswer SimWeb::Answer(const SimRequest& request) {
     const QString key = KeyOf(request.url);
     std::optional<SimAnswer> answer = AnswerFromTable(key);
+    if (!answer)
+        answer = AnswerFromDisk(key);
     // A page that never completes, told without a body, shows what lies underneath.
     const bool needsBody = answer && answer->fault == SimFault::Incomplete && answer->html.isEmpty();
     if ((!answer || needsBody) && responder) {

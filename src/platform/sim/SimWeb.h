@@ -51,7 +51,8 @@ struct SimAnswer {
 };
 
 // The simulated network that all simulated browsers of a test share. Addresses are compared whole, after a
-// missing scheme has been added and the fragment dropped.
+// missing scheme has been added and the fragment dropped. Files of this machine that nothing was said about
+// are what they are.
 class SimWeb {
 public:
     // Without a number of times the answer replaces whatever was said about the address before; with one it
@@ -89,6 +90,7 @@ private:
     };
 
     std::optional<SimAnswer> AnswerFromTable(const QString& url);
+    static std::optional<SimAnswer> AnswerFromDisk(const QString& url);
 
     std::map<QString, std::vector<Layer>> m_layers;
     std::map<QString, std::vector<SimAnswer::Swap>> m_swaps;

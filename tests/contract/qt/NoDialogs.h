@@ -14,6 +14,7 @@ public:
     void ShowModal(const QString&) override {}
     void ShowForm(const QString&) override {}
     void CloseForm(const QString&) override {}
+    void SetFormVisible(const QString&, bool) override {}
     bool IsFormOpen(const QString&) const override { return false; }
     QStringList OpenForms() const override { return {}; }
     bool CloseWindowTitled(const QString&) override { return false; }
