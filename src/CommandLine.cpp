@@ -32,7 +32,10 @@ QtPlatformOptions OptionsFor(const Guidance& guidance) {
     if (!guidance.isResumed)
         QDir(folder).removeRecursively();
     QDir().mkpath(folder.path());
-    QFile::copy(installed + u"/timedelay.htm"_s, folder.filePath(u"timedelay.htm"_s));
+    folder.mkpath(u"Preview Templates"_s);
+    for (const QString& file : {u"timedelay.htm"_s, u"Preview Templates/previewtemplateBUL.htm"_s,
+                                u"Preview Templates/previewtemplateMSG.htm"_s})
+        QFile::copy(installed + u'/' + file, folder.filePath(file));
     const QString own = folder.filePath(u"deployment.ini"_s);
     return {folder.path(), folder.filePath(u"local"_s),
             guidance.isResumed && QFile::exists(own) ? own : installed + u"/deployment.ini"_s};

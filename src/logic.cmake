@@ -14,6 +14,7 @@ add_library(quillmere_logic STATIC
     core/controls/AutoStart.cpp
     core/controls/BulletinTab.cpp
     core/controls/CommenterTab.cpp
+    core/controls/ContentForms.cpp
     core/controls/Filters.cpp
     core/controls/FriendRequesterTab.cpp
     core/controls/GatherForms.cpp
@@ -108,9 +109,18 @@ add_library(quillmere_logic STATIC
     gather/StandingPage.cpp
     gather/WebSearch.cpp
 
+    content/BookmarkScreens.cpp
+    content/Bookmarks.cpp
     content/ContentLine.cpp
+    content/ContentList.cpp
     content/ContentLists.cpp
+    content/ContentRows.cpp
+    content/ContentScreens.cpp
+    content/EntryScreens.cpp
+    content/ListFile.cpp
+    content/ListScreens.cpp
     content/MessageFile.cpp
+    content/Preview.cpp
 
     campaigns/BulletinDots.cpp
     campaigns/Bulletins.cpp

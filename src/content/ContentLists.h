@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "content/ContentLine.h"
+#include "content/ContentList.h"
 #include "content/MessageFile.h"
 
 namespace qlm {
@@ -14,7 +14,11 @@ class ContentLists {
 public:
     explicit ContentLists(App& app) : m_app(app), m_messageFile(app) {}
 
+    // The list of the account in use.
+    ContentList Of(ContentKind kind);
     QString PathOf(ContentKind kind);
+    // The section of the settings store that its screen's options stand in.
+    QString SectionOf(ContentKind kind);
     // Is there an entry: a line with the needle at its second character or after? An empty needle takes the
     // kind's own word. Of messages only the first line is looked at, for their own word always.
     bool ListHasEntries(ContentKind kind, const QString& needle = {});
@@ -30,17 +34,7 @@ public:
     void FillMainList(ContentKind kind);
     void FillMainLists();
 
-    // What the entry screens do on Save. edited is the entry as it was, null for a new one. False when the
-    // fields were refused.
-    bool SaveEntry(ContentKind kind, const ContentFields& fields, const ContentFields* edited);
-    // The whole status whose first line stands in a row of frmStatusesList; empty when there is none.
-    QString GetCompleteStatusFromList(const QString& row);
-
 private:
-    QString RewritePathOf(ContentKind kind);
-    QString FolderOf(ContentKind kind);
-    void Replace(ContentKind kind, const ContentFields& fields, const ContentFields& edited);
-
     App& m_app;
     MessageFile m_messageFile;
 };

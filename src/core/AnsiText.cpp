@@ -54,6 +54,18 @@ bool FitsAnsi(const QString& text) {
     return FromAnsi(ToAnsi(text)) == text;
 }
 
+QString MissingInAnsi(const QString& text) {
+    QString missing;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const bool isPair = text[at].isHighSurrogate() && at + 1 < text.size();
+        const QString character = text.mid(at, isPair ? 2 : 1);
+        at += isPair ? 1 : 0;
+        if (!FitsAnsi(character) && !missing.contains(character))
+            missing += character;
+    }
+    return missing;
+}
+
 QStringList LinesOfText(const QByteArray& bytes) {
     const std::optional<QStringConverter::Encoding> marked = QStringConverter::encodingForData(bytes);
     QString text = marked ? QString(QStringDecoder(*marked).decode(bytes)) : FromAnsi(bytes);

@@ -32,6 +32,7 @@ constexpr ControlForm Forms[] = {
     {rows::GatherForms},
     {rows::SettingsForms},
     {rows::SmallForms},
+    {rows::ContentForms},
 };
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "campaigns/Pacing.h"
 #include "campaigns/StartChecks.h"
+#include "content/Bookmarks.h"
 #include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/BrowserSounds.h"
@@ -82,6 +83,7 @@ void MainForm::Form_Load() {
         m_app.Get<Pacing>().ReadBounds();
         m_app.Get<Pacing>().UpdateTimeDelayLabel();
         m_app.Get<BlackList>().FillArrayFromFile(u"arrBlacklistIDs"_s, m_app.Get<BlackList>().Path());
+        m_app.Get<Bookmarks>().LoadBookmarksMenu();
         m_app.ShowTab(TabCaptions().first());
         m_app.timers->tmrNewVersionAvailable.SetEnabled(state.blnNewVersionAvailable);
         Diagnostics::IgnoreErrors([this] { m_app.files.CreateFolder(m_app.state.DataFolder); });

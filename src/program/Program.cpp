@@ -15,7 +15,10 @@
 #include "campaigns/Pacing.h"
 #include "campaigns/SampleReading.h"
 #include "campaigns/SendRuns.h"
+#include "content/Bookmarks.h"
 #include "content/ContentLists.h"
+#include "content/ListScreens.h"
+#include "content/Preview.h"
 #include "core/App.h"
 #include "core/BrowserSounds.h"
 #include "core/ProductServer.h"
@@ -90,6 +93,9 @@ void App::MakeFamilies() {
     m_families.Make<WebSearch>(*this);
     m_families.Make<ClickGather>(*this);
     m_families.Make<ContentLists>(*this);
+    m_families.Make<ListScreens>(*this);
+    m_families.Make<Preview>(*this);
+    m_families.Make<Bookmarks>(*this);
     m_families.Make<SendRuns>(*this);
     m_families.Make<Counters>(*this);
     m_families.Make<Pacing>(*this);
@@ -120,6 +126,7 @@ void App::Connect() {
             [this] {
                 Get<FriendRequester>().Categories().Load();
                 Get<ContentLists>().FillMainLists();
+                Get<Bookmarks>().LoadBookmarksMenu();
             },
         .restoreGathered = [&list] { list.FillScannedList(list.ScopedPath(), true, false); },
         .saveGathered = [&list] { return list.SaveScannedList(list.ScopedPath()); },

@@ -30,11 +30,12 @@ QWidget* NewReading(QLatin1StringView name) {
     return reading;
 }
 
-QLayout* SingleRow(const Commands& commands, const ContentNames& names) {
+QLayout* ChoiceRow(const Commands& commands, QLatin1StringView choice,
+                   std::initializer_list<QLatin1StringView> tools) {
     auto* row = new QHBoxLayout;
     row->setSpacing(2);
-    row->addWidget(Named(new QRadioButton, names.single), 1);
-    AddPictureButtons(*row, commands, Caption::None, names.singleTools);
+    row->addWidget(Named(new QRadioButton, choice), 1);
+    AddPictureButtons(*row, commands, Caption::None, tools);
     return row;
 }
 
@@ -98,14 +99,14 @@ QVBoxLayout* NewReadText(QLatin1StringView text, int leastLines, QLatin1StringVi
 QGroupBox* NewContentFrame(const Commands& commands, const ContentNames& names) {
     auto* frame = new QGroupBox(u"What to send"_s);
     auto* column = new QVBoxLayout(frame);
-    column->addLayout(SingleRow(commands, names));
+    column->addLayout(ChoiceRow(commands, names.single, names.singleTools));
     if (!names.subject.isEmpty())
         AddSubject(*column, names);
     column->addLayout(NewReadText(names.body, LeastLinesOfABody, names.bodyReads), 2);
     if (!names.bodyReads.isEmpty())
         column->addWidget(NewText(
             u"*Note: Anywhere that you write &NAME& will be replaced by the target's name"_s, u"quiet"_s));
-    column->addWidget(Named(new QRadioButton, names.fromList));
+    column->addLayout(ChoiceRow(commands, names.fromList, names.listTools));
     auto* list = Named(new LowWidget<QListView>, names.list);
     list->setMinimumHeight(LeastListHeight);
     column->addWidget(list, 1);

@@ -46,6 +46,7 @@ struct ContentNames {
     QLatin1StringView subjectReads = {}; // how they read to somebody; empty where they go to nobody
     QLatin1StringView bodyReads = {};
     std::initializer_list<QLatin1StringView> singleTools = {}; // small buttons for the text
+    std::initializer_list<QLatin1StringView> listTools = {};   // and for the list
 };
 QGroupBox* NewContentFrame(const Commands& commands, const ContentNames& names);
 

@@ -274,7 +274,7 @@ bool ControlBinder::eventFilter(QObject* object, QEvent* event) {
         for (const KeyCode& known : KeyCodes)
             if (known.key == key && m_app.commands.Has(name + u"_KeyDown"_s)) {
                 Run(name + u"_KeyDown"_s, known.code);
-                return key == Qt::Key_Delete;
+                return key != Qt::Key_Insert;
             }
     }
     if (event->type() == QEvent::FocusOut && qobject_cast<QLineEdit*>(object)) {

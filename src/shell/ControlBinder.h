@@ -17,6 +17,7 @@ class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QListView;
+class QMenu;
 class QPlainTextEdit;
 class QWidget;
 
@@ -67,6 +68,7 @@ private:
     Show ViewOfTick(QAbstractButton& button, QLatin1StringView name);
     Show ViewOfCombo(QComboBox& combo, QLatin1StringView name);
     Show ViewOfList(QListView& list, QLatin1StringView name);
+    void ShowMenuRows(QMenu& menu, const Control& control);
     void ShowWords(QWidget& widget, const ControlRow& row);
     void ShowPointer();
     void GuardTick(TickBox& box, const QString& name);

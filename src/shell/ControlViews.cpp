@@ -65,9 +65,11 @@ ControlBinder::Show ControlBinder::ViewFor(QWidget& widget, QLatin1StringView na
     if (auto* list = qobject_cast<QListView*>(&widget))
         return ViewOfList(*list, name);
     if (auto* menu = qobject_cast<QMenu*>(&widget))
-        return [menu](const Control& control, Change change, int) {
+        return [this, menu](const Control& control, Change change, int) {
             if (change == Change::Text)
                 menu->setTitle(CaptionWithLetter(control));
+            if (change == Change::Items)
+                ShowMenuRows(*menu, control);
         };
     if (auto* button = qobject_cast<QAbstractButton*>(&widget))
         return ViewOfTick(*button, name);
@@ -84,6 +86,31 @@ ControlBinder::Show ControlBinder::ViewFor(QWidget& widget, QLatin1StringView na
                 box->setTitle(control.text);
         };
     return {};
+}
+
+// The rows of a menu's control stand below its own items: "-" is a line between them, any other runs
+// "<name>Item_Click" with its number.
+void ControlBinder::ShowMenuRows(QMenu& menu, const Control& control) {
+    for (QAction* action : menu.actions())
+        if (action->property("isRow").toBool())
+            delete action;
+    auto add = [&menu](QAction* action) {
+        action->setProperty("isRow", true);
+        menu.addAction(action);
+        return action;
+    };
+    auto addLine = [&] { add(new QAction(&menu))->setSeparator(true); };
+    if (!control.items.isEmpty())
+        addLine();
+    for (int row = 0; row < control.items.size(); ++row) {
+        if (control.items[row] == u"-") {
+            addLine();
+            continue;
+        }
+        QAction* action = add(new QAction(QString(control.items[row]).replace(u'&', u"&&"_s), &menu));
+        connect(action, &QAction::triggered, this,
+                [this, command = QString(control.name) + u"Item_Click"_s, row] { Run(command, row); });
+    }
 }
 
 ControlBinder::Show ControlBinder::ViewOfLine(QLineEdit& line, QLatin1StringView name) {
@@ -170,6 +197,15 @@ ControlBinder::Show ControlBinder::ViewOfCombo(QComboBox& combo, QLatin1StringVi
 
 ControlBinder::Show ControlBinder::ViewOfList(QListView& list, QLatin1StringView name) {
     auto* model = new ListRowsModel(m_app.controls, name, &list);
+    model->onTick = [this, name](int row, bool ticked) {
+        m_app.controls.SetRowTicked(name, row, ticked);
+        Run(QString(name) + u"_ItemCheck"_s, row);
+    };
+    if (m_app.commands.Has(QString(name) + u"_DragDrop"_s)) {
+        model->onMove = [this, name](int place) { Run(QString(name) + u"_DragDrop"_s, place); };
+        list.setDragDropMode(QAbstractItemView::InternalMove);
+        list.setDropIndicatorShown(true);
+    }
     list.setUniformItemSizes(true);
     list.setEditTriggers(QAbstractItemView::NoEditTriggers);
     list.setModel(model);

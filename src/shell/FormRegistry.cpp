@@ -6,6 +6,7 @@
 #include "shell/frmGlobalSettings.h"
 #include "shell/frmGoogleSearch.h"
 #include "shell/frmInteken.h"
+#include "shell/frmPreview.h"
 #include "shell/frmRunReport.h"
 #include "shell/frmTimeDelay.h"
 
@@ -43,6 +44,17 @@ constexpr FormRow Forms[] = {
     {"frmBlacklist"_L1, u"Black List", BuildBlacklist},
     {"frmGoogleSearch"_L1, u"Google Search", BuildGoogleSearch, Make<frmGoogleSearch>},
     {"frmProifleIDHelp"_L1, u"Profile ID Help", BuildProfileIDHelp},
+    {"frmMessagesList"_L1, u"Messages List", BuildContentList},
+    {"frmCommentsList"_L1, u"Comments List", BuildContentList},
+    {"frmBulletinsList"_L1, u"Bulletins List", BuildContentList},
+    {"frmStatusesList"_L1, u"Statuses List", BuildContentList},
+    {"frmMessage"_L1, u"Message", BuildContentEntry},
+    {"frmComment"_L1, u"Comment", BuildContentEntry},
+    {"frmBulletin"_L1, u"Bulletin", BuildContentEntry},
+    {"frmStatus"_L1, u"Status", BuildContentEntry},
+    {"frmPreview"_L1, u"Preview", frmPreview::Build, Make<frmPreview>},
+    {"frmManageBookmarks"_L1, u"Manage Bookmarks", BuildManageBookmarks},
+    {"frmBookmark"_L1, u"Bookmark", BuildBookmark},
     {"frmRunReport"_L1, u"Run Report", frmRunReport::Build, Make<frmRunReport>},
 };
 

@@ -8,6 +8,9 @@ class Form;
 // The builders of the forms: each lays out the widgets of one, by their names.
 void BuildAccountDetails(Form& form);
 void BuildBlacklist(Form& form);
+void BuildBookmark(Form& form);
+void BuildContentEntry(Form& form);
+void BuildContentList(Form& form);
 void BuildError(Form& form);
 void BuildFilters(Form& form);
 void BuildGlobalSettings(Form& form);
@@ -15,6 +18,7 @@ void BuildGoogleSearch(Form& form);
 void BuildLogin(Form& form);
 void BuildLog(Form& form);
 void BuildLoginProblem(Form& form);
+void BuildManageBookmarks(Form& form);
 void BuildProfileIDHelp(Form& form);
 void BuildSwitchAccount(Form& form);
 void BuildTerms(Form& form);

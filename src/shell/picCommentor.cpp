@@ -4,6 +4,7 @@
 #include "shell/FormParts.h"
 #include "shell/PanelBands.h"
 #include "shell/Panels.h"
+#include "shell/PictureButtons.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -18,12 +19,15 @@ namespace {
 
 constexpr int LeastLinesOfTheAlternative = 2;
 
-QGroupBox* BlockedFrame() {
+QGroupBox* BlockedFrame(const Commands& commands) {
     auto* frame = new QGroupBox(u"Profiles that block HTML"_s);
     auto* column = new QVBoxLayout(frame);
     column->addLayout(NewRow({Named(new QRadioButton, "optCOMHTMLBLocked(0)"_L1),
                               Named(new QRadioButton, "optCOMHTMLBLocked(1)"_L1)}));
-    column->addWidget(Named(new QRadioButton, "optCOMHTMLBLocked(2)"_L1));
+    auto* alternative = new QHBoxLayout;
+    alternative->addWidget(Named(new QRadioButton, "optCOMHTMLBLocked(2)"_L1), 1);
+    AddPictureButtons(*alternative, commands, Caption::None, {"picComPreviewNonHTML"_L1});
+    column->addLayout(alternative);
     column->addLayout(
         NewReadText("txtCommentNonHTML"_L1, LeastLinesOfTheAlternative, "lblComNonHTMLReads"_L1));
     column->addWidget(Named(new QCheckBox, "chkCOMListSkipNonHMTL"_L1));
@@ -38,9 +42,11 @@ QLayout* Options(const App& app) {
                                                      .list = "picCommentor.lstSendList"_L1,
                                                      .subject = {},
                                                      .body = "txtComment"_L1,
-                                                     .bodyReads = "lblComReads"_L1}),
+                                                     .bodyReads = "lblComReads"_L1,
+                                                     .singleTools = {"picComPreview"_L1},
+                                                     .listTools = {"picCommentor.picEditList"_L1}}),
                       3);
-    column->addWidget(BlockedFrame(), 1);
+    column->addWidget(BlockedFrame(app.commands), 1);
     column->addWidget(NewLimitFrame("txtComStopAt"_L1, "cboCOMPerDayOrSession"_L1));
     column->addWidget(Named(new QCheckBox, "chkComDontSendAgain"_L1));
     return column;

@@ -19,16 +19,17 @@ QLayout* Options(const App& app) {
     auto* column = new QVBoxLayout;
     column->addWidget(
         NewText(u"Sends a private message to each profile in the gathered list."_s, u"quiet"_s));
-    column->addWidget(
-        NewContentFrame(app.commands, {.single = "optSendSingle(0)"_L1,
-                                       .fromList = "optSendFromList(0)"_L1,
-                                       .list = "picMessanger.lstSendList"_L1,
-                                       .subject = "txtMsgSubject"_L1,
-                                       .body = "txtMsgMessage"_L1,
-                                       .subjectReads = "lblMsgSubjectReads"_L1,
-                                       .bodyReads = "lblMsgReads"_L1,
-                                       .singleTools = {"piccmdMsgLoad"_L1, "piccmdMsgSave"_L1}}),
-        1);
+    column->addWidget(NewContentFrame(app.commands, {.single = "optSendSingle(0)"_L1,
+                                                     .fromList = "optSendFromList(0)"_L1,
+                                                     .list = "picMessanger.lstSendList"_L1,
+                                                     .subject = "txtMsgSubject"_L1,
+                                                     .body = "txtMsgMessage"_L1,
+                                                     .subjectReads = "lblMsgSubjectReads"_L1,
+                                                     .bodyReads = "lblMsgReads"_L1,
+                                                     .singleTools = {"piccmdMsgLoad"_L1, "piccmdMsgSave"_L1,
+                                                                     "picMsgPreview"_L1},
+                                                     .listTools = {"picMessanger.picEditList"_L1}}),
+                      1);
     column->addWidget(NewLimitFrame("txtMsgStopAt"_L1, "cboMSGPerDayOrSession"_L1));
     column->addWidget(Named(new QCheckBox, "chkMsgDontSendAgain"_L1));
     return column;

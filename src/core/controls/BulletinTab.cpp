@@ -16,6 +16,12 @@ std::vector<ControlRow> BulletinTab() {
         Option("optSendFromList(2)", "sendBUL").Kept("Bulletin"),
         List("picBulletin.lstSendList"),
         Box("chkBulSendFromList").Kept("Bulletin"),
+        Button("picBulPreview", u"Preview the bulletin")
+            .Picture("PREVIEW")
+            .Tip(u"Show the bulletin as it looks on the site"),
+        Button("picBulletin.picEditList", u"Edit the list of bulletins")
+            .Picture("EDITLIST")
+            .Tip(u"Click this button to manage your list of bulletins"),
         Label("lblBulSentCount", u"Bulletins sent: 0"),
     };
 }

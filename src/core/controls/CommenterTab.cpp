@@ -55,6 +55,15 @@ std::vector<ControlRow> CommenterTab() {
         Label("lblComTotalToday", u"Total Today: 0"),
         Label("lblComFailedCount", u"Failed: 0"),
         Label("lblComSkippedCount", u"Skipped: 0"),
+        Button("picComPreview", u"Preview the comment")
+            .Picture("PREVIEW")
+            .Tip(u"Show the comment as it looks on the site"),
+        Button("picComPreviewNonHTML", u"Preview the alternative comment")
+            .Picture("PREVIEW")
+            .Tip(u"Show the alternative comment as it looks on the site"),
+        Button("picCommentor.picEditList", u"Edit the list of comments")
+            .Picture("EDITLIST")
+            .Tip(u"Click this button to manage your list of comments"),
         Button("picCmdComSend", u"&Send Comments")
             .Picture("SEND")
             .Begins()

@@ -23,6 +23,7 @@ std::vector<ControlRow> AccountForms();
 std::vector<ControlRow> GatherForms();
 std::vector<ControlRow> SettingsForms();
 std::vector<ControlRow> SmallForms();
+std::vector<ControlRow> ContentForms();
 
 // What a limit counts for, and what is said of that.
 QStringList Periods();

@@ -43,6 +43,12 @@ std::vector<ControlRow> MessengerTab() {
         Button("piccmdMsgSave", u"Save the message")
             .Picture("SAVETOFILE")
             .Tip(u"Save subject and message to a file"),
+        Button("picMsgPreview", u"Preview the message")
+            .Picture("PREVIEW")
+            .Tip(u"Show the message as it looks on the site"),
+        Button("picMessanger.picEditList", u"Edit the list of messages")
+            .Picture("EDITLIST")
+            .Tip(u"Click this button to manage your list of messages"),
         Button("picCmdMsgSend", u"&Send Messages")
             .Picture("SEND")
             .Begins()

@@ -13,6 +13,9 @@ std::vector<ControlRow> StatusTab() {
         Option("optSendSingle(3)", "sendSTATUS").Ticked().Kept("Status"),
         Option("optSendFromList(3)", "sendSTATUS").Kept("Status"),
         List("picStatusUpdater.lstSendList"),
+        Button("picStatusUpdater.picEditList", u"Edit the list of status updates")
+            .Picture("EDITLIST")
+            .Tip(u"Click this button to manage your list of status updates"),
         Label("lblStatusSentCount", u"Statuses posted: 0"),
     };
 }

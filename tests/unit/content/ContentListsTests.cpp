@@ -171,8 +171,8 @@ TEST_F(ContentListsTest, ANewEntryIsAppendedSelected) {
                              Case{ContentKind::Comment, u"T%nl%U&usenonhtml=1&nonhtmlcomment=P&Selected=1"},
                              Case{ContentKind::Bulletin, u"S%cln%&Bulletin=T%nl%U&Selected=1"},
                              Case{ContentKind::Status, u"T%nl%U&Selected=1"}}) {
-        EXPECT_TRUE(Lists().SaveEntry(each.kind, Fields(u"S;"_s, u"T\r\nU"_s, true, u"P"_s), nullptr));
-        EXPECT_TRUE(Lists().SaveEntry(each.kind, Fields(u"S;"_s, u"T\r\nU"_s, true, u"P"_s), nullptr));
+        EXPECT_TRUE(Lists().Of(each.kind).SaveEntry(Fields(u"S;"_s, u"T\r\nU"_s, true, u"P"_s), nullptr));
+        EXPECT_TRUE(Lists().Of(each.kind).SaveEntry(Fields(u"S;"_s, u"T\r\nU"_s, true, u"P"_s), nullptr));
         const QString line = QString::fromUtf16(each.line);
         EXPECT_EQ(Lines(each.kind), (QStringList{line, line}));
     }
@@ -181,7 +181,7 @@ TEST_F(ContentListsTest, ANewEntryIsAppendedSelected) {
 }
 
 TEST_F(ContentListsTest, AMessageWithALoneLineFeedBecomesTwoLines) {
-    EXPECT_TRUE(Lists().SaveEntry(ContentKind::Message, Fields(u"S"_s, u"a\nb"_s), nullptr));
+    EXPECT_TRUE(Lists().Of(ContentKind::Message).SaveEntry(Fields(u"S"_s, u"a\nb"_s), nullptr));
     EXPECT_EQ(Lines(ContentKind::Message), (QStringList{u"S&Message=a"_s, u"b&Selected=1"_s}));
 }
 
@@ -199,7 +199,7 @@ TEST_F(ContentListsTest, EmptyFieldsAreRefusedWithTheirWords) {
           Case{ContentKind::Comment, Fields({}, {}, true, u"P"_s), u"Please enter the comment to save"},
           Case{ContentKind::Status, Fields({}, {}), u"Please enter the status update"}}) {
         dialogs.messages.clear();
-        EXPECT_FALSE(Lists().SaveEntry(each.kind, each.fields, nullptr));
+        EXPECT_FALSE(Lists().Of(each.kind).SaveEntry(each.fields, nullptr));
         EXPECT_EQ(dialogs.Texts(), QStringList{QString::fromUtf16(each.words)});
         EXPECT_FALSE(app->files.FileExists(Lists().PathOf(each.kind)));
     }
@@ -209,7 +209,7 @@ TEST_F(ContentListsTest, EditingReplacesEveryLineOfThatBodyAndKeepsItsFlag) {
     Write(ContentKind::Message,
           {u"A&Message=x%cln%y&Selected=0"_s, u"B&message=x%cln%y"_s, u"C&Message=x%cln%y!&Selected=1"_s});
     const ContentFields edited = Fields(u"A"_s, u"x;y"_s);
-    EXPECT_TRUE(Lists().SaveEntry(ContentKind::Message, Fields(u"N"_s, u"new"_s), &edited));
+    EXPECT_TRUE(Lists().Of(ContentKind::Message).SaveEntry(Fields(u"N"_s, u"new"_s), &edited));
     EXPECT_EQ(Lines(ContentKind::Message),
               (QStringList{u"N&Message=new&Selected=0"_s, u"N&Message=new&Selected=1"_s,
                            u"C&Message=x%cln%y!&Selected=1"_s}));
@@ -219,7 +219,7 @@ TEST_F(ContentListsTest, EditingReplacesEveryLineOfThatBodyAndKeepsItsFlag) {
 TEST_F(ContentListsTest, ABulletinIsFoundByItsBodyWithItsLineFeedsWritten) {
     Write(ContentKind::Bulletin, {u"A&Bulletin=x%nl%y&Selected=0"_s, u"A&Bulletin=x&Selected=1"_s});
     const ContentFields edited = Fields(u"other subject"_s, u"x\ny"_s);
-    EXPECT_TRUE(Lists().SaveEntry(ContentKind::Bulletin, Fields(u"N"_s, u"new"_s), &edited));
+    EXPECT_TRUE(Lists().Of(ContentKind::Bulletin).SaveEntry(Fields(u"N"_s, u"new"_s), &edited));
     EXPECT_EQ(Lines(ContentKind::Bulletin),
               (QStringList{u"N&Bulletin=new&Selected=0"_s, u"A&Bulletin=x&Selected=1"_s}));
 }
@@ -229,7 +229,7 @@ TEST_F(ContentListsTest, ACommentIsFoundByAllItsFields) {
           {u"x&usenonhtml=1&nonhtmlcomment=p&Selected=0"_s, u"x&usenonhtml=0&nonhtmlcomment=p&Selected=0"_s,
            u"x&usenonhtml=1&nonhtmlcomment=q&Selected=0"_s});
     const ContentFields edited = Fields({}, u"x"_s, true, u"p"_s);
-    EXPECT_TRUE(Lists().SaveEntry(ContentKind::Comment, Fields({}, u"new"_s), &edited));
+    EXPECT_TRUE(Lists().Of(ContentKind::Comment).SaveEntry(Fields({}, u"new"_s), &edited));
     EXPECT_EQ(Lines(ContentKind::Comment), (QStringList{u"new&usenonhtml=0&nonhtmlcomment=&Selected=0"_s,
                                                         u"x&usenonhtml=0&nonhtmlcomment=p&Selected=0"_s,
                                                         u"x&usenonhtml=1&nonhtmlcomment=q&Selected=0"_s}));
@@ -238,14 +238,14 @@ TEST_F(ContentListsTest, ACommentIsFoundByAllItsFields) {
 TEST_F(ContentListsTest, AStatusIsFoundByItsText) {
     Write(ContentKind::Status, {u"x%nl%y&Selected=0"_s, u"x&Selected=1"_s});
     const ContentFields edited = Fields({}, u"x\r\ny"_s);
-    EXPECT_TRUE(Lists().SaveEntry(ContentKind::Status, Fields({}, u"new"_s), &edited));
+    EXPECT_TRUE(Lists().Of(ContentKind::Status).SaveEntry(Fields({}, u"new"_s), &edited));
     EXPECT_EQ(Lines(ContentKind::Status), (QStringList{u"new&Selected=0"_s, u"x&Selected=1"_s}));
 }
 
 TEST_F(ContentListsTest, AnEditLeavesLinesWithoutMarkerAsTheyAre) {
     Write(ContentKind::Message, {u"broken"_s, {}, u"A&Message=x&Selected=1"_s});
     const ContentFields edited = Fields(u"A"_s, u"x"_s);
-    EXPECT_TRUE(Lists().SaveEntry(ContentKind::Message, Fields(u"N"_s, u"new"_s), &edited));
+    EXPECT_TRUE(Lists().Of(ContentKind::Message).SaveEntry(Fields(u"N"_s, u"new"_s), &edited));
     EXPECT_EQ(Lines(ContentKind::Message), (QStringList{u"broken"_s, {}, u"N&Message=new&Selected=1"_s}));
 }
 
@@ -254,7 +254,7 @@ TEST_F(ContentListsTest, AListThatCannotBeWrittenIsReportedUnderItsEntryScreen) 
         app->files.EnsureFile(Lists().PathOf(each.kind));
     world.gate.readOnlyFolders = {world.installationFolder};
     for (const KindCase& each : Kinds) {
-        EXPECT_FALSE(Lists().SaveEntry(each.kind, Fields(u"S"_s, u"T"_s), nullptr));
+        EXPECT_FALSE(Lists().Of(each.kind).SaveEntry(Fields(u"S"_s, u"T"_s), nullptr));
         EXPECT_TRUE(ErrorLog().contains(u"Proc: "_s + QString::fromUtf16(each.saveTag)));
     }
 }
@@ -266,7 +266,8 @@ TEST_F(ContentListsTest, ACutInARewriteLeavesTheOldListWhole) {
         Write(ContentKind::Message, before);
         app->files.EnsureFile(RewriteFile(Kinds[0]));
         world.gate.CrashAtWrite(write);
-        EXPECT_THROW(Lists().SaveEntry(ContentKind::Message, Fields(u"N"_s, u"new"_s), &edited), SimPowerCut);
+        EXPECT_THROW(Lists().Of(ContentKind::Message).SaveEntry(Fields(u"N"_s, u"new"_s), &edited),
+                     SimPowerCut);
         world.gate.Mend();
         EXPECT_EQ(Lines(ContentKind::Message), before);
     }
@@ -319,14 +320,14 @@ TEST_F(ContentListsTest, RestoringAnAccountShowsItsLists) {
 TEST_F(ContentListsTest, ARowGivesBackItsWholeStatus) {
     Write(ContentKind::Status,
           {u"one%nl%two%cln%three&selected=0"_s, u"plain&Selected=1"_s, u"%nl%x&Selected=1"_s});
-    EXPECT_EQ(Lists().GetCompleteStatusFromList(u"one"_s), u"one\r\ntwo;three"_s);
-    EXPECT_EQ(Lists().GetCompleteStatusFromList(u"plain"_s), u"plain"_s);
-    EXPECT_EQ(Lists().GetCompleteStatusFromList(u"%nl%x"_s), u"\r\nx"_s);
-    EXPECT_EQ(Lists().GetCompleteStatusFromList(u"two"_s), QString());
+    EXPECT_EQ(Lists().Of(ContentKind::Status).GetCompleteStatusFromList(u"one"_s), u"one\r\ntwo;three"_s);
+    EXPECT_EQ(Lists().Of(ContentKind::Status).GetCompleteStatusFromList(u"plain"_s), u"plain"_s);
+    EXPECT_EQ(Lists().Of(ContentKind::Status).GetCompleteStatusFromList(u"%nl%x"_s), u"\r\nx"_s);
+    EXPECT_EQ(Lists().Of(ContentKind::Status).GetCompleteStatusFromList(u"two"_s), QString());
 }
 
 TEST_F(ContentListsTest, FilesAreOfTheCodePage) {
-    EXPECT_TRUE(Lists().SaveEntry(ContentKind::Status, Fields({}, u"caf\u00e9 \u20ac"_s), nullptr));
+    EXPECT_TRUE(Lists().Of(ContentKind::Status).SaveEntry(Fields({}, u"caf\u00e9 \u20ac"_s), nullptr));
     EXPECT_EQ(app->files.ReadBytes(Lists().PathOf(ContentKind::Status)),
               QByteArray("caf\xE9 \x80&Selected=1\r\n"));
     EXPECT_EQ(Lists().GetNext(ContentKind::Status, 1), u"caf\u00e9 \u20ac&Selected=1"_s);

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -256,6 +257,95 @@ TEST_F(ControlBinderTest, TheOtherKeysOfAListHaveTheirCodesToo) {
         Press(*list, key);
         EXPECT_EQ(lastArgument, code);
     }
+}
+
+// Return would press the form's default button as well.
+TEST_F(ControlBinderTest, AKeyThatAListKnowsGoesNoFurther) {
+    auto* list = Add<QListView>("lstFriendIDs"_L1);
+    Bind();
+    QKeyEvent before(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(list, &before);
+    EXPECT_FALSE(before.isAccepted());
+    Count("lstFriendIDs_KeyDown");
+    QKeyEvent after(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(list, &after);
+    EXPECT_EQ(runs, 1);
+    EXPECT_TRUE(after.isAccepted());
+}
+
+TEST_F(ControlBinderTest, ARowsBoxIsTurnedByTheUserAndByTheLogic) {
+    Count("lstFriendIDs_ItemCheck");
+    auto* list = Add<QListView>("lstFriendIDs"_L1);
+    Bind();
+    Table().SetItems("lstFriendIDs"_L1, {u"1"_s, u"2"_s, u"none"_s}, {true, false});
+    const auto state = [list](int row) { return list->model()->index(row, 0).data(Qt::CheckStateRole); };
+    EXPECT_EQ(state(0), QVariant(Qt::Checked));
+    EXPECT_EQ(state(1), QVariant(Qt::Unchecked));
+    EXPECT_FALSE(state(2).isValid());
+    list->setCurrentIndex(list->model()->index(1, 0));
+    Press(*list, Qt::Key_Space);
+    EXPECT_TRUE(Table().RowTicked("lstFriendIDs"_L1, 1));
+    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(lastArgument, 1);
+    int told = 0;
+    QObject::connect(list->model(), &QAbstractItemModel::dataChanged, list, [&told] { ++told; });
+    Table().SetRowTicked("lstFriendIDs"_L1, 0, false);
+    EXPECT_EQ(state(0), QVariant(Qt::Unchecked));
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(runs, 1);
+    list->setCurrentIndex(list->model()->index(2, 0));
+    Press(*list, Qt::Key_Space);
+    EXPECT_EQ(runs, 1);
+}
+
+TEST_F(ControlBinderTest, ABoxGoesWithItsRow) {
+    auto* list = Add<QListView>("lstFriendIDs"_L1);
+    Bind();
+    Table().SetItems("lstFriendIDs"_L1, {u"1"_s, u"2"_s}, {true, false});
+    Table().RemoveItem("lstFriendIDs"_L1, 0);
+    EXPECT_EQ(list->model()->index(0, 0).data(Qt::CheckStateRole), QVariant(Qt::Unchecked));
+    Table().SetItems("lstFriendIDs"_L1, {u"1"_s});
+    EXPECT_FALSE(list->model()->index(0, 0).data(Qt::CheckStateRole).isValid());
+}
+
+TEST_F(ControlBinderTest, ARowIsDraggedToAnotherPlaceWhereTheListTakesIt) {
+    auto* fixed = Add<QListView>("frmBlacklist.lstFriendIDs"_L1);
+    Count("lstFriendIDs_DragDrop");
+    auto* list = Add<QListView>("lstFriendIDs"_L1);
+    Bind();
+    EXPECT_EQ(fixed->dragDropMode(), QAbstractItemView::NoDragDrop);
+    Table().SetItems("lstFriendIDs"_L1, {u"1"_s, u"2"_s, u"3"_s}, {true, true, true});
+    const auto drop = [list](int row, int inFrontOf) {
+        list->setCurrentIndex(list->model()->index(row, 0));
+        list->model()->moveRow({}, row, {}, inFrontOf);
+    };
+    drop(0, 3);
+    EXPECT_EQ(lastArgument, 2);
+    drop(2, 0);
+    EXPECT_EQ(lastArgument, 0);
+    EXPECT_EQ(runs, 2);
+    EXPECT_TRUE(list->model()->index(0, 0).flags() & Qt::ItemIsDragEnabled);
+    EXPECT_FALSE(list->model()->index(0, 0).flags() & Qt::ItemIsDropEnabled);
+}
+
+TEST_F(ControlBinderTest, TheRowsOfAMenusControlStandBelowItsOwnItems) {
+    Count("mnuBookmarksItem_Click");
+    auto* menu = Named(new QMenu(&window), "mnuBookmarks"_L1);
+    menu->addAction(u"own"_s);
+    Bind();
+    const auto texts = [menu] {
+        QStringList found;
+        for (const QAction* action : menu->actions())
+            found.append(action->isSeparator() ? u"-"_s : action->text());
+        return found;
+    };
+    Table().SetItems("mnuBookmarks"_L1, {u"a & b"_s, u"-"_s, u"c"_s});
+    EXPECT_EQ(texts(), (QStringList{u"own"_s, u"-"_s, u"a && b"_s, u"-"_s, u"c"_s}));
+    menu->actions().at(4)->trigger();
+    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(lastArgument, 2);
+    Table().SetItems("mnuBookmarks"_L1, {});
+    EXPECT_EQ(texts(), QStringList{u"own"_s});
 }
 
 TEST_F(ControlBinderTest, AListRunsItsClickAndItsDoubleClick) {

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "shell/Form.h"
+#include "shell/FormParts.h"
+#include "shell/Forms.h"
+
+#include <QBoxLayout>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLineEdit>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+void BuildBookmark(Form& form) {
+    auto* grid = new QFormLayout;
+    for (QLineEdit* line : {NewLine("txtName"_L1), NewLine("txtLocation"_L1)})
+        grid->addRow(NewCaptionOf(*line), line);
+    auto* column = new QVBoxLayout(&form);
+    column->addLayout(grid);
+    column->addStretch();
+    column->addWidget(NewButtonRow({"cmdSave"_L1, "cmdCancel"_L1}));
+    form.resize(440, 140);
+}
+
+} // namespace qlm

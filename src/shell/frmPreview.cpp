@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "shell/frmPreview.h"
+
+#include "core/App.h"
+#include "shell/FormParts.h"
+#include "shell/WindowDialogs.h"
+
+#include <QBoxLayout>
+#include <QDialogButtonBox>
+#include <QScreen>
+
+namespace qlm {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+constexpr QSize StartingSize(640, 480);
+}
+
+void frmPreview::Build(Form& form) {
+    auto& preview = static_cast<frmPreview&>(form);
+    preview.m_view = preview.m_dialogs.ViewOf(BrowserName::webPreview);
+    auto* page = Named(preview.m_view ? preview.m_view.data() : new QWidget, "webPreview"_L1);
+    page->setAccessibleName(u"Page"_s);
+    auto* column = new QVBoxLayout(&form);
+    column->addWidget(page, 1);
+    column->addWidget(NewButtonRow({"cmdClose"_L1}));
+    page->show();
+    form.resize(StartingSize.boundedTo(form.screen()->availableSize()));
+}
+
+// The view belongs to who gave it.
+frmPreview::~frmPreview() {
+    if (!m_view)
+        return;
+    m_view->hide();
+    m_view->setParent(nullptr);
+}
+
+} // namespace qlm
