@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "content/MessageFile.h"
 
+#include "content/ContentList.h"
 #include "core/App.h"
 
 namespace qlm {
@@ -20,6 +21,9 @@ MessageFile::MessageFile(App& app) : m_app(app) {
 }
 
 void MessageFile::piccmdMsgSave_Click() {
+    const Controls& controls = m_app.controls;
+    if (!MayLoseLetters(m_app, controls.Text("txtMsgSubject"_L1) + controls.Text("txtMsgMessage"_L1)))
+        return;
     const QString chosen = m_app.platform.Dialogs().ChooseFileToSave(u"Save Message"_s, {}, TextFiles);
     if (chosen.isEmpty())
         return;

@@ -14,6 +14,7 @@
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QToolButton>
 
 namespace qlm {
 
@@ -28,15 +29,6 @@ QWidget* NewReading(QLatin1StringView name) {
     ElidedLabel* reading = NewElidedLabel(name, u"reading"_s);
     reading->setProperty("hideWhenEmpty", true);
     return reading;
-}
-
-QLayout* ChoiceRow(const Commands& commands, QLatin1StringView choice,
-                   std::initializer_list<QLatin1StringView> tools) {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(2);
-    row->addWidget(Named(new QRadioButton, choice), 1);
-    AddPictureButtons(*row, commands, Caption::None, tools);
-    return row;
 }
 
 void AddSubject(QVBoxLayout& column, const ContentNames& names) {
@@ -96,17 +88,31 @@ QVBoxLayout* NewReadText(QLatin1StringView text, int leastLines, QLatin1StringVi
     return column;
 }
 
+QLayout* NewChoiceRow(const Commands& commands, QLatin1StringView choice,
+                      std::initializer_list<QLatin1StringView> tools) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2);
+    row->addWidget(Named(new QRadioButton, choice), 1);
+    AddPictureButtons(*row, commands, Caption::None, tools);
+    for (int i = 1; i < row->count(); ++i)
+        if (auto* button = qobject_cast<QToolButton*>(row->itemAt(i)->widget())) {
+            button->setProperty("look", u"small"_s);
+            button->setIconSize({16, 16});
+        }
+    return row;
+}
+
 QGroupBox* NewContentFrame(const Commands& commands, const ContentNames& names) {
     auto* frame = new QGroupBox(u"What to send"_s);
     auto* column = new QVBoxLayout(frame);
-    column->addLayout(ChoiceRow(commands, names.single, names.singleTools));
+    column->addLayout(NewChoiceRow(commands, names.single, names.singleTools));
     if (!names.subject.isEmpty())
         AddSubject(*column, names);
     column->addLayout(NewReadText(names.body, LeastLinesOfABody, names.bodyReads), 2);
     if (!names.bodyReads.isEmpty())
         column->addWidget(NewText(
             u"*Note: Anywhere that you write &NAME& will be replaced by the target's name"_s, u"quiet"_s));
-    column->addLayout(ChoiceRow(commands, names.fromList, names.listTools));
+    column->addLayout(NewChoiceRow(commands, names.fromList, names.listTools));
     auto* list = Named(new LowWidget<QListView>, names.list);
     list->setMinimumHeight(LeastListHeight);
     column->addWidget(list, 1);

@@ -36,6 +36,10 @@ QVBoxLayout* NewRunBand(const Commands& commands, QLatin1StringView start, QLati
 // A text, and below it the line that shows how it reads to somebody.
 QVBoxLayout* NewReadText(QLatin1StringView text, int leastLines, QLatin1StringView reads);
 
+// An option, and small buttons for what it chooses.
+QLayout* NewChoiceRow(const Commands& commands, QLatin1StringView choice,
+                      std::initializer_list<QLatin1StringView> tools);
+
 // What goes out: the text that is written here, or entries of a list.
 struct ContentNames {
     QLatin1StringView single;

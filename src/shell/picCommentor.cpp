@@ -4,7 +4,6 @@
 #include "shell/FormParts.h"
 #include "shell/PanelBands.h"
 #include "shell/Panels.h"
-#include "shell/PictureButtons.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -24,10 +23,7 @@ QGroupBox* BlockedFrame(const Commands& commands) {
     auto* column = new QVBoxLayout(frame);
     column->addLayout(NewRow({Named(new QRadioButton, "optCOMHTMLBLocked(0)"_L1),
                               Named(new QRadioButton, "optCOMHTMLBLocked(1)"_L1)}));
-    auto* alternative = new QHBoxLayout;
-    alternative->addWidget(Named(new QRadioButton, "optCOMHTMLBLocked(2)"_L1), 1);
-    AddPictureButtons(*alternative, commands, Caption::None, {"picComPreviewNonHTML"_L1});
-    column->addLayout(alternative);
+    column->addLayout(NewChoiceRow(commands, "optCOMHTMLBLocked(2)"_L1, {"picComPreviewNonHTML"_L1}));
     column->addLayout(
         NewReadText("txtCommentNonHTML"_L1, LeastLinesOfTheAlternative, "lblComNonHTMLReads"_L1));
     column->addWidget(Named(new QCheckBox, "chkCOMListSkipNonHMTL"_L1));

@@ -24,7 +24,9 @@ std::vector<ControlRow> ListScreens() {
         Button("frmMessagesList.cmdMoveUp", u"Move &up").Tip(MoveUpTip),
         Button("frmMessagesList.cmdMoveDown", u"Move d&own").Tip(MoveDownTip),
         Button("frmMessagesList.cmdPreview", u"&Preview").Tip(PreviewTip),
-        Option("frmMessagesList.optMessagesListSendInOrder", "orderMSG", u"Send &in order").Tip(InOrderTip),
+        Option("frmMessagesList.optMessagesListSendInOrder", "orderMSG", u"Send &in order")
+            .Ticked()
+            .Tip(InOrderTip),
         Option("frmMessagesList.optMessagesListRandomize", "orderMSG", u"&Randomize").Tip(RandomizeTip),
         Button("frmMessagesList.Command1", u"&Close"),
 
@@ -39,7 +41,9 @@ std::vector<ControlRow> ListScreens() {
         Button("frmCommentsList.cmdMoveUp", u"Move &up").Tip(MoveUpTip),
         Button("frmCommentsList.cmdMoveDown", u"Move d&own").Tip(MoveDownTip),
         Button("frmCommentsList.cmdPreview", u"&Preview").Tip(PreviewTip),
-        Option("frmCommentsList.optCommentsListSendInOrder", "orderCOM", u"Send &in order").Tip(InOrderTip),
+        Option("frmCommentsList.optCommentsListSendInOrder", "orderCOM", u"Send &in order")
+            .Ticked()
+            .Tip(InOrderTip),
         Option("frmCommentsList.optCommentsListRandomize", "orderCOM", u"&Randomize").Tip(RandomizeTip),
         Button("frmCommentsList.Command1", u"&Close"),
 
@@ -52,7 +56,9 @@ std::vector<ControlRow> ListScreens() {
         Button("frmBulletinsList.cmdMoveUp", u"Move &up").Tip(MoveUpTip),
         Button("frmBulletinsList.cmdMoveDown", u"Move d&own").Tip(MoveDownTip),
         Button("frmBulletinsList.cmdPreview", u"&Preview").Tip(PreviewTip),
-        Option("frmBulletinsList.optBulletinsListSendInOrder", "orderBUL", u"Send &in order").Tip(InOrderTip),
+        Option("frmBulletinsList.optBulletinsListSendInOrder", "orderBUL", u"Send &in order")
+            .Ticked()
+            .Tip(InOrderTip),
         Option("frmBulletinsList.optBulletinsListRandomize", "orderBUL", u"&Randomize").Tip(RandomizeTip),
         Button("frmBulletinsList.Command1", u"&Close"),
 
@@ -64,6 +70,7 @@ std::vector<ControlRow> ListScreens() {
         Button("frmStatusesList.cmdMoveUp", u"Move &up").Tip(MoveUpTip),
         Button("frmStatusesList.cmdMoveDown", u"Move d&own").Tip(MoveDownTip),
         Option("frmStatusesList.optStatusesListSendInOrder", "orderSTATUS", u"Send &in order")
+            .Ticked()
             .Tip(InOrderTip),
         Option("frmStatusesList.optStatusesListRandomize", "orderSTATUS", u"&Randomize").Tip(RandomizeTip),
         Button("frmStatusesList.Command1", u"&Close"),
