@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The four list screens and their entry screens, without their windows.
 #include "SimulatedProgram.h"
+#include "campaigns/Campaigns.h"
+#include "campaigns/ContentChoice.h"
 #include "content/ContentLists.h"
 #include "content/ListScreens.h"
 #include "core/SettingsFields.h"
@@ -495,6 +497,24 @@ TEST_F(ListScreensTest, AStatusCountsDownFrom140) {
     EXPECT_EQ(left(), u"135 characters remaining"_s);
     app->controls.SetText("frmStatus.txtMessage"_L1, u"x"_s.repeated(141));
     EXPECT_EQ(left(), u"-1 characters remaining"_s);
+}
+
+// A run goes on behind the screen and reads the same file, line by line.
+TEST_F(ListScreensTest, ARewriteBetweenTwoPicksShiftsWhatTheNextOneFinds) {
+    const auto pick = [this] { return PickContentLine(*app, StatusUpdates).left(1); };
+    WithLetters(Cases[3], u"ABC"_s, [&] {
+        EXPECT_EQ(pick(), u"A"_s);
+        Click(u"cmdMoveDown"_s);
+        EXPECT_EQ(Letters(), u"BAC"_s);
+        EXPECT_EQ(pick(), u"A"_s);
+        Tick(2, false);
+        EXPECT_EQ(pick(), u"B"_s);
+        Select(1);
+        dialogs.answers = {Answer::Yes};
+        ClickItem("Delete");
+        EXPECT_EQ(Letters(), u"Bc"_s);
+        EXPECT_EQ(pick(), u"B"_s);
+    });
 }
 
 TEST_F(ListScreensTest, ASecondScreenDoesNotOpenOverTheFirst) {

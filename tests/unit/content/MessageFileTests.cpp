@@ -56,6 +56,18 @@ TEST_F(MessageFileTest, ChosenAgainReceivesAFurtherLineAndGivesTheFirst) {
     EXPECT_EQ(Body(), u"b"_s);
 }
 
+TEST_F(MessageFileTest, LettersThatItCannotHoldAreToldBeforeTheyAreLost) {
+    SetMessage(u"a"_s, u"ж"_s);
+    dialogs.answers = {Dialogs::Answer::No};
+    Save();
+    EXPECT_FALSE(app->files.FileExists(path));
+    ASSERT_EQ(dialogs.messages.size(), 1U);
+    EXPECT_TRUE(dialogs.messages.front().text.contains(u"ж"_s));
+    dialogs.answers = {Dialogs::Answer::Yes};
+    Save();
+    EXPECT_EQ(app->files.ReadLines(path), QStringList{u"axmsgx?"_s});
+}
+
 TEST_F(MessageFileTest, IsCutAtTheFirstMark) {
     app->files.WriteLines(path, {u"axmsgxbxmsgxc"_s});
     Load();
