@@ -32,7 +32,6 @@ struct Case {
     const char16_t* form;
     int targets; // in a block
     int steps;   // of the program a target, each after its delay
-    int waits;   // of a second that the program makes on purpose
     // Run in the page one after the other, each until the page that it leads to has come.
     std::vector<const char16_t*> presses;
     const char16_t* answer;
@@ -52,7 +51,6 @@ const std::vector<Case>& Cases() {
          u"source",
          30,
          2,
-         0,
          {BY_NAME u"by('%1').value = 'Hi'; by('%2_editsource').firstElementChild.click();"
                   u"by('%2_editsourcearea').value = '%3';" PRESS(u"input", u"send")},
          u"Your message has been sent"},
@@ -62,26 +60,14 @@ const std::vector<Case>& Cases() {
          u"mailbody",
          30,
          2,
-         0,
          {BY_NAME u"by('%1').value = 'Hi'; by('%2').value = '%3';" PRESS(u"input", u"send")},
          u"Your message has been sent"},
-        {"a comment, new layout",
-         Comments,
-         true,
-         u"box",
-         8,
-         1,
-         2,
-         {BY_NAME u"by('%2').value = '%3'; by('%2').dispatchEvent(new Event('input', {bubbles: "
-                  u"true}));" PRESS(u"button", u"post")},
-         u"Your comment has been posted"},
         {"a comment, old layout",
          Comments,
          false,
          u"plain",
          30,
          3,
-         0,
          {BY_NAME u"by('%2').value = '%3';" PRESS(u"input", u"post a comment"),
           PRESS(u"input", u"post a comment")},
          u"Your comment has been posted"},
@@ -246,10 +232,7 @@ void WritingCost::Report() const {
         std::printf("%s\n", each.name);
         PrintSpread("  the program", of.ofProgram, "ms");
         PrintSpread("  a bare page in a window", of.ofBare, "ms");
-        if (each.waits > 0)
-            std::printf("  the program waits %d times for a second on purpose\n", each.waits);
-        else
-            PrintAgainstGoal("  program / bare page", Median(of.ofProgram) / Median(of.ofBare), 1.0, "times");
+        PrintAgainstGoal("  program / bare page", Median(of.ofProgram) / Median(of.ofBare), 1.0, "times");
         PrintSpread("  engine calls a target", of.calls, "calls");
     }
 }

@@ -18,6 +18,8 @@ namespace {
 constexpr int SiteStopsOfADay = 5;
 constexpr qint64 LookEveryMs = 1000;
 constexpr qint64 SilentWaitMs = 130'000;
+// Of a form: its waits that end by themselves go before those that are told.
+constexpr qint64 SilentFormMs = 180'000;
 constexpr qint64 LongestStandMs = 20 * 60 * 1000;
 constexpr qint64 LongestTrialMs = 23LL * 60 * 60 * 1000;
 constexpr qint64 MostTurnsBetweenLooks = 1'000'000;
@@ -367,7 +369,8 @@ void Trial::LookAtRunningProgram() {
     const RunState& state = m_app->state;
     const QString standing = state.CurrentAction + QString::number(state.lngTargetNumber) + u' ' +
                              QString::number(state.*m_campaign.activity.step) +
-                             QString::number(state.intLoginStep) + state.strLinkValue;
+                             QString::number(state.intLoginStep) + state.strLinkValue +
+                             (&m_campaign == &FriendRequests ? QString() : m_app->Status());
     if (standing != m_standing) {
         m_standing = standing;
         m_standingSinceMs = m_world.clock.NowMs();
@@ -379,15 +382,24 @@ void Trial::LookAtRunningProgram() {
         return;
     PressOldButton();
     const bool isTold = !m_app->controls.Text("lblWaitingFor"_L1).isEmpty();
-    if (standsMs > SilentWaitMs && !isTold)
+    const qint64 silentMs = &m_campaign == &FriendRequests ? SilentWaitMs : SilentFormMs;
+    if (standsMs > silentMs && !isTold)
         throw Broken{u"a wait of two minutes isn't told: "_s + m_app->Status()};
     if (isTold || m_dice.Happens(m_plan.skipsInThousandLooks)) {
         m_judge->OnUserGivesUp(state.strCurrentID);
+        if (isTold)
+            RepairForm(state.strCurrentID);
         Click("picSkip");
     } else if (m_dice.Happens(m_plan.stopsInThousandLooks)) {
         m_judge->OnUserGivesUp(state.strCurrentID);
         Click(m_campaign.stop);
     }
+}
+
+// A form that never works would hold up each run anew, until one of them is not cut off in between.
+void Trial::RepairForm(const QString& id) {
+    m_site.Control(u"compose "_s + id + u" off"_s);
+    m_site.Control(u"comment-form "_s + id + u" off"_s);
 }
 
 // True while a CAPTCHA is the user's business. He is told the word, reads for a while, and errs at times.

@@ -58,6 +58,7 @@ private:
     void Click(const char* button);
     qint64 AskedTarget() const;
     void Spoil(SimAnswer& answer, const QString& id);
+    void RepairForm(const QString& id);
     int StoredCount() const;
     void Trace(const QString& text) const;
     void TraceState();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CommenterTest.h"
 #include "campaigns/Commenter.h"
+#include "steps/ActionTick.h"
 #include "steps/RunReport.h"
 
 #include <utility>
@@ -90,6 +91,21 @@ TEST_P(CommenterTest, WhateverLeadsBackToAFormThatWasSentItIsSentOnce) {
     EXPECT_TRUE(isRepeated);
     EXPECT_EQ(posted, (QStringList{u"1001 Hello"_s, u"1002 Hello"_s}));
     EXPECT_EQ(Log(), (QStringList{u"1001"_s, u"1002"_s}));
+}
+
+// Between two targets a check may see the blank page, once with each of them.
+TEST_P(CommenterTest, ChecksOfTheBlankPageBetweenTargetsCostNobodyTheirComment) {
+    bool isChecked = false;
+    platform->Pump().onPump = [&] {
+        if (State().strCurrentID == u"1001")
+            State().intBlankTicks = 30;
+        else if (State().intComStep == 4 && Address() == u"about:blank" && !std::exchange(isChecked, true))
+            app->Get<ActionTick>().tmrCheckLinkLoaded_Timer();
+    };
+    Run();
+    EXPECT_TRUE(isChecked);
+    EXPECT_EQ(Log(), (QStringList{u"1001"_s, u"1002"_s}));
+    EXPECT_EQ(State().lngFailedCount, 0);
 }
 
 TEST_P(CommenterTest, ALogThatCannotBeWrittenIsTold) {
