@@ -71,6 +71,8 @@ Next Commenter::TakeNextTarget() {
     state.blnSkipCurrentID = false;
     state.blnSkipRequested = false;
     m_target = {};
+    // They are about one page that doesn't come. Those of many targets together would cost one its turn.
+    state.intBlankTicks = 0;
     if (!m_app.Get<SendRuns>().TakeTarget(u"IterateSendComments - 1"_s)) {
         state.intComStep = CommentStep::End;
         return Next::Again;

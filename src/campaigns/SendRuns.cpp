@@ -206,8 +206,6 @@ void SendRuns::PassOver(const QString& caller) {
 void SendRuns::BeginTarget() {
     RunState& state = m_app.state;
     ++state.lngTargetNumber;
-    // They are about one page that doesn't come. Those of many targets together would cost one its turn.
-    state.intBlankTicks = 0;
     m_app.waiting.OwnTarget();
     const bool accepting = Accepting();
     const QStringList& accepted = m_app.controls.Items("lstAcceptIDs"_L1);

@@ -55,6 +55,14 @@ QString NotesIn(const QTemporaryDir& folder, const Campaign& campaign) {
     return LogIn(folder, campaign).replace(u".txt"_s, u".open.txt"_s);
 }
 
+// A page that ends a run of messages or comments.
+bool IsLimitPage(const QString& html) {
+    static const QRegularExpression words(
+        u"daily useage|maximum limit of friend requests|while processing your friend request"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    return html.contains(words);
+}
+
 // The target of a page of the campaigns; empty for any other address.
 QString TargetOf(const QString& url) {
     static const QRegularExpression pages(
@@ -177,8 +185,7 @@ SimAnswer Trial::AnswerPage(const SimRequest& request) {
     if (!id.isEmpty())
         m_judge->AfterRequest(id, m_site.TakeJournal(), answer.html);
     // Nor does the site refuse for ever whoever tells nobody of it.
-    if (&m_campaign != &FriendRequests && answer.html.contains(u"daily useage"_s) &&
-        ++m_siteStops == SiteStopsOfADay)
+    if (&m_campaign != &FriendRequests && IsLimitPage(answer.html) && ++m_siteStops == SiteStopsOfADay)
         LiftRefusals();
     // The site's flood is over when it has been told once.
     if (answer.html.contains(u"flooding comments"_s))
@@ -387,7 +394,7 @@ void Trial::LookAtRunningProgram() {
         throw Broken{u"a wait of two minutes isn't told: "_s + m_app->Status()};
     if (isTold || m_dice.Happens(m_plan.skipsInThousandLooks)) {
         m_judge->OnUserGivesUp(state.strCurrentID);
-        if (isTold)
+        if (isTold && &m_campaign != &FriendRequests)
             RepairForm(state.strCurrentID);
         Click("picSkip");
     } else if (m_dice.Happens(m_plan.stopsInThousandLooks)) {
@@ -396,10 +403,14 @@ void Trial::LookAtRunningProgram() {
     }
 }
 
-// A form that never works would hold up each run anew, until one of them is not cut off in between.
+// A page that leads nowhere would hold up each run anew, until one of them is not cut off in between.
 void Trial::RepairForm(const QString& id) {
-    m_site.Control(u"compose "_s + id + u" off"_s);
-    m_site.Control(u"comment-form "_s + id + u" off"_s);
+    const QString form = &m_campaign == &Messages ? u"compose "_s : u"comment-form "_s;
+    const QString word = &m_campaign == &Messages ? u"message-"_s : u"comment-"_s;
+    const QString taken = &m_campaign == &Messages ? u" sent"_s : u" posted"_s;
+    m_site.Control(form + id + u" off"_s);
+    m_site.Control(word + u"refuse "_s + id + u" off"_s);
+    m_site.Control(word + u"outcome "_s + id + taken);
 }
 
 // True while a CAPTCHA is the user's business. He is told the word, reads for a while, and errs at times.
