@@ -8,6 +8,7 @@
 #include <QBoxLayout>
 #include <QDialogButtonBox>
 #include <QScreen>
+#include <QShortcut>
 
 namespace qlm {
 
@@ -26,6 +27,9 @@ void frmPreview::Build(Form& form) {
     column->addWidget(page, 1);
     column->addWidget(NewButtonRow({"cmdClose"_L1}));
     page->show();
+    // The page keeps the keys to itself that are typed in it.
+    auto* leave = new QShortcut(QKeySequence::Cancel, &form);
+    QObject::connect(leave, &QShortcut::activated, &form, [&form] { form.reject(); });
     form.resize(StartingSize.boundedTo(form.screen()->availableSize()));
 }
 

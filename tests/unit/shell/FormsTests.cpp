@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QTimer>
@@ -234,6 +235,51 @@ TEST_F(FormsTest, EscapeWorksAsTheCancelButton) {
     dialogs.ShowForm(u"frmAccountDetails"_s);
     static_cast<QDialog*>(dialogs.FormWidget(u"frmAccountDetails"_s))->reject();
     EXPECT_EQ(runs, 1);
+}
+
+TEST_F(FormsTest, EscapeLeavesAPreviewWhosePageHasTheKeys) {
+    auto* leave = Shown("frmPreview")->findChild<QShortcut*>();
+    ASSERT_NE(leave, nullptr);
+    EXPECT_EQ(leave->key(), QKeySequence(Qt::Key_Escape));
+    Q_EMIT leave->activated();
+    EXPECT_FALSE(dialogs.IsFormOpen(u"frmPreview"_s));
+}
+
+TEST_F(FormsTest, TheViewOfAPreviewGoesBackToItsGiver) {
+    EXPECT_EQ(Shown("frmPreview")->findChild<QWidget*>(u"webPreview"_s), &coverView);
+    dialogs.CloseForm(u"frmPreview"_s);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(coverView.parentWidget(), nullptr);
+}
+
+TEST_F(FormsTest, AFormThatIsOffTheScreenIsStillWaitedFor) {
+    dialogs.whileModal = [&](QDialog& dialog) {
+        dialogs.SetFormVisible(u"frmMessagesList"_s, false);
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_TRUE(dialogs.IsFormOpen(u"frmMessagesList"_s));
+        dialogs.SetFormVisible(u"frmMessagesList"_s, true);
+        EXPECT_TRUE(dialog.isVisible());
+    };
+    dialogs.ShowModal(u"frmMessagesList"_s);
+}
+
+TEST(ModalForm, IsWaitedForWhileItIsOffTheScreen) {
+    struct OpenDialogs : DesktopDialogs {
+        void Wait(QDialog& dialog) { RunModal({}, dialog); }
+    } dialogs;
+    QDialog dialog;
+    QStringList order;
+    QTimer::singleShot(0, &dialog, [&] {
+        dialog.hide();
+        QTimer::singleShot(20, &dialog, [&] {
+            order.append(u"back"_s);
+            dialog.show();
+            dialog.done(0);
+        });
+    });
+    dialogs.Wait(dialog);
+    order.append(u"closed"_s);
+    EXPECT_EQ(order, (QStringList{u"back"_s, u"closed"_s}));
 }
 
 TEST_F(FormsTest, EscapeLeavesAFormThatIsBusyOpen) {
