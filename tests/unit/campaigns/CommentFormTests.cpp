@@ -143,6 +143,17 @@ TEST_F(CommentFormTest, TheTextGoesIntoTheBoxAndWhatShowsItBesideIt) {
     EXPECT_EQ(Page().GetElementById(u"outside"_s).InnerText(), u"old"_s);
 }
 
+// Nor what lies deeper, and nothing that holds a control of its own.
+TEST_F(CommentFormTest, WhatIsNoTextBesideTheBoxStaysAsItIs) {
+    for (const QString& tag : {u"input"_s, u"select"_s, u"script"_s, u"style"_s, u"button"_s}) {
+        Show(u"<div><textarea id=t placeholder='Post a comment'></textarea>"
+             "<p id=holds>Old <b id=deep>old</b><%1></%1></p></div>"_s.arg(tag));
+        WriteIntoBox(FindCommentBox(Page()), u"Hello"_s);
+        EXPECT_EQ(ValueOf(u"t"_s), u"Hello"_s) << tag.toStdString();
+        EXPECT_EQ(Page().GetElementById(u"holds"_s).InnerText().trimmed(), u"Old old"_s) << tag.toStdString();
+    }
+}
+
 TEST_F(CommentFormTest, ThePostButtonIsTheFirstThatShows) {
     Show(u"<input type=submit value=post><button id=p>Post preview</button><button id=q>Preview</button>"
          "<button id=h style='color: red; DISPLAY: NONE'>Post</button>"

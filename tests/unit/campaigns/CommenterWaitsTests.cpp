@@ -4,6 +4,10 @@
 #include "MeetInWait.h"
 #include "steps/Steps.h"
 
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
 namespace qlm {
 namespace {
 
@@ -50,6 +54,7 @@ struct Wait {
     int standsMs = 20'000;
     const char16_t* saysFor = u""; // what the window says that is waited for
     bool isPressed = false;        // the comment may be out by then
+    int limitSeconds = 0;          // after which it ends by itself, with the one after it; 0 for never
 };
 
 void PrintTo(const Wait& wait, std::ostream* stream) {
@@ -79,13 +84,19 @@ constexpr Wait Waits[] = {
      .form = u"<p data-on-load='after 3100ms goto http://comment.site.example.com/bodiless'></p>" TAKES POST,
      .standsMs = 130'000,
      .saysFor = u" for a page with a body. "},
-    {.name = "Prompt", .isNew = true, .form = BOX(u"") POST},
-    {.name = "Box", .isNew = true, .form = HINT POST, .standsMs = 50'000},
+    {.name = "Prompt", .isNew = true, .form = BOX(u"") POST, .limitSeconds = 25},
+    {.name = "Box", .isNew = true, .form = HINT POST, .standsMs = 50'000, .limitSeconds = 60},
     {.name = "Growth",
      .isNew = true,
      .form = HINT u"<div><textarea id=box placeholder='Post a comment'></textarea></div>" POST,
-     .standsMs = 50'000},
-    {.name = "Typing", .isNew = true, .form = HINT BOX(u"") POST, .isTyped = true, .standsMs = 8'000},
+     .standsMs = 50'000,
+     .limitSeconds = 60},
+    {.name = "Typing",
+     .isNew = true,
+     .form = HINT BOX(u"") POST,
+     .isTyped = true,
+     .standsMs = 8'000,
+     .limitSeconds = 10 + 2},
     {.name = "Settling", .isNew = true, .form = TAKES POST, .isTyped = true, .standsMs = 700},
     {.name = "Answer",
      .isNew = true,
@@ -114,7 +125,8 @@ constexpr Wait Waits[] = {
     {.name = "CompleteForm",
      .isNew = false,
      .form = PROFILE FORM FIELD SUBMIT,
-     .formFault = SimFault::Incomplete},
+     .formFault = SimFault::Incomplete,
+     .limitSeconds = 25},
     {.name = "Profile",
      .isNew = false,
      .form = FORM FIELD SUBMIT,
@@ -129,7 +141,8 @@ constexpr Wait Waits[] = {
      .isNew = false,
      .form = PROFILE FORM FIELD u"<p id=ctl00_ctl00_cpMain_cpMain_ctl02_ctl00></p>" SUBMIT,
      .isTyped = true,
-     .standsMs = 8'000},
+     .standsMs = 8'000,
+     .limitSeconds = 10},
     {.name = "CompleteConfirmation",
      .isNew = false,
      .form = PROFILE FORM FIELD SUBMIT,
@@ -137,7 +150,8 @@ constexpr Wait Waits[] = {
      .confirmFault = SimFault::Incomplete,
      .step = CommentStep::Confirm,
      .posts = 1,
-     .isPressed = true},
+     .isPressed = true,
+     .limitSeconds = 25},
     {.name = "Asleep",
      .isNew = false,
      .form = PROFILE FORM FIELD SUBMIT,
@@ -251,6 +265,33 @@ TEST_P(CommentWaitTest, ASecondStartBeginsAnewAndPostsToNobodyTwice) {
     EXPECT_EQ(PostedLater(u"1001"_s).size(), GetParam().isPressed ? 0 : 1);
     EXPECT_EQ(PostedLater(u"1002"_s).size(), 1);
     EXPECT_TRUE(IsContacted());
+}
+
+class LimitedWaitTest : public CommentWaitTest {};
+
+std::vector<Wait> LimitedWaits() {
+    std::vector<Wait> limited;
+    std::copy_if(std::begin(Waits), std::end(Waits), std::back_inserter(limited),
+                 [](const Wait& wait) { return wait.limitSeconds > 0; });
+    return limited;
+}
+INSTANTIATE_TEST_SUITE_P(Each, LimitedWaitTest, testing::ValuesIn(LimitedWaits()),
+                         [](const auto& wait) { return wait.param.name; });
+
+// A step begins less than half a second after the page has been judged; it looks once in 10 ms.
+TEST_P(LimitedWaitTest, ItEndsByItselfInItsTime) {
+    qint64 sinceMs = -1;
+    qint64 tookMs = 0;
+    platform->Pump().onPump = [&] {
+        const qint64 nowMs = platform->Pump().Queue().NowMs();
+        if (!Stands())
+            sinceMs = nowMs;
+        tookMs = std::max(tookMs, nowMs - sinceMs);
+    };
+    Start();
+    platform->Pump().RunUntil([&] { return State().strCurrentID == u"1002"; }, 200'000);
+    EXPECT_GT(tookMs, GetParam().limitSeconds * 1000 - 20);
+    EXPECT_LT(tookMs, GetParam().limitSeconds * 1000 + 500);
 }
 
 TEST_P(CommentWaitTest, TheEndOfTheProgramLeavesIt) {
