@@ -3,6 +3,7 @@
 #include "accounts/AccountFile.h"
 #include "program/MainForm.h"
 #include "program/StartUp.h"
+#include "steps/Steps.h"
 #include "tests/support/SimulatedSite.h"
 
 #include <QDir>
@@ -20,6 +21,8 @@ constexpr qint64 LookEveryMs = 1000;
 constexpr qint64 SilentWaitMs = 130'000;
 // Of a form: its waits that end by themselves go before those that are told.
 constexpr qint64 SilentFormMs = 180'000;
+// Of a profile that is judged: after 31 ticks in vain its step is entered, whose own wait begins anew.
+constexpr qint64 SilentFilterMs = 31 * 3000 + SilentWaitMs;
 constexpr qint64 LongestStandMs = 20 * 60 * 1000;
 constexpr qint64 LongestTrialMs = 23LL * 60 * 60 * 1000;
 constexpr qint64 MostTurnsBetweenLooks = 1'000'000;
@@ -389,7 +392,9 @@ void Trial::LookAtRunningProgram() {
         return;
     PressOldButton();
     const bool isTold = !m_app->controls.Text("lblWaitingFor"_L1).isEmpty();
-    const qint64 silentMs = &m_campaign == &FriendRequests ? SilentWaitMs : SilentFormMs;
+    const qint64 silentMs = &m_campaign != &FriendRequests                ? SilentFormMs
+                            : state.intFRStep == FriendStep::DecideFilter ? SilentFilterMs
+                                                                          : SilentWaitMs;
     if (standsMs > silentMs && !isTold)
         throw Broken{u"a wait of two minutes isn't told: "_s + m_app->Status()};
     if (isTold || m_dice.Happens(m_plan.skipsInThousandLooks)) {
