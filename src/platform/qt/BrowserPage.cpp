@@ -27,6 +27,21 @@
 
 namespace qlm {
 
+// Lets through what the program itself asked for and nothing that a page names.
+class PageSeal final : public QWebEngineUrlRequestInterceptor {
+public:
+    using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
+    void Admit(const QUrl& url) { m_admitted = url; }
+    // A link to a file that is to be saved asks for it as a page, but nobody is asked whether to go there.
+    void interceptRequest(QWebEngineUrlRequestInfo& info) override {
+        const bool isPage = info.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeMainFrame;
+        info.block(!isPage || info.requestUrl() != m_admitted);
+    }
+
+private:
+    QUrl m_admitted;
+};
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -35,15 +50,6 @@ namespace {
 constexpr auto boxTitle = "Message from webpage";
 
 int requestDepth = 0;
-
-// Lets through what the program itself asked for and nothing that a page names.
-class PageSeal final : public QWebEngineUrlRequestInterceptor {
-public:
-    using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
-    void interceptRequest(QWebEngineUrlRequestInfo& info) override {
-        info.block(info.resourceType() != QWebEngineUrlRequestInfo::ResourceTypeMainFrame);
-    }
-};
 
 std::vector<BrowserPage*>& LivePages() {
     static std::vector<BrowserPage*> pages;
@@ -143,7 +149,8 @@ void BrowserPage::RefusePermissions() {
 // The program's own script world is not the page's and goes on running.
 void BrowserPage::Seal() {
     settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, false);
-    setUrlRequestInterceptor(new PageSeal(this));
+    m_seal = new PageSeal(this);
+    setUrlRequestInterceptor(m_seal);
     setAudioMuted(true);
 }
 
@@ -180,6 +187,8 @@ bool BrowserPage::acceptNavigationRequest(const QUrl& url, NavigationType type, 
     ++requestDepth;
     const bool isAccepted = m_observer && m_observer->AcceptNavigation(url, type, isMainFrame);
     --requestDepth;
+    if (m_seal && isAccepted && isMainFrame)
+        m_seal->Admit(url);
     return isAccepted;
 }
 

@@ -39,6 +39,8 @@ public:
     virtual bool AnswersSilently() const = 0;
 };
 
+class PageSeal;
+
 // The engine's page with every question that it can ask answered: scripts' boxes, certificates, permissions,
 // files, full screen, downloads. Nothing that a page does brings up a box while its observer answers
 // silently.
@@ -84,6 +86,7 @@ private:
     bool IsSilent() const { return !m_observer || m_observer->AnswersSilently(); }
 
     PageObserver* m_observer;
+    PageSeal* m_seal = nullptr;
     // Unguessable, so that a page can't speak in the watching script's name.
     QString m_secret;
 };
