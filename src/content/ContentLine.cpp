@@ -15,8 +15,12 @@ const QString SemicolonWord = u"%cln%"_s;
 // The comment in front of its flag is looked for without the "=".
 const QString CommentEnd = u"&usenonhtml"_s;
 
+// Every marker begins with a "&", which is found sooner than letters of either case.
 qsizetype Find(const QString& text, const QString& marker) {
-    return text.indexOf(marker, 0, Qt::CaseInsensitive);
+    for (qsizetype at = text.indexOf(u'&'); at >= 0; at = text.indexOf(u'&', at + 1))
+        if (QStringView(text).sliced(at).startsWith(marker, Qt::CaseInsensitive))
+            return at;
+    return -1;
 }
 
 qsizetype Need(const QString& text, const QString& marker) {

@@ -30,23 +30,23 @@ char ToAnsiCode(char16_t character) {
 } // namespace
 
 QByteArray ToAnsi(QStringView text) {
-    QByteArray bytes;
-    bytes.reserve(text.size());
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    char* out = bytes.data();
     for (qsizetype i = 0; i < text.size(); ++i) {
         // A character beyond the basic plane is two units here and one "?" there.
         if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
             ++i;
-        bytes.append(ToAnsiCode(text[i].unicode()));
+        *out++ = ToAnsiCode(text[i].unicode());
     }
+    bytes.truncate(out - bytes.constData());
     return bytes;
 }
 
 QString FromAnsi(QByteArrayView bytes) {
-    QString text(bytes.size(), Qt::Uninitialized);
-    for (qsizetype i = 0; i < bytes.size(); ++i) {
-        const auto code = static_cast<unsigned char>(bytes[i]);
-        text[i] = QChar(code >= 0x80 && code < 0xA0 ? UpperControls[code - 0x80U] : char16_t(code));
-    }
+    QString text = QString::fromLatin1(bytes);
+    for (QChar& character : text)
+        if (const char16_t code = character.unicode(); code >= 0x80 && code < 0xA0)
+            character = UpperControls[code - 0x80U];
     return text;
 }
 
