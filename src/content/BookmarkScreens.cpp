@@ -55,10 +55,14 @@ void Bookmarks::RegisterForms() {
     });
     commands.Add(Editor + u".cmdSave_Click"_s, "cmdSave_Click - frmBookmark", [this] { cmdSave_Click(); });
     commands.Add(Editor + u".cmdCancel_Click"_s, [this] { m_app.platform.Dialogs().CloseForm(Editor); });
-    m_app.controls.AddListener([this](const Control& control, Controls::Change change, int) {
+    m_listener = m_app.controls.AddListener([this](const Control& control, Controls::Change change, int) {
         if (control.name == Box && change == Controls::Change::Selected)
             EnableMoves();
     });
+}
+
+Bookmarks::~Bookmarks() {
+    m_app.controls.RemoveListener(m_listener);
 }
 
 void Bookmarks::mnuManageBookmarks_Click() {

@@ -21,6 +21,7 @@ struct Bookmark {
 class Bookmarks {
 public:
     explicit Bookmarks(App& app);
+    ~Bookmarks();
 
     // The menu as the file says.
     void LoadBookmarksMenu();
@@ -42,6 +43,7 @@ private:
     void GoTo(int item);
 
     App& m_app;
+    int m_listener = 0;
     std::vector<Bookmark> m_menu; // as it shows
     bool m_isManaging = false;
     ListFile m_file;                     // where the open form saves

@@ -21,11 +21,15 @@ bool Has(const char* control) {
 EntryScreens::EntryScreens(App& app) : m_app(app) {
     for (const ContentScreen& screen : ContentScreens())
         Register(screen);
-    app.controls.AddListener([this](const Control& control, Controls::Change change, int) {
+    m_listener = app.controls.AddListener([this](const Control& control, Controls::Change change, int) {
         if (control.name == StatusText && change == Controls::Change::Text)
             CountCharacters();
     });
     CountCharacters();
+}
+
+EntryScreens::~EntryScreens() {
+    m_app.controls.RemoveListener(m_listener);
 }
 
 void EntryScreens::Register(const ContentScreen& screen) {

@@ -15,6 +15,7 @@ class App;
 class EntryScreens {
 public:
     explicit EntryScreens(App& app);
+    ~EntryScreens();
 
     // Shows the screen; returns when it has been closed. edited is the entry that is edited, null for a new
     // one.
@@ -28,6 +29,7 @@ private:
     void CountCharacters();
 
     App& m_app;
+    int m_listener = 0;
     QString strMode; // "ADD" or "EDIT"
     std::optional<ContentList> m_list;
     ContentFields m_edited; // as it came

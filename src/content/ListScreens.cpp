@@ -34,12 +34,16 @@ ListScreens::ListScreens(App& app) : m_app(app), m_entries(app) {
     for (const ContentScreen& screen : ContentScreens())
         Register(screen);
     // By whatever means another row is chosen.
-    app.controls.AddListener([this](const Control& control, Controls::Change change, int) {
+    m_listener = app.controls.AddListener([this](const Control& control, Controls::Change change, int) {
         if (m_screen && control.name == Box() && change == Controls::Change::Selected) {
             FillDetails();
             EnableMoves();
         }
     });
+}
+
+ListScreens::~ListScreens() {
+    m_app.controls.RemoveListener(m_listener);
 }
 
 void ListScreens::Register(const ContentScreen& screen) {

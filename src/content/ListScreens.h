@@ -12,6 +12,7 @@ namespace qlm {
 class ListScreens {
 public:
     explicit ListScreens(App& app);
+    ~ListScreens();
 
     // Shows the screen of that kind; returns when it has been closed and the tab shows the list.
     void Open(ContentKind kind);
@@ -43,6 +44,7 @@ private:
     QByteArray ControlNamed(const char* name) const;
 
     App& m_app;
+    int m_listener = 0;
     EntryScreens m_entries;
     // Of the open screen.
     const ContentScreen* m_screen = nullptr;

@@ -84,7 +84,7 @@ void SetValueOf(Controls& controls, const Control& control, const QString& value
 // Whoever changes an option, the window or the restoring of an account's settings: the fields follow.
 void ProfileFilters::FollowOptions() {
     TakeOver(m_app.state, m_app.controls);
-    m_app.controls.AddListener([this](const Control& control, Controls::Change, int) {
+    m_app.controls.AddListener([&app = m_app](const Control& control, Controls::Change, int) {
         static const QHash<QLatin1StringView, bool> watched = [] {
             QHash<QLatin1StringView, bool> names;
             for (const ControlRow* row : FilterRows())
@@ -92,7 +92,7 @@ void ProfileFilters::FollowOptions() {
             return names;
         }();
         if (watched.contains(control.name))
-            TakeOver(m_app.state, m_app.controls);
+            TakeOver(app.state, app.controls);
     });
 }
 

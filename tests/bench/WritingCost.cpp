@@ -214,7 +214,7 @@ QString WritingCost::ScriptOf(const Case& each, size_t press) {
         return script;
     if (&each.campaign == &Comments) {
         const auto& design = *practice::FormNamed(practice::CommentDesigns(), form);
-        return script.arg(QString(), design.box.toString(), Text);
+        return QString(script).replace(u"%2"_s, design.box.toString()).replace(u"%3"_s, Text);
     }
     const auto& design = *practice::FormNamed(practice::ComposeDesigns(), form);
     return script.arg(design.subject.toString(), design.body.toString(), Text);
