@@ -18,6 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+const QString FriendsOnly = u"Only friends may comment on this profile"_s;
 constexpr int CompletePageSeconds = 25;
 constexpr int EditorSeconds = 10;
 constexpr int FriendsOnlyClass = 15;
@@ -44,7 +45,7 @@ Next Commenter::SubmitComment() {
 std::optional<QString> Commenter::TextOfTarget() {
     RunState& state = m_app.state;
     if (state.blnSkipCurrentID) {
-        m_app.Get<RunReport>().Remark(u"Only friends may comment on this profile"_s, FriendsOnlyClass);
+        m_app.Get<RunReport>().Remark(FriendsOnly, FriendsOnlyClass);
         return std::nullopt;
     }
     const bool refusesHTML = RefusesHTML(m_app);
@@ -78,6 +79,12 @@ Next Commenter::SubmitForm() {
     if (m_app.Get<PageSigns>().IsTextInPage(Flooding)) {
         m_app.Get<StopResume>().StopAll(StopReason::Flooding);
         m_app.Get<StopResume>().DoFinishedExit();
+        return Next::Wait;
+    }
+    // The page has said already that it takes no comment; its form would be waited for without an end.
+    if (m_app.state.blnSkipCurrentID) {
+        m_app.Get<RunReport>().Remark(FriendsOnly, FriendsOnlyClass);
+        m_app.Get<StopResume>().SkipProfile();
         return Next::Wait;
     }
     WaitForForm();
