@@ -37,6 +37,9 @@ protected:
         });
     }
 
+    // The program says its last words while there is somebody to hear them.
+    ~BrowserTest() override { app.reset(); }
+
     // What the step after the send was handed with the first target that was given up. It goes on at once.
     struct Handed {
         RunState state;
