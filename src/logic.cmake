@@ -68,6 +68,7 @@ add_library(quillmere_logic STATIC
     steps/Lending.cpp
     steps/PageDetours.cpp
     steps/ReportRows.cpp
+    steps/ReportStream.cpp
     steps/RunReport.cpp
     steps/StepDispatcher.cpp
     steps/StopReason.cpp
@@ -123,6 +124,8 @@ add_library(quillmere_logic STATIC
     content/Preview.cpp
 
     campaigns/BulletinDots.cpp
+    campaigns/BulletinPage.cpp
+    campaigns/BulletinPoster.cpp
     campaigns/Bulletins.cpp
     campaigns/CampaignErrorPages.cpp
     campaigns/Campaigns.cpp
@@ -155,9 +158,12 @@ add_library(quillmere_logic STATIC
     campaigns/SendRuns.cpp
     campaigns/SentLog.cpp
     campaigns/StartChecks.cpp
+    campaigns/StatusPage.cpp
+    campaigns/StatusUpdater.cpp
     campaigns/StatusUpdates.cpp
     campaigns/TargetName.cpp
     campaigns/TimeDelayDialog.cpp
+    campaigns/TimedPosts.cpp
 
     program/Activities.cpp
     program/GlobalSettings.cpp

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The campaign "bulletins", which has no targets. It waits for its machine.
+// The campaign "bulletins", which has no targets. BulletinPoster is its machine.
+#include "campaigns/BulletinPoster.h"
 #include "campaigns/Campaigns.h"
 #include "core/ActivityWords.h"
+#include "core/App.h"
 #include "steps/Steps.h"
 
 namespace qlm {
@@ -23,19 +25,30 @@ const std::vector<StartCheck>& Checks() {
     return rows;
 }
 
+void LeaveErrorPage(App& app) {
+    TraceErrorPage(app, u"Maint: "_s);
+    app.Get<RunReport>().RemarkPage(app.state.intPageClass);
+}
+
 } // namespace
 
 constinit const Campaign Bulletins{
     .activity = {.word = ActivityWord::Bulletins,
                  .step = &RunState::intBulStep,
+                 .stepRoutine = [](App& app) { app.Get<BulletinPoster>().IterateSendBulletins(); },
                  .debugFile = "debugbul.txt",
                  .resumable = true,
+                 .waits = &RunState::blnBulletinWaiting,
                  .stepAfterSkip = BulletinStep::None,
-                 .onErrorPage = [](App& app) { TraceErrorPage(app, u"Maint: "_s); }},
+                 .onErrorPage = LeaveErrorPage},
+    .makeMachine = [](Families& families, App& app) { families.Make<BulletinPoster>(app); },
+    .tab = u"Timed Bulletins",
     .send = "picCmdBulSend",
     .startProcedure = "cmdBulSend_Click",
     .stop = "piccmdBulStop",
     .checks = Checks,
+    .prepare = [](App& app) { app.Get<BulletinPoster>().Repair(); },
+    .onStart = [](App& app) { app.Get<BulletinPoster>().BeginRun(); },
     .firstStep = BulletinStep::Open,
     .stopsRunningOne = true,
     .reasons = {.stopped = StopReason::BulletinStop},
@@ -51,6 +64,22 @@ constinit const Campaign Bulletins{
     .sentAtStart = "Bulletins sent: ",
     .sentSoFar = "Bulletins sent: ",
     .amount = "txtPostAmount"_L1,
+    .reportButton = "piccmdBulReport",
+    .report = {.file = "BulletinsReport.txt", .title = "Bulletins", .allDone = "All were posted"},
+    .timing = {.timer = &Timers::tmrBulletinWait,
+               .from = "txtBulTimerFrom"_L1,
+               .to = "txtBulTimerTo"_L1,
+               .fromAtTick = "2",
+               .tickRepairsAll = true,
+               .tellsEachMinute = true,
+               .keepsPageOfLender = true,
+               .elapsed = &RunState::lngBulMinutesElapsed,
+               .drawn = &RunState::lngBulWaitMinutes,
+               .busyLabel = "lblBulBusy"_L1,
+               .dueLabel = "lblBulDue"_L1,
+               .posted = "Bulletin successfully posted",
+               .finished = "Finished posting bulletins",
+               .noteFile = "BulletinsLog.txt"},
     .goesOnInChain = true,
 };
 

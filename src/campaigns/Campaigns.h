@@ -15,6 +15,8 @@
 namespace qlm {
 
 class App;
+class Timer;
+struct Timers;
 
 // Where the text of a campaign comes from: its list, or the fields of its tab.
 struct CampaignContent {
@@ -43,6 +45,25 @@ struct DailyCounter {
     QLatin1StringView label{}; // empty for none
 };
 
+// What a campaign that posts by the clock waits by: an amount of posts, minutes between two of them.
+struct CampaignTiming {
+    Timer Timers::*timer = nullptr; // nullptr for a campaign that walks over targets
+    QLatin1StringView from{};       // the fields of the interval
+    QLatin1StringView to{};
+    // What a "from" that is no number becomes at a minute's tick; at the start that is an hour.
+    const char* fromAtTick = "60";
+    bool tickRepairsAll = false;    // the amount too, and a "from" that is too long
+    bool tellsEachMinute = false;   // in the status line, whatever else is running
+    bool keepsPageOfLender = false; // the lender's page is loaded again; else its target is given up
+    qint32 RunState::*elapsed = nullptr;
+    qint32 RunState::*drawn = nullptr;
+    QLatin1StringView busyLabel{};
+    QLatin1StringView dueLabel{};
+    const char* posted = "";   // "Bulletin successfully posted"
+    const char* finished = ""; // "Finished posting bulletins"
+    const char* noteFile = ""; // a post that is being sent is noted beside a log of that name
+};
+
 // The definition of a campaign: all that it differs in from the others, in a file of its own. Start, the walk
 // over the targets, pause, limit, log, report and end are shared and read it. Texts are parts of the
 // sentences that are shared.
@@ -59,7 +80,11 @@ struct Campaign {
     const std::vector<StartCheck>& (*checks)() = nullptr;
     // Asks the user; false ends the start. nullptr asks nothing.
     bool (*mayStart)(App&, const Campaign&) = nullptr;
+    // Before the checks, and between reset and first step; nullptr for nothing.
+    void (*prepare)(App&) = nullptr;
+    void (*onStart)(App&) = nullptr;
     qint16 firstStep = 0;
+    void (*run)(App&) = nullptr;  // in the place of the first step, of one that has no steps
     bool stopsRunningOne = false; // a campaign that still runs is ended before the reset
     const char* startMark = "";   // in its trail, with the number of the mark; "" for none
     CampaignEnds reasons{};
@@ -93,6 +118,8 @@ struct Campaign {
     QLatin1StringView acceptLogBox{};
     const char* reportButton = ""; // "" for none yet
     ReportKind report{};
+
+    CampaignTiming timing{};
 
     // Chains of accounts.
     bool goesOnInChain = false; // the next account of a chain starts it as the button does

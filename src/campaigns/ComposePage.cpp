@@ -47,11 +47,9 @@ void SetValues(const Document& page, const char16_t* name, const QString& text) 
         field.SetValue(text);
 }
 
-// The last text area's editor: its source view takes the markup.
-void TypeIntoEditor(const Document& page, const SubjectAndBody& text) {
-    if (const Element subject =
-            page.GetElementById(u"cpMain_cpMain_ctl03_sendMessageCommonControl_txtSubject"_s))
-        subject.SetValue(text.subject);
+} // namespace
+
+void TypeIntoEditor(const Document& page, const QString& text) {
     const std::vector<Element> areas = page.GetElementsByTagName(u"textarea"_s);
     if (areas.empty())
         return;
@@ -60,10 +58,8 @@ void TypeIntoEditor(const Document& page, const SubjectAndBody& text) {
         if (const std::vector<Element> children = view.Tags(u"*"_s); !children.empty())
             children.front().Click();
     if (const Element source = page.GetElementById(editor + u"_editsourcearea"_s))
-        source.SetInnerText(ForRichEditor(text.body));
+        source.SetInnerText(ForRichEditor(text));
 }
-
-} // namespace
 
 void TypeMessage(const Document& page, const SubjectAndBody& text, bool newLayout) {
     for (const ComposeFields& design : Designs()) {
@@ -76,8 +72,12 @@ void TypeMessage(const Document& page, const SubjectAndBody& text, bool newLayou
             if (const Document frame = page.FrameDocument(QString::fromUtf16(name)))
                 frame.Body().SetInnerHTML(text.body);
         });
-    if (newLayout)
-        TypeIntoEditor(page, text);
+    if (!newLayout)
+        return;
+    if (const Element subject =
+            page.GetElementById(u"cpMain_cpMain_ctl03_sendMessageCommonControl_txtSubject"_s))
+        subject.SetValue(text.subject);
+    TypeIntoEditor(page, text.body);
 }
 
 SendButton FindSendButton(const Document& page) {

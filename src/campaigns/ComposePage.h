@@ -12,6 +12,9 @@ namespace qlm {
 // is passed over. newLayout: the page has an editor, too, whose source view wants "<br>" for a line end.
 void TypeMessage(const Document& page, const SubjectAndBody& text, bool newLayout);
 
+// Into the source view of the last text area's editor, which takes the markup.
+void TypeIntoEditor(const Document& page, const QString& text);
+
 // What sends. A span stands for a button that may be disabled until the first press.
 struct SendButton {
     Element element; // null where the page has none

@@ -106,7 +106,7 @@ void ReportDialog::ShowRun(qsizetype run) {
     Controls& controls = m_app.controls;
     controls.SetText("frmRunReport.lblSummary"_L1,
                      m_runs.isEmpty() ? u"No run has been reported yet."_s : Summary(m_shown));
-    const QString problem = m_report.Problem();
+    const QString problem = m_report.Problem(*m_kind);
     controls.SetText("frmRunReport.lblProblem"_L1,
                      problem.isEmpty()
                          ? QString()

@@ -34,7 +34,7 @@ QString ClickOf(const char* button) {
 
 SendRuns::SendRuns(App& app) : m_app(app), m_logDialog(app), m_reportDialog(app, app.Get<RunReport>()) {
     for (const Campaign* campaign : Campaigns())
-        if (campaign->activity.stepRoutine)
+        if (campaign->makeMachine)
             RegisterCommands(*campaign);
     app.Get<LoginFlow>().goOnInChain = [&app] { GoOnInChain(app); };
     app.commands.Add(u"chkRemoveAfterSent_MouseDown"_s, [this] { chkRemoveAfterSent_MouseDown(); });
@@ -59,6 +59,8 @@ void SendRuns::Start(const Campaign& campaign) {
     m_app.WebBrowser1().SetSilent(true);
     m_app.webHide().SetSilent(true);
     m_app.Get<Cover>().Hide();
+    if (campaign.prepare)
+        campaign.prepare(m_app);
     if (!CampaignMayStart(m_app, campaign) || (campaign.mayStart && !campaign.mayStart(m_app, campaign)))
         return;
     MarkStart(campaign, 2);
@@ -81,15 +83,18 @@ void SendRuns::Begin(const Campaign& campaign) {
     m_app.Get<RunReport>().BeginRun(campaign.report);
     // A disk that refuses the report brings a box up, and whatever happens while it is there.
     m_app.waiting.LeaveUnlessCurrent(start);
+    if (campaign.onStart)
+        campaign.onStart(m_app);
     if (activity.step)
         m_app.state.*activity.step = campaign.firstStep;
-    if (activity.stepRoutine)
-        activity.stepRoutine(m_app);
+    if (const auto begin = campaign.run ? campaign.run : activity.stepRoutine)
+        begin(m_app);
 }
 
 void SendRuns::Reset(const Campaign& campaign) {
     RunState& state = m_app.state;
     m_app.waiting.OutdateSteps();
+    EndPost();
     state.CurrentAction = campaign.Word();
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     m_app.timers->Timer1.SetEnabled(false);
@@ -125,6 +130,16 @@ void SendRuns::Reset(const Campaign& campaign) {
     SentLog(m_app, &campaign).SettleNotes();
     m_app.Get<Counters>().ShowSentAtStart(campaign);
     ShowCounts();
+}
+
+// Of a campaign that is at a post, and so has no next one any more.
+void SendRuns::EndPost() {
+    const Campaign* running = FindCampaign(m_app.state.CurrentAction);
+    if (!running || !running->timing.timer || m_app.state.*running->activity.waits)
+        return;
+    m_app.controls.SetVisible(running->timing.busyLabel, false);
+    if (running->activity.step)
+        m_app.state.*running->activity.step = 0;
 }
 
 void SendRuns::Stop(const Campaign& campaign) {

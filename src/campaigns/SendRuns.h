@@ -58,6 +58,7 @@ private:
     void MarkStart(const Campaign& campaign, int number);
     void Reset(const Campaign& campaign);
     void Begin(const Campaign& campaign);
+    void EndPost();
     void Stop(const Campaign& campaign);
     void chkRemoveAfterSent_MouseDown();
     void ReturnToAccepting();

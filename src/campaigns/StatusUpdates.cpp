@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The campaign "status updates", which has no targets. It waits for its machine.
+// The campaign "status updates", which has no targets. StatusUpdater is its machine, without steps.
 #include "campaigns/Campaigns.h"
+#include "campaigns/StatusUpdater.h"
 #include "core/ActivityWords.h"
+#include "core/App.h"
 
 namespace qlm {
 
@@ -26,10 +28,15 @@ const std::vector<StartCheck>& Checks() {
 
 // A new day writes the counter's 0 under a key of its own, so the stored one stands until it is next saved.
 constinit const Campaign StatusUpdates{
-    .activity = {.word = ActivityWord::StatusUpdates},
+    .activity = {.word = ActivityWord::StatusUpdates, .waits = &RunState::blnStatusWaiting},
+    .makeMachine = [](Families& families, App& app) { families.Make<StatusUpdater>(app); },
+    .tab = u"Status Updater",
     .send = "piccmdSendStatusUpdates",
     .startProcedure = "cmdstatusesSend_Click",
     .checks = Checks,
+    .prepare = [](App& app) { app.Get<StatusUpdater>().Repair(); },
+    .onStart = [](App& app) { app.Get<StatusUpdater>().BeginRun(); },
+    .run = [](App& app) { app.Get<StatusUpdater>().SendStatusUpdates(); },
     .reasons = {.stopped = StopReason::StatusStop},
     .what = "status updates",
     .content = {.kind = ContentKind::Status,
@@ -42,6 +49,18 @@ constinit const Campaign StatusUpdates{
     .sentAtStart = "Statuses posted: ",
     .sentSoFar = "Statuses posted: ",
     .amount = "txtStatusPostAmount"_L1,
+    .reportButton = "piccmdStatusReport",
+    .report = {.file = "StatusesReport.txt", .title = "Status updates", .allDone = "All were posted"},
+    .timing = {.timer = &Timers::tmrStatusUpdatesWait,
+               .from = "txtStatusTimerFrom"_L1,
+               .to = "txtStatusTimerTo"_L1,
+               .elapsed = &RunState::lngStatusMinutesElapsed,
+               .drawn = &RunState::lngStatusWaitMinutes,
+               .busyLabel = "lblStatusBusy"_L1,
+               .dueLabel = "lblStatusDue"_L1,
+               .posted = "Status update successfully posted",
+               .finished = "Finished posting status updates",
+               .noteFile = "StatusesLog.txt"},
 };
 
 } // namespace qlm

@@ -63,6 +63,10 @@ struct RunFields : Expectation {
 struct TimedFields {
     bool blnBulletinWaiting = false;
     bool blnStatusWaiting = false;
+    qint32 lngBulMinutesElapsed = 0; // since the last post
+    qint32 lngBulWaitMinutes = 0;    // drawn for this wait
+    qint32 lngStatusMinutesElapsed = 0;
+    qint32 lngStatusWaitMinutes = 0;
     bool blnBulletinDeleted = false; // the last bulletin is gone from the board
     // The campaign that has lent the browser, and the address to go back to.
     bool varResumeFR = false;

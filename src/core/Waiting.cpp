@@ -42,11 +42,19 @@ void Waiting::Deliver() {
 
 void Waiting::Pump() {
     Deliver();
+    if (IsParked())
+        WaitUntilReadmitted();
+    LeaveIfObsolete();
+}
+
+// The ticks are the borrower's now, whichever of them the parked step was entered by.
+void Waiting::WaitUntilReadmitted() {
+    const Timer::Anew step(m_app.timers->Timer1);
+    const Timer::Anew check(m_app.timers->tmrCheckLinkLoaded);
     while (IsParked() && !m_parked->is) {
         m_app.platform.Pump().Sleep(10);
         Deliver();
     }
-    LeaveIfObsolete();
 }
 
 void Waiting::Turn() {

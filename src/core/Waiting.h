@@ -105,6 +105,7 @@ public:
 private:
     RunMark NextEntry();
     bool IsParked() const { return m_owned && m_parked && *m_owned == m_parked->was; }
+    void WaitUntilReadmitted();
     void Deliver();
 
     App& m_app;

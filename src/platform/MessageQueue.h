@@ -83,6 +83,22 @@ public:
     bool Enabled() const { return m_enabled; }
     int Interval() const { return m_intervalMs; }
 
+    // While it lives the timer fires even though its handler is on the stack: what that one runs is parked.
+    class Anew {
+    public:
+        explicit Anew(Timer& timer) : m_timer(timer), m_wasInHandler(timer.m_inHandler) {
+            timer.m_inHandler = false;
+            timer.m_queue.DueTimeChanged();
+        }
+        ~Anew() { m_timer.m_inHandler = m_wasInHandler; }
+        Anew(const Anew&) = delete;
+        Anew& operator=(const Anew&) = delete;
+
+    private:
+        Timer& m_timer;
+        const bool m_wasInHandler;
+    };
+
 private:
     friend class MessageQueue;
     void Arm();

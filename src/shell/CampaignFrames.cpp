@@ -7,6 +7,7 @@
 #include "shell/PictureButtons.h"
 
 #include <QBoxLayout>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -22,6 +23,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 constexpr int SignsOfALimit = 14;
+constexpr int SignsOfMinutes = 8;
 constexpr int LeastLinesOfABody = 4;
 constexpr int LeastListHeight = 62;
 
@@ -64,7 +66,9 @@ QLayout* NewCounters(const CounterNames& names) {
 
 QHBoxLayout* NewRunRow(const Commands& commands, QLatin1StringView start, QLatin1StringView stop) {
     auto* row = new QHBoxLayout;
-    AddPictureButtons(*row, commands, Caption::Beside, {start, stop});
+    AddPictureButtons(*row, commands, Caption::Beside, {start});
+    if (!stop.isEmpty())
+        AddPictureButtons(*row, commands, Caption::Beside, {stop});
     for (int i = 0; i < row->count(); ++i)
         row->itemAt(i)->widget()->setProperty("look", u"main"_s);
     row->addStretch();
@@ -76,6 +80,30 @@ QVBoxLayout* NewRunBand(const Commands& commands, QLatin1StringView start, QLati
     auto* band = new QVBoxLayout;
     band->addLayout(NewRunRow(commands, start, stop));
     band->addLayout(NewCounters(counters));
+    return band;
+}
+
+QGroupBox* NewTimingFrame(const TimingNames& names) {
+    QLineEdit* amount = NewNumber(names.amount, SignsOfALimit);
+    QLineEdit* from = NewNumber(names.from, SignsOfMinutes);
+    QLineEdit* to = NewNumber(names.to, SignsOfMinutes);
+    QGroupBox* frame =
+        NewFrame(u"When to post"_s,
+                 {NewRow({NewCaptionOf(*amount), amount, NewText(u"times"_s)}),
+                  NewRow({NewCaptionOf(*from), from, NewCaptionOf(*to), to, NewText(u"minutes"_s)})});
+    for (const QLatin1StringView box : names.boxes)
+        frame->layout()->addWidget(Named(new QCheckBox, box));
+    return frame;
+}
+
+QVBoxLayout* NewTimedRunBand(const Commands& commands, const TimedRunNames& names) {
+    auto* band = new QVBoxLayout;
+    band->addLayout(NewRunRow(commands, names.start, names.stop));
+    auto* counts = new QHBoxLayout;
+    counts->addWidget(NewLabel(names.sent, u"counter"_s), 1);
+    counts->addWidget(NewLabel(names.busy, u"badge"_s));
+    band->addLayout(counts);
+    band->addWidget(NewLabel(names.due));
     return band;
 }
 
@@ -109,6 +137,8 @@ QGroupBox* NewContentFrame(const Commands& commands, const ContentNames& names) 
     if (!names.subject.isEmpty())
         AddSubject(*column, names);
     column->addLayout(NewReadText(names.body, LeastLinesOfABody, names.bodyReads), 2);
+    if (!names.bodyCount.isEmpty())
+        column->addWidget(NewLabel(names.bodyCount, u"quiet"_s));
     if (!names.bodyReads.isEmpty())
         column->addWidget(NewText(
             u"*Note: Anywhere that you write &NAME& will be replaced by the target's name"_s, u"quiet"_s));

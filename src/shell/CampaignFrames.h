@@ -26,8 +26,27 @@ struct CounterNames {
 };
 QLayout* NewCounters(const CounterNames& names);
 
-// Start and stop.
-QHBoxLayout* NewRunRow(const Commands& commands, QLatin1StringView start, QLatin1StringView stop);
+// How often, with which minutes between, and what belongs to that.
+struct TimingNames {
+    QLatin1StringView amount;
+    QLatin1StringView from;
+    QLatin1StringView to;
+    std::initializer_list<QLatin1StringView> boxes;
+};
+QGroupBox* NewTimingFrame(const TimingNames& names);
+
+// Start and stop; without a stop of its own the window's serves.
+QHBoxLayout* NewRunRow(const Commands& commands, QLatin1StringView start, QLatin1StringView stop = {});
+// The run band of a campaign that posts by the clock: start, stop, what has been posted, and when the next is
+// due.
+struct TimedRunNames {
+    QLatin1StringView start;
+    QLatin1StringView stop = {};
+    QLatin1StringView sent;
+    QLatin1StringView busy;
+    QLatin1StringView due;
+};
+QVBoxLayout* NewTimedRunBand(const Commands& commands, const TimedRunNames& names);
 
 // The run band of a campaign: start, stop and counters.
 QVBoxLayout* NewRunBand(const Commands& commands, QLatin1StringView start, QLatin1StringView stop,
@@ -49,6 +68,7 @@ struct ContentNames {
     QLatin1StringView body;
     QLatin1StringView subjectReads = {}; // how they read to somebody; empty where they go to nobody
     QLatin1StringView bodyReads = {};
+    QLatin1StringView bodyCount = {}; // how many characters are left; empty where any number goes
     std::initializer_list<QLatin1StringView> singleTools = {}; // small buttons for the text
     std::initializer_list<QLatin1StringView> listTools = {};   // and for the list
 };

@@ -20,6 +20,8 @@ constexpr PanelRow Panels[] = {
     {"picFriendRequester"_L1, BuildFriendRequester},
     {"picMessanger"_L1, BuildMessenger},
     {"picCommentor"_L1, BuildCommenter},
+    {"picBulletin"_L1, BuildBulletin},
+    {"picStatusUpdater"_L1, BuildStatusUpdater},
 };
 
 } // namespace

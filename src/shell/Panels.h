@@ -19,5 +19,7 @@ QWidget* BuildScanIDs(App& app, ControlBinder& binder);
 QWidget* BuildFriendRequester(App& app, ControlBinder& binder);
 QWidget* BuildMessenger(App& app, ControlBinder& binder);
 QWidget* BuildCommenter(App& app, ControlBinder& binder);
+QWidget* BuildBulletin(App& app, ControlBinder& binder);
+QWidget* BuildStatusUpdater(App& app, ControlBinder& binder);
 
 } // namespace qlm

@@ -27,6 +27,8 @@ struct Activity {
     bool sends = false; // to one person after the other
     // Says that the browser is lent to a post that fell due; nullptr for an activity that doesn't lend it.
     bool RunState::*lent = nullptr;
+    // Says that it waits for its next post, and that the browser is free; nullptr for one that never waits so.
+    bool RunState::*waits = nullptr;
     bool tracesPageClasses = false; // whatever page the classifier knows is noted in the debug file
     // The step after the one that sends, for Skip; 0 where the step goes on as it stands, nothing where
     // there is no target to skip.

@@ -5,6 +5,7 @@
 #include "browser/PageSigns.h"
 #include "core/App.h"
 #include "steps/Activities.h"
+#include "steps/RunReport.h"
 
 #include <utility>
 
@@ -14,7 +15,9 @@ using namespace Qt::Literals::StringLiterals;
 
 bool Lending::MayTake() const {
     const Activity* activity = RunningActivity(m_app);
-    return m_app.state.CurrentAction.isEmpty() || (activity && activity->lent && !IsLent());
+    if (!activity)
+        return m_app.state.CurrentAction.isEmpty();
+    return (activity->lent && !IsLent()) || (activity->waits && m_app.state.*activity->waits);
 }
 
 void Lending::Take(QLatin1StringView borrower, Page page) {
@@ -24,8 +27,10 @@ void Lending::Take(QLatin1StringView borrower, Page page) {
         Lend(*lender, page);
     else
         m_app.waiting.OutdateSteps();
+    m_app.Get<RunReport>().SetAside();
     state.CurrentAction = borrower;
     static_cast<Expectation&>(state) = {};
+    state.blnWaitingForCaptcha = false;
     state.blnInDelay = false;
     state.blnHoldLinkCheck = false;
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
@@ -36,6 +41,8 @@ void Lending::Lend(const Activity& lender, Page page) {
     RunState& state = m_app.state;
     m_loan = {&lender,
               state,
+              m_app.Get<RunReport>().SetAside(),
+              state.blnWaitingForCaptcha,
               state.blnInDelay,
               state.blnHoldLinkCheck,
               m_app.timers->tmrCheckLinkLoaded.Enabled(),
@@ -60,6 +67,8 @@ bool Lending::GiveBack() {
     state.*loan.lender->lent = false;
     state.CurrentAction = loan.lender->word;
     static_cast<Expectation&>(state) = loan.expectation;
+    state.blnWaitingForCaptcha = loan.asksForCaptcha;
+    m_app.Get<RunReport>().TakeUp(loan.report);
     state.blnSkipRequested = false;
     m_app.timers->Timer1.SetEnabled(false);
     m_app.timers->tmrAutoResume.SetEnabled(loan.watchdog);

@@ -8,6 +8,7 @@
 namespace qlm {
 
 class App;
+class ReportStream;
 struct Activity;
 
 // A bulletin or status update that falls due takes the browser from a campaign that runs, and gives it back:
@@ -18,7 +19,7 @@ public:
 
     explicit Lending(App& app) : m_app(app) {}
 
-    // Nothing runs, or a campaign that lends the browser.
+    // Nothing runs, or a campaign that lends the browser, or one that waits for its next post.
     bool MayTake() const;
     bool IsLent() const { return m_loan.has_value(); }
     // borrower becomes the running activity, with nothing expected yet. A page that is kept is loaded again
@@ -34,6 +35,8 @@ private:
     struct Loan {
         const Activity* lender;
         Expectation expectation;
+        ReportStream* report;
+        bool asksForCaptcha;
         bool isInDelay;
         bool isHeld;
         bool linkTimer;

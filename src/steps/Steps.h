@@ -55,7 +55,7 @@ enum : qint16 {
 };
 }
 namespace BulletinStep {
-enum : qint16 { None = 0, Open = 2, Submit = 3, Posted = 6, DeleteLast = 8 };
+enum : qint16 { None = 0, Open = 2, Submit = 3, Rest = 5, Posted = 6, DeleteLast = 8 };
 }
 namespace AcceptStep {
 enum : qint16 { None = 0, OpenList = 2, Approve = 3, FollowUp = 4, End = 5, LastPage = 6 };

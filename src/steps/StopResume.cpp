@@ -52,6 +52,10 @@ void StopResume::EndTimedPosts() {
     m_app.Get<Lending>().Forget();
     m_app.timers->tmrBulletinWait.SetEnabled(false);
     m_app.timers->tmrStatusUpdatesWait.SetEnabled(false);
+    for (const auto& busy : {"lblBulBusy"_L1, "lblStatusBusy"_L1})
+        m_app.controls.SetVisible(busy, false);
+    for (const auto& due : {"lblBulDue"_L1, "lblStatusDue"_L1})
+        m_app.controls.SetText(due, {});
 }
 
 void StopResume::ResumeNext() {

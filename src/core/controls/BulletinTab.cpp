@@ -5,16 +5,35 @@ namespace qlm::rows {
 
 std::vector<ControlRow> BulletinTab() {
     return {
-        Line("txtBulSubject").Kept("Bulletin"),
-        Lines("txtBulMessage").Kept("Bulletin"),
-        Line("txtPostAmount").Kept("Bulletin"),
-        Line("txtTimer").Kept("Bulletin"),
-        Line("txtBulTimerTo").Kept("Bulletin"),
-        Box("chkAntiFlood").Kept("Bulletin"),
-        Box("chkBulAllowComments").Kept("Bulletin"),
-        Option("optSendSingle(2)", "sendBUL").Ticked().Kept("Bulletin"),
-        Option("optSendFromList(2)", "sendBUL").Kept("Bulletin"),
-        List("picBulletin.lstSendList"),
+        Line("txtBulSubject", u"S&ubject:").Spoken(u"Subject of the bulletin").Kept("Bulletin"),
+        Lines("txtBulMessage").Spoken(u"Text of the bulletin").Kept("Bulletin"),
+        Line("txtPostAmount", u"&Post it")
+            .Tip(u"The number of times to post the bulletin in total")
+            .Spoken(u"Number of bulletins to post")
+            .Kept("Bulletin"),
+        Line("txtBulTimerFrom", u"&Every")
+            .Tip(u"The interval between posts")
+            .Spoken(u"Least minutes between two posts")
+            .Kept("Bulletin", "txtTimer"),
+        Line("txtBulTimerTo", u"t&o")
+            .Tip(u"The interval between posts")
+            .Spoken(u"Most minutes between two posts")
+            .Kept("Bulletin"),
+        Box("chkAntiFlood", u"&Anti-flood")
+            .Tip(u"Check this to delete the previous bulletin each time before posting the next. "
+                 u"This will ensure you don't flood the bulletin boards.")
+            .Kept("Bulletin"),
+        Box("chkBulAllowComments", u"Allow &comments")
+            .Tip(u"This setting appears on the bulletin page")
+            .Kept("Bulletin"),
+        Option("optSendSingle(2)", "sendBUL", u"Post this &bulletin:")
+            .Ticked()
+            .Tip(u"Each post is the bulletin that is written here")
+            .Kept("Bulletin"),
+        Option("optSendFromList(2)", "sendBUL", u"Post &from the list:")
+            .Tip(u"Each post is the next bulletin of your list")
+            .Kept("Bulletin"),
+        List("picBulletin.lstSendList").Spoken(u"Bulletins of the list"),
         Box("chkBulSendFromList").Kept("Bulletin"),
         Button("picBulPreview", u"Preview the bulletin")
             .Picture("PREVIEW")
@@ -23,6 +42,16 @@ std::vector<ControlRow> BulletinTab() {
             .Picture("EDITLIST")
             .Tip(u"Click this button to manage your list of bulletins"),
         Label("lblBulSentCount", u"Bulletins sent: 0"),
+        Label("lblBulBusy", u"ACTIVE"),
+        Label("lblBulDue"),
+        Button("picCmdBulSend", u"&Send Bulletins")
+            .Picture("SEND")
+            .Begins()
+            .Tip(u"Post the bulletin to all your friends, again and again by the clock"),
+        Button("piccmdBulStop", u"S&top").Picture("SENDSTOP").Tip(u"Stop posting bulletins"),
+        Button("piccmdBulReport", u"&Report...")
+            .Picture("REPORT")
+            .Tip(u"What became of each bulletin of a run"),
     };
 }
 

@@ -179,13 +179,60 @@ TEST_F(RunReportTest, ATargetThatWasSentToStaysSoHoweverTheRunEnds) {
     }
 }
 
-// A campaign without targets, which may borrow the browser of another, leaves its report alone.
-TEST_F(RunReportTest, ARunWithoutReportLeavesTheOneThatGoesOn) {
+// A run that is started by hand takes the place of the one at work.
+TEST_F(RunReportTest, AStartEndsTheRunAtWork) {
     report.BeginRun(kind);
-    report.BeginRun(Bulletins.report);
-    EXPECT_TRUE(report.IsRunning(kind));
     report.Open(u"1001"_s);
-    EXPECT_EQ(Texts(report.Runs(kind)[0]), QStringList{u"1001: Unfinished"_s});
+    report.BeginRun(Messages.report);
+    EXPECT_FALSE(report.IsRunning(kind));
+    EXPECT_EQ(Texts(report.Runs(kind)[0]), QStringList{u"1001: Unfinished, The run was ended"_s});
+}
+
+TEST_F(RunReportTest, WhoHasLentTheBrowserGoesOnWithItsTarget) {
+    report.BeginRun(kind);
+    report.Open(u"1001"_s);
+    ReportStream* lender = report.SetAside();
+    report.Open(u"nobody's"_s);
+    report.TakeUp(Bulletins.report);
+    report.Open(u"nobody's either"_s);
+    report.TakeUp(lender);
+    report.Close(ReportResult::Sent);
+    EXPECT_EQ(Texts(report.Runs(kind)[0]), QStringList{u"1001: Sent"_s});
+    EXPECT_TRUE(report.Runs(Bulletins.report).isEmpty());
+}
+
+TEST_F(RunReportTest, ARunThatRestsOutlivesAStartAndTheOwnEndOfAnother) {
+    report.BeginRun(Bulletins.report);
+    report.Open(u"Gig"_s);
+    report.Close(ReportResult::Sent);
+    report.Rest();
+    report.BeginRun(kind);
+    report.Open(u"1001"_s);
+    report.EndRun(StopReason::RequestsDone);
+    EXPECT_FALSE(report.IsRunning(kind));
+    EXPECT_TRUE(report.IsRunning(Bulletins.report));
+    report.TakeUp(Bulletins.report);
+    report.Open(u"Gig again"_s);
+    report.Close(ReportResult::Sent);
+    report.FinishRun();
+    const ReportedRun posts = report.Runs(Bulletins.report)[0];
+    EXPECT_EQ(Texts(posts), (QStringList{u"Gig: Sent"_s, u"Gig again: Sent"_s}));
+    EXPECT_EQ(posts.how, u"All were posted"_s);
+}
+
+TEST_F(RunReportTest, AnyOtherStopEndsThemAll) {
+    report.BeginRun(Bulletins.report);
+    report.Rest();
+    report.BeginRun(kind);
+    report.SetAside();
+    report.BeginRun(StatusUpdates.report);
+    EXPECT_FALSE(report.IsRunning(kind)); // what had lent the browser is over
+    report.EndRun(StopReason::WindowStop);
+    for (const ReportKind& each : {kind, Bulletins.report, StatusUpdates.report}) {
+        EXPECT_FALSE(report.IsRunning(each));
+        EXPECT_EQ(report.Runs(each).size(), 1);
+    }
+    EXPECT_EQ(report.Runs(Bulletins.report)[0].how, u"You pressed Stop"_s);
 }
 
 TEST_F(RunReportTest, AResultIsOnTheDiskWhenTheRunGoesOn) {
@@ -213,14 +260,14 @@ TEST_F(RunReportTest, ADiskThatRefusesIsToldOnceARunAndNothingIsLost) {
         report.Open(id);
         report.Close(ReportResult::Sent);
     }
-    EXPECT_TRUE(report.Problem().contains(world.installationFolder));
+    EXPECT_TRUE(report.Problem(kind).contains(world.installationFolder));
     const QStringList errors = app->files.ReadLines(app->state.ErrorLogPath);
     EXPECT_EQ(errors.count(u"Proc: WriteRunReport"_s), 1);
     EXPECT_EQ(Texts(report.Runs(kind)[0]), (QStringList{u"1001: Sent"_s, u"1002: Sent"_s}));
     EXPECT_EQ(Lines().size(), 1);
     world.gate.readOnlyFolders.clear();
     report.Open(u"1003"_s);
-    EXPECT_TRUE(report.Problem().isEmpty());
+    EXPECT_TRUE(report.Problem(kind).isEmpty());
     EXPECT_EQ(Lines().size(), 6);
 }
 

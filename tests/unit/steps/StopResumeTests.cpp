@@ -3,6 +3,7 @@
 #include "browser/NavigationGuard.h"
 #include "core/SettingsFields.h"
 #include "program/MainForm.h"
+#include "steps/Steps.h"
 #include "steps/StopResume.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -159,9 +160,9 @@ TEST_F(StopResumeTest, ASkipGoesToTheStepBehindTheSending) {
               (QStringList{u"Finished sending messages."_s, u"Finished sending comments."_s}));
     dialogs.messages.clear();
     State().CurrentAction = u"BUL"_s;
-    State().intBulStep = 2;
+    State().intBulStep = BulletinStep::Rest;
     app->Get<StopResume>().SkipProfile();
-    EXPECT_EQ(State().intBulStep, 2);
+    EXPECT_EQ(State().intBulStep, BulletinStep::Rest);
     State().CurrentAction = u"SCANNING"_s;
     State().intGatherStep = 3;
     app->Get<StopResume>().SkipProfile();
