@@ -35,6 +35,16 @@ Fields ParseFields(const QString& text) {
     return fields;
 }
 
+QStringList ValuesOf(const QByteArray& body, const QString& name) {
+    QStringList values;
+    for (const QString& pair : QString::fromUtf8(body).split(u'&', Qt::SkipEmptyParts)) {
+        const Fields field = ParseFields(pair);
+        if (field.contains(name))
+            values.append(field.value(name));
+    }
+    return values;
+}
+
 QString CookieValue(const QString& header, const QString& name) {
     for (const QString& part : header.split(u';')) {
         const QString pair = part.trimmed();

@@ -22,6 +22,9 @@ Address ParseAddress(const QString& pathAndQuery);
 /// Reads "a=1&b=two+words", as it stands in a query or the body of a form.
 Fields ParseFields(const QString& text);
 
+/// Every value under that name, which is in lower case, in their order.
+QStringList ValuesOf(const QByteArray& body, const QString& name);
+
 /// The value of one cookie of a Cookie header, or "".
 QString CookieValue(const QString& header, const QString& name);
 

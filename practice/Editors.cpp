@@ -11,11 +11,11 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // A browser without scripts finds in "data-on-click" what the switch does.
-QString SourceSwitch(const QString& name) {
+QString SourceSwitch(const QString& name, Editor editor) {
     return Fill(
-        uR"-(<li id="{n}_editsource"><a href="javascript:void(0)" title="View Source" onclick="switchSource(this)"
+        uR"-(<li id="{n}_editsource"><a href="javascript:void(0)" title="View Source" onclick="{act}(this)"
  data-on-click="hide #{n}_f; show #{n}_editsourcearea; set #{n}_open value 1">HTML</a></li>)-",
-        {{u"n", name}});
+        {{u"n", name}, {u"act", editor == Editor::Source ? u"switchSource"_s : u"openSource"_s}});
 }
 
 QString SourceArea(const QString& name) {
@@ -34,7 +34,7 @@ QString EditorMarkup(Editor editor, const QString& name, Breaks breaks, const QS
         return Fill(uR"(<textarea id="{n}" name="{n}" rows="9" cols="60">
 {text}</textarea>)",
                     {{u"n", name}, {u"text", text}});
-    const bool hasSource = editor == Editor::Source;
+    const bool hasSource = HasSource(editor);
     return Fill(uR"(<div class="editor" data-breaks="{breaks}">
 <ul class="tools"><li>B</li><li>I</li><li>U</li>{!switch}</ul>{!source}
 <iframe id="{n}_f" name="{n}_f" width="480" height="150" title="text"
@@ -43,14 +43,14 @@ QString EditorMarkup(Editor editor, const QString& name, Breaks breaks, const QS
 {text}</textarea></div>)",
                 {{u"n", name},
                  {u"breaks", breaks == Breaks::Br ? u"br"_s : u"div"_s},
-                 {u"switch", hasSource ? SourceSwitch(name) : QString()},
+                 {u"switch", hasSource ? SourceSwitch(name, editor) : QString()},
                  {u"source", hasSource ? SourceArea(name) : QString()},
                  {u"text", text}});
 }
 
 QString EditorText(Editor editor, const QString& name, const Fields& form) {
     const QString field = name.toLower();
-    const bool isSource = editor == Editor::Source && form.value(field + u"_open"_s) == u"1";
+    const bool isSource = HasSource(editor) && form.value(field + u"_open"_s) == u"1";
     return form.value(isSource ? field + u"_editsourcearea"_s : field);
 }
 

@@ -9,8 +9,13 @@ namespace qlm::practice {
 enum class Editor {
     Plain,  ///< a text area
     Frame,  ///< a rich editor: a frame with an editable document
-    Source, ///< the same with a source view, which takes markup as text
+    Source, ///< the same with a source view, which takes markup as text; its switch leads back, too
+    Views,  ///< the same; its switch leads to the source and never back
 };
+
+inline bool HasSource(Editor editor) {
+    return editor == Editor::Source || editor == Editor::Views;
+}
 
 /// What a rich editor makes of a line break on sending.
 enum class Breaks { Br, Div };

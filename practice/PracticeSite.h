@@ -33,6 +33,15 @@ struct World;
 ///     blank, html,
 ///                                    back, limit, refused-N, invalid, or the word of an outcome below
 ///     commented SENDER TARGET "TEXT" a comment has arrived, behind its comment line
+///     bulletin SENDER OUTCOME        what the form for bulletins answered: posted, confirm, captcha, empty,
+///                                    captcha-wrong, discarded, limit, refused-N, or an outcome below
+///     posted-bulletin SENDER NUMBER comments|no-comments "SUBJECT" "TEXT"   behind its bulletin line
+///     deleted-bulletin SENDER NUMBER "SUBJECT"
+///     status SENDER OUTCOME          what the home page answered: posted, empty, limit, refused-N, or an
+///                                    outcome below
+///     posted-status SENDER NUMBER "TEXT"   behind its status line
+///     deleted-status SENDER NUMBER "TEXT"
+///     deleted-update SENDER NUMBER "TEXT"  what the stream had told by itself is gone from it
 ///     visit HOST/PATH                every page request, while `journal visits on`
 ///     shown HOST/PATH ID...          who stood on the list of a delivered page, in its order, and can
 ///                                    be told by number there; while `journal shown on`
@@ -61,6 +70,13 @@ struct World;
 ///     message-share OUTCOME PERCENT, comment-share OUTCOME PERCENT    how many people answer so
 ///     message-refuse ID N|off, comment-refuse ID N|off    the Nth of the refusals in place of the form
 ///     message-limit N|off, comment-limit N|off    what one account may write in a day
+///     bulletin-form ID|all FORM|off, status-form ID|all FORM|off    which form that account is shown
+///     bulletin-outcome ID OUTCOME    how the site answers that account: posted, not-yet, flooding, unable,
+///                                    captcha, home
+///     status-outcome ID OUTCOME      posted, flooding, unable
+///     bulletin-refuse ID N|off, status-refuse ID N|off    as for messages
+///     bulletin-limit N|off, status-limit N|off            as for messages
+///     bulletins ID COUNT, statuses ID COUNT    what that account has posted so far
 ///     mail ID on|off                 whether that account has set up its mail
 ///     captcha-word WORD|off          the word of every CAPTCHA image
 ///     captcha-kind KIND|mixed        image, image-text, words, settings; image at the start

@@ -3,6 +3,8 @@
 
 #include "Designs.h"
 #include "pages/AssetPages.h"
+#include "pages/BulletinForm.h"
+#include "pages/BulletinPages.h"
 #include "pages/CaptchaPages.h"
 #include "pages/CategoryPages.h"
 #include "pages/CommentForms.h"
@@ -42,6 +44,7 @@ struct RouteRow {
 constexpr std::array routeRows{
     RouteRow{Role::SiteRoot, u"", u"", HomePage},
     RouteRow{Role::SiteRoot, u"home", u"", HomePage},
+    RouteRow{Role::Home, u"", u"", HomePage},
     RouteRow{Role::Home, u"index.cfm", u"home", HomePage},
     RouteRow{Role::Login, u"index.cfm", u"login", LoginPage},
     RouteRow{Role::Login, u"index.cfm", u"login.process", LoginProcess},
@@ -59,6 +62,9 @@ constexpr std::array routeRows{
     RouteRow{Role::Messaging, u"index.cfm", u"mailsetup.createaccount", CreateMailAccount},
     RouteRow{Role::Comment, u"index.cfm", u"user.viewProfile_commentForm", CommentForm},
     RouteRow{Role::Comment, u"index.cfm", u"user.confirmComment", CommentForm},
+    RouteRow{Role::SiteRoot, u"bulletins", u"", BulletinBoard},
+    RouteRow{Role::SiteRoot, u"bulletins/new", u"", BulletinForm},
+    RouteRow{Role::SiteRoot, u"bulletins/{id}", u"", PostedBulletins},
     RouteRow{Role::SiteRoot, u"{id}", u"", ProfilePage},
     RouteRow{Role::SiteRoot, u"{id}/classic", u"", ClassicProfile},
     RouteRow{Role::SiteRoot, u"style/site.css", u"", StyleSheet, Shows::Picture},

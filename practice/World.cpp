@@ -15,6 +15,14 @@ Writing NewComments(quint64 seed) {
     return {CommentAnswers(), Mix(seed, 10)};
 }
 
+Writing NewBulletins(quint64 seed) {
+    return {BulletinAnswers(), Mix(seed, 11)};
+}
+
+Writing NewStatuses(quint64 seed) {
+    return {StatusAnswers(), Mix(seed, 12)};
+}
+
 } // namespace
 
 World::World(quint64 startSeed, std::function<QDateTime()> clock)
@@ -25,9 +33,11 @@ World::World(quint64 startSeed, std::function<QDateTime()> clock)
       friends(seed),
       requests(seed),
       messages(NewMessages(seed)),
-      comments(NewComments(seed)) {
+      comments(NewComments(seed)),
+      bulletins(NewBulletins(seed)),
+      statuses(NewStatuses(seed)) {
     for (const Account& account : accounts.All())
-        people.AddMember(account.id);
+        AddMember(account.id);
 }
 
 void World::Sow(quint64 newSeed) {
@@ -37,13 +47,28 @@ void World::Sow(quint64 newSeed) {
     requests = FriendRequests(seed);
     messages = NewMessages(seed);
     comments = NewComments(seed);
+    bulletins = NewBulletins(seed);
+    statuses = NewStatuses(seed);
+    posts = Posts();
     for (const Account& account : accounts.All())
-        people.AddMember(account.id);
+        AddMember(account.id);
 }
 
 void World::AddAccount(const QString& mail, const QString& password, qint64 id) {
     accounts.Add(mail, password, id);
+    AddMember(id);
+}
+
+// Everybody has changed something of late.
+void World::AddMember(qint64 id) {
     people.AddMember(id);
+    posts.Take(id, 1);
+    posts.Add({.number = 1,
+               .kind = Post::Kind::Change,
+               .author = id,
+               .subject = {},
+               .body = QStringLiteral("changed the headline"),
+               .when = {}});
 }
 
 } // namespace qlm::practice

@@ -8,6 +8,7 @@
 #include "Journal.h"
 #include "ListSizes.h"
 #include "People.h"
+#include "Posts.h"
 #include "SignInDesigns.h"
 #include "Writing.h"
 
@@ -24,6 +25,8 @@ struct World {
     void Sow(quint64 newSeed);
     void AddAccount(const QString& mail, const QString& password, qint64 id);
 
+    void AddMember(qint64 id);
+
     const quint64 firstSeed; ///< what a reset goes back to
     quint64 seed;
     std::function<QDateTime()> now;
@@ -33,6 +36,9 @@ struct World {
     FriendRequests requests;
     Writing messages;
     Writing comments;
+    Writing bulletins;
+    Writing statuses;
+    Posts posts;
     Accounts accounts;
     SignInDesign signInDesign = SignInDesign::Ids;
     Faults faults;

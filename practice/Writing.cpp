@@ -42,6 +42,21 @@ constexpr Answer commentRows[] = {
     {"home"_L1, Way::Home},
 };
 
+constexpr Answer bulletinRows[] = {
+    {"posted"_L1, Way::Taken},
+    {"not-yet"_L1, Way::RefusedBefore, 0, u"You can't post bulletins yet, %1. Come back tomorrow."},
+    {"flooding"_L1, Way::RefusedAfter, 0, u"You are posting bulletins too quickly. Please wait a while."},
+    {"unable"_L1, Way::RefusedAfter, 0, u"An error occurred while trying to process your request."},
+    {"captcha"_L1, Way::Captcha},
+    {"home"_L1, Way::Home},
+};
+
+constexpr Answer statusRows[] = {
+    {"posted"_L1, Way::Taken},
+    {"flooding"_L1, Way::RefusedAfter, 0, u"You are updating your status too quickly. Please wait a while."},
+    {"unable"_L1, Way::RefusedAfter, 0, u"Sorry, we are unable to update your status at this time."},
+};
+
 } // namespace
 
 std::span<const Answer> MessageAnswers() {
@@ -50,6 +65,14 @@ std::span<const Answer> MessageAnswers() {
 
 std::span<const Answer> CommentAnswers() {
     return commentRows;
+}
+
+std::span<const Answer> BulletinAnswers() {
+    return bulletinRows;
+}
+
+std::span<const Answer> StatusAnswers() {
+    return statusRows;
 }
 
 QString Quoted(const QString& text) {

@@ -16,9 +16,10 @@ struct Text {
     QString subject; ///< of a message
     QString body;
     bool waitsForWord = false; ///< under an image
+    bool takesComments = true; ///< of a bulletin
 };
 
-/// The traffic of one kind, messages or comments: who answers how, which form whose page shows, what waits
+/// The traffic of one kind, such as messages: who answers how, which form whose page shows, what waits
 /// for a confirmation, and how much an account may write in a day.
 class Writing {
 public:
@@ -62,9 +63,11 @@ private:
     std::optional<int> m_dailyLimit;
 };
 
-/// Every answer to a message or to a comment; the first is that it arrives.
+/// Every answer to a message, a comment, a bulletin or a status update; the first is that it arrives.
 std::span<const Answer> MessageAnswers();
 std::span<const Answer> CommentAnswers();
+std::span<const Answer> BulletinAnswers();
+std::span<const Answer> StatusAnswers();
 
 /// A text as the journal has it: in quotation marks, with "\r\n" for a line end, so that it stays on one
 /// line.

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "WritingControls.h"
 
+#include "BulletinDesigns.h"
 #include "CommentDesigns.h"
 #include "ComposeDesigns.h"
 #include "FormChoice.h"
 #include "Refusals.h"
+#include "StatusDesigns.h"
 #include "World.h"
 
 namespace qlm::practice {
@@ -12,6 +14,8 @@ namespace qlm::practice {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+constexpr int mostPosts = 1000;
 
 template <typename Row> void SetForm(Writing& writing, std::span<const Row> designs, Arguments& args) {
     const bool isForAll = args.NextIs("all"_L1);
@@ -57,6 +61,23 @@ void SetRefusal(Writing& writing, Arguments& args) {
     writing.answers.SetRefusal(target, number);
 }
 
+// In place of what the account has posted so far.
+void SetPosts(World& world, Post::Kind kind, Arguments& args) {
+    const qint64 author = args.Number();
+    const int count = args.Count();
+    args.End();
+    if (count > mostPosts)
+        throw BadControl(u"at most %1"_s.arg(mostPosts));
+    for (const Post& post : world.posts.Of(author, kind))
+        world.posts.Take(author, post.number);
+    for (int i = 1; i <= count; ++i)
+        world.posts.Add({.kind = kind,
+                         .author = author,
+                         .subject = u"Old news %1"_s.arg(i),
+                         .body = u"This was number %1."_s.arg(i),
+                         .when = world.now()});
+}
+
 } // namespace
 
 void SetMessageForm(World& world, Arguments& args) {
@@ -97,6 +118,46 @@ void LimitMessages(World& world, Arguments& args) {
 
 void LimitComments(World& world, Arguments& args) {
     SetLimit(world.comments, args);
+}
+
+void SetBulletinForm(World& world, Arguments& args) {
+    SetForm(world.bulletins, BulletinDesigns(), args);
+}
+
+void SetStatusForm(World& world, Arguments& args) {
+    SetForm(world.statuses, StatusDesigns(), args);
+}
+
+void SetBulletinOutcome(World& world, Arguments& args) {
+    SetOutcome(world.bulletins, args);
+}
+
+void SetStatusOutcome(World& world, Arguments& args) {
+    SetOutcome(world.statuses, args);
+}
+
+void RefuseBulletin(World& world, Arguments& args) {
+    SetRefusal(world.bulletins, args);
+}
+
+void RefuseStatus(World& world, Arguments& args) {
+    SetRefusal(world.statuses, args);
+}
+
+void LimitBulletins(World& world, Arguments& args) {
+    SetLimit(world.bulletins, args);
+}
+
+void LimitStatuses(World& world, Arguments& args) {
+    SetLimit(world.statuses, args);
+}
+
+void SetBulletins(World& world, Arguments& args) {
+    SetPosts(world, Post::Kind::Bulletin, args);
+}
+
+void SetStatuses(World& world, Arguments& args) {
+    SetPosts(world, Post::Kind::Status, args);
 }
 
 void SetMail(World& world, Arguments& args) {

@@ -37,6 +37,11 @@ function switchSource(link) {
     frame.style.display = opens ? 'none' : '';
 }
 
+function openSource(link) {
+    if (partsOf(link.closest('.editor')).open.value === '0')
+        switchSource(link);
+}
+
 function collect(editor) {
     const {frame, source, open, field} = partsOf(editor);
     if (open && open.value === '1') {
@@ -97,22 +102,56 @@ function growBox() {
         note.textContent = 'HTML not allowed';
 }
 
-// Puts the answer's box in place of this one, or the whole answer when it is another page.
-function postInPlace(button) {
-    const form = button.form;
-    fetch(form.action, {method: 'POST', body: new URLSearchParams(new FormData(form))})
+function pageAt(address, options) {
+    return fetch(address, options)
         .then(answer => answer.text())
-        .then(html => {
-            const page = new DOMParser().parseFromString(html, 'text/html');
-            const box = page.getElementById('commentBox');
-            if (box) {
-                document.getElementById('commentBox').innerHTML = box.innerHTML;
-                return;
-            }
-            document.open();
-            document.write(html);
-            document.close();
-        });
+        .then(html => new DOMParser().parseFromString(html, 'text/html'));
+}
+
+// Puts boxes of another page in place of those here, or the whole page when it lacks the first.
+function takeOver(page, ids) {
+    if (!page.getElementById(ids[0])) {
+        document.open();
+        document.write('<!DOCTYPE html>' + page.documentElement.outerHTML);
+        document.close();
+        return;
+    }
+    for (const id of ids)
+        document.getElementById(id).innerHTML = page.getElementById(id).innerHTML;
+}
+
+function postForm(form, ids) {
+    const fields = new URLSearchParams(new FormData(form));
+    return pageAt(form.action, {method: 'POST', body: fields}).then(page => takeOver(page, ids));
+}
+
+function postInPlace(button) {
+    postForm(button.form, ['commentBox']);
+}
+
+// The stream of the home page and the box above it. One press is one post.
+const statusBoxes = ['statusBox', 'streamBox'];
+
+function shareInPlace(button) {
+    button.disabled = true;
+    postForm(button.form, statusBoxes);
+}
+
+function showStream(link) {
+    const wait = new Promise(resolve => setTimeout(resolve, 800));
+    document.getElementById('stream').classList.add('loadingIconWhiteLight');
+    Promise.all([pageAt(link.href), wait]).then(([page]) => takeOver(page, ['streamBox']));
+    return false;
+}
+
+// Asks before anything is deleted; the older layout sends the form, the newer one stays on its page.
+function askDelete(link, number, isOlder) {
+    const form = document.getElementById('deleteForm');
+    document.getElementById('deleteNumber').value = number;
+    document.getElementById('ask').innerHTML = document.getElementById('question').textContent;
+    const yes = document.querySelector('#ask .yes');
+    yes.onclick = () => isOlder ? form.submit() : postForm(form, statusBoxes);
+    document.querySelector('#ask .no').onclick = () => { document.getElementById('ask').innerHTML = ''; };
 }
 
 window.addEventListener('load', () => {
@@ -129,6 +168,11 @@ window.addEventListener('load', () => {
     const late = document.getElementById('late');
     if (late)
         setTimeout(() => { late.innerHTML = late.dataset.field; }, 2000);
+    const lateList = document.getElementById('lateList');
+    if (lateList)
+        setTimeout(() => pageAt(lateList.dataset.from).then(page => {
+            lateList.replaceWith(page.getElementById('posts'));
+        }), 2000);
     const asleep = document.getElementById('asleep');
     if (asleep)
         setTimeout(() => { document.getElementById('confirmButton').disabled = false; }, 6000);

@@ -5,31 +5,11 @@
 #include "../Html.h"
 #include "../MiniProfile.h"
 #include "SignInPages.h"
-
-#include <iterator>
+#include "StatusBox.h"
 
 namespace qlm::practice {
 
 namespace {
-
-constexpr QStringView doings[] = {u"has a new picture", u"is in a good mood today",
-                                  u"wrote about last weekend", u"changed the headline",
-                                  u"joined a group about kites"};
-
-QString Updates(const World& world, qint64 owner) {
-    QString lines;
-    const auto friends = world.friends.Slice(world.people, owner, 1, int(std::size(doings)));
-    for (qsizetype i = 0; i < friends.size(); ++i)
-        lines += Fill(
-            uR"(<div class="update"><div class="pic"><img src="{picture}" width="36" height="36" alt=""></div>
-<p><a href="{url}">{name}</a> {doing}</p></div>
-)",
-            {{u"picture", PictureUrl(*friends[i])},
-             {u"url", ProfileUrl(*friends[i])},
-             {u"name", friends[i]->name},
-             {u"doing", doings[i].toString()}});
-    return lines;
-}
 
 QString NewPeople(const World& world, qint64 owner) {
     QString faces;
@@ -44,6 +24,9 @@ QString NewPeople(const World& world, qint64 owner) {
 Response HomePage(Visit& visit) {
     if (!visit.account)
         return SignInPage(visit, {});
+    const StatusAnswer answer = TakeStatus(visit);
+    if (answer.response)
+        return *answer.response;
     const Person& me = *visit.world.people.Find(visit.account->id);
     const QString own = Url(Role::SiteRoot, u"/%1"_s.arg(me.id));
     const QString main = Fill(uR"(<div class="cols"><div class="col">
@@ -52,9 +35,10 @@ Response HomePage(Visit& visit) {
 <p class="quote">&ldquo;{headline}&rdquo;</p><p>Mood: {mood}</p>
 <ul class="links"><li><a href="{own}">My profile</a></li><li>
 <a href="{own}/friends">My friends ({count})</a></li>
-<li><a href="{mail}">My mail</a></li><li><a href="{browse}">Browse people</a></li></ul></div></div>
+<li><a href="{mail}">My mail</a></li><li><a href="{bulletins}">Bulletins</a></li>
+<li><a href="{browse}">Browse people</a></li></ul></div></div>
 </div><div class="col wideCol">
-<div class="box"><h2>Friend Updates</h2><div class="in">{!updates}</div></div>
+{!status}
 <div class="box"><h2>Cool New People</h2><div class="in faces">{!people}</div></div>
 </div></div>)",
                               {{u"first", FirstName(me)},
@@ -64,8 +48,9 @@ Response HomePage(Visit& visit) {
                                {u"own", own},
                                {u"count", QString::number(visit.world.friends.Count(me.id))},
                                {u"mail", Url(Role::Messaging, u"/index.cfm?fuseaction=mail.inbox"_s)},
+                               {u"bulletins", Url(Role::SiteRoot, u"/bulletins"_s)},
                                {u"browse", Url(Role::SiteRoot, u"/browse/people"_s)},
-                               {u"updates", Updates(visit.world, me.id)},
+                               {u"status", StatusMarkup(visit, answer.notice)},
                                {u"people", NewPeople(visit.world, me.id)}});
     return Framed(visit, {.title = u"Home"_s, .main = main, .tab = u"Home"_s, .shownId = me.id});
 }

@@ -10,8 +10,12 @@ namespace qlm::practice {
 
 using Way = Answer::Way;
 
+QString WritingVisit::Who() const {
+    return QString::number(m_sender) + (m_isToAll ? QString() : u' ' + QString::number(m_target));
+}
+
 void WritingVisit::Write(const QString& outcome) {
-    m_visit.world.journal.Write(m_word + u" %1 %2 "_s.arg(m_sender).arg(m_target) + outcome);
+    m_visit.world.journal.Write(u"%1 %2 %3"_s.arg(m_word, Who(), outcome));
 }
 
 Response WritingVisit::Say(const QString& outcome, const QString& text) {
@@ -60,10 +64,11 @@ void WritingVisit::Hold(const QString& outcome, const Text& text) {
     Write(outcome);
 }
 
-void WritingVisit::Deliver(const QString& outcome, const QString& arrived, const QStringList& texts) {
+void WritingVisit::Deliver(const QString& outcome, const QString& arrived, const QStringList& texts,
+                           const QString& more) {
     m_writing.Deliver(m_sender, m_target, m_visit.world.now().date());
     Write(outcome);
-    QString line = arrived + u" %1 %2"_s.arg(m_sender).arg(m_target);
+    QString line = arrived + u' ' + Who() + (more.isEmpty() ? QString() : u' ' + more);
     for (const QString& text : texts)
         line += u' ' + Quoted(text);
     m_visit.world.journal.Write(line);

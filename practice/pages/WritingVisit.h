@@ -7,18 +7,21 @@
 
 namespace qlm::practice {
 
-/// One visit of a page where somebody writes to somebody. The journal's lines begin with `word`.
+/// One visit of a page where somebody writes to somebody or, without a target, to everybody: then the
+/// answers are those that stand beside the writer's own number. The journal's lines begin with `word`.
 class WritingVisit {
 protected:
-    WritingVisit(Visit& visit, Writing& writing, const QString& word, const QString& title, qint64 target)
+    WritingVisit(Visit& visit, Writing& writing, const QString& word, const QString& title,
+                 std::optional<qint64> target = std::nullopt)
         : m_visit(visit),
           m_writing(writing),
           m_word(word),
           m_title(title),
           m_sender(visit.account->id),
-          m_target(target),
-          m_person(visit.world.people.Find(target)),
-          m_answer(writing.answers.Of(target)) {}
+          m_target(target.value_or(m_sender)),
+          m_isToAll(!target),
+          m_person(visit.world.people.Find(m_target)),
+          m_answer(writing.answers.Of(m_target)) {}
 
     enum class Typed { Nothing, Right, Wrong };
 
@@ -37,8 +40,13 @@ protected:
     bool AsksForWord() const;
     void Hold(const QString& outcome, const Text& text);
 
-    /// Notes the arrival. `outcome` is what the page answers, `arrived` begins the line of who got what.
-    void Deliver(const QString& outcome, const QString& arrived, const QStringList& texts);
+    /// Notes the arrival. `outcome` is what the page answers, `arrived` begins the line of who got what,
+    /// `more` stands before the texts.
+    void Deliver(const QString& outcome, const QString& arrived, const QStringList& texts,
+                 const QString& more = {});
+
+    /// Who writes and to whom, as the journal has it.
+    QString Who() const;
 
     Visit& m_visit;
     Writing& m_writing;
@@ -46,6 +54,7 @@ protected:
     QString m_title;
     qint64 m_sender;
     qint64 m_target;
+    bool m_isToAll;
     const Person* m_person;
     const Answer& m_answer;
 };

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The practice site's forms for messages and comments on the real engine, where their scripts run.
+// The practice site's forms on the real engine, where their scripts run.
 #include "EngineWorld.h"
+#include "practice/BulletinDesigns.h"
 #include "practice/CommentDesigns.h"
 #include "practice/ComposeDesigns.h"
 #include "practice/PracticeSite.h"
+#include "practice/StatusDesigns.h"
 #include "practice/server/ProxyServer.h"
 
 #include <QNetworkProxy>
@@ -13,9 +15,11 @@
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
+using practice::BulletinDesign;
 using practice::CommentDesign;
 using practice::ComposeDesign;
 using practice::Editor;
+using practice::StatusDesign;
 
 namespace {
 
@@ -70,7 +74,7 @@ protected:
             Named(name).SetValue(text);
         if (editor == Editor::Frame)
             TypeIntoFrame(name, text);
-        if (editor != Editor::Source)
+        if (!HasSource(editor))
             return;
         ById(name + u"_editsource"_s).Tags(u"a"_s).front().Click();
         ById(name + u"_editsourcearea"_s).SetInnerText(text);
@@ -94,9 +98,30 @@ protected:
             }
         return false;
     }
+    // On what stands inside of the link, as some do.
+    void ClickLink(const QString& caption) {
+        for (const Element& link : browser->Document().Links()) {
+            if (link.InnerText().trimmed() != caption)
+                continue;
+            const std::vector<Element> inside = link.Tags(u"*"_s);
+            (inside.empty() ? link : inside.front()).Click();
+            return;
+        }
+        ADD_FAILURE() << "no link " << caption.toStdString();
+    }
+    // What is posted from here on is all that counts.
+    void StartAnew() {
+        Control(u"seed 1"_s);
+        m_seen = m_site.Journal().size();
+    }
+    bool IsLoading() {
+        return browser->Document().BodyHTML().contains(
+            u"streamContainer listViewContainer MSIcon loadingIconWhiteLight"_s);
+    }
     // Since the count was last taken.
     QStringList Arrived() {
-        return m_site.Journal().mid(m_seen).filter(QRegularExpression(u"^(messaged|commented) "_s));
+        return m_site.Journal().mid(m_seen).filter(
+            QRegularExpression(u"^(messaged|commented|posted|deleted)[ -]"_s));
     }
     bool WaitForArrival() {
         return WaitUntil([this] { return !Arrived().isEmpty(); });
@@ -115,6 +140,7 @@ QString AsSent(const ComposeDesign& design) {
     case Editor::Plain:
         return uR"("Hello,\r\nFriday 😀")"_s;
     case Editor::Source:
+    case Editor::Views:
         return uR"("Hello,\r\nFriday &#128512;")"_s;
     case Editor::Frame:
         break;
@@ -242,6 +268,111 @@ TEST_F(PracticeForms, TheHintGoesWithTheFirstTextAndMarkupMayNotBeAllowed) {
     EXPECT_FALSE(Text().contains(u"HTML not allowed"_s));
     Named(u"newComment"_s).SetValue(u"<b>bold</b>"_s);
     EXPECT_TRUE(WaitForText(u"HTML not allowed"_s));
+}
+
+TEST_F(PracticeForms, EveryBulletinFormPostsTheText) {
+    for (const BulletinDesign& design : practice::BulletinDesigns()) {
+        SCOPED_TRACE(design.name.toString().toStdString());
+        StartAnew();
+        Control(u"bulletin-form all "_s + design.name.toString());
+        Show(u"http://www.myspace.example.com/bulletins/new"_s);
+        if (design.hasSubject)
+            Named(practice::bulletinSubject.toString()).SetValue(Subject);
+        Type(design.editor, BodyOf(design).toString(), Body);
+        EXPECT_TRUE(Press(u"post"_s) || Press(u"publish"_s));
+        if (design.after == BulletinDesign::After::Confirm) {
+            EXPECT_TRUE(WaitForText(u"your friends can read it"_s));
+            EXPECT_TRUE(Press(u"post bulletin"_s));
+        }
+        const bool isSilent = design.after == BulletinDesign::After::Silent;
+        EXPECT_TRUE(WaitForText(isSilent ? u"that is all"_s : u"Your bulletin has been posted"_s));
+        const bool takesComments = design.comments == BulletinDesign::Comments::Ticked;
+        EXPECT_EQ(Arrived(), QStringList{u"posted-bulletin 900001 5001 %1 %2 %3"_s.arg(
+                                 takesComments ? u"comments"_s : u"no-comments"_s,
+                                 design.hasSubject ? uR"("Tour \"dates\"")"_s : u"\"\""_s,
+                                 HasSource(design.editor) ? uR"("Hello,\r\nFriday &#128512;")"_s
+                                                          : uR"("Hello,\r\nFriday 😀")"_s)});
+    }
+}
+
+TEST_F(PracticeForms, ASecondPressLeavesTheSourceViewOfABulletinOpen) {
+    Show(u"http://www.myspace.example.com/bulletins/new"_s);
+    const QString name = BodyOf(practice::BulletinDesigns().front()).toString();
+    const auto press = [&] { ById(name + u"_editsource"_s).Tags(u"a"_s).front().Click(); };
+    press();
+    ById(name + u"_editsourcearea"_s).SetInnerText(Body);
+    press();
+    EXPECT_EQ(ById(name + u"_open"_s).Value(), u"1"_s);
+    EXPECT_TRUE(ById(name + u"_editsourcearea"_s).Value().startsWith(u"Hello,"_s));
+}
+
+TEST_F(PracticeForms, ALateListOfPostedBulletinsDeletesLikeTheOthers) {
+    for (const QString& design : {u"newer"_s, u"older"_s, u"unticked"_s}) {
+        SCOPED_TRACE(design.toStdString());
+        StartAnew();
+        Control(u"bulletin-form all "_s + design);
+        Control(u"bulletins 900001 2"_s);
+        Show(u"http://www.myspace.example.com/bulletins/900001"_s);
+        EXPECT_EQ(Named(u"messageID"_s).IsNull(), design == u"unticked");
+        EXPECT_TRUE(WaitUntil([this] { return !Named(u"messageID"_s).IsNull(); }));
+        Named(u"messageID"_s).Click();
+        EXPECT_TRUE(Press(u"delete"_s));
+        EXPECT_TRUE(WaitForArrival());
+        EXPECT_EQ(Arrived(), QStringList{u"deleted-bulletin 900001 5002 \"Old news 2\""_s});
+    }
+}
+
+TEST_F(PracticeForms, EveryStatusBoxPostsItsTextInPlaceOnlyOnce) {
+    for (const StatusDesign& design : practice::StatusDesigns()) {
+        if (!design.hasShare)
+            continue;
+        SCOPED_TRACE(design.name.toString().toStdString());
+        StartAnew();
+        Control(u"status-form all "_s + design.name.toString());
+        Show(design.older ? u"http://home.myspace.example.com/"_s
+                          : u"http://home.myspace.example.com/index.cfm?fuseaction=home&f=7"_s);
+        EXPECT_EQ(ById(u"spStatus"_s).IsNull(), design.isLate);
+        EXPECT_TRUE(WaitUntil([this] { return !ById(u"spStatus"_s).IsNull(); }));
+        ById(u"spStatus"_s).SetValue(u"in the studio \U0001F600"_s);
+        for (int i = 0; i < (design.older ? 1 : 2); ++i)
+            ById(u"status_submitBtn"_s).Click();
+        EXPECT_TRUE(WaitForArrival());
+        PumpFor(300);
+        EXPECT_EQ(Arrived(), QStringList{u"posted-status 900001 5001 \"in the studio 😀\""_s});
+    }
+}
+
+TEST_F(PracticeForms, TheOlderStreamIsNarrowedDownByItsListAndDeletesAfterAQuestion) {
+    StartAnew();
+    Control(u"statuses 900001 2"_s);
+    Show(u"http://home.myspace.example.com/"_s);
+    EXPECT_FALSE(browser->Document().BodyHTML().contains(u"Delete This Update"_s));
+    ById(u"filterStreamByFriend"_s).SetValue(u"1"_s);
+    ById(u"filterStreamByFriend"_s).FireChange();
+    EXPECT_TRUE(WaitForText(u"Delete This Update"_s));
+    EXPECT_FALSE(Press(u"yes"_s));
+    ClickLink(u"Delete This Update"_s);
+    EXPECT_TRUE(Press(u"yes"_s));
+    EXPECT_TRUE(WaitForArrival());
+    EXPECT_EQ(Arrived(), QStringList{u"deleted-status 900001 5002 \"This was number 2.\""_s});
+}
+
+TEST_F(PracticeForms, TheNewerStreamIsGreyWhileItLoadsAndDeletesAfterAQuestion) {
+    StartAnew();
+    Control(u"statuses 900001 2"_s);
+    Show(u"http://home.myspace.example.com/index.cfm?fuseaction=home&f=7"_s);
+    for (const QString& filter : {u"Just me"_s, u"Status"_s}) {
+        EXPECT_FALSE(IsLoading());
+        ClickLink(filter);
+        EXPECT_TRUE(WaitUntil([this] { return IsLoading(); }));
+        EXPECT_TRUE(WaitUntil([this] { return !IsLoading(); }));
+    }
+    EXPECT_FALSE(Press(u"ok"_s));
+    ClickLink(u"Delete this update"_s);
+    EXPECT_TRUE(Press(u"ok"_s));
+    EXPECT_TRUE(WaitForArrival());
+    EXPECT_EQ(Arrived(), QStringList{u"deleted-status 900001 5002 \"This was number 2.\""_s});
+    EXPECT_TRUE(WaitForText(u"Everybody"_s));
 }
 
 } // namespace qlm

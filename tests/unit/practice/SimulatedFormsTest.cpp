@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The same forms where no script runs: what stands in for the scripts does what they do.
 #include "platform/sim/SimBrowser.h"
+#include "practice/BulletinDesigns.h"
 #include "practice/CommentDesigns.h"
 #include "practice/ComposeDesigns.h"
 #include "practice/PracticeSite.h"
+#include "practice/StatusDesigns.h"
 #include "tests/support/PrintText.h"
 #include "tests/support/SimulatedSite.h"
 
@@ -13,9 +15,11 @@
 namespace qlm {
 
 using namespace Qt::Literals::StringLiterals;
+using practice::BulletinDesign;
 using practice::CommentDesign;
 using practice::ComposeDesign;
 using practice::Editor;
+using practice::StatusDesign;
 
 namespace {
 
@@ -51,7 +55,7 @@ protected:
         return found.empty() ? Element() : found.front();
     }
     void Type(Editor editor, const QString& name) {
-        if (editor != Editor::Source)
+        if (!HasSource(editor))
             return Named(name).SetValue(Body);
         ById(name + u"_editsource"_s).Tags(u"a"_s).front().Click();
         ById(name + u"_editsourcearea"_s).SetInnerText(Body);
@@ -74,8 +78,23 @@ protected:
             }
         return false;
     }
+    // On what stands inside of the link, as some do.
+    void ClickLink(const QString& caption) {
+        for (const Element& link : browser.Document().Links()) {
+            if (link.InnerText().trimmed() != caption)
+                continue;
+            const std::vector<Element> inside = link.Tags(u"*"_s);
+            (inside.empty() ? link : inside.front()).Click();
+            return;
+        }
+        ADD_FAILURE() << "no link " << caption.toStdString();
+    }
+    static QString HomeAddress(const StatusDesign& design) {
+        return design.older ? u"http://home.myspace.example.com/"_s
+                            : u"http://home.myspace.example.com/index.cfm?fuseaction=home&f=7"_s;
+    }
     QStringList Arrived() {
-        return site.TakeJournal().filter(QRegularExpression(u"^(messaged|commented) "_s));
+        return site.TakeJournal().filter(QRegularExpression(u"^(messaged|commented|posted|deleted)[ -]"_s));
     }
 
     practice::PracticeSite site;
@@ -166,6 +185,105 @@ TEST_F(SimulatedForms, TheBoxGrowsByItselfUnlessItIsShyAndLosesItsHintWithTheTex
     ById(u"newComment"_s).SetValue(u"<b>bold</b>"_s);
     EXPECT_FALSE(Text().contains(u"Post a comment..."_s));
     EXPECT_TRUE(Text().contains(u"HTML not allowed"_s));
+}
+
+TEST_F(SimulatedForms, EveryBulletinFormPostsItsText) {
+    for (const BulletinDesign& design : practice::BulletinDesigns()) {
+        SCOPED_TRACE(design.name.toString().toStdString());
+        Control(u"seed 1"_s);
+        Control(u"bulletin-form all "_s + design.name.toString());
+        Open(u"http://www.myspace.example.com/bulletins/new"_s);
+        if (design.hasSubject)
+            Named(practice::bulletinSubject.toString()).SetValue(u"Hi"_s);
+        Type(design.editor, BodyOf(design).toString());
+        EXPECT_TRUE(Press(u"post"_s) || Press(u"publish"_s));
+        Settle();
+        Press(u"post bulletin"_s);
+        Settle();
+        const bool isSilent = design.after == BulletinDesign::After::Silent;
+        EXPECT_TRUE(Text().contains(isSilent ? u"that is all"_s : u"Your bulletin has been posted"_s));
+        const bool takesComments = design.comments == BulletinDesign::Comments::Ticked;
+        EXPECT_EQ(Arrived(), QStringList{uR"(posted-bulletin 900001 5001 %1 "%2" "Hello,\r\nFriday")"_s.arg(
+                                 takesComments ? u"comments"_s : u"no-comments"_s,
+                                 design.hasSubject ? u"Hi"_s : QString())});
+    }
+}
+
+TEST_F(SimulatedForms, ASecondPressLeavesTheSourceViewOpenOnBulletins) {
+    Open(u"http://www.myspace.example.com/bulletins/new"_s);
+    const QString name = BodyOf(practice::BulletinDesigns().front()).toString();
+    for (int i = 0; i < 2; ++i)
+        ById(name + u"_editsource"_s).Tags(u"a"_s).front().Click();
+    EXPECT_EQ(ById(name + u"_open"_s).Value(), u"1"_s);
+}
+
+TEST_F(SimulatedForms, PostedBulletinsAreDeletedInEveryDesignThatHasBoxes) {
+    for (const BulletinDesign& design : practice::BulletinDesigns()) {
+        SCOPED_TRACE(design.name.toString().toStdString());
+        Control(u"seed 1"_s);
+        Control(u"bulletin-form all "_s + design.name.toString());
+        Control(u"bulletins 900001 2"_s);
+        Open(u"http://www.myspace.example.com/bulletins/900001"_s);
+        EXPECT_EQ(Named(u"messageID"_s).IsNull(), design.choice != BulletinDesign::Choice::Boxes);
+        Settle(2500);
+        if (design.choice != BulletinDesign::Choice::None)
+            Named(u"messageID"_s).Click();
+        EXPECT_TRUE(Press(u"delete"_s));
+        Settle();
+        EXPECT_EQ(Arrived(), design.choice == BulletinDesign::Choice::None
+                                 ? QStringList()
+                                 : QStringList{u"deleted-bulletin 900001 5002 \"Old news 2\""_s});
+    }
+}
+
+TEST_F(SimulatedForms, EveryStatusBoxThatHasAButtonPostsItsText) {
+    for (const StatusDesign& design : practice::StatusDesigns()) {
+        SCOPED_TRACE(design.name.toString().toStdString());
+        Control(u"seed 1"_s);
+        Control(u"status-form all "_s + design.name.toString());
+        Open(HomeAddress(design));
+        EXPECT_EQ(ById(u"spStatus"_s).IsNull(), design.isLate);
+        Settle(2500);
+        ById(u"spStatus"_s).SetValue(u"in the studio"_s);
+        EXPECT_EQ(ById(u"status_submitBtn"_s).IsNull(), !design.hasShare);
+        if (const Element button = ById(u"status_submitBtn"_s))
+            button.Click();
+        Settle();
+        EXPECT_EQ(Arrived(), design.hasShare ? QStringList{u"posted-status 900001 5001 \"in the studio\""_s}
+                                             : QStringList());
+    }
+}
+
+TEST_F(SimulatedForms, TheOlderStreamIsNarrowedDownByItsListAndDeletesAfterAQuestion) {
+    Control(u"statuses 900001 2"_s);
+    Open(u"http://home.myspace.example.com/"_s);
+    EXPECT_FALSE(Markup().contains(u"Delete This Update"_s));
+    ById(u"filterStreamByFriend"_s).SetValue(u"1"_s);
+    ById(u"filterStreamByFriend"_s).FireChange();
+    Settle();
+    EXPECT_FALSE(Press(u"yes"_s));
+    ClickLink(u"Delete This Update"_s);
+    EXPECT_TRUE(Press(u"yes"_s));
+    Settle();
+    EXPECT_EQ(Arrived(), QStringList{u"deleted-status 900001 5002 \"This was number 2.\""_s});
+}
+
+TEST_F(SimulatedForms, TheNewerStreamIsGreyWhileItLoadsAndDeletesAfterAQuestion) {
+    Control(u"statuses 900001 2"_s);
+    Open(u"http://home.myspace.example.com/index.cfm?fuseaction=home&f=7"_s);
+    const QString loading = u"streamContainer listViewContainer MSIcon loadingIconWhiteLight"_s;
+    for (const QString& filter : {u"Just me"_s, u"Status"_s}) {
+        EXPECT_FALSE(Markup().contains(loading));
+        ClickLink(filter);
+        Settle(600);
+        EXPECT_TRUE(Markup().contains(loading));
+        Settle(600);
+    }
+    EXPECT_FALSE(Press(u"ok"_s));
+    ClickLink(u"Delete this update"_s);
+    EXPECT_TRUE(Press(u"ok"_s));
+    Settle();
+    EXPECT_EQ(Arrived(), QStringList{u"deleted-status 900001 5002 \"This was number 2.\""_s});
 }
 
 } // namespace qlm
