@@ -165,6 +165,12 @@ add_library(quillmere_logic STATIC
     campaigns/TimeDelayDialog.cpp
     campaigns/TimedPosts.cpp
 
+    inbound/AcceptFriends.cpp
+    inbound/PendingDeletion.cpp
+    inbound/PendingRequests.cpp
+    inbound/RequestApproval.cpp
+    inbound/RequestList.cpp
+
     program/Activities.cpp
     program/GlobalSettings.cpp
     program/MainForm.cpp

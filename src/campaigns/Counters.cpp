@@ -155,6 +155,14 @@ void Counters::ShowSentAtStart(const Campaign& campaign) {
     m_app.controls.SetText(campaign.sentLabel, SentText(m_app, campaign, campaign.sentAtStart));
 }
 
+void Counters::CountAccepted(qint32 number) {
+    qint32& today = m_app.state.lngDailyAccepted;
+    today = today < MostCounted - number ? today + number : MostCounted;
+    m_app.platform.Settings().SaveSetting(CountersSection(m_app), u"Daily Friend Request Accept Count"_s,
+                                          QString::number(today));
+    m_app.Get<SettingsFields>().Sync();
+}
+
 bool Counters::Count(const Campaign& campaign) {
     RunState& state = m_app.state;
     if (campaign.isPartOfAnother && campaign.isPartOfAnother(state))

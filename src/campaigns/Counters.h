@@ -19,6 +19,8 @@ public:
     // Counts one send; one that is part of another activity counts nothing. False when the limit has stopped
     // the run instead: where it comes first, a limit of N sends N + 1, and that one is not counted.
     bool Count(const Campaign& campaign);
+    // So many friend requests have been accepted.
+    void CountAccepted(qint32 number);
     // True when the campaign's limit has been reached and its run is over.
     bool StopAtLimit(const Campaign& campaign);
     // True when the last count could not be saved and the running campaign has a limit for the day: its run

@@ -17,9 +17,10 @@ const QString Form = u"frmRunReport"_s;
 const QString CsvFiles = u"CSV files (csv)|*.csv;|All files (*.*)|*.*"_s;
 
 QString Summary(const ReportedRun& run) {
-    constexpr ReportResult results[] = {ReportResult::Sent,    ReportResult::SentNotLogged,
-                                        ReportResult::Skipped, ReportResult::PutOff,
-                                        ReportResult::Failed,  ReportResult::Unfinished};
+    constexpr ReportResult results[] = {
+        ReportResult::Sent,      ReportResult::SentNotLogged, ReportResult::Skipped,
+        ReportResult::PutOff,    ReportResult::Accepted,      ReportResult::Denied,
+        ReportResult::Cancelled, ReportResult::Failed,        ReportResult::Unfinished};
     QStringList counts;
     for (const ReportResult result : results) {
         const auto count = std::count_if(run.rows.begin(), run.rows.end(),

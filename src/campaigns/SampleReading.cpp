@@ -22,6 +22,9 @@ constexpr ReadingRow Readings[] = {
     {"txtMsgMessage"_L1, "lblMsgReads"_L1},
     {"txtComment"_L1, "lblComReads"_L1},
     {"txtCommentNonHTML"_L1, "lblComNonHTMLReads"_L1},
+    {"txtAcceptMessage"_L1, "lblAccMsgReads"_L1},
+    {"txtAcceptComment"_L1, "lblAccComReads"_L1},
+    {"txtAcceptCommentNonHTML"_L1, "lblAccComNonHTMLReads"_L1},
 };
 
 QString ReadingOf(const QString& text) {

@@ -91,11 +91,11 @@ void SendRuns::Begin(const Campaign& campaign) {
         begin(m_app);
 }
 
-void SendRuns::Reset(const Campaign& campaign) {
+void SendRuns::ResetRun(QLatin1StringView word) {
     RunState& state = m_app.state;
     m_app.waiting.OutdateSteps();
     EndPost();
-    state.CurrentAction = campaign.Word();
+    state.CurrentAction = word;
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     m_app.timers->Timer1.SetEnabled(false);
     state.strLinkType.clear();
@@ -121,6 +121,11 @@ void SendRuns::Reset(const Campaign& campaign) {
     state.lngFilteredCount = 0;
     state.lngFailedCount = 0;
     state.lngRemovedCount = 0;
+}
+
+void SendRuns::Reset(const Campaign& campaign) {
+    RunState& state = m_app.state;
+    ResetRun(campaign.Word());
     state.*campaign.session = 0;
     // The next account of a chain goes on in the list where the last one left it.
     if (!state.blnChaining || state.ChainedCampaign != campaign.Word())

@@ -18,6 +18,8 @@ public:
 
     // The start of a campaign: the checks, the question, the reset, the first step.
     void Start(const Campaign& campaign);
+    // What any run begins with: nothing of an earlier one is left, and whoever had lent the browser is over.
+    void ResetRun(QLatin1StringView word);
     ReportDialog& ReportWindow() { return m_reportDialog; }
     // The end step of the running campaign. In accept mode the accept run goes on instead.
     void Finish();

@@ -26,7 +26,7 @@ constexpr ControlForm Forms[] = {
     {rows::CommenterTab, {u"Auto Commenter", "TABCOMMENTS", "picCommentor"}},
     {rows::BulletinTab, {u"Timed Bulletins", "TABBULLETINS", "picBulletin"}},
     {rows::StatusTab, {u"Status Updater", "TABSTATUS", "picStatusUpdater"}},
-    {rows::AcceptTab},
+    {rows::AcceptTab, {u"Accept Friends", "TABACCEPT", "picAcceptFriends"}},
     {rows::Filters},
     {rows::AccountForms},
     {rows::GatherForms},

@@ -47,6 +47,11 @@ struct RunFields : Expectation {
     qint32 lngPageScanOffset = 0;
     qint16 intGatherRetryTicks = 0;
 
+    // Accepting.
+    bool PageApproved = false; // the page that is coming shows what an approval has left
+    bool AcceptStopRequested = false;
+    QString AcceptReturnURL; // where the follow-up of a page began
+
     // Sending.
     QString strFRResumeURL; // the request page to go back to after a message
     qint16 intFRLimitHits = 0;

@@ -34,6 +34,8 @@ public:
     bool FilterPassWanted() const;
     // The label that names the visible slice of the list in WebBrowser1; "" when there is none.
     QString GetListingText();
+    // Notes what says, until the next page has come, that the browser still shows this one.
+    void SetMustNotHaveTexts();
 
     // Tells the user, while a login runs that has to be waited for.
     bool RefuseDuringLogin();
@@ -59,7 +61,6 @@ private:
     void FinishGathering();
     bool OpenNextPage();
     void ClickCaption();
-    void SetMustNotHaveTexts();
     QString LastPageMarkup();
     bool WarnBeforeStart();
     QString OptionsTrace() const;

@@ -6,6 +6,8 @@
 #include "core/ActivityWords.h"
 #include "core/App.h"
 #include "gather/GatherDriver.h"
+#include "inbound/AcceptFriends.h"
+#include "inbound/PendingRequests.h"
 #include "steps/Steps.h"
 #include "steps/StopResume.h"
 
@@ -35,6 +37,7 @@ std::vector<Activity> AllActivities() {
          .onSignedInAgain = [](App& app) { app.Get<GatherDriver>().ReturnToList(); }},
         {.word = ActivityWord::Accepting,
          .step = &RunState::intAccStep,
+         .stepRoutine = [](App& app) { app.Get<AcceptFriends>().IterateAcceptFriends(); },
          .debugFile = "debugacc.txt",
          .stopMark = "ACC stop - (",
          .resumable = true},
@@ -48,6 +51,7 @@ std::vector<Activity> AllActivities() {
          .onErrorPage = HandleLoginErrorPage},
         {.word = ActivityWord::DeletingPending,
          .step = &RunState::intDelPenStep,
+         .stepRoutine = [](App& app) { app.Get<PendingRequests>().IterateDelPenFR(); },
          .resumable = true,
          .onErrorPage = BeginPendingDeletionAnew},
         {.word = ActivityWord::Invites, .debugFile = "debugevinv.txt", .stopMark = "EVINV stop - ("},

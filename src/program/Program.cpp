@@ -33,6 +33,8 @@
 #include "gather/Pager.h"
 #include "gather/ProfileFilters.h"
 #include "gather/WebSearch.h"
+#include "inbound/AcceptFriends.h"
+#include "inbound/PendingRequests.h"
 #include "program/GlobalSettings.h"
 #include "program/MainForm.h"
 #include "program/StartUp.h"
@@ -103,6 +105,8 @@ void App::MakeFamilies() {
     for (const Campaign* campaign : Campaigns())
         if (campaign->makeMachine)
             campaign->makeMachine(m_families, *this);
+    m_families.Make<AcceptFriends>(*this);
+    m_families.Make<PendingRequests>(*this);
 }
 
 // What the floors below ask of those above.

@@ -44,6 +44,11 @@ void AddSubject(QVBoxLayout& column, const ContentNames& names) {
 }
 } // namespace
 
+QLabel* NewNameNote() {
+    return NewText(u"*Note: Anywhere that you write &NAME& will be replaced by the target's name"_s,
+                   u"quiet"_s);
+}
+
 QGroupBox* NewLimitFrame(QLatin1StringView limit, QLatin1StringView period) {
     QLineEdit* number = NewNumber(limit, SignsOfALimit);
     auto* choice = Named(new QComboBox, period);
@@ -140,8 +145,7 @@ QGroupBox* NewContentFrame(const Commands& commands, const ContentNames& names) 
     if (!names.bodyCount.isEmpty())
         column->addWidget(NewLabel(names.bodyCount, u"quiet"_s));
     if (!names.bodyReads.isEmpty())
-        column->addWidget(NewText(
-            u"*Note: Anywhere that you write &NAME& will be replaced by the target's name"_s, u"quiet"_s));
+        column->addWidget(NewNameNote());
     column->addLayout(NewChoiceRow(commands, names.fromList, names.listTools));
     auto* list = Named(new LowWidget<QListView>, names.list);
     list->setMinimumHeight(LeastListHeight);

@@ -6,6 +6,7 @@
 
 class QGroupBox;
 class QHBoxLayout;
+class QLabel;
 class QLayout;
 class QVBoxLayout;
 
@@ -14,6 +15,9 @@ namespace qlm {
 class Commands;
 
 // The frames that the panels of the campaigns share, built for the controls of one of them.
+
+// What the placeholder of a text that goes to somebody does.
+QLabel* NewNameNote();
 
 // How many, and what that counts for.
 QGroupBox* NewLimitFrame(QLatin1StringView limit, QLatin1StringView period);

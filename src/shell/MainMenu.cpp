@@ -37,6 +37,7 @@ constexpr MenuRow Rows[] = {
     {Kind::Tick, "mnuCAPTCHAAlerts", "mnuCaptchaRestoreIfMinimized"},
     {Kind::Separator, "mnuCAPTCHAAlerts"},
     {Kind::Tick, "mnuCAPTCHAAlerts", "mnuSkipProfileCAPTCHAs"},
+    {Kind::Tick, "mnuOptions", "mnuAddToLogWhenAccepting"},
     {Kind::Separator, "mnuOptions"},
     {Kind::Item, "mnuOptions", "mnuExitWhenFinished"},
     {Kind::Item, "mnuOptions", "mnuExit", "Ctrl+Q"},

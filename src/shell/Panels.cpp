@@ -22,6 +22,7 @@ constexpr PanelRow Panels[] = {
     {"picCommentor"_L1, BuildCommenter},
     {"picBulletin"_L1, BuildBulletin},
     {"picStatusUpdater"_L1, BuildStatusUpdater},
+    {"picAcceptFriends"_L1, BuildAcceptFriends},
 };
 
 } // namespace

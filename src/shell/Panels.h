@@ -21,5 +21,6 @@ QWidget* BuildMessenger(App& app, ControlBinder& binder);
 QWidget* BuildCommenter(App& app, ControlBinder& binder);
 QWidget* BuildBulletin(App& app, ControlBinder& binder);
 QWidget* BuildStatusUpdater(App& app, ControlBinder& binder);
+QWidget* BuildAcceptFriends(App& app, ControlBinder& binder);
 
 } // namespace qlm

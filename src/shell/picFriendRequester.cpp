@@ -21,6 +21,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int LinesOfTheNote = 2;
+constexpr int SignsOfAPage = 8;
 
 QLayout* CategoryRow(const App& app) {
     auto* categories = Named(new QComboBox, "cboFRCategories"_L1);
@@ -50,6 +51,16 @@ QGroupBox* OptionsFrame(const App& app) {
     return frame;
 }
 
+QGroupBox* PendingFrame(const App& app) {
+    QLineEdit* start = NewNumber("txtDelPenFRStartPage"_L1, SignsOfAPage);
+    auto* buttons = new QHBoxLayout;
+    AddPictureButtons(*buttons, app.commands, Caption::Beside, {"picDeletePendingRequests"_L1});
+    AddPictureButtons(*buttons, app.commands, Caption::None,
+                      {"picDeletePendingRequestsStop"_L1, "piccmdDelPenReport"_L1});
+    buttons->addStretch();
+    return NewFrame(u"Unanswered requests"_s, {buttons, NewRow({NewCaptionOf(*start), start})});
+}
+
 QLayout* Options(const App& app) {
     auto* column = new QVBoxLayout;
     column->setSpacing(12);
@@ -60,6 +71,7 @@ QLayout* Options(const App& app) {
     column->addWidget(NewLink("lblProfileIDHelp"_L1));
     column->addWidget(NewLimitFrame("txtFriendRequestsToSend"_L1, "cboFRPerDayOrSession"_L1));
     column->addWidget(OptionsFrame(app));
+    column->addWidget(PendingFrame(app));
     column->addStretch();
     return column;
 }

@@ -26,6 +26,9 @@ const std::vector<ResultName>& ResultNames() {
         {ReportResult::SentNotLogged, "unlogged"_L1, "Sent, not logged"_L1},
         {ReportResult::Skipped, "skipped"_L1, "Skipped"_L1},
         {ReportResult::PutOff, "putoff"_L1, "Put off"_L1},
+        {ReportResult::Accepted, "accepted"_L1, "Accepted"_L1},
+        {ReportResult::Denied, "denied"_L1, "Denied"_L1},
+        {ReportResult::Cancelled, "cancelled"_L1, "Canceled"_L1},
         {ReportResult::Failed, "failed"_L1, "Failed"_L1},
         {ReportResult::Unfinished, "unfinished"_L1, "Unfinished"_L1},
     };

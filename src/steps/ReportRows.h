@@ -15,6 +15,9 @@ enum class ReportResult {
     SentNotLogged, // it went out, and the log doesn't know
     Skipped,
     PutOff, // comes again at the end of the list
+    Accepted,
+    Denied,
+    Cancelled,
     Failed,
     Unfinished, // the run ended, or was ended, while this target was being worked on
 };

@@ -15,6 +15,8 @@ constexpr StopReasonRow Rows[] = {
     {StopReason::RequestsDone, "IAF"_L1, Ending::AllDone, true},
     {StopReason::MessagesDone, "ISM"_L1, Ending::AllDone, true},
     {StopReason::CommentsDone, "ISC"_L1, Ending::AllDone, true},
+    {StopReason::AcceptDone, "IAF"_L1, Ending::AllDone, true},
+    {StopReason::PendingDone, "IDPFR"_L1, Ending::AllDone, true},
     {StopReason::RequestLimit, "AFC"_L1, Ending::LimitMet, true},
     {StopReason::MessageLimit, "MSGSTOP"_L1, Ending::LimitMet},
     {StopReason::CommentLimit, "COMSTOP"_L1, Ending::LimitMet},
@@ -23,6 +25,8 @@ constexpr StopReasonRow Rows[] = {
     {StopReason::CommentStop, "COMSTOP"_L1, Ending::Stopped},
     {StopReason::BulletinStop, "BULSTOP"_L1, Ending::Stopped},
     {StopReason::StatusStop, "STATUSSTOP"_L1, Ending::Stopped},
+    {StopReason::AcceptStop, "ACCSTOP"_L1, Ending::Stopped},
+    {StopReason::PendingStop, "DPFRSTOP"_L1, Ending::Stopped},
 
     {StopReason::WindowStop, "MAINSTOP"_L1, Ending::Stopped},
     {StopReason::Closing, "FU"_L1, Ending::Closed},

@@ -11,6 +11,8 @@ enum class StopReason {
     RequestsDone,
     MessagesDone,
     CommentsDone,
+    AcceptDone,
+    PendingDone,
     // The limit that the user has set.
     RequestLimit,
     MessageLimit,
@@ -21,6 +23,8 @@ enum class StopReason {
     CommentStop,
     BulletinStop,
     StatusStop,
+    AcceptStop,
+    PendingStop,
 
     WindowStop,  // the window's Stop
     Closing,     // the program ends

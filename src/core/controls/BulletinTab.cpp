@@ -10,14 +10,17 @@ std::vector<ControlRow> BulletinTab() {
         Line("txtPostAmount", u"&Post it")
             .Tip(u"The number of times to post the bulletin in total")
             .Spoken(u"Number of bulletins to post")
+            .Hint(u"1")
             .Kept("Bulletin"),
         Line("txtBulTimerFrom", u"&Every")
             .Tip(u"The interval between posts")
             .Spoken(u"Least minutes between two posts")
+            .Hint(u"60")
             .Kept("Bulletin", "txtTimer"),
-        Line("txtBulTimerTo", u"t&o")
+        Line("txtBulTimerTo", u"to")
             .Tip(u"The interval between posts")
             .Spoken(u"Most minutes between two posts")
+            .Hint(u"60")
             .Kept("Bulletin"),
         Box("chkAntiFlood", u"&Anti-flood")
             .Tip(u"Check this to delete the previous bulletin each time before posting the next. "
@@ -26,7 +29,7 @@ std::vector<ControlRow> BulletinTab() {
         Box("chkBulAllowComments", u"Allow &comments")
             .Tip(u"This setting appears on the bulletin page")
             .Kept("Bulletin"),
-        Option("optSendSingle(2)", "sendBUL", u"Post this &bulletin:")
+        Option("optSendSingle(2)", "sendBUL", u"Post th&is bulletin:")
             .Ticked()
             .Tip(u"Each post is the bulletin that is written here")
             .Kept("Bulletin"),

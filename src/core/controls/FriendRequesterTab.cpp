@@ -29,7 +29,11 @@ std::vector<ControlRow> FriendRequesterTab() {
             .Tip(u"Uses the message specified on the 'Auto Messenger' tab")
             .Kept("FriendRequest"),
         Box("chkFRAddToUpdates", u"Add to my friend u&pdates").Tip(TipOfThePage).Kept("FriendRequest"),
-        Line("txtDelPenFRStartPage").Kept("FriendRequest"),
+        Line("txtDelPenFRStartPage", u"Sta&rt on page")
+            .Tip(u"The page of your sent requests to begin on")
+            .Spoken(u"Page to begin on")
+            .Hint(u"1")
+            .Kept("FriendRequest"),
         Box("chkFRAddToCategory", u"&Add to").Tip(TipOfThePage).Kept("FriendRequest"),
         Choice("cboFRCategories", u"cate&gory")
             .Holds(u"Select a category from the list")
@@ -45,6 +49,16 @@ std::vector<ControlRow> FriendRequesterTab() {
             .Begins()
             .Tip(u"Send a friend request to each ID in the gathered list"),
         Button("piccmdAddFriendsStop", u"S&top").Picture("SENDSTOP").Tip(u"Stop sending friend requests"),
+        Button("picDeletePendingRequests", u"Cancel pe&nding requests")
+            .Picture("REMOVEFRIENDS")
+            .Begins()
+            .Tip(u"Take back the friend requests that nobody has answered"),
+        Button("picDeletePendingRequestsStop", u"Stop canceling")
+            .Picture("SENDSTOP")
+            .Tip(u"Stop canceling pending requests"),
+        Button("piccmdDelPenReport", u"Report of canceled requests")
+            .Picture("REPORT")
+            .Tip(u"What became of each pending request of a run"),
         Button("piccmdFRRefreshCategories", u"Fill the list of categories")
             .Picture("REFRESH")
             .Begins()

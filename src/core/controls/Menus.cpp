@@ -41,7 +41,7 @@ std::vector<ControlRow> Menus() {
         MenuItem("mnuSkipProfileCAPTCHAs",
                  u"S&kip profiles that require CAPTCHA's (except CAPTCHA's required by MySpace)")
             .Kept("General"),
-        MenuItem("mnuAddToLogWhenAccepting", u"Add  recipient to log when accepting with message/comment")
+        MenuItem("mnuAddToLogWhenAccepting", u"&Add  recipient to log when accepting with message/comment")
             .Kept("General"),
         MenuItem("mnuEnableLogging", u"&Enable logging for support").Kept("General"),
         MenuItem("mnuMinimizeTray", u"Minimize To Tray").Kept("General"),

@@ -9,14 +9,17 @@ std::vector<ControlRow> StatusTab() {
         Line("txtStatusPostAmount", u"&Post it")
             .Tip(u"The number of times to post a status update in total")
             .Spoken(u"Number of status updates to post")
+            .Hint(u"1")
             .Kept("Status"),
         Line("txtStatusTimerFrom", u"&Every")
             .Tip(u"The interval between posts")
             .Spoken(u"Least minutes between two posts")
+            .Hint(u"60")
             .Kept("Status"),
-        Line("txtStatusTimerTo", u"t&o")
+        Line("txtStatusTimerTo", u"to")
             .Tip(u"The interval between posts")
             .Spoken(u"Most minutes between two posts")
+            .Hint(u"60")
             .Kept("Status"),
         Box("chkStatusAntiFlood", u"&Anti-flood")
             .Tip(u"Check this to delete the previous status update each time before posting the next")

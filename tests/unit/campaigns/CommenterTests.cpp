@@ -49,7 +49,7 @@ TEST_P(CommenterTest, AnAcceptedFriendGetsTheAcceptersTextWithoutLineCountOrLimi
     EXPECT_EQ(State().arrFriendIDs.size(), 2);
     EXPECT_EQ(State().intCurrentIDIndex, 7);
     EXPECT_EQ(State().CurrentAction, u"ACC"_s);
-    EXPECT_EQ(State().intAccStep, 2);
+    EXPECT_EQ(State().intAccStep, 3); // its list is being loaded anew
     EXPECT_EQ(State().intComStep, 0);
     EXPECT_TRUE(dialogs.Texts().isEmpty());
 }

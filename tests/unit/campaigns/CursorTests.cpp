@@ -130,7 +130,7 @@ TEST_F(CursorTest, InAcceptModeTheEndGoesBackToAcceptingWithoutAWord) {
     app->state.strAcceptMode = u"COM"_s;
     app->Get<SendRuns>().Finish();
     EXPECT_EQ(app->state.CurrentAction, u"ACC"_s);
-    EXPECT_EQ(app->state.intAccStep, 2);
+    EXPECT_EQ(app->state.intAccStep, 3); // its list is being loaded anew
     EXPECT_EQ(app->state.intComStep, 0);
     EXPECT_TRUE(app->state.strAcceptMode.isEmpty());
     EXPECT_TRUE(app->controls.Items("lstAcceptIDs"_L1).isEmpty());

@@ -249,7 +249,8 @@ TEST_F(LendingTest, ACampaignThatIsStartedByHandEndsTheLoan) {
 
 TEST_F(LendingTest, WhichStopsAreOwnEnds) {
     const std::vector<StopReason> own{StopReason::RequestsDone, StopReason::MessagesDone,
-                                      StopReason::CommentsDone, StopReason::RequestLimit,
+                                      StopReason::CommentsDone, StopReason::AcceptDone,
+                                      StopReason::PendingDone,  StopReason::RequestLimit,
                                       StopReason::LoginDone,    StopReason::StoppedInFilter,
                                       StopReason::GatherDone};
     for (int i = 0; i <= static_cast<int>(StopReason::LoginAgain); ++i) {

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Document.h"
+
+#include <QString>
+#include <vector>
+
+namespace qlm {
+
+// The site's lists of friend requests, incoming and sent, in both layouts.
+
+// GetLastPageNumber: the number of the list's last page, always digits.
+QString LastPageNumberOf(const Document& page);
+
+// The boxes that choose requests, in page order.
+std::vector<Element> RequestBoxes(const Document& page);
+bool IsChecked(const Element& box);
+// Newer layout: the ID between the first two commas of the box's "mode"; empty where there is none.
+QString IdOfBox(const Element& box);
+// Older layout: the box above the list that ticks all the others, and the one for somebody's updates.
+bool IsBoxOfAll(const Element& box);
+bool IsUpdatesBox(const Element& box);
+
+// Newer layout: what accepts one request.
+bool IsAcceptButton(const Element& button);
+// Older layout: the page has what approves the ticked ones.
+bool HasApproveButton(const Document& page);
+
+// The next span that denies the request of somebody whose profile is gone; null where there is none.
+Element FindDenyOfVanished(const Document& page);
+
+} // namespace qlm
