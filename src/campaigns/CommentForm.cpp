@@ -44,19 +44,13 @@ const FieldNames& Editors() {
     return rows;
 }
 
-// Some designs give the name as the ID of the field.
-std::vector<Element> Named(const Document& page, const QString& name) {
-    std::vector<Element> fields = page.GetElementsByName(name);
-    const Element byId = page.GetElementById(name);
-    const auto isSame = [&byId](const Element& field) { return field.Node() == byId.Node(); };
-    if (byId && std::none_of(fields.begin(), fields.end(), isSame))
-        fields.push_back(byId);
-    return fields;
+// Some designs give the name as the ID of the field. What is there has some name, be it an empty one.
+Question IsThere(const QString& name) {
+    return {ElementSet::Named, name, ElementText::Name, Question::Match::Contains, {}};
 }
 
-void Type(const Document& page, const QString& name, const QString& text) {
-    for (const Element& field : Named(page, name))
-        field.SetValue(text);
+Writing Into(const QString& name, const QString& text) {
+    return {ElementSet::Named, name, Writing::Kind::Value, text};
 }
 
 bool IsCaption(const QString& text) {
@@ -79,21 +73,42 @@ template <typename Test> Element First(const Document& page, const QString& tag,
     return found == elements.end() ? Element() : *found;
 }
 
+// With the tree for whether one of them is disabled.
+void ForeseeButtons(const Document& page) {
+    using enum ElementText;
+    page.Foresee({{},
+                  {{ElementSet::ByTag, u"input"_s, Value},
+                   {ElementSet::ByTag, u"input"_s, Type},
+                   {ElementSet::ByTag, u"button"_s, Value},
+                   {ElementSet::ByTag, u"button"_s, InnerText}},
+                  true});
+}
+
 } // namespace
 
+void ForeseeCommentField(const Document& page) {
+    Foresight ahead;
+    for (const QString& name : SignsOfForm())
+        ahead.questions.push_back(IsThere(name));
+    page.Foresee(ahead);
+}
+
 bool HasCommentField(const Document& page) {
+    ForeseeCommentField(page);
     const FieldNames& signs = SignsOfForm();
     return std::any_of(signs.begin(), signs.end(),
-                       [&page](const QString& name) { return !Named(page, name).empty(); });
+                       [&page](const QString& name) { return page.Any(IsThere(name)); });
 }
 
 void TypeComment(const Document& page, const QString& text) {
+    std::vector<Writing> writings;
     for (const QString& name : TextFields())
-        Type(page, name, text);
+        writings.push_back(Into(name, text));
+    page.Write(writings);
 }
 
 void TypeSharedField(const Document& page, const QString& text) {
-    Type(page, SharedField, text);
+    page.Write({Into(SharedField, text)});
 }
 
 bool HasEditor(const QString& html) {
@@ -103,7 +118,7 @@ bool HasEditor(const QString& html) {
 }
 
 bool HasEditorBox(const Document& page) {
-    return !Named(page, EditorBox).empty();
+    return page.Any(IsThere(EditorBox));
 }
 
 void TypeSource(const Document& page, const QString& text) {
@@ -124,6 +139,7 @@ Element FindFormButton(const Document& page) {
 }
 
 ConfirmButton FindConfirmButton(const Document& page) {
+    ForeseeButtons(page);
     const auto isDisabled = [](const Element& button) { return button.HasAttribute(u"disabled"_s); };
     const Element input = First(page, u"input"_s, IsConfirmInput);
     if (input && !isDisabled(input))

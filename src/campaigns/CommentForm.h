@@ -7,6 +7,8 @@ namespace qlm {
 
 // The site's older comment form, whichever of its designs it is, and the page between it and the post.
 
+// HasCommentField() is about to be asked: the turn's first look at the page answers it along the way.
+void ForeseeCommentField(const Document& page);
 // One of the fields is there that say that the form has come.
 bool HasCommentField(const Document& page);
 // Types the text into every field that the form offers.

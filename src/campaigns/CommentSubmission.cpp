@@ -76,6 +76,8 @@ Next Commenter::LeaveStranger() {
 }
 
 Next Commenter::SubmitForm() {
+    if (const Document page = m_app.WebBrowser1().Document())
+        ForeseeCommentField(page);
     if (m_app.Get<PageSigns>().IsTextInPage(Flooding)) {
         m_app.Get<StopResume>().StopAll(StopReason::Flooding);
         m_app.Get<StopResume>().DoFinishedExit();
@@ -94,9 +96,10 @@ Next Commenter::SubmitForm() {
     if (!text)
         return GiveTargetUp({}, Caller);
     const Document page = m_app.WebBrowser1().Document();
+    const bool hasEditor = HasEditor(page.BodyHTML());
     TypeComment(page, *text);
     // The form is tried again when its editor has come.
-    if (HasEditor(page.BodyHTML()) && !TypeIntoEditor(*text))
+    if (hasEditor && !TypeIntoEditor(*text))
         return LookAgain();
     return PressForm();
 }

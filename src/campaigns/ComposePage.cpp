@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/ComposePage.h"
 
-#include "core/Diagnostics.h"
-
+#include <optional>
 #include <vector>
 
 namespace qlm {
@@ -15,69 +14,82 @@ const QString SpanId = u"spanbtnSend"_s;
 #define COMPOSE u"ctl00_ctl00_ctl00_cpMain_cpMain_messagingMain_ComposeMessage_sendMessageCommonControl_"
 
 struct ComposeFields {
-    const char16_t* subject;
-    std::vector<const char16_t*> bodies;
+    QString subject;
+    std::vector<QString> bodies;
 };
 
 // By name, one row a design.
 const std::vector<ComposeFields>& Designs() {
     static const std::vector<ComposeFields> rows{
-        {u"Subject", {u"Mailbody"}},
-        {u"ctl00_ctl00_Main_Main_sendMessageControl_subjectTextBox",
-         {u"ctl00_ctl00_Main_Main_sendMessageControl_bodyTextBox"}},
-        {u"ctl00$ctl00$Main$messagingMain$SendMessage_Skin$subjectTextBox",
-         {u"ctl00$ctl00$Main$messagingMain$SendMessage_Skin$bodyTextBox"}},
-        {u"ctl00$ctl00$Main$messagingMain$SendMessage$subjectTextBox",
-         {u"ctl00$ctl00$Main$messagingMain$SendMessage$bodyTextBox"}},
-        {u"ctl00$ctl00$ctl00$cpMain$cpMain$messagingMain$SendMessage$subjectTextBox",
-         {u"ctl00$ctl00$ctl00$cpMain$cpMain$messagingMain$SendMessage$bodyTextBox"}},
-        {COMPOSE u"txtSubject", {COMPOSE u"ctl00", COMPOSE u"ctl01"}},
+        {u"Subject"_s, {u"Mailbody"_s}},
+        {u"ctl00_ctl00_Main_Main_sendMessageControl_subjectTextBox"_s,
+         {u"ctl00_ctl00_Main_Main_sendMessageControl_bodyTextBox"_s}},
+        {u"ctl00$ctl00$Main$messagingMain$SendMessage_Skin$subjectTextBox"_s,
+         {u"ctl00$ctl00$Main$messagingMain$SendMessage_Skin$bodyTextBox"_s}},
+        {u"ctl00$ctl00$Main$messagingMain$SendMessage$subjectTextBox"_s,
+         {u"ctl00$ctl00$Main$messagingMain$SendMessage$bodyTextBox"_s}},
+        {u"ctl00$ctl00$ctl00$cpMain$cpMain$messagingMain$SendMessage$subjectTextBox"_s,
+         {u"ctl00$ctl00$ctl00$cpMain$cpMain$messagingMain$SendMessage$bodyTextBox"_s}},
+        {COMPOSE u"txtSubject"_s, {COMPOSE u"ctl00"_s, COMPOSE u"ctl01"_s}},
     };
     return rows;
 }
 
-const std::vector<const char16_t*>& EditorFrames() {
-    static const std::vector<const char16_t*> rows{COMPOSE u"ctl00_f", COMPOSE u"ctl01_f"};
+const std::vector<QString>& EditorFrames() {
+    static const std::vector<QString> rows{COMPOSE u"ctl00_f"_s, COMPOSE u"ctl01_f"_s};
     return rows;
 }
 #undef COMPOSE
 
-void SetValues(const Document& page, const char16_t* name, const QString& text) {
-    for (const Element& field : page.GetElementsByName(QString::fromUtf16(name)))
-        field.SetValue(text);
+const QString EditorsSubject = u"cpMain_cpMain_ctl03_sendMessageCommonControl_txtSubject"_s;
+
+// The editor that can show its source is named after the page's last text area.
+std::optional<QString> EditorOf(const Document& page) {
+    page.Foresee({{}, {{ElementSet::ByTag, u"textarea"_s, ElementText::Name}}, false});
+    const std::vector<Element> areas = page.GetElementsByTagName(u"textarea"_s);
+    return areas.empty() ? std::nullopt : std::optional(areas.back().Name());
+}
+
+std::vector<Writing> IntoFields(const SubjectAndBody& text) {
+    using enum Writing::Kind;
+    std::vector<Writing> writings;
+    for (const ComposeFields& design : Designs()) {
+        writings.push_back({ElementSet::ByName, design.subject, Value, text.subject});
+        for (const QString& body : design.bodies)
+            writings.push_back({ElementSet::ByName, body, Value, text.body});
+    }
+    for (const QString& frame : EditorFrames())
+        writings.push_back({ElementSet::Named, frame, FrameMarkup, text.body});
+    return writings;
+}
+
+// What the press opens may take the page a moment.
+void TypeSource(const Document& page, const QString& editor, const QString& text) {
+    page.Write(
+        {{ElementSet::ById, editor + u"_editsourcearea"_s, Writing::Kind::InnerText, ForRichEditor(text)}});
 }
 
 } // namespace
 
 void TypeIntoEditor(const Document& page, const QString& text) {
-    const std::vector<Element> areas = page.GetElementsByTagName(u"textarea"_s);
-    if (areas.empty())
+    const std::optional<QString> editor = EditorOf(page);
+    if (!editor)
         return;
-    const QString editor = areas.back().Name();
-    if (const Element view = page.GetElementById(editor + u"_editsource"_s))
-        if (const std::vector<Element> children = view.Tags(u"*"_s); !children.empty())
-            children.front().Click();
-    if (const Element source = page.GetElementById(editor + u"_editsourcearea"_s))
-        source.SetInnerText(ForRichEditor(text));
+    page.Write({{ElementSet::ById, *editor + u"_editsource"_s, Writing::Kind::PressInside}});
+    TypeSource(page, *editor, text);
 }
 
 void TypeMessage(const Document& page, const SubjectAndBody& text, bool newLayout) {
-    for (const ComposeFields& design : Designs()) {
-        SetValues(page, design.subject, text.subject);
-        for (const char16_t* body : design.bodies)
-            SetValues(page, body, text.body);
-    }
-    for (const char16_t* name : EditorFrames())
-        Diagnostics::IgnoreErrors([&] {
-            if (const Document frame = page.FrameDocument(QString::fromUtf16(name)))
-                frame.Body().SetInnerHTML(text.body);
-        });
-    if (!newLayout)
-        return;
-    if (const Element subject =
-            page.GetElementById(u"cpMain_cpMain_ctl03_sendMessageCommonControl_txtSubject"_s))
-        subject.SetValue(text.subject);
-    TypeIntoEditor(page, text.body);
+    using enum Writing::Kind;
+    std::vector<Writing> writings = IntoFields(text);
+    const std::optional<QString> editor = newLayout ? EditorOf(page) : std::nullopt;
+    if (newLayout)
+        writings.push_back({ElementSet::ById, EditorsSubject, Value, text.subject});
+    if (editor)
+        writings.push_back({ElementSet::ById, *editor + u"_editsource"_s, PressInside});
+    page.Write(writings);
+    if (editor)
+        TypeSource(page, *editor, text.body);
 }
 
 SendButton FindSendButton(const Document& page) {

@@ -45,7 +45,9 @@ enum class ElementSet {
     Images,  // img
     Scripts, // script
     ByTag,   // argument: tag name, any case
-    ByName   // argument: the name attribute, exact
+    ByName,  // argument: the name attribute, exact
+    ById,    // argument: an ID, exact; one element at most
+    Named    // argument: a name, exact: those of that name, then the one with that ID unless it is among them
 };
 
 // Is there an element in a collection whose property, in lower case, is or holds a text?
@@ -68,6 +70,24 @@ struct Reading {
     QString argument;
     ElementText which;
     int level = 0;
+
+    bool operator==(const Reading&) const = default;
+};
+
+// Something that is done to all elements of a collection as they are then, without a look at them before.
+// Where there is none, nothing is done.
+struct Writing {
+    enum class Kind {
+        Value,
+        InnerText,
+        FrameMarkup, // the markup of the body in the first of them that is a frame with one
+        PressInside  // the first element inside of each is clicked
+    };
+
+    ElementSet set;
+    QString argument;
+    Kind kind;
+    QString text = {};
 };
 
 // What somebody is about to ask of a page in this turn besides the body's text and markup.
@@ -109,6 +129,8 @@ public:
     // The document in a frame element; nothing where the page has no way to it.
     virtual std::shared_ptr<DocumentBackend> FrameDocument(int node) = 0;
 
+    // One after the other.
+    virtual void Write(const std::vector<Writing>& writings);
     virtual void SetInnerText(int node, const QString& text) = 0;
     virtual void SetInnerHTML(int node, const QString& html) = 0;
     virtual void SetValue(int node, const QString& value) = 0;
@@ -120,6 +142,10 @@ public:
     virtual void FireChange(int node) = 0;
     virtual void ScrollIntoView(int node) = 0;
     virtual void ScrollToEnd() = 0;
+
+private:
+    // True when the writing is done with.
+    bool WriteTo(int node, const Writing& writing);
 };
 
 class Document;
@@ -237,6 +263,7 @@ public:
     Document FrameDocument(const QString& name) const;
     Element GetElementById(const QString& id) const { return Element(m_backend, Need().ById(id)); }
     Element ActiveElement() const { return Element(m_backend, Need().ActiveElement()); }
+    void Write(const std::vector<Writing>& writings) const { Need().Write(writings); }
     // Scrolls the window to the body's full height.
     void ScrollToEnd() const { Need().ScrollToEnd(); }
 
@@ -275,6 +302,31 @@ inline bool DocumentBackend::Any(const Question& question) {
         if (question.FitsText(Read(node, question.which)))
             return true;
     return false;
+}
+
+inline void DocumentBackend::Write(const std::vector<Writing>& writings) {
+    for (const Writing& writing : writings)
+        for (const int node : Collect(writing.set, writing.argument))
+            if (WriteTo(node, writing))
+                break;
+}
+
+inline bool DocumentBackend::WriteTo(int node, const Writing& writing) {
+    using enum Writing::Kind;
+    if (writing.kind == Value)
+        SetValue(node, writing.text);
+    if (writing.kind == InnerText)
+        SetInnerText(node, writing.text);
+    if (writing.kind == PressInside)
+        if (const std::vector<int> inside = Descendants(node, QStringLiteral("*")); !inside.empty())
+            Click(inside.front());
+    if (writing.kind != FrameMarkup)
+        return false;
+    const std::shared_ptr<DocumentBackend> frame = FrameDocument(node);
+    const int body = frame ? frame->Body() : 0;
+    if (body)
+        frame->SetInnerHTML(body, writing.text);
+    return body != 0;
 }
 
 inline Element Element::Ancestor(int n) const {

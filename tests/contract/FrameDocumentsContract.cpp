@@ -62,6 +62,20 @@ TEST_F(FrameDocumentsContract, AnEditorsFrameTakesMarkup) {
     EXPECT_FALSE(Text().contains(u"Hello"_s));
 }
 
+TEST_F(FrameDocumentsContract, TheFirstFrameOfANameTakesMarkupAmongOtherWritings) {
+    Show(u"<p name=editor_f>words</p><iframe name=editor_f></iframe><iframe id=editor_f></iframe>"
+         "<input id=field>"_s);
+    browser.Document().Write(
+        {{ElementSet::Named, u"editor_f"_s, Writing::Kind::FrameMarkup, u"Hello<br>you"_s},
+         {ElementSet::ById, u"field"_s, Writing::Kind::FrameMarkup, u"no frame"_s},
+         {ElementSet::ById, u"field"_s, Writing::Kind::Value, u"typed"_s}});
+    const std::vector<Element> frames = browser.Document().GetElementsByTagName(u"iframe"_s);
+    EXPECT_EQ(frames.at(0).FrameDocument().BodyHTML(), u"Hello<br>you"_s);
+    EXPECT_EQ(frames.at(1).FrameDocument().BodyHTML(), QString());
+    EXPECT_EQ(ById(u"field"_s).Value(), u"typed"_s);
+    EXPECT_TRUE(Text().contains(u"words"_s));
+}
+
 TEST_F(FrameDocumentsContract, AFrameThatComesLaterHasADocumentToo) {
     Show(u"<div id=room></div>"_s);
     EXPECT_TRUE(Frame(u"late"_s).IsNull());

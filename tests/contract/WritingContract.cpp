@@ -107,6 +107,49 @@ TEST_F(WritingContract, AClickWorksOnAnyElement) {
     EXPECT_TRUE(WaitForText(u"clicked"_s));
 }
 
+TEST_F(WritingContract, FieldsOfManyNamesAreWrittenAtOnce) {
+    Show(u"<input id=a name=to><input id=b name=to><input id=c name=deep><input id=deep>"
+         "<textarea id=text></textarea><p id=words>before</p>"_s);
+    using enum Writing::Kind;
+    browser.Document().Write({{ElementSet::ByName, u"to"_s, Value, u"both"_s},
+                              {ElementSet::ByName, u"none"_s, Value, u"nobody"_s},
+                              {ElementSet::Named, u"deep"_s, Value, u"named"_s},
+                              {ElementSet::ById, u"text"_s, InnerText, u"one\ntwo"_s},
+                              {ElementSet::ById, u"words"_s, InnerText, u"1 < 2"_s},
+                              {ElementSet::ById, u"b"_s, Value, u"last"_s}});
+    const QStringList values{ById(u"a"_s).Value(), ById(u"b"_s).Value(), ById(u"c"_s).Value(),
+                             ById(u"deep"_s).Value(), ById(u"text"_s).Value()};
+    EXPECT_EQ(values, (QStringList{u"both"_s, u"last"_s, u"named"_s, u"named"_s, u"one\ntwo"_s}));
+    EXPECT_EQ(ById(u"words"_s).InnerHTML(), u"1 &lt; 2"_s);
+}
+
+TEST_F(WritingContract, AFieldIsThereByItsNameOrItsId) {
+    Show(u"<input name=by-name><p id=by-id>x</p><p class=neither>x</p>"_s);
+    const auto isThere = [this](ElementSet set, const QString& name) {
+        return browser.Document().Any({set, name, ElementText::Name, Question::Match::Contains, {}});
+    };
+    EXPECT_TRUE(isThere(ElementSet::Named, u"by-name"_s));
+    EXPECT_TRUE(isThere(ElementSet::Named, u"by-id"_s));
+    EXPECT_TRUE(isThere(ElementSet::ById, u"by-id"_s));
+    for (const QString& name : {u"neither"_s, u"By-Name"_s, QString()})
+        EXPECT_FALSE(isThere(ElementSet::Named, name)) << name.toStdString();
+    EXPECT_FALSE(isThere(ElementSet::ById, u"by-name"_s));
+}
+
+// As an editor's source view is opened, which may show a field that is written to next.
+TEST_F(WritingContract, APressAmongTheWritingsIsWhereItStands) {
+    Show(u"<div id=view><b id=first onclick=\"document.getElementById('out').innerText='pressed'\""
+         " data-on-click='set #out innertext pressed'>open</b><i>other</i></div><p id=empty></p>"
+         "<p id=out>not yet</p><p id=after>not yet</p>"_s);
+    using enum Writing::Kind;
+    browser.Document().Write({{ElementSet::ById, u"out"_s, InnerText, u"written"_s},
+                              {ElementSet::ById, u"empty"_s, PressInside},
+                              {ElementSet::ById, u"view"_s, PressInside},
+                              {ElementSet::ById, u"after"_s, InnerText, u"written"_s}});
+    EXPECT_EQ(ById(u"out"_s).InnerText(), u"pressed"_s);
+    EXPECT_EQ(ById(u"after"_s).InnerText(), u"written"_s);
+}
+
 // After the writing it is a page like any other; what was taken from the blank one is gone.
 TEST_F(WritingContract, MarkupCanBePutIntoABlankPageAgainAndAgain) {
     Show(u"<p id=old>before</p>"_s);

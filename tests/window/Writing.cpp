@@ -10,13 +10,13 @@
 
 namespace qlm {
 
-Writing::Writing() {
+WritingTest::WritingTest() {
     for (const QString& line : {u"message-share sent 100"_s, u"comment-share posted 100"_s})
         program->site.Tell(line);
     QObject::connect(&m_looks, &QTimer::timeout, &m_looks, [this] { SkipIfStuck(); });
 }
 
-void Writing::Do(const std::function<void()>& act) {
+void WritingTest::Do(const std::function<void()>& act) {
     bool isDone = false;
     program->Act([&] {
         act();
@@ -26,7 +26,7 @@ void Writing::Do(const std::function<void()>& act) {
         throw std::runtime_error("the program does nothing any more");
 }
 
-void Writing::SkipWhereStuck(bool isWanted) {
+void WritingTest::SkipWhereStuck(bool isWanted) {
     m_status.clear();
     m_sinceStatus.start();
     if (isWanted)
@@ -36,7 +36,7 @@ void Writing::SkipWhereStuck(bool isWanted) {
 }
 
 // Within the program's own waits nothing but a timer's turn comes.
-void Writing::SkipIfStuck() {
+void WritingTest::SkipIfStuck() {
     constexpr int SeveralLooksMs = 4000; // of three seconds each of the program's clock
     const QString status = IsIdle() ? QString() : TheApp().Status();
     if (std::exchange(m_status, status) != status || status.isEmpty())
@@ -51,7 +51,7 @@ void Writing::SkipIfStuck() {
     });
 }
 
-void Writing::Begin(const Campaign& campaign, const QList<qint64>& targets, bool newLayout) {
+void WritingTest::Begin(const Campaign& campaign, const QList<qint64>& targets, bool newLayout) {
     program->site.TakeJournal();
     m_loggedBefore = Log(campaign).size();
     Do([&] {
@@ -67,7 +67,7 @@ void Writing::Begin(const Campaign& campaign, const QList<qint64>& targets, bool
     });
 }
 
-QStringList Writing::Finish() {
+QStringList WritingTest::Finish() {
     isInTime = WaitUntil([] { return IsIdle(); }, LimitMs);
     if (!isInTime)
         Do([] { TheApp().commands.Run(u"picStop_Click"_s); });
@@ -79,12 +79,12 @@ QStringList Writing::Finish() {
     return arrived;
 }
 
-QStringList Writing::Send(const Campaign& campaign, const QList<qint64>& targets, bool newLayout) {
+QStringList WritingTest::Send(const Campaign& campaign, const QList<qint64>& targets, bool newLayout) {
     Begin(campaign, targets, newLayout);
     return Finish();
 }
 
-QStringList Writing::Report(const Campaign& campaign) {
+QStringList WritingTest::Report(const Campaign& campaign) {
     QStringList lines;
     const QList<ReportedRun> runs = TheApp().Get<RunReport>().Runs(campaign.report);
     for (const ReportRow& row : runs.isEmpty() ? QList<ReportRow>() : runs.constLast().rows)
@@ -94,18 +94,18 @@ QStringList Writing::Report(const Campaign& campaign) {
     return lines;
 }
 
-QString Writing::Ending(const Campaign& campaign) {
+QString WritingTest::Ending(const Campaign& campaign) {
     const QList<ReportedRun> runs = TheApp().Get<RunReport>().Runs(campaign.report);
     return runs.isEmpty() ? QString() : runs.constLast().how;
 }
 
-QStringList Writing::Log(const Campaign& campaign) {
+QStringList WritingTest::Log(const Campaign& campaign) {
     QFile file(SentLog(TheApp(), &campaign).Path());
     const QString lines = file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString();
     return lines.split(u"\r\n"_s, Qt::SkipEmptyParts);
 }
 
-QStringList Writing::Logged(const Campaign& campaign) const {
+QStringList WritingTest::Logged(const Campaign& campaign) const {
     return Log(campaign).mid(m_loggedBefore);
 }
 

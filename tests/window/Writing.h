@@ -14,7 +14,7 @@ namespace qlm {
 
 // A program that sends messages and comments to people of the practice site, several tests long, and what
 // became of them. Everybody takes what they get, unless a test says otherwise.
-class Writing : public testing::Test {
+class WritingTest : public testing::Test {
 protected:
     // A button that wakes up takes its time by the wall's clock, and the program waits by its own.
     static constexpr int ClockRate = 2;
@@ -22,7 +22,7 @@ protected:
 
     static void SetUpTestSuite() { program = std::make_unique<GatheringProgram>(ClockRate); }
     static void TearDownTestSuite() { program.reset(); }
-    Writing();
+    WritingTest();
 
     static App& TheApp() { return program->Program(); }
     static void Do(const std::function<void()>& act);

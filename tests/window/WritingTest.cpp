@@ -54,7 +54,7 @@ const std::vector<Outcome> HardComments{
 
 } // namespace
 
-TEST_F(Writing, AMessageArrivesThroughEachEverydayForm) {
+TEST_F(WritingTest, AMessageArrivesThroughEachEverydayForm) {
     for (const practice::ComposeDesign& design : practice::ComposeDesigns()) {
         if (design.hard)
             continue;
@@ -65,7 +65,7 @@ TEST_F(Writing, AMessageArrivesThroughEachEverydayForm) {
     }
 }
 
-TEST_F(Writing, ACommentArrivesThroughEachEverydayForm) {
+TEST_F(WritingTest, ACommentArrivesThroughEachEverydayForm) {
     for (const practice::CommentDesign& design : practice::CommentDesigns()) {
         if (design.hard)
             continue;
@@ -77,7 +77,7 @@ TEST_F(Writing, ACommentArrivesThroughEachEverydayForm) {
 }
 
 // Where the button or the draft that is waited for never comes, the page stands until the user skips it.
-TEST_F(Writing, AMessageThroughAHardFormArrivesOrIsGivenUp) {
+TEST_F(WritingTest, AMessageThroughAHardFormArrivesOrIsGivenUp) {
     for (const practice::ComposeDesign& design : practice::ComposeDesigns()) {
         if (!design.hard)
             continue;
@@ -93,7 +93,7 @@ TEST_F(Writing, AMessageThroughAHardFormArrivesOrIsGivenUp) {
     }
 }
 
-TEST_F(Writing, ACommentThroughAHardFormArrivesOrIsGivenUp) {
+TEST_F(WritingTest, ACommentThroughAHardFormArrivesOrIsGivenUp) {
     for (const practice::CommentDesign& design : practice::CommentDesigns()) {
         if (!design.hard)
             continue;
@@ -109,7 +109,7 @@ TEST_F(Writing, ACommentThroughAHardFormArrivesOrIsGivenUp) {
 }
 
 // Each layout says the name in a place of its own.
-TEST_F(Writing, TheNameIsReadOffEachLayout) {
+TEST_F(WritingTest, TheNameIsReadOffEachLayout) {
     const qint64 target = 100103;
     program->site.Tell(u"name %1 ANNA lee"_s.arg(target));
     for (const bool newLayout : {false, true}) {

@@ -113,12 +113,17 @@ void PageCache::TakeReading(const Reading& reading, const QVariant& told) {
     const QVariantList parts = told.toList();
     const std::vector<int> nodes = UnpackNodes(parts.value(0));
     const std::vector<QString> texts = UnpackTexts(parts.value(1));
+    m_readings.push_back(reading);
     if (reading.level == 0)
         SetCollection(reading.set, reading.argument, nodes);
     else
         AddGroup(nodes);
     for (size_t i = 0; i < std::min(nodes.size(), texts.size()); ++i)
         SetText(nodes[i], reading.which, texts[i]);
+}
+
+bool PageCache::IsRead(const Reading& reading) const {
+    return std::find(m_readings.begin(), m_readings.end(), reading) != m_readings.end();
 }
 
 const QString* PageCache::Text(int node, ElementText which) const {

@@ -73,6 +73,7 @@ public:
     // Until it has been fetched.
     Foresight foresight;
     void TakeReading(const Reading& reading, const QVariant& told);
+    bool IsRead(const Reading& reading) const;
     std::optional<bool> Answer(const Question& question) const;
     std::optional<QString> Attribute(int node, const QString& name) const;
     void SetAttribute(int node, const QString& name, const QString& value) {
@@ -105,6 +106,7 @@ private:
     bool m_isTreeSure = false;
     std::optional<PageLook> m_look;
     std::vector<std::pair<Question, bool>> m_answers;
+    std::vector<Reading> m_readings;
     QHash<std::pair<int, QString>, QString> m_attributes;
     QHash<std::pair<int, int>, QString> m_texts;
     QHash<int, int> m_parents;

@@ -28,10 +28,13 @@ constexpr std::array propertyNames = {
 };
 
 // The bridge's names, in the order of ElementSet.
-constexpr std::array setNames = {"Links", "Images", "Scripts", "ByTag", "ByName"};
+constexpr std::array setNames = {"Links", "Images", "Scripts", "ByTag", "ByName", "ById", "Named"};
 
 // The bridge's names, in the order of Question::Match.
 constexpr std::array matchNames = {"Contains", "Equals", "EqualsTrimmed"};
+
+// The bridge's names, in the order of Writing::Kind.
+constexpr std::array writingNames = {"Value", "InnerText", "FrameMarkup", "PressInside"};
 
 struct PseudoAttribute {
     const char* name;
@@ -179,13 +182,15 @@ QString PageDocument::BodyText(ElementText which) {
 }
 
 void PageDocument::Foresee(const Foresight& foresight) {
-    Cache().foresight = foresight;
+    PageCache& cache = Cache();
+    cache.foresight = foresight;
+    std::erase_if(cache.foresight.readings, [&](const Reading& reading) { return cache.IsRead(reading); });
 }
 
 void PageDocument::FetchForeseen() {
     Foresight wanted;
     wanted.readings.swap(Cache().foresight.readings);
-    wanted.tree = std::exchange(Cache().foresight.tree, false);
+    wanted.tree = std::exchange(Cache().foresight.tree, false) && !Cache().Tree().ArePlacesAsked();
     if (!wanted.readings.empty() || wanted.tree)
         Fetch(wanted);
 }
@@ -372,6 +377,15 @@ std::vector<int> PageDocument::Descendants(int node, const QString& tag) {
 std::shared_ptr<DocumentBackend> PageDocument::FrameDocument(int node) {
     const int frame = Call(u"frameDocument"_s, {node}).toInt();
     return frame ? std::make_shared<PageFrame>(shared_from_this(), frame) : nullptr;
+}
+
+void PageDocument::Write(const std::vector<Writing>& writings) {
+    QJsonArray rows;
+    for (const Writing& writing : writings)
+        rows.append(QJsonArray{NameOf(writing.set), writing.argument,
+                               QLatin1String(writingNames.at(static_cast<size_t>(writing.kind))),
+                               writing.text});
+    Act(u"write"_s, rows);
 }
 
 void PageDocument::SetInnerText(int node, const QString& text) {

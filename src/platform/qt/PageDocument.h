@@ -53,6 +53,7 @@ public:
     std::vector<int> Descendants(int node, const QString& tag) override;
     std::shared_ptr<DocumentBackend> FrameDocument(int node) override;
 
+    void Write(const std::vector<Writing>& writings) override;
     void SetInnerText(int node, const QString& text) override;
     void SetInnerHTML(int node, const QString& html) override;
     void SetValue(int node, const QString& value) override;

@@ -6,6 +6,7 @@
 #include "platform/sim/SimMarkup.h"
 #include "platform/sim/SimText.h"
 
+#include <algorithm>
 #include <array>
 
 namespace qlm {
@@ -134,6 +135,9 @@ std::vector<int> SimDocument::Gather(ElementSet set, const QString& argument) co
         return m_tree.Elements(m_tree.Root(), u"script");
     case ElementSet::ByTag:
         return m_tree.Elements(m_tree.Root(), argument);
+    case ElementSet::ById:
+    case ElementSet::Named:
+        return GatherNamed(set, argument);
     case ElementSet::Links:
     case ElementSet::ByName:
         break;
@@ -148,6 +152,16 @@ std::vector<int> SimDocument::Gather(ElementSet set, const QString& argument) co
             found.push_back(element);
         return true;
     });
+    return found;
+}
+
+std::vector<int> SimDocument::GatherNamed(ElementSet set, const QString& argument) const {
+    std::vector<int> found;
+    if (set == ElementSet::Named)
+        found = Gather(ElementSet::ByName, argument);
+    const int withId = argument.isEmpty() ? 0 : m_ids.value(argument, 0);
+    if (withId != 0 && std::find(found.begin(), found.end(), withId) == found.end())
+        found.push_back(withId);
     return found;
 }
 

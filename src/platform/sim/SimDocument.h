@@ -74,6 +74,7 @@ private:
     QString ReadText(int node) const;
     QString ReadAddress(int node, ElementText which);
     std::vector<int> Gather(ElementSet set, const QString& argument) const;
+    std::vector<int> GatherNamed(ElementSet set, const QString& argument) const;
 
     SimDocumentHost* m_host;
     SimTree m_tree;

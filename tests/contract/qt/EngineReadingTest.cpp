@@ -109,6 +109,36 @@ TEST_F(EngineReading, TheTextsAboveTheLinksCostACallForEachLevel) {
     EXPECT_LE(browser->EngineCalls() - before, 2);
 }
 
+TEST_F(EngineReading, FieldsWrittenAtOnceCostOneCall) {
+    Serve(u"/form"_s, u"<input name=one><input name=two><iframe name=three></iframe>"_s);
+    ASSERT_TRUE(Open(u"/form"_s));
+    pump.PumpMessages();
+    const qint64 before = browser->EngineCalls();
+    browser->Document().Write({{ElementSet::ByName, u"one"_s, Writing::Kind::Value, u"1"_s},
+                               {ElementSet::Named, u"two"_s, Writing::Kind::Value, u"2"_s},
+                               {ElementSet::Named, u"three"_s, Writing::Kind::FrameMarkup, u"3"_s}});
+    EXPECT_EQ(browser->EngineCalls() - before, 1);
+    EXPECT_EQ(browser->Document().GetElementsByName(u"two"_s).at(0).Value(), u"2"_s);
+}
+
+// What was foreseen twice in a turn is fetched once.
+TEST_F(EngineReading, AReadingThatIsForeseenAgainCostsNoCall) {
+    Serve(u"/list"_s, ListPage(100));
+    ASSERT_TRUE(Open(u"/list"_s));
+    pump.PumpMessages();
+    const Document document = browser->Document();
+    EXPECT_FALSE(document.BodyText().isEmpty());
+    const auto callsOfAReading = [&] {
+        const qint64 before = browser->EngineCalls();
+        document.Foresee({{}, {{ElementSet::Links, {}, ElementText::Name}}, true});
+        EXPECT_TRUE(document.Links().front().Name().isEmpty());
+        EXPECT_FALSE(document.Links().front().HasAttribute(u"disabled"_s));
+        return browser->EngineCalls() - before;
+    };
+    EXPECT_EQ(callsOfAReading(), 1);
+    EXPECT_EQ(callsOfAReading(), 0);
+}
+
 // Text, markup and the answers to what was foreseen come with one call, on a changed page too.
 TEST_F(EngineReading, ALookWithItsQuestionIsOneCall) {
     Serve(u"/list"_s, ListPage(100));

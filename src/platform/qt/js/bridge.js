@@ -301,7 +301,9 @@
         Images: (name, owner = document) => imagesOf(owner),
         Scripts: (name, owner = document) => scriptsOf(owner),
         ByTag: (name, owner = document) => byTag(owner, name),
-        ByName: (name, owner = document) => byName(owner, name)
+        ByName: (name, owner = document) => byName(owner, name),
+        ById: (name, owner = document) => [byId(owner, name)].filter(Boolean),
+        Named: (name, owner = document) => [...new Set([...byName(owner, name), ...collections.ById(name, owner)])]
     };
 
     function frameDocument(element) {
@@ -355,6 +357,28 @@
             element.dispatchEvent(new MouseEvent('click', {bubbles: true, cancelable: true, view: window}));
     }
 
+    // What is done to one element of a collection; true when the rest of them are left alone.
+    const writers = {
+        Value: (element, value) => { element.value = value; },
+        InnerText: setInnerText,
+        FrameMarkup: (element, html) => {
+            const content = contentOf[tagOf(element)];
+            const body = content && content(element) && bodyOf(content(element));
+            if (body)
+                body.innerHTML = html;
+            return Boolean(body);
+        },
+        PressInside: element => {
+            const inside = descendants(element, '*')[0];
+            if (inside)
+                click(inside);
+        }
+    };
+
+    function write([set, argument, kind, value]) {
+        Array.from(collections[set](argument)).some(element => writers[kind](element, value));
+    }
+
     function submit(element) {
         const form = tagOf(element) === 'FORM' ? element : element.form;
         if (!form)
@@ -404,6 +428,7 @@
         hasAttribute: (known, name) => hasAttribute(node(known), name),
         descendants: (known, tag) => list(descendants(node(known), tag)),
         activeElement: owner => number(activeOf(documentOf(owner))),
+        write: (...writings) => writings.forEach(writing => write(writing)),
         setInnerText: (known, value) => setInnerText(node(known), value),
         setInnerHTML: (known, value) => { node(known).innerHTML = value; },
         setValue: (known, value) => { node(known).value = value; },
