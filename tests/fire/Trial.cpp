@@ -91,10 +91,10 @@ void FormsWithoutWidgets::ShowForm(const QString& form) {
         app->Get<MainForm>().Form_Load();
 }
 
-Trial::Trial(quint64 seed, int targets, const Campaign& campaign, bool isTraced)
+Trial::Trial(quint64 seed, int targets, const Campaign& campaign, Telling telling)
     : m_campaign(campaign),
       m_seed(seed),
-      m_isTraced(isTraced),
+      m_telling(telling),
       m_plan(seed, targets, campaign),
       m_dice(seed * 2),
       m_folder(FolderTemplate()),
@@ -108,7 +108,7 @@ Trial::~Trial() {
 }
 
 void Trial::Trace(const QString& text) const {
-    if (m_isTraced)
+    if (m_telling.trace)
         std::fprintf(stderr, "%10.3f  %s\n", static_cast<double>(m_world.clock.NowMs()) / 1000.0,
                      qPrintable(text));
 }
@@ -135,7 +135,7 @@ void Trial::SetUp() {
     WriteFile(m_folder.filePath(u"program/scalemodelight.txt"_s),
               EncodeAccountLine(Account + u";secret"_s).toLatin1() + "\r\n");
     SimSettings& settings = m_world.settings;
-    if (m_isTraced)
+    if (m_telling.trail)
         settings.SaveSetting(u"General"_s, u"mnuEnableLogging"_s, u"1"_s);
     settings.SaveSetting(Fields, u"Login - chkTOS"_s, u"1"_s);
     settings.SaveSetting(Fields, u"Login - txtEmail"_s, Account);
@@ -302,7 +302,7 @@ void Trial::Watch() {
         m_judge->Look(*m_app, StoredCount(), m_diskRefusesUntilMs >= 0);
     }
     m_judge->Watch(*m_app, m_diskRefusesUntilMs >= 0);
-    if (m_isTraced)
+    if (m_telling.trace)
         TraceState();
     if (m_killAtTurn >= 0 && --m_killAtTurn < 0)
         throw ProcessEnds();

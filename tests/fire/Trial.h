@@ -25,11 +25,17 @@ public:
     std::function<void(const QString&)> onMessage;
 };
 
+// What is told of a trial.
+struct Telling {
+    bool trace = false;
+    bool trail = false;
+};
+
 // One seed: a machine, a site, a list, and a user who starts the run again until it has come to its end,
 // whatever the site, the disk and the process do meanwhile.
 class Trial {
 public:
-    Trial(quint64 seed, int targets, const Campaign& campaign, bool isTraced);
+    Trial(quint64 seed, int targets, const Campaign& campaign, Telling telling);
     ~Trial();
 
     // Nothing, or the promise that was broken.
@@ -65,7 +71,7 @@ private:
 
     const Campaign& m_campaign;
     const quint64 m_seed;
-    const bool m_isTraced;
+    const Telling m_telling;
     Plan m_plan;
     Dice m_dice;
     QTemporaryDir m_folder;

@@ -21,6 +21,7 @@ struct Options {
     int targets = 500;
     int processes = 1;
     bool isTraced = false;
+    bool hasTrail = false;
     QString campaign = u"requests"_s;
 
     const qlm::Campaign& TheCampaign() const {
@@ -41,7 +42,10 @@ Options Read(const QCoreApplication& application) {
          {u"targets"_s, u"Profiles on the list."_s, u"number"_s, u"500"_s},
          {u"processes"_s, u"How many work side by side."_s, u"number"_s, u"1"_s},
          {u"campaign"_s, u"\"requests\", \"messages\" or \"comments\"."_s, u"word"_s, u"requests"_s},
-         {u"trace"_s, u"Tells what happens, with the virtual time."_s}});
+         {u"trace"_s, u"Tells what happens, with the virtual time."_s},
+         {u"trail"_s,
+          u"Has the program write its trail, which is told with --trace. Its lines are writes, too: "
+          "a seed with crashes may go another way."_s}});
     parser.process(application);
     return {parser.value(u"first"_s).toULongLong(),
             parser.value(u"seeds"_s).toInt(),
@@ -49,6 +53,7 @@ Options Read(const QCoreApplication& application) {
             parser.value(u"targets"_s).toInt(),
             parser.value(u"processes"_s).toInt(),
             parser.isSet(u"trace"_s),
+            parser.isSet(u"trail"_s),
             parser.value(u"campaign"_s)};
 }
 
@@ -56,7 +61,7 @@ Options Read(const QCoreApplication& application) {
 bool RunSeed(quint64 seed, const Options& options) {
     QElapsedTimer time;
     time.start();
-    Trial trial(seed, options.targets, options.TheCampaign(), options.isTraced);
+    Trial trial(seed, options.targets, options.TheCampaign(), {options.isTraced, options.hasTrail});
     const QString broken = trial.Run();
     const Judge& judge = trial.TheJudge();
     std::printf(
