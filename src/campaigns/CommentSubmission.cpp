@@ -36,9 +36,10 @@ Next Commenter::SubmitComment() {
     const QScopedValueRollback submitting(state.blnSubmittingComment, true);
     // A check in one of the waits must not find the form anew and come here again.
     state.blnLinkFound = true;
+    const bool isNewer = IsNewerPage(m_app);
     if (m_target.isPressed)
-        return state.blnNewLayout ? TakePosted() : AwaitConfirmPage();
-    return state.blnNewLayout ? SubmitBox() : SubmitForm();
+        return isNewer ? TakePosted() : AwaitConfirmPage();
+    return isNewer ? SubmitBox() : SubmitForm();
 }
 
 // Nothing where the target is skipped.

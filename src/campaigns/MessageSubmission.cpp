@@ -89,13 +89,10 @@ void Messenger::TypeText() {
     const Document page = m_app.WebBrowser1().Document();
     const QString html = page.BodyHTML();
     const SubjectAndBody& text = TextOfTarget();
-    // The way through the filter leads to the newer page on both layouts.
-    const bool isNewPage =
-        m_app.state.blnNewLayout || m_app.WebBrowser1().LocationURL().contains(u"/my/mail/new"_s);
     TypeMessage(page,
                 {ReplaceTargetName(m_app, text.subject, html, u"Message"_s),
                  ReplaceTargetName(m_app, text.body, html, u"Message"_s)},
-                isNewPage);
+                IsNewerPage(m_app));
 }
 
 Next Messenger::LeaveStranger() {

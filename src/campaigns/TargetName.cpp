@@ -98,6 +98,11 @@ QString CleanTargetName(const QString& name) {
     return first.left(1).toUpper() + first.mid(1).toLower();
 }
 
+bool IsNewerPage(App& app) {
+    const QString address = app.WebBrowser1().LocationURL();
+    return app.state.blnNewLayout || address.contains(u"/my/mail/new"_s) || address.endsWith(u"/comments"_s);
+}
+
 QString GetTargetName(App& app, const QString& html, const QString& kind) {
     QString name;
     app.diagnostics.Trap("GetTargetName", [&] {
@@ -105,7 +110,7 @@ QString GetTargetName(App& app, const QString& html, const QString& kind) {
             if (kind == place.kind)
                 // Blanks around it belong to the page and not to the name.
                 name = CleanTargetName(
-                    (app.state.blnNewLayout ? place.newLayout : place.oldLayout)(app, html).trimmed());
+                    (IsNewerPage(app) ? place.newLayout : place.oldLayout)(app, html).trimmed());
     });
     return name;
 }

@@ -110,9 +110,13 @@ void ActionTick::StepIsReady() {
     state.blnLinkCheckFired = true;
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     state.blnRetryGatherPage = false;
-    m_wait.reset();
-    if (!state.blnWaitingForCaptcha)
+    if (state.blnWaitingForCaptcha) {
+        // A messenger's check takes the page with the CAPTCHA for found.
+        TellLongWait();
+    } else {
+        m_wait.reset();
         m_app.timers->tmrAutoResume.Restart();
+    }
     m_app.timers->Timer1.Restart();
 }
 
@@ -144,8 +148,9 @@ QString ActionTick::AwaitedInWords() const {
     const RunState& state = m_app.state;
     if (state.strLinkValue == u"ListOfIDs"_s)
         return u"a full list of profiles"_s;
-    return state.blnWaitingForCaptcha ? u"you to answer the CAPTCHA"_s
-                                      : u"\""_s + state.strLinkValue + u"\" on the page"_s;
+    // The page that comes after the answer may be another one than the awaited.
+    const bool isUsersTurn = state.blnWaitingForCaptcha && m_app.Get<PageSigns>().IsCaptchaPage();
+    return isUsersTurn ? u"you to answer the CAPTCHA"_s : u"\""_s + state.strLinkValue + u"\" on the page"_s;
 }
 
 } // namespace qlm

@@ -19,14 +19,14 @@ namespace {
 constexpr int SiteStopsOfADay = 5;
 constexpr qint64 LookEveryMs = 1000;
 constexpr qint64 SilentWaitMs = 130'000;
-// Of a form: its waits that end by themselves go before those that are told.
-constexpr qint64 SilentFormMs = 180'000;
+// Of a form: two loads without a body, which end by themselves, go before the wait that is told.
+constexpr qint64 SilentFormMs = 2 * 33'000 + SilentWaitMs;
 // Of a profile that is judged: after 31 ticks in vain its step is entered, whose own wait begins anew.
 constexpr qint64 SilentFilterMs = 31 * 3000 + SilentWaitMs;
 constexpr qint64 LongestStandMs = 20 * 60 * 1000;
 constexpr qint64 LongestTrialMs = 23LL * 60 * 60 * 1000;
 constexpr qint64 MostTurnsBetweenLooks = 1'000'000;
-constexpr int MostRuns = 400;
+constexpr int MostRuns = 1200;
 const QString Account = u"a@example.com"_s;
 constexpr qint64 AccountID = 900001;
 const QString Fields = u"Field Entries"_s;
@@ -418,7 +418,8 @@ void Trial::RepairForm(const QString& id) {
     m_site.Control(word + u"outcome "_s + id + taken);
 }
 
-// True while a CAPTCHA is the user's business. He is told the word, reads for a while, and errs at times.
+// True while a CAPTCHA is the user's business. They are told the word, read for a while, and err at times.
+// The page after the answer may be none that the program knows; it is waited for like any other.
 bool Trial::AnswerCaptcha() {
     if (!m_app->state.blnWaitingForCaptcha) {
         m_answerAtMs = -1;
@@ -428,9 +429,12 @@ bool Trial::AnswerCaptcha() {
         m_answerAtMs = m_world.clock.NowMs() + m_dice.Between(4, 25) * 1000;
     const Document document = m_app->WebBrowser1().Document();
     const Element field = document.IsNull() ? Element() : document.GetElementById(u"captchaText"_s);
+    if (field.IsNull() && !m_app->WebBrowser1().Busy())
+        return false;
     if (m_world.clock.NowMs() < m_answerAtMs || field.IsNull() || m_app->WebBrowser1().Busy())
         return true;
     m_answerAtMs = -1;
+    m_standingSinceMs = m_world.clock.NowMs();
     const bool errs = m_dice.Happens(300);
     field.SetValue(errs ? u"surely-not"_s : m_site.CaptchaWord(AccountID, AskedTarget()));
     Trace(errs ? u"user: a wrong answer"_s : u"user: the right answer"_s);
