@@ -176,6 +176,8 @@ void TimedPosts::Finish() {
 }
 
 void TimedPosts::Return() {
+    // What the post was waiting for is waited for no more.
+    m_app.controls.SetText("lblWaitingFor"_L1, {});
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     m_app.timers->tmrAutoResume.SetEnabled(false);
     const bool isWaiting = m_app.state.*m_campaign.activity.waits;

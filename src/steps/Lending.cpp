@@ -33,6 +33,7 @@ void Lending::Take(QLatin1StringView borrower, Page page) {
     state.blnWaitingForCaptcha = false;
     state.blnInDelay = false;
     state.blnHoldLinkCheck = false;
+    m_app.controls.SetText("lblWaitingFor"_L1, {});
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     m_app.timers->Timer1.SetEnabled(false);
 }
