@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/BulletinPage.h"
 
+#include "browser/CheckBox.h"
 #include "campaigns/ComposePage.h"
 #include "core/Text.h"
 
@@ -23,10 +24,6 @@ std::vector<Element> Inputs(const Document& page) {
 
 QString TypeOf(const Element& input) {
     return input.Read(ElementText::Type);
-}
-
-bool IsChecked(const Element& box) {
-    return !box.GetAttribute(u"checked"_s).isEmpty();
 }
 
 template <typename Test> Element FirstOf(const std::vector<Element>& elements, const Test& test) {

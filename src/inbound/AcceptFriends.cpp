@@ -24,7 +24,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString NewList = u"{SiteRootHost}/my/requests/friendrequest?viewall=1"_s;
 const QString OldList = u"{MessagingHost}/index.cfm?fuseaction=mail.friendRequestsV3&viewall=1"_s;
 const QString LastPageButton =
     u"cpMain$messagingMain$FriendRequestsIncomingV2$pagingNavigation1$LastRecordDirectPageLinkButton"_s;
@@ -240,7 +239,7 @@ Next AcceptFriends::OpenList() {
     m_app.waiting.Pump();
     m_app.ClearPage();
     m_app.waiting.Pump();
-    browser.Navigate(m_app.Expand(state.blnNewLayout ? NewList : OldList));
+    browser.Navigate(m_app.Expand(state.blnNewLayout ? IncomingRequests : OldList));
     m_app.waiting.Pump();
     const bool fromOldest = m_app.controls.Ticked("chkAcceptFromOldest"_L1);
     state.intAccStep = fromOldest ? AcceptStep::LastPage : AcceptStep::Approve;
@@ -296,7 +295,7 @@ Next AcceptFriends::HandOver(const Campaign& campaign, const QString& mark) {
                             u"ACCEPTING - "_s + m_app.NowText());
     state.PageApproved = false;
     if (state.blnNewLayout) {
-        state.AcceptReturnURL = m_app.Expand(NewList);
+        state.AcceptReturnURL = m_app.Expand(IncomingRequests);
     } else {
         state.AcceptReturnURL = m_app.WebBrowser1().LocationURL();
         m_app.Get<GatherDriver>().SetMustNotHaveTexts();

@@ -24,7 +24,6 @@ constexpr int AnswerSeconds = 50;
 constexpr int DenialSeconds = 10;
 const QString Accepted = u"is now your friend"_s;
 const QString FailedOne = u"an error has occurred while proce"_s;
-const QString NewList = u"{SiteRootHost}/my/requests/friendrequest?viewall=1"_s;
 // What the older page asks before it approves would stop the run.
 const QString NoConfirmation = u"javascript: window.confirm = function anonymous(){return true;}; void(0)"_s;
 const QString ApproveTicked =
@@ -82,7 +81,7 @@ void AcceptFriends::ApproveInNewLayout() {
         }
     }
     m_app.ClearPage();
-    m_app.WebBrowser1().Navigate(m_app.Expand(NewList));
+    m_app.WebBrowser1().Navigate(m_app.Expand(IncomingRequests));
     m_app.waiting.Pump();
     // The page has gone, so that nothing of it can pass for the next one.
     state.strLastPageText.clear();

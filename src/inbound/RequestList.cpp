@@ -48,10 +48,6 @@ std::vector<Element> RequestBoxes(const Document& page) {
     return boxes;
 }
 
-bool IsChecked(const Element& box) {
-    return !box.GetAttribute(u"checked"_s).isEmpty();
-}
-
 QString IdOfBox(const Element& box) {
     if (!Has(box.OuterHTML(), u"FriendRequest"_s))
         return {};

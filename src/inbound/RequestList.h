@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "browser/CheckBox.h"
 #include "platform/Document.h"
 
 #include <QString>
@@ -10,12 +11,14 @@ namespace qlm {
 
 // The site's lists of friend requests, incoming and sent, in both layouts.
 
+// The newer list of what comes in.
+inline const QString IncomingRequests = QStringLiteral("{SiteRootHost}/my/requests/friendrequest?viewall=1");
+
 // GetLastPageNumber: the number of the list's last page, always digits.
 QString LastPageNumberOf(const Document& page);
 
 // The boxes that choose requests, in page order.
 std::vector<Element> RequestBoxes(const Document& page);
-bool IsChecked(const Element& box);
 // Newer layout: the ID between the first two commas of the box's "mode"; empty where there is none.
 QString IdOfBox(const Element& box);
 // Older layout: the box above the list that ticks all the others, and the one for somebody's updates.

@@ -22,6 +22,12 @@ void BeginPendingDeletionAnew(App& app) {
     app.Get<StopResume>().ResumeNext();
 }
 
+// The login has led away from the list.
+void OpenRequestsAnew(App& app) {
+    app.state.intAccStep = AcceptStep::OpenList;
+    app.Get<StopResume>().ResumeNext();
+}
+
 // Those of campaigns stand in their definitions.
 std::vector<Activity> AllActivities() {
     std::vector<Activity> activities{
@@ -40,7 +46,8 @@ std::vector<Activity> AllActivities() {
          .stepRoutine = [](App& app) { app.Get<AcceptFriends>().IterateAcceptFriends(); },
          .debugFile = "debugacc.txt",
          .stopMark = "ACC stop - (",
-         .resumable = true},
+         .resumable = true,
+         .onSignedInAgain = OpenRequestsAnew},
         {.word = ActivityWord::Login,
          .step = &RunState::intLoginStep,
          .stepRoutine = [](App& app) { app.Get<LoginFlow>().IterateLoginAccount(); },
