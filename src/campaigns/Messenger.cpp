@@ -54,7 +54,7 @@ const StepMachine<Messenger>& Messenger::Machine() {
 void Messenger::IterateSendMessages() {
     // The page is looked at again; an empty one for long repeats the step.
     if (!RunSteps(m_app, *this, Machine()).isEmpty())
-        m_app.timers->tmrCheckLinkLoaded.Restart();
+        LookAgain();
 }
 
 void Messenger::BeginStep() {
@@ -68,6 +68,10 @@ void Messenger::BeginStep() {
 void Messenger::Await(const QString& type, const QString& value) {
     m_app.state.strLinkType = type;
     m_app.state.strLinkValue = value;
+    LookAgain();
+}
+
+void Messenger::LookAgain() {
     m_app.state.blnLinkFound = false;
     m_app.timers->tmrCheckLinkLoaded.Restart();
 }

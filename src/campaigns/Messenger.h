@@ -21,6 +21,7 @@ private:
     static const StepMachine<Messenger>& Machine();
     void BeginStep();
     void Await(const QString& type, const QString& value);
+    void LookAgain();
 
     Next TakeNextTarget();
     void OpenComposePage();

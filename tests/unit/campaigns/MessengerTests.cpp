@@ -40,6 +40,23 @@ TEST_F(MessengerTest, EverybodyGetsTheirMessageOnce) {
     EXPECT_EQ(Posted().size(), 2);
 }
 
+// A page that takes too long over an answer is an error, and no reason to stay with it for ever.
+TEST_F(MessengerTest, AStepThatFailsBeforeItsPressIsTakenAgain) {
+    People({u"1001"_s});
+    bool hasFailed = false;
+    app->controls.AddListener([&](const Control& control, Controls::Change, int) {
+        if (control.name != "myfraCurrentAction"_L1 || control.text != u"Submitting message..."_s)
+            return;
+        if (!std::exchange(hasFailed, true))
+            throw BrowserError();
+    });
+    Start();
+    Finish();
+    EXPECT_TRUE(hasFailed);
+    EXPECT_EQ(Posted().size(), 1);
+    EXPECT_EQ(dialogs.Texts(), QStringList{u"Finished sending messages."_s});
+}
+
 TEST_F(MessengerTest, TheOldLayoutHasAnAddressOfItsOwn) {
     State().blnNewLayout = false;
     People({u"1001"_s});
