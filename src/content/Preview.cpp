@@ -14,6 +14,8 @@ namespace {
 
 const QString Form = u"frmPreview"_s;
 const QString TextMark = u"REPLACETHISTEXT"_s;
+// A file of the disk is there at once, or not at all.
+constexpr int PageSeconds = 10;
 
 // The buttons that preview a text where it is written.
 struct ButtonRow {
@@ -82,16 +84,23 @@ void Preview::Form_Load() {
         m_app.diagnostics.Trap("Form_Load - frmPreview", [this] { ShowBareText(); });
 }
 
+void Preview::Open(const QString& address) {
+    BrowserControl& browser = WebPreview(m_app);
+    browser.Navigate(address);
+    m_app.waiting.Turn();
+    const auto isLoading = [&browser] {
+        return browser.Busy() || !browser.Document() || !browser.Document().Body();
+    };
+    if (!m_app.waiting.WaitWhile(isLoading, PageSeconds))
+        throw std::runtime_error("The page of the preview did not load: \"" + address.toStdString() + '"');
+}
+
 void Preview::LoadTemplate() {
     const QString path = TemplateFile();
     if (!m_app.files.FileExists(path))
         throw FileError("The template of the preview is missing: \"" + path.toStdString() + '"');
-    BrowserControl& browser = WebPreview(m_app);
-    browser.Navigate(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded));
-    do
-        m_app.waiting.Turn();
-    while (browser.Busy() || !browser.Document() || !browser.Document().Body());
-    const Element body = browser.Document().Body();
+    Open(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded));
+    const Element body = WebPreview(m_app).Document().Body();
     const QString page = blnPreviewAsText ? body.InnerText() : body.InnerHTML();
     const qsizetype place = page.indexOf(TextMark);
     if (place < 0)
@@ -105,10 +114,9 @@ void Preview::LoadTemplate() {
 }
 
 void Preview::ShowBareText() {
-    BrowserControl& browser = WebPreview(m_app);
-    browser.Navigate(u"about:blank"_s);
-    browser.Document().Body().SetInnerHTML(blnPreviewAsText ? strPreviewText.toHtmlEscaped()
-                                                            : strPreviewText);
+    Open(u"about:blank"_s);
+    WebPreview(m_app).Document().Body().SetInnerHTML(blnPreviewAsText ? strPreviewText.toHtmlEscaped()
+                                                                      : strPreviewText);
 }
 
 } // namespace qlm

@@ -21,6 +21,7 @@ public:
 private:
     QString TemplateFile() const;
     void Form_Load();
+    void Open(const QString& address);
     void LoadTemplate();
     void ShowBareText();
 

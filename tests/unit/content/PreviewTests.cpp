@@ -3,8 +3,10 @@
 
 #include "SimulatedProgram.h"
 #include "core/Text.h"
+#include "steps/StopResume.h"
 
 #include <QFile>
+#include <QUrl>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -39,6 +41,15 @@ protected:
         dialogs.onModal[u"frmPreview"_s] = [&] { seen = Text(); };
         EXPECT_TRUE(app->commands.Run(QString::fromLatin1(button) + u"_Click"_s));
         return seen;
+    }
+    // The template of comments comes so late, or not at all.
+    void DelayTemplate(std::optional<int> latencyMs) {
+        const QString path = folder.filePath(Templates + u"/previewtemplateMSG.htm"_s);
+        SimAnswer answer;
+        answer.html = QString::fromUtf8(app->files.ReadBytes(path));
+        answer.latencyMs = latencyMs;
+        answer.fault = latencyMs ? SimFault::None : SimFault::Hang;
+        world.web.SetAnswer(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded), answer);
     }
     QString ErrorLog() {
         const QString path = app->state.ErrorLogPath;
@@ -105,6 +116,52 @@ TEST_F(PreviewTest, ATemplateWithoutAPlaceCountsAsMissing) {
         EXPECT_EQ(Text().trimmed(), u"bare"_s);
         EXPECT_TRUE(ErrorLog().contains(u"no place for the text"_s));
     });
+}
+
+TEST_F(PreviewTest, ATemplateThatNeverLoadsIsGivenUpAndTheReasonLogged) {
+    DelayTemplate(std::nullopt);
+    const qint64 before = world.clock.NowMs();
+    Show({}, u"<i>bare</i>"_s, Preview::As::Markup, [&] {
+        EXPECT_EQ((world.clock.NowMs() - before) / 1000, 10);
+        EXPECT_EQ(Text().trimmed(), u"bare"_s);
+        EXPECT_TRUE(ErrorLog().contains(u"did not load"_s)) << ErrorLog().toStdString();
+    });
+}
+
+// The wait for the template is no run's: a run that waits around it is stopped, and the preview opens all the
+// same.
+TEST_F(PreviewTest, AStopThatComesWhileItsTemplateLoadsLeavesItAlone) {
+    DelayTemplate(5000);
+    bool wasShown = false;
+    platform->Pump().Queue().Post([&] {
+        Show({}, u"the text"_s, Preview::As::Markup, [&] {
+            wasShown = true;
+            EXPECT_TRUE(Text().contains(u"the text"_s));
+            EXPECT_NE(Text().trimmed(), u"the text"_s) << "without its template";
+            EXPECT_EQ(ErrorLog(), QString());
+        });
+    });
+    platform->Pump().Queue().PostAt(world.clock.NowMs() + 1000,
+                                    [&] { app->Get<StopResume>().StopAll(StopReason::WindowStop); });
+    const Waiting::Owned running(app->waiting);
+    EXPECT_THROW(app->waiting.WaitFor(u"the page"_s, [] { return true; }), RunEnded);
+    EXPECT_TRUE(wasShown);
+}
+
+// Its button pressed again, or another text's, while the template loads: one preview at a time.
+TEST_F(PreviewTest, ASecondStartWhileItsTemplateLoadsDoesNothing) {
+    DelayTemplate(5000);
+    platform->Pump().Queue().PostAt(world.clock.NowMs() + 1000, [&] {
+        app->Get<Preview>().Show(u"MESSAGE"_s, u"another text"_s, Preview::As::Text);
+        EXPECT_FALSE(dialogs.IsFormOpen(u"frmPreview"_s));
+    });
+    int shown = 0;
+    Show({}, u"<b>the</b> text"_s, Preview::As::Markup, [&] {
+        ++shown;
+        EXPECT_TRUE(Text().contains(u"the text"_s)) << Text().toStdString();
+        EXPECT_FALSE(Text().contains(u"another"_s) || Text().contains(LetterPage));
+    });
+    EXPECT_EQ(shown, 1);
 }
 
 TEST_F(PreviewTest, NothingOfATextRunsLoadsOrLeadsAnywhere) {
