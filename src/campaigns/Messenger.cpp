@@ -52,9 +52,13 @@ const StepMachine<Messenger>& Messenger::Machine() {
 }
 
 void Messenger::IterateSendMessages() {
+    if (RunSteps(m_app, *this, Machine()).isEmpty())
+        return;
+    // What has been typed into halfway is opened anew: a second press would shut an editor's source view.
+    if (m_app.state.intMsgStep == MessageStep::Submit && !IsSubmitted())
+        m_app.WebBrowser1().Navigate(m_app.WebBrowser1().LocationURL());
     // The page is looked at again; an empty one for long repeats the step.
-    if (!RunSteps(m_app, *this, Machine()).isEmpty())
-        LookAgain();
+    LookAgain();
 }
 
 void Messenger::BeginStep() {

@@ -12,6 +12,7 @@
 #include "platform/qt/EngineProfile.h"
 
 #include <QApplication>
+#include <QTimer>
 #include <cstdio>
 #include <numeric>
 #include <unistd.h>
@@ -24,6 +25,7 @@ constexpr int SampleEvery = 20;
 // As many loads as a page of the engine lives, so that each mean covers all its ages alike.
 constexpr int MeanOver = 200;
 constexpr int StepDelayMs = 20;
+constexpr int StandsMs = 60'000;
 constexpr double MemoryGoalMb = 30;
 constexpr double TimeGoal = 1.1;
 const QString SiteProgram = u"quillmere-practice-site"_s;
@@ -33,6 +35,7 @@ public:
     explicit Soak(int turnCount) : turns(turnCount) {
         site.Tell(u"journal visits off"_s);
         program.app.timers->Timer1.SetInterval(StepDelayMs);
+        QObject::connect(&standing, &QTimer::timeout, [this] { TellWhereItStands(); });
     }
 
     void PlanRequests();
@@ -48,6 +51,7 @@ private:
 
     void PlanTurns();
     void OnTurn();
+    void TellWhereItStands();
     double MeanMemory(int firstTurn, int count) const;
     double MedianTurn(int firstTurn, int count) const;
     double ProcessorPerTurn(int firstTurn, int count) const;
@@ -59,6 +63,7 @@ private:
     int turn = 0;
     long long turnStartNs = 0;
     QString lastProgress;
+    QTimer standing; // runs out when a turn takes a minute
     std::vector<double> turnMs;
     std::vector<Sample> samples;
 };
@@ -103,7 +108,16 @@ void Soak::OnTurn() {
         std::fflush(stdout);
     }
     ++turn;
+    standing.start(StandsMs);
     turnStartNs = NowNs();
+}
+
+void Soak::TellWhereItStands() {
+    BrowserControl& browser = program.app.WebBrowser1();
+    std::printf("turn %5d stands: \"%s\" %s at %s, ready state %d, busy %d\n", turn,
+                qPrintable(program.app.Status()), qPrintable(program.app.controls.Text("lblWaitingFor"_L1)),
+                qPrintable(browser.LocationURL()), browser.ReadyState(), browser.Busy());
+    std::fflush(stdout);
 }
 
 double Soak::MeanMemory(int firstTurn, int count) const {

@@ -110,7 +110,7 @@ TEST_F(EngineReading, TheTextsAboveTheLinksCostACallForEachLevel) {
 }
 
 TEST_F(EngineReading, FieldsWrittenAtOnceCostOneCall) {
-    Serve(u"/form"_s, u"<input name=one><input name=two><iframe name=three></iframe>"_s);
+    Serve(u"/form"_s, "<input name=one><input name=two><iframe name=three></iframe>");
     ASSERT_TRUE(Open(u"/form"_s));
     pump.PumpMessages();
     const qint64 before = browser->EngineCalls();

@@ -303,6 +303,26 @@ TEST_F(MessengerTest, ACaptchaInFrontOfTheFormEndsInATargetGivenUp) {
                     .contains(u"A CAPTCHA stood in front of the page that sends it"_s));
 }
 
+// A page that is asked and doesn't answer in time, as it may on a machine under load.
+TEST_F(MessengerTest, APageThatFailsWhileItIsFilledInIsOpenedAnewAndSentOnce) {
+    People({u"1001"_s, u"1002"_s});
+    bool hasFailed = false;
+    app->controls.AddListener([&](const Control& control, Controls::Change, int) {
+        if (control.name == "myfraCurrentAction"_L1 && control.text == u"Submitting message..."_s &&
+            !std::exchange(hasFailed, true))
+            throw BrowserError();
+    });
+    Start();
+    Finish();
+    EXPECT_TRUE(hasFailed);
+    EXPECT_TRUE(State().CurrentAction.isEmpty());
+    EXPECT_EQ(Browser().TakeVisited(), (QStringList{NewPage + u"1001"_s, NewPage + u"1001"_s, SentPage,
+                                                    NewPage + u"1002"_s, SentPage}));
+    EXPECT_EQ(Posted(), (QStringList{u"1001: Hi Anna | Dear Anna,\nhello"_s,
+                                     u"1002: Hi Anna | Dear Anna,\nhello"_s}));
+    EXPECT_EQ(Log(), (QStringList{u"1001"_s, u"1002"_s}));
+}
+
 TEST_F(MessengerTest, ASpanIsPressedAgainOnceItsButtonIsAwake) {
     People({u"1001"_s});
     world.web.SetPage(
