@@ -3,6 +3,7 @@
 
 #include "shell/Forms.h"
 #include "shell/NoticeForm.h"
+#include "shell/frmBookmark.h"
 #include "shell/frmGlobalSettings.h"
 #include "shell/frmGoogleSearch.h"
 #include "shell/frmInteken.h"
@@ -54,7 +55,7 @@ constexpr FormRow Forms[] = {
     {"frmStatus"_L1, u"Status", BuildContentEntry},
     {"frmPreview"_L1, u"Preview", frmPreview::Build, Make<frmPreview>},
     {"frmManageBookmarks"_L1, u"Manage Bookmarks", BuildManageBookmarks},
-    {"frmBookmark"_L1, u"Bookmark", BuildBookmark},
+    {"frmBookmark"_L1, u"Bookmark", BuildBookmark, Make<frmBookmark>},
     {"frmRunReport"_L1, u"Run Report", frmRunReport::Build, Make<frmRunReport>},
 };
 

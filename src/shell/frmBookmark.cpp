@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "shell/Form.h"
+#include "shell/frmBookmark.h"
+
 #include "shell/FormParts.h"
 #include "shell/Forms.h"
 
@@ -21,6 +22,10 @@ void BuildBookmark(Form& form) {
     column->addStretch();
     column->addWidget(NewButtonRow({"cmdSave"_L1, "cmdCancel"_L1}));
     form.resize(440, 140);
+}
+
+void frmBookmark::Bound() {
+    findChild<QLineEdit*>(u"txtName"_s)->selectAll();
 }
 
 } // namespace qlm

@@ -2,6 +2,7 @@
 #include "WindowTest.h"
 #include "shell/DesktopDialogs.h"
 #include "shell/FormRegistry.h"
+#include "shell/Look.h"
 #include "shell/PictureButtons.h"
 
 #include <QAction>
@@ -14,8 +15,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStyleOption>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QTimer>
@@ -103,6 +106,45 @@ TEST_F(FormsTest, TheFirstNumberOfTheTimeDelayIsReplacedByWhatIsTyped) {
     app->controls.SetText("frmTimeDelay.txtMinutes"_L1, u"12"_s);
     dialogs.ShowForm(u"frmTimeDelay"_s);
     EXPECT_EQ(Find<QLineEdit>("frmTimeDelay", "txtMinutes")->selectedText(), u"12"_s);
+}
+
+TEST_F(FormsTest, ThePromptForTheNameOfABookmarkIsReplacedByWhatIsTyped) {
+    dialogs.whileModal = [&](QDialog&) {
+        EXPECT_EQ(Find<QLineEdit>("frmBookmark", "txtName")->selectedText(),
+                  u"Enter a name for this bookmark"_s);
+    };
+    app->commands.Run(u"mnuBookmarkThisPage_Click"_s);
+}
+
+// Fusion's own frames of empty boxes are darker than a dark window.
+TEST_F(FormsTest, EmptyBoxesAndHintsCanBeSeenInADarkLook) {
+    const QPalette before = QApplication::palette();
+    QPalette dark(QColor(49, 54, 59), QColor(42, 46, 50));
+    dark.setColor(QPalette::Base, QColor(27, 30, 32));
+    dark.setColor(QPalette::PlaceholderText, Qt::black);
+    QApplication::setPalette(dark);
+    ApplyLook(*qApp);
+    const QPalette palette = QApplication::palette();
+    EXPECT_GT(palette.color(QPalette::PlaceholderText).lightness(),
+              palette.color(QPalette::Base).lightness() + 80);
+    for (const QStyle::PrimitiveElement element :
+         {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorItemViewItemCheck,
+          QStyle::PE_IndicatorRadioButton}) {
+        QImage picture(16, 16, QImage::Format_RGB32);
+        picture.fill(palette.color(QPalette::Base));
+        QPainter painter(&picture);
+        QStyleOptionButton option;
+        option.rect = picture.rect();
+        option.palette = palette;
+        option.state = QStyle::State_Enabled | QStyle::State_Off;
+        QApplication::style()->drawPrimitive(element, &option, &painter);
+        int lightest = 0;
+        for (int x = 0; x < 16; ++x)
+            lightest = std::max(lightest, picture.pixelColor(x, 8).lightness());
+        EXPECT_GT(lightest, palette.color(QPalette::Base).lightness() + 80) << element;
+    }
+    QApplication::setPalette(before);
+    ApplyLook(*qApp);
 }
 
 TEST_F(FormsTest, OpenFormsStandInTheOrderInWhichTheyCameUp) {
