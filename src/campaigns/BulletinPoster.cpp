@@ -59,9 +59,13 @@ void BulletinPoster::BeginRun() {
 
 void BulletinPoster::IterateSendBulletins() {
     m_posts.Repair();
-    // The page is looked at again; an empty one for long repeats the step.
-    if (!RunSteps(m_app, *this, Machine()).isEmpty())
-        m_app.timers->tmrCheckLinkLoaded.Restart();
+    if (RunSteps(m_app, *this, Machine()).isEmpty())
+        return;
+    // A form that failed while it was filled in is opened anew; any other page is looked at again.
+    if (m_app.state.intBulStep == BulletinStep::Submit)
+        OpenPage();
+    m_app.state.blnLinkFound = false;
+    m_app.timers->tmrCheckLinkLoaded.Restart();
 }
 
 void BulletinPoster::BeginStep() {

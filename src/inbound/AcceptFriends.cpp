@@ -188,8 +188,11 @@ void AcceptFriends::IterateAcceptFriends() {
     // The ticks go on while a page is being approved.
     if (m_approvingRun == m_app.state.lngRunNumber)
         return;
-    if (!RunSteps(m_app, *this, Machine()).isEmpty())
-        m_app.timers->tmrCheckLinkLoaded.Restart();
+    if (RunSteps(m_app, *this, Machine()).isEmpty())
+        return;
+    // The page is looked at again.
+    m_app.state.blnLinkFound = false;
+    m_app.timers->tmrCheckLinkLoaded.Restart();
 }
 
 void AcceptFriends::BeginStep() {

@@ -43,8 +43,11 @@ const StepMachine<PendingRequests>& PendingRequests::Machine() {
 }
 
 void PendingRequests::IterateDelPenFR() {
-    if (!RunSteps(m_app, *this, Machine()).isEmpty())
-        m_app.timers->tmrCheckLinkLoaded.Restart();
+    if (RunSteps(m_app, *this, Machine()).isEmpty())
+        return;
+    // The page is looked at again.
+    m_app.state.blnLinkFound = false;
+    m_app.timers->tmrCheckLinkLoaded.Restart();
 }
 
 void PendingRequests::BeginStep() {
