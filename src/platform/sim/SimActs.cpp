@@ -149,6 +149,17 @@ void SimBrowser::SendForm(SimDocument& page, int form, int pressed) {
     Start(load);
 }
 
+void SimBrowser::SendBeside(SimDocument& page, int form) {
+    SimRequest request;
+    request.method = u"POST"_s;
+    request.url = page.AddressOfForm(form, 0);
+    request.body = EncodedFields(FieldsOf(page.Tree(), form, 0)).toLatin1();
+    request.contentType = u"application/x-www-form-urlencoded"_s;
+    request.referrer = m_location;
+    request.topLevel = false;
+    m_web.Fetch(request);
+}
+
 void SimBrowser::ScrolledToEnd(SimDocument& page) {
     RunAllWith(page, u"data-on-scroll"_s);
 }
@@ -262,6 +273,9 @@ void SimBrowser::CarryOut(SimDocument& page, const StandIn& act) {
         break;
     case StandIn::Verb::Click:
         page.Click(node);
+        break;
+    case StandIn::Verb::Send:
+        SendBeside(page, node);
         break;
     }
 }

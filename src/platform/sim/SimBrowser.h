@@ -116,6 +116,7 @@ private:
     void ClickControl(SimDocument& page, int node);
     void FollowAddress(SimDocument& page, const QString& url, const QString& target);
     void SendForm(SimDocument& page, int form, int pressed);
+    void SendBeside(SimDocument& page, int form);
     bool LoadElsewhere(SimDocument& page, const SimRequest& request, const QString& target);
     void RunScript(SimDocument& page, const QString& script);
     void RunStandIns(SimDocument& page, const QString& text);

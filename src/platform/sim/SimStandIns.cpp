@@ -27,6 +27,7 @@ constexpr auto verbs = std::to_array<VerbRow>({
     {u"append", StandIn::Verb::Append},
     {u"submit", StandIn::Verb::Submit},
     {u"click", StandIn::Verb::Click},
+    {u"send", StandIn::Verb::Send},
 });
 
 std::optional<StandIn::Verb> VerbOf(const QString& word) {

@@ -17,6 +17,8 @@ namespace qlm {
 //   append #id <html>
 //   submit #id
 //   click #id
+//   send #id              the form's fields go out beside the page, which stays; what is answered shows
+//   nowhere
 //
 // Where the attributes stand:
 //   data-on-click    on what is clicked; on a link or a button in place of what the click does otherwise
@@ -28,7 +30,7 @@ namespace qlm {
 //   data-on-script   a part of a script's text: data-do of the same element is carried out when a
 //                    "javascript:" address that holds it is run
 struct StandIn {
-    enum class Verb { Goto, Show, Hide, Set, Remove, Append, Submit, Click };
+    enum class Verb { Goto, Show, Hide, Set, Remove, Append, Submit, Click, Send };
 
     Verb verb;
     int afterMs = 0;

@@ -200,6 +200,21 @@ TEST_F(SimBrowserTests, StandInsActOnThePage) {
     EXPECT_TRUE(web.problems.isEmpty());
 }
 
+TEST_F(SimBrowserTests, AFormCanBeSentBesideThePage) {
+    QStringList bodies;
+    web.responder = [&](const SimRequest& request) {
+        bodies += request.method + u' ' + QString::fromLatin1(request.body);
+        return std::optional(SimAnswer{});
+    };
+    Show(u"<form id=f method=post action='/send'><input name=a id=a></form>"
+         "<b id=go data-on-click='set #a value x y; send #f; set #go innertext sent'>go</b>"_s);
+    browser.PageClick(u"#go"_s);
+    Settle();
+    EXPECT_EQ(bodies, QStringList{u"POST a=x+y"_s});
+    EXPECT_EQ(browser.LocationURL(), page);
+    EXPECT_EQ(Text(), u"sent"_s);
+}
+
 TEST_F(SimBrowserTests, AStandInThatMakesNoSenseIsAProblem) {
     Show(u"<b id=x data-on-click='jump #a'>x</b><b id=y data-on-click='hide #nowhere'>y</b>"_s);
     browser.PageClick(u"#x"_s);
