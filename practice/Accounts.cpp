@@ -23,6 +23,10 @@ void Accounts::Add(const QString& mail, const QString& password, qint64 id) {
     m_accounts.append({known, password, id});
 }
 
+bool Accounts::IsMember(qint64 id) const {
+    return std::ranges::any_of(m_accounts, [id](const Account& account) { return account.id == id; });
+}
+
 const Account* Accounts::Check(const QString& mail, const QString& password) const {
     const QString known = mail.trimmed().toLower();
     for (const Account& account : m_accounts)

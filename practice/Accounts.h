@@ -26,6 +26,7 @@ public:
 
     void Add(const QString& mail, const QString& password, qint64 id);
     const QList<Account>& All() const { return m_accounts; }
+    bool IsMember(qint64 id) const;
 
     /// nullptr unless mail (letter case and blanks around it don't matter) and password fit.
     const Account* Check(const QString& mail, const QString& password) const;

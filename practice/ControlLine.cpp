@@ -2,6 +2,7 @@
 #include "ControlLine.h"
 
 #include "Designs.h"
+#include "InboundControls.h"
 #include "Refusals.h"
 #include "World.h"
 #include "WritingControls.h"
@@ -165,6 +166,7 @@ void Reset(World& world, Arguments& args) {
     args.End();
     world.accounts.Restore();
     world.signInDesign = SignInDesign::Ids;
+    world.mobileDesign = MobileDesign::Open;
     world.faults.Clear();
     world.lists.Clear();
     world.journal = Journal();
@@ -215,6 +217,13 @@ constexpr std::array controlRows{
     ControlRow{"status-limit"_L1, LimitStatuses},
     ControlRow{"bulletins"_L1, SetBulletins},
     ControlRow{"statuses"_L1, SetStatuses},
+    ControlRow{"incoming"_L1, SetIncoming},
+    ControlRow{"sent-requests"_L1, SetSentRequests},
+    ControlRow{"accept-outcome"_L1, SetAcceptOutcome},
+    ControlRow{"accept-share"_L1, SetAcceptShare},
+    ControlRow{"request-list"_L1, SetRequestList},
+    ControlRow{"vanish"_L1, Vanish},
+    ControlRow{"mobile"_L1, SetMobile},
     ControlRow{"mail"_L1, SetMail},
     ControlRow{"captcha-word"_L1, SetCaptchaWord},
     ControlRow{"captcha-kind"_L1, SetCaptchaKind},

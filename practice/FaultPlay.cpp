@@ -2,6 +2,7 @@
 #include "FaultPlay.h"
 
 #include "Frame.h"
+#include "pages/BulletinForm.h"
 #include "pages/CaptchaPages.h"
 #include "pages/CommentForms.h"
 #include "pages/CommentPages.h"
@@ -35,7 +36,7 @@ Response DropSession(Visit& visit) {
 bool IsWritten(const Visit& visit, Handler handler) {
     return visit.IsPost() && !SentAnswer(visit) &&
            (handler == ComposeNew || handler == ComposeOld || handler == CommentForm ||
-            handler == CommentsPage);
+            handler == CommentsPage || handler == BulletinForm);
 }
 
 bool IsRequestPage(Handler handler) {

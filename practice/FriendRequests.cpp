@@ -104,8 +104,35 @@ QString FriendRequests::SetShare(Outcome outcome, int percent) {
 
 void FriendRequests::MarkAsked(qint64 asker, qint64 target, QDate day) {
     m_asked.insert({asker, target});
+    m_pending[asker].append(target);
     m_captchas.remove({asker, target});
     ++m_askedOn[{asker, day}];
+}
+
+QList<qint64> FriendRequests::Pending(qint64 asker) const {
+    const QList<qint64> pending = m_pending.value(asker);
+    return {pending.rbegin(), pending.rend()};
+}
+
+void FriendRequests::SetPending(qint64 asker, const QList<qint64>& targets) {
+    for (const qint64 target : m_pending.value(asker))
+        m_asked.remove({asker, target});
+    for (const qint64 target : targets)
+        m_asked.insert({asker, target});
+    m_pending.insert(asker, targets);
+}
+
+bool FriendRequests::Withdraw(qint64 asker, qint64 target) {
+    if (!m_pending[asker].removeOne(target))
+        return false;
+    m_asked.remove({asker, target});
+    return true;
+}
+
+void FriendRequests::Settle(qint64 asker, qint64 target) {
+    if (m_pending.contains(asker))
+        m_pending[asker].removeOne(target);
+    m_asked.remove({asker, target});
 }
 
 bool FriendRequests::LimitReached(qint64 asker, QDate day) const {

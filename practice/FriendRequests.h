@@ -3,6 +3,7 @@
 
 #include <QDate>
 #include <QHash>
+#include <QList>
 #include <QMap>
 #include <QSet>
 #include <QString>
@@ -55,6 +56,17 @@ public:
     bool WasAsked(qint64 asker, qint64 target) const { return m_asked.contains({asker, target}); }
     void MarkAsked(qint64 asker, qint64 target, QDate day);
 
+    /// Whom that account has asked and who hasn't answered, newest first.
+    QList<qint64> Pending(qint64 asker) const;
+    /// Whether it has ever asked anybody.
+    bool HasAskedAnybody(qint64 asker) const { return m_pending.contains(asker); }
+    /// In place of those it has asked so far, without a word in the journal.
+    void SetPending(qint64 asker, const QList<qint64>& targets);
+    /// False when that one isn't pending; afterwards it can be asked again.
+    bool Withdraw(qint64 asker, qint64 target);
+    /// The target has answered.
+    void Settle(qint64 asker, qint64 target);
+
     /// After so many requests of one account in a day comes the limit page; nothing for no limit.
     void SetDailyLimit(std::optional<int> limit) { m_dailyLimit = limit; }
     bool LimitReached(qint64 asker, QDate day) const;
@@ -81,6 +93,7 @@ private:
     QHash<qint64, Outcome> m_fixed;
     QHash<qint64, int> m_refusals;
     QSet<Pair> m_asked;
+    QHash<qint64, QList<qint64>> m_pending; // oldest first
     QHash<std::pair<qint64, QDate>, int> m_askedOn;
     std::optional<int> m_dailyLimit;
     QString m_captchaWord;

@@ -115,6 +115,8 @@ void People::Rename(qint64 id, const QString& name) {
 }
 
 const Person* People::Find(qint64 id) const {
+    if (m_gone.contains(id))
+        return nullptr;
     if (id >= firstId && id < firstId + crowdSize)
         return &m_crowd[id - firstId];
     const auto other = m_others.constFind(id);

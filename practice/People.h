@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QList>
 #include <QMap>
+#include <QSet>
 #include <QString>
 
 namespace qlm::practice {
@@ -47,6 +48,9 @@ public:
     /// Does nothing for an ID that nobody has. The address stays.
     void Rename(qint64 id, const QString& name);
 
+    /// Whoever has that ID is gone for good.
+    void Vanish(qint64 id) { m_gone.insert(id); }
+
     /// nullptr when nobody has that ID.
     const Person* Find(qint64 id) const;
     /// nullptr when nobody has that name in the address; letter case doesn't matter.
@@ -61,6 +65,7 @@ private:
     QList<Person> m_crowd;
     QMap<qint64, Person> m_others;
     QHash<QString, qint64> m_vanities;
+    QSet<qint64> m_gone;
 };
 
 /// The address that the site's lists link a profile by: the vanity address when there is one.

@@ -26,7 +26,7 @@ Visit Arrive(World& world, const Request& request, Role role) {
                 .role = role,
                 .address = ParseAddress(request.path),
                 .form = {},
-                .session = CookieValue(request.headers.value(u"cookie"_s), SessionCookie()),
+                .session = CookieValue(request.headers.value(u"cookie"_s), SessionCookie(role)),
                 .captures = {},
                 .shown = {},
                 .shownByName = {}};

@@ -42,6 +42,12 @@ struct World;
 ///     posted-status SENDER NUMBER "TEXT"   behind its status line
 ///     deleted-status SENDER NUMBER "TEXT"
 ///     deleted-update SENDER NUMBER "TEXT"  what the stream had told by itself is gone from it
+///     accepted ACCOUNT REQUESTER     the two are friends now; "updates" behind it when that box was ticked
+///     denied ACCOUNT REQUESTER
+///     accept ACCOUNT REQUESTER OUTCOME     accepting has failed: error, stays or never
+///     cancelled ASKER TARGET         a request has been taken back
+///     mobile-signed-in MAIL ID       mobile-signed-out MAIL ID    mobile-wrong-password MAIL
+///     mobile-refused MAIL
 ///     visit HOST/PATH                every page request, while `journal visits on`
 ///     shown HOST/PATH ID...          who stood on the list of a delivered page, in its order, and can
 ///                                    be told by number there; while `journal shown on`
@@ -77,6 +83,15 @@ struct World;
 ///     bulletin-refuse ID N|off, status-refuse ID N|off    as for messages
 ///     bulletin-limit N|off, status-limit N|off            as for messages
 ///     bulletins ID COUNT, statuses ID COUNT    what that account has posted so far
+///     incoming ID COUNT              so many of the crowd have asked that account
+///     accept-outcome REQUESTER OUTCOME     what becomes of accepting them: accepted, slow, error (the request is
+///                                    lost), stays (it fails and waits on), never (no answer comes)
+///     accept-share OUTCOME PERCENT   the same for so many
+///     request-list ID|all LIST|off   newer, older, older-second, no-buttons, older-no-buttons, no-numbers,
+///                                    no-last, older-no-last
+///     sent-requests ID COUNT         whom that account has asked so far
+///     vanish ID                      the site knows nothing of them any more
+///     mobile DESIGN                  open, closed, names or no-next
 ///     mail ID on|off                 whether that account has set up its mail
 ///     captcha-word WORD|off          the word of every CAPTCHA image
 ///     captcha-kind KIND|mixed        image, image-text, words, settings; image at the start

@@ -14,8 +14,11 @@
 #include "pages/FormMap.h"
 #include "pages/HardPages.h"
 #include "pages/HomePages.h"
+#include "pages/IncomingPages.h"
 #include "pages/ListPages.h"
+#include "pages/MobilePages.h"
 #include "pages/NoticePages.h"
+#include "pages/PendingPages.h"
 #include "pages/ProductPages.h"
 #include "pages/ProfilePages.h"
 #include "pages/RequestPages.h"
@@ -53,6 +56,9 @@ constexpr std::array routeRows{
     RouteRow{Role::SiteRoot, u"signup", u"", SignUp},
     RouteRow{Role::SiteRoot, u"error.aspx", u"", UnexpectedError},
     RouteRow{Role::SiteRoot, u"my/friends/addtofriends/{id}", u"", AddToFriends},
+    RouteRow{Role::SiteRoot, u"my/requests/friendrequest", u"", IncomingNew},
+    RouteRow{Role::Messaging, u"index.cfm", u"mail.friendRequestsV3", IncomingOld},
+    RouteRow{Role::Messaging, u"index.cfm", u"mail.friendRequests", IncomingSecond},
     RouteRow{Role::Friends, u"index.cfm", u"invite.addfriend_verify", AddFriendVerify},
     RouteRow{Role::Friends, u"index.cfm", u"user.viewfriends", OldFriendsAddress},
     RouteRow{Role::Friends, u"index.cfm", u"user.viewcategories", CategoriesPage},
@@ -69,6 +75,7 @@ constexpr std::array routeRows{
     RouteRow{Role::SiteRoot, u"{id}/classic", u"", ClassicProfile},
     RouteRow{Role::SiteRoot, u"style/site.css", u"", StyleSheet, Shows::Picture},
     RouteRow{Role::SiteRoot, u"style/forms.js", u"", FormScript, Shows::Picture},
+    RouteRow{Role::SiteRoot, u"style/requests.js", u"", RequestScript, Shows::Picture},
     RouteRow{Role::SiteRoot, u"style/logo.svg", u"", Logo, Shows::Picture},
     RouteRow{Role::SiteRoot, u"style/post.svg", u"", PostButton, Shows::Picture},
     RouteRow{Role::SiteRoot, u"pictures/{id}.svg", u"", ProfilePicture, Shows::Picture},
@@ -81,6 +88,12 @@ constexpr std::array routeRows{
     RouteRow{Role::SiteRoot, u"silentanna", u"", SilentProfile},
     RouteRow{Role::SiteRoot, u"silentbert", u"", SilentProfile},
     RouteRow{Role::SiteRoot, u"silentcleo", u"", SilentProfile},
+    RouteRow{Role::Mobile, u"", u"", MobileHome},
+    RouteRow{Role::Mobile, u"home.wap", u"", MobileHome},
+    RouteRow{Role::Mobile, u"login.wap", u"", MobileSignIn},
+    RouteRow{Role::Mobile, u"signout.wap", u"", MobileSignOut},
+    RouteRow{Role::Mobile, u"messaging/sentrequests.wap", u"", MobileSentRequests},
+    RouteRow{Role::Mobile, u"messaging/sentrequest.wap", u"", MobileSentRequest},
     RouteRow{Role::SearchService, u"index.cfm", u"sitesearch.viewmorepics", OtherProfileAddress},
     RouteRow{Role::Video, u"index.cfm", u"vids.channel", OtherProfileAddress},
     RouteRow{Role::WebSearch, u"", u"", WebSearchPage},
@@ -136,7 +149,10 @@ bool IsIcon(const Visit& visit) {
 RouteMatch FindRoute(const Visit& visit) {
     if (IsIcon(visit))
         return {Icon, true, {}};
-    if (const DesignMatch match = FindDesign(visit); match.design)
+    const DesignMatch match = FindDesign(visit);
+    if (match.design && match.design->name == u"mail-pending" && HasPendingRequests(visit))
+        return {PendingRequests, false, {}};
+    if (match.design)
         return {match.design->handler ? match.design->handler : DesignPage, false, match.captures};
     const QString action = visit.address.query.value(u"fuseaction"_s);
     for (const RouteRow& row : routeRows) {

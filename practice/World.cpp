@@ -32,6 +32,7 @@ World::World(quint64 startSeed, std::function<QDateTime()> clock)
       people(seed),
       friends(seed),
       requests(seed),
+      incoming(seed),
       messages(NewMessages(seed)),
       comments(NewComments(seed)),
       bulletins(NewBulletins(seed)),
@@ -45,6 +46,7 @@ void World::Sow(quint64 newSeed) {
     people = People(seed);
     friends = FriendLists(seed);
     requests = FriendRequests(seed);
+    incoming = Incoming(seed);
     messages = NewMessages(seed);
     comments = NewComments(seed);
     bulletins = NewBulletins(seed);

@@ -5,8 +5,10 @@
 #include "Faults.h"
 #include "FriendLists.h"
 #include "FriendRequests.h"
+#include "Incoming.h"
 #include "Journal.h"
 #include "ListSizes.h"
+#include "MobileDesign.h"
 #include "People.h"
 #include "Posts.h"
 #include "SignInDesigns.h"
@@ -34,6 +36,7 @@ struct World {
     FriendLists friends;
     ListSizes lists;
     FriendRequests requests;
+    Incoming incoming;
     Writing messages;
     Writing comments;
     Writing bulletins;
@@ -41,6 +44,7 @@ struct World {
     Posts posts;
     Accounts accounts;
     SignInDesign signInDesign = SignInDesign::Ids;
+    MobileDesign mobileDesign = MobileDesign::Open;
     Faults faults;
     Journal journal;
 };

@@ -33,6 +33,10 @@ Response FormScript(Visit&) {
     return Asset(u"forms.js"_s, u"text/javascript"_s);
 }
 
+Response RequestScript(Visit&) {
+    return Asset(u"requests.js"_s, u"text/javascript"_s);
+}
+
 Response Logo(Visit&) {
     return Svg(LogoDrawing());
 }

@@ -8,6 +8,7 @@ namespace qlm::practice {
 /// Style sheet, scripts and pictures.
 Response StyleSheet(Visit& visit);
 Response FormScript(Visit& visit);
+Response RequestScript(Visit& visit);
 Response Logo(Visit& visit);
 Response PostButton(Visit& visit);
 Response Icon(Visit& visit);

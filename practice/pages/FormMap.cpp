@@ -18,7 +18,10 @@ template <typename Row> QString Rows(const World& world, std::span<const Row> de
     for (const Row& design : designs) {
         if (design.older != older)
             continue;
-        const Person& person = *world.people.Find(FirstWithForm(designs, design));
+        const Person* found = world.people.Find(FirstWithForm(designs, design));
+        if (!found)
+            continue;
+        const Person& person = *found;
         rows += Fill(
             uR"(<tr><td>{name}</td><td>{says}</td><td><a href="{url}">{person}</a></td><td>{id}</td></tr>)",
             {{u"name", design.name.toString()},

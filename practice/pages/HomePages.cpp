@@ -36,6 +36,7 @@ Response HomePage(Visit& visit) {
 <ul class="links"><li><a href="{own}">My profile</a></li><li>
 <a href="{own}/friends">My friends ({count})</a></li>
 <li><a href="{mail}">My mail</a></li><li><a href="{bulletins}">Bulletins</a></li>
+<li><a href="{root}/my/requests/friendrequest?viewall=1">Friend requests ({requests})</a></li>
 <li><a href="{browse}">Browse people</a></li></ul></div></div>
 </div><div class="col wideCol">
 {!status}
@@ -48,6 +49,8 @@ Response HomePage(Visit& visit) {
                                {u"own", own},
                                {u"count", QString::number(visit.world.friends.Count(me.id))},
                                {u"mail", Url(Role::Messaging, u"/index.cfm?fuseaction=mail.inbox"_s)},
+                               {u"root", Url(Role::SiteRoot, {})},
+                               {u"requests", QString::number(visit.world.incoming.Of(me.id).size())},
                                {u"bulletins", Url(Role::SiteRoot, u"/bulletins"_s)},
                                {u"browse", Url(Role::SiteRoot, u"/browse/people"_s)},
                                {u"status", StatusMarkup(visit, answer.notice)},

@@ -78,6 +78,8 @@ std::optional<Response> RequestVisit::Refusal() {
         return Say(u"invalid"_s, u"Add to Friends"_s, u"Invalid friend ID."_s);
     if (m_target == m_asker)
         return Say(u"self"_s, u"Add to Friends"_s, u"Sorry, you cannot add yourself as a friend."_s);
+    if (m_visit.world.incoming.AreFriends(m_asker, m_target))
+        return Refuse(Outcome::Already);
     if (m_requests.WasAsked(m_asker, m_target)) {
         m_visit.world.journal.Write(u"asked-again %1 %2"_s.arg(m_asker).arg(m_target));
         return Say(u"pending"_s, u"Add to Friends"_s,
@@ -169,6 +171,8 @@ Response RequestVisit::Form() {
 Response RequestVisit::Send(bool throughError) {
     Write(throughError ? OutcomeName(Outcome::ErrorRedirect) : OutcomeName(Outcome::Sent));
     m_requests.MarkAsked(m_asker, m_target, Today());
+    if (m_visit.world.accounts.IsMember(m_target))
+        m_visit.world.incoming.Add(m_target, m_asker);
     m_visit.world.journal.Write(u"asked %1 %2"_s.arg(m_asker).arg(m_target));
     if (throughError)
         return Redirect(Url(Role::SiteRoot, u"/error.aspx"_s));

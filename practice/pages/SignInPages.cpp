@@ -30,14 +30,14 @@ QString FieldEndingIn(const Fields& form, const QString& end) {
     return {};
 }
 
-QString CookieHeader(const QString& value, const QString& more) {
-    return SessionCookie() + u'=' + value + u"; Domain=."_s + SiteDomain() + u"; Path=/"_s + more;
-}
-
 } // namespace
 
-QString SessionCookie() {
-    return u"PRACTICESESSION"_s;
+QString SessionCookie(Role role) {
+    return role == Role::Mobile ? u"PRACTICEMOBILE"_s : u"PRACTICESESSION"_s;
+}
+
+QString CookieHeader(Role role, const QString& value, const QString& more) {
+    return SessionCookie(role) + u'=' + value + u"; Domain=."_s + SiteDomain() + u"; Path=/"_s + more;
 }
 
 Response SignInPage(const Visit& visit, const QString& message) {
@@ -84,7 +84,7 @@ Response LoginProcess(Visit& visit) {
     visit.world.accounts.DropSession(visit.session);
     Response response = Redirect(HomeUrl());
     const QString token = visit.world.accounts.OpenSession(visit.world.seed, *account);
-    response.headers.append({u"Set-Cookie"_s, CookieHeader(token, {})});
+    response.headers.append({u"Set-Cookie"_s, CookieHeader(visit.role, token)});
     return response;
 }
 
@@ -94,7 +94,7 @@ Response SignOut(Visit& visit) {
     visit.world.accounts.DropSession(visit.session);
     visit.account = nullptr;
     Response response = SignInPage(visit, u"You have signed out. See you soon!"_s);
-    response.headers.append({u"Set-Cookie"_s, CookieHeader({}, u"; Max-Age=0"_s)});
+    response.headers.append({u"Set-Cookie"_s, CookieHeader(visit.role, {}, u"; Max-Age=0"_s)});
     return response;
 }
 

@@ -91,7 +91,8 @@ protected:
             for (const Element& button : browser->Document().GetElementsByTagName(tag)) {
                 const QString text = tag == u"input" ? button.Value() : button.InnerText();
                 if (text.trimmed().compare(caption, Qt::CaseInsensitive) != 0 ||
-                    button.OuterHTML().contains(u"DISPLAY: NONE"_s, Qt::CaseInsensitive))
+                    button.OuterHTML().contains(u"DISPLAY: NONE"_s, Qt::CaseInsensitive) ||
+                    button.OuterHTML().contains(u"type=\"hidden\""_s))
                     continue;
                 button.Click();
                 return true;
@@ -121,7 +122,7 @@ protected:
     // Since the count was last taken.
     QStringList Arrived() {
         return m_site.Journal().mid(m_seen).filter(
-            QRegularExpression(u"^(messaged|commented|posted|deleted)[ -]"_s));
+            QRegularExpression(u"^(messaged|commented|posted|deleted|accepted|denied|cancelled)[ -]"_s));
     }
     bool WaitForArrival() {
         return WaitUntil([this] { return !Arrived().isEmpty(); });
@@ -373,6 +374,98 @@ TEST_F(PracticeForms, TheNewerStreamIsGreyWhileItLoadsAndDeletesAfterAQuestion) 
     EXPECT_TRUE(WaitForArrival());
     EXPECT_EQ(Arrived(), QStringList{u"deleted-status 900001 5002 \"This was number 2.\""_s});
     EXPECT_TRUE(WaitForText(u"Everybody"_s));
+}
+
+TEST_F(PracticeForms, EachRequestIsAcceptedInPlace) {
+    StartAnew();
+    Control(u"incoming 900001 3"_s);
+    Show(u"http://www.myspace.example.com/my/requests/friendrequest?viewall=1"_s);
+    ById(u"selectAll"_s).Click();
+    QStringList expected;
+    for (const Element& box : browser->Document().GetElementsByName(u"request"_s))
+        if (box.HasAttribute(u"mode"_s)) {
+            EXPECT_FALSE(box.GetAttribute(u"checked"_s).isEmpty());
+            expected += u"accepted 900001 "_s + box.GetAttribute(u"mode"_s).section(u',', 1, 1);
+        }
+    for (const qsizetype accepted : {1, 2, 3}) {
+        EXPECT_TRUE(Press(u"accept"_s));
+        EXPECT_TRUE(WaitUntil([&] { return Text().count(u"is now your friend"_s) == accepted; }));
+    }
+    EXPECT_FALSE(Press(u"accept"_s));
+    EXPECT_EQ(Arrived(), expected);
+}
+
+TEST_F(PracticeForms, WhoeverIsTickedIsAcceptedByTheScriptOfTheOlderPage) {
+    StartAnew();
+    Control(u"incoming 900001 26"_s);
+    Show(u"http://messaging.myspace.example.com/index.cfm?fuseaction=mail.friendRequestsV3&viewall=1"_s);
+    for (const Element& link : browser->Document().Links())
+        if (link.Href().contains(u"javascript: requestlist.GoToPage('2',"_s)) {
+            link.Click();
+            break;
+        }
+    EXPECT_TRUE(WaitForText(u"Listing 26-26 of 26"_s));
+    ById(u"chktop"_s).Click();
+    browser->Navigate(u"javascript:window.confirm=function anonymous(){return true;};void 0"_s);
+    browser->Navigate(u"Javascript: function bla(){requestlist.ProcessMultiAction('approve');}; bla()"_s);
+    EXPECT_TRUE(WaitForText(u"is now your friend"_s));
+    EXPECT_EQ(Arrived().size(), 1);
+}
+
+TEST_F(PracticeForms, ARequestIsDeniedInPlaceOnTheOlderPage) {
+    StartAnew();
+    Control(u"incoming 900001 1"_s);
+    Show(u"http://messaging.myspace.example.com/index.cfm?fuseaction=mail.friendRequestsV3&viewall=1"_s);
+    for (const Element& span : browser->Document().GetElementsByTagName(u"span"_s))
+        if (span.InnerText() == u"Deny") {
+            span.Click();
+            break;
+        }
+    EXPECT_TRUE(WaitForText(u"You have denied a friend request from"_s));
+    EXPECT_EQ(Arrived().size(), 1);
+}
+
+TEST_F(PracticeForms, TheLastPageOfTheNewerListIsALinkAway) {
+    Control(u"incoming 900001 60"_s);
+    Show(u"http://www.myspace.example.com/my/requests/friendrequest?viewall=1"_s);
+    for (const Element& link : browser->Document().Links())
+        if (link.Href().contains(u"pagingNavigation1$LastRecordDirectPageLinkButton"_s)) {
+            link.Click();
+            break;
+        }
+    EXPECT_TRUE(WaitForText(u"Listing 51-60 of 60"_s));
+}
+
+TEST_F(PracticeForms, PendingRequestsAreTakenBackOnTheDesktopPage) {
+    StartAnew();
+    Control(u"sent-requests 900001 2"_s);
+    Show(u"http://messaging.myspace.example.com/index.cfm?fuseaction=mail.pendingFriendRequests"_s);
+    ById(u"chktop"_s).Click();
+    ById(u"spancanceltop"_s).Click();
+    EXPECT_TRUE(WaitForText(u"Your sent request has been cancelled"_s));
+    EXPECT_EQ(Arrived().size(), 2);
+}
+
+TEST_F(PracticeForms, ASentRequestIsTakenBackOnTheMobilePages) {
+    StartAnew();
+    Control(u"sent-requests 900001 1"_s);
+    Show(u"http://m.myspace.example.com/signout.wap?bfd=offdeck"_s);
+    ById(u"emailTextBox"_s).SetInnerText(u"a@example.com"_s);
+    ById(u"passwordTextBox"_s).SetInnerText(u"secret"_s);
+    ById(u"loginCommand"_s).Click();
+    EXPECT_TRUE(WaitForText(u"My Profile"_s));
+    Show(u"http://m.myspace.example.com/messaging/sentrequests.wap?bfd=offdeck"_s);
+    for (const Element& link : browser->Document().Links())
+        if (link.Href().contains(u"pvm="_s)) {
+            link.Click();
+            break;
+        }
+    EXPECT_TRUE(WaitForText(u"has not answered yet"_s));
+    ClickLink(u"Cancel Request"_s);
+    EXPECT_TRUE(WaitForText(u"Are you sure you want to cancel"_s));
+    EXPECT_TRUE(Press(u"ok"_s));
+    EXPECT_TRUE(WaitForText(u"There are 0 sent requests"_s));
+    EXPECT_EQ(Arrived().size(), 1);
 }
 
 } // namespace qlm

@@ -71,7 +71,8 @@ protected:
             for (const Element& button : browser.Document().GetElementsByTagName(tag)) {
                 const QString text = tag == u"input" ? button.Value() : button.InnerText();
                 if (text.trimmed().compare(caption, Qt::CaseInsensitive) != 0 ||
-                    button.OuterHTML().contains(u"DISPLAY: NONE"_s, Qt::CaseInsensitive))
+                    button.OuterHTML().contains(u"DISPLAY: NONE"_s, Qt::CaseInsensitive) ||
+                    button.OuterHTML().contains(u"type=\"hidden\""_s))
                     continue;
                 button.Click();
                 return true;
@@ -94,7 +95,8 @@ protected:
                             : u"http://home.myspace.example.com/index.cfm?fuseaction=home&f=7"_s;
     }
     QStringList Arrived() {
-        return site.TakeJournal().filter(QRegularExpression(u"^(messaged|commented|posted|deleted)[ -]"_s));
+        return site.TakeJournal().filter(
+            QRegularExpression(u"^(messaged|commented|posted|deleted|accepted|denied|cancelled)[ -]"_s));
     }
 
     practice::PracticeSite site;
@@ -284,6 +286,109 @@ TEST_F(SimulatedForms, TheNewerStreamIsGreyWhileItLoadsAndDeletesAfterAQuestion)
     EXPECT_TRUE(Press(u"ok"_s));
     Settle();
     EXPECT_EQ(Arrived(), QStringList{u"deleted-status 900001 5002 \"This was number 2.\""_s});
+}
+
+TEST_F(SimulatedForms, EachRequestIsAcceptedInPlace) {
+    Control(u"incoming 900001 3"_s);
+    Control(u"accept-share slow 100"_s);
+    Open(u"http://www.myspace.example.com/my/requests/friendrequest?viewall=1"_s);
+    ById(u"selectAll"_s).Click();
+    QStringList expected;
+    for (const Element& box : browser.Document().GetElementsByName(u"request"_s))
+        if (box.HasAttribute(u"mode"_s)) {
+            EXPECT_FALSE(box.GetAttribute(u"checked"_s).isEmpty());
+            expected += u"accepted 900001 "_s + box.GetAttribute(u"mode"_s).section(u',', 1, 1);
+        }
+    for (const qsizetype accepted : {1, 2, 3}) {
+        EXPECT_TRUE(Press(u"accept"_s));
+        Settle(4900);
+        EXPECT_EQ(Text().count(u"is now your friend"_s), accepted - 1);
+        Settle(200);
+        EXPECT_EQ(Text().count(u"is now your friend"_s), accepted);
+    }
+    EXPECT_FALSE(Press(u"accept"_s));
+    EXPECT_EQ(Arrived(), expected);
+}
+
+TEST_F(SimulatedForms, WhoeverIsTickedIsAcceptedByTheScriptOfTheOlderPage) {
+    Control(u"incoming 900001 26"_s);
+    Open(u"http://messaging.myspace.example.com/index.cfm?fuseaction=mail.friendRequestsV3&viewall=1"_s);
+    for (const Element& link : browser.Document().Links())
+        if (link.Href().contains(u"javascript: requestlist.GoToPage('2',"_s)) {
+            link.Click();
+            break;
+        }
+    Settle();
+    EXPECT_TRUE(Text().contains(u"Listing 26-26 of 26"_s));
+    ById(u"chktop"_s).Click();
+    browser.Navigate(u"Javascript: function bla(){requestlist.ProcessMultiAction('approve');}; bla()"_s);
+    Settle();
+    EXPECT_EQ(Arrived().size(), 1);
+    EXPECT_TRUE(Text().contains(u"is now your friend"_s));
+    EXPECT_TRUE(Text().contains(u"Listing 1-25 of 25"_s));
+}
+
+TEST_F(SimulatedForms, ARequestIsDeniedInPlaceOnTheOlderPage) {
+    Control(u"incoming 900001 1"_s);
+    Open(u"http://messaging.myspace.example.com/index.cfm?fuseaction=mail.friendRequestsV3&viewall=1"_s);
+    for (const Element& span : browser.Document().GetElementsByTagName(u"span"_s))
+        if (span.InnerText() == u"Deny") {
+            span.Click();
+            break;
+        }
+    Settle(400);
+    EXPECT_TRUE(Text().contains(u"You have denied a friend request from"_s));
+    EXPECT_EQ(Arrived().size(), 1);
+}
+
+TEST_F(SimulatedForms, TheLastPageOfTheNewerListIsALinkAway) {
+    Control(u"incoming 900001 60"_s);
+    Open(u"http://www.myspace.example.com/my/requests/friendrequest?viewall=1"_s);
+    for (const Element& link : browser.Document().Links())
+        if (link.Href().contains(u"pagingNavigation1$LastRecordDirectPageLinkButton"_s)) {
+            EXPECT_EQ(link.InnerText(), u"3"_s);
+            link.Click();
+            break;
+        }
+    Settle();
+    EXPECT_TRUE(Text().contains(u"Listing 51-60 of 60"_s));
+}
+
+TEST_F(SimulatedForms, PendingRequestsAreTakenBackOnTheDesktopPage) {
+    Control(u"sent-requests 900001 2"_s);
+    Open(u"http://messaging.myspace.example.com/index.cfm?fuseaction=mail.pendingFriendRequests"_s);
+    EXPECT_TRUE(Text().contains(u"Cancel Request"_s));
+    ById(u"chktop"_s).Click();
+    ById(u"spancanceltop"_s).Click();
+    Settle();
+    EXPECT_TRUE(Text().contains(u"Your sent request has been cancelled"_s));
+    EXPECT_EQ(Arrived().size(), 2);
+}
+
+TEST_F(SimulatedForms, ASentRequestIsTakenBackOnTheMobilePages) {
+    Control(u"sent-requests 900001 1"_s);
+    Open(u"http://m.myspace.example.com/signout.wap?bfd=offdeck"_s);
+    ById(u"emailTextBox"_s).SetInnerText(u"a@example.com"_s);
+    ById(u"passwordTextBox"_s).SetInnerText(u"secret"_s);
+    ById(u"loginCommand"_s).Click();
+    Settle();
+    EXPECT_TRUE(Text().contains(u"My Profile"_s));
+    Open(u"http://m.myspace.example.com/messaging/sentrequests.wap?bfd=offdeck"_s);
+    for (const Element& link : browser.Document().Links())
+        if (link.Href().contains(u"pvm="_s)) {
+            link.Click();
+            break;
+        }
+    Settle();
+    ClickLink(u"Cancel Request"_s);
+    Settle();
+    EXPECT_TRUE(Text().contains(u"Are you sure you want to cancel"_s));
+    EXPECT_TRUE(Press(u"ok"_s));
+    Settle();
+    EXPECT_TRUE(Text().contains(u"There are 0 sent requests"_s));
+    EXPECT_EQ(Arrived().size(), 1);
+    Open(u"http://www.myspace.example.com/"_s);
+    EXPECT_TRUE(Text().contains(u"Sign Out"_s));
 }
 
 } // namespace qlm
