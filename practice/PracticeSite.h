@@ -84,8 +84,8 @@ struct World;
 ///     bulletin-limit N|off, status-limit N|off            as for messages
 ///     bulletins ID COUNT, statuses ID COUNT    what that account has posted so far
 ///     incoming ID COUNT              so many of the crowd have asked that account
-///     accept-outcome REQUESTER OUTCOME     what becomes of accepting them: accepted, slow, error (the request is
-///                                    lost), stays (it fails and waits on), never (no answer comes)
+///     accept-outcome REQUESTER OUTCOME     what becomes of accepting them: accepted, slow, error (the
+///                                    request is lost), stays (it fails and waits on), never (no answer)
 ///     accept-share OUTCOME PERCENT   the same for so many
 ///     request-list ID|all LIST|off   newer, older, older-second, no-buttons, older-no-buttons, no-numbers,
 ///                                    no-last, older-no-last
