@@ -122,6 +122,7 @@ Next Commenter::DecideFilter() {
     }
     // Unlike the direct way, this one uses the new address on both layouts.
     state.intComStep = CommentStep::Submit;
+    m_app.WebBrowser1().Navigate(u"about:blank"_s);
     m_app.WebBrowser1().Navigate(m_app.Expand(u"{SiteRootHost}/"_s) + state.strCurrentID + u"/comments"_s);
     Await(u"Button"_s, u"post"_s);
     return Next::Wait;

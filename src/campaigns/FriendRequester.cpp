@@ -163,6 +163,8 @@ Next FriendRequester::DecideFilter() {
     // Unlike the direct way, this one uses the new address on both layouts.
     state.intFRStep = FriendStep::Submit;
     Await(u"Text"_s, u"Request Sent!"_s);
+    // Whoever takes the browser while the page is on its way has to come back to it, not to the profile.
+    m_app.WebBrowser1().Navigate(u"about:blank"_s);
     m_app.WebBrowser1().Navigate(m_app.Expand(u"{SiteRootHost}/my/friends/addtofriends/"_s) +
                                  state.strCurrentID);
     m_app.timers->tmrCheckLinkLoaded.Restart();
@@ -223,6 +225,8 @@ Next FriendRequester::SendMessageAfter() {
     const QString page = state.blnNewLayout
                              ? u"{SiteRootHost}/my/mail/new?t="_s
                              : u"{MessagingHost}/index.cfm?fuseaction=mail.message&friendID="_s;
+    // Who comes back while the page is on its way must not ask for the request's once more.
+    m_app.WebBrowser1().Navigate(u"about:blank"_s);
     m_app.WebBrowser1().Navigate(m_app.Expand(page) + state.strCurrentID);
     m_app.timers->tmrCheckLinkLoaded.Restart();
     return Next::Wait;

@@ -129,6 +129,7 @@ Next Messenger::DecideFilter() {
     }
     // Unlike the direct way, this one uses the new address on both layouts.
     state.intMsgStep = MessageStep::Submit;
+    m_app.WebBrowser1().Navigate(u"about:blank"_s);
     m_app.WebBrowser1().Navigate(m_app.Expand(NewComposePage) + state.strCurrentID);
     Await(u"Button"_s, u"send"_s);
     return Next::Wait;
