@@ -53,6 +53,7 @@ private:
     QString NameOfRequest(const QString& id);
     void PrepareOldList();
     void DenyVanished();
+    void Deny(const Element& deny);
     void StopWithMessage(const QString& message);
 
     App& m_app;

@@ -149,28 +149,32 @@ void AcceptFriends::PrepareOldList() {
     m_app.waiting.LeaveIfObsolete();
 }
 
-// Each denial changes the page, so that it is read anew.
+// Who has been denied may go on standing there, so that the page is gone through once as it was; it is read
+// anew only where a denial has brought another one.
 void AcceptFriends::DenyVanished() {
-    const qsizetype most =
-        static_cast<qsizetype>(m_app.WebBrowser1().Document().GetElementsByTagName(u"span"_s).size());
-    for (qsizetype denied = 0; denied < most; ++denied) {
-        const Element deny = FindDenyOfVanished(m_app.WebBrowser1().Document());
-        if (!deny)
-            return;
-        RunReport& report = m_app.Get<RunReport>();
-        report.Open(u"A profile that no longer exists"_s);
-        const QString before = m_app.WebBrowser1().Document().BodyHTML();
-        deny.Click();
-        const bool isAnswered = m_app.waiting.WaitWhile(
-            [this] {
-                return !m_app.Get<PageSigns>().IsTextInPage(u"you have denied a friend request from"_s);
-            },
-            DenialSeconds);
-        report.Close(isAnswered ? ReportResult::Denied : ReportResult::Unfinished,
-                     isAnswered ? QString() : u"The site gave no answer in 10 seconds"_s);
-        if (!isAnswered && m_app.WebBrowser1().Document().BodyHTML() == before)
-            return;
+    Document page = m_app.WebBrowser1().Document();
+    std::vector<Element> denies = FindDeniesOfVanished(page);
+    for (size_t left = denies.size(), at = 0; left > 0 && at < denies.size(); --left) {
+        Deny(denies[at++]);
+        if (page.IsPresent())
+            continue;
+        m_app.Get<PageSigns>().WaitForDocument();
+        page = m_app.WebBrowser1().Document();
+        denies = FindDeniesOfVanished(page);
+        at = 0;
     }
+}
+
+void AcceptFriends::Deny(const Element& deny) {
+    RunReport& report = m_app.Get<RunReport>();
+    report.Open(u"A profile that no longer exists"_s);
+    const QString denied = u"you have denied a friend request from"_s;
+    const qint16 before = CountOnPage(m_app, denied);
+    deny.Click();
+    const bool isAnswered =
+        m_app.waiting.WaitWhile([&] { return CountOnPage(m_app, denied) <= before; }, DenialSeconds);
+    report.Close(isAnswered ? ReportResult::Denied : ReportResult::Unfinished,
+                 isAnswered ? QString() : u"The site gave no answer in 10 seconds"_s);
 }
 
 QStringList AcceptFriends::TickOldBoxes() {

@@ -74,16 +74,19 @@ bool HasApproveButton(const Document& page) {
                        [](const Element& input) { return Has(input.Name(), u"approvesbutton"_s); });
 }
 
-Element FindDenyOfVanished(const Document& page) {
+std::vector<Element> FindDeniesOfVanished(const Document& page) {
+    std::vector<Element> denies;
     bool isArmed = false;
     for (const Element& span : page.GetElementsByTagName(u"span"_s)) {
         const QString text = InLowerCase(span);
         if (text == u"this profile no longer exists")
             isArmed = true;
-        else if (isArmed && text == u"deny")
-            return span;
+        else if (isArmed && text == u"deny") {
+            denies.push_back(span);
+            isArmed = false;
+        }
     }
-    return {};
+    return denies;
 }
 
 } // namespace qlm

@@ -30,7 +30,8 @@ bool IsAcceptButton(const Element& button);
 // Older layout: the page has what approves the ticked ones.
 bool HasApproveButton(const Document& page);
 
-// The next span that denies the request of somebody whose profile is gone; null where there is none.
-Element FindDenyOfVanished(const Document& page);
+// The spans that deny the requests of those whose profiles are gone, and nobody else's: each is the next one
+// after the words that say so.
+std::vector<Element> FindDeniesOfVanished(const Document& page);
 
 } // namespace qlm
