@@ -74,11 +74,10 @@ void ApplyLook(QApplication& application) {
     if (QApplication::style()->name() == u"fusion"_s)
         QApplication::setStyle(new FramedOnDark);
     // A desktop may name its colours for texts without one for what an empty field says.
-    const QPalette desktop = QApplication::palette();
-    QPalette hints;
-    hints.setColor(QPalette::PlaceholderText,
-                   Between(desktop.color(QPalette::Text), desktop.color(QPalette::Base), 0.4));
-    QApplication::setPalette(hints);
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::PlaceholderText,
+                     Between(palette.color(QPalette::Text), palette.color(QPalette::Base), 0.4));
+    QApplication::setPalette(palette);
     QFile sheet(u":/window.qss"_s);
     if (sheet.open(QIODevice::ReadOnly))
         application.setStyleSheet(WithColours(QString::fromUtf8(sheet.readAll()), QApplication::palette()));
