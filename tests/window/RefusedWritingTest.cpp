@@ -2,6 +2,8 @@
 // Messages and comments that the site doesn't take, on the real engine.
 #include "Writing.h"
 
+#include <span>
+
 namespace qlm {
 
 // No button of these pages wakes up by the wall's clock.
@@ -10,6 +12,94 @@ protected:
     static void SetUpTestSuite() { program = std::make_unique<GatheringProgram>(2 * ClockRate); }
     void TearDown() override { program->site.Tell(u"mail 900001 on"_s); }
 };
+
+namespace {
+
+struct Answered {
+    const char16_t* answer;
+    bool arrives;
+    bool isLogged; // its line is written at the press
+    const char16_t* report;
+};
+
+constexpr Answered MessageAnswers[] = {
+    {u"cannot", false, false, u"Failed, class 4: Messages to this person are not allowed"},
+    {u"friends-only", false, false, u"Failed, class 22: Only friends may write to this person"},
+    {u"only-friends", false, false, u"Failed, class 22: Only friends may write to this person"},
+    {u"maintenance", false, false, u"Failed, class 20: The site's mail is under maintenance"},
+    {u"away", false, true, u"Failed, class 23: Has an away message"},
+    {u"error", false, true, u"Failed, class 21: The site could not send"},
+    {u"process-error", false, true, u"Failed, class 25: The site could not process the request"},
+    {u"home", false, true, u"Failed: The site did not confirm it"},
+    {u"sent", true, true, u"Sent"},
+};
+
+constexpr Answered OlderCommentAnswers[] = {
+    {u"friends-only", false, false, u"Failed, class 15: Only friends may comment on this profile"},
+    {u"private", false, false, u"Failed, class 16: The profile is private"},
+    {u"approval", true, true, u"Sent"},
+    {u"approval-alone", true, true, u"Sent"},
+    {u"no-html", false, false, u"Failed: The profile takes no HTML in comments"},
+    {u"posted", true, true, u"Sent"},
+};
+
+constexpr Answered NewerCommentAnswers[] = {
+    {u"friends-only", false, false, u"Failed: Only friends may comment on this profile"},
+    {u"private", false, false, u"Failed, class 16: The profile is private"},
+    {u"unable", false, false, u"Failed: The site could not add the comment"},
+    {u"approval", true, true, u"Sent"},
+    {u"no-html", true, true, u"Sent"},
+    {u"posted", true, true, u"Sent"},
+};
+
+} // namespace
+
+// Whoever comes after them all takes everything.
+TEST_F(RefusedWriting, EachAnswerToAMessageIsToldAsWhatItIs) {
+    qint64 target = 100301;
+    for (const bool newLayout : {false, true}) {
+        SCOPED_TRACE(newLayout);
+        QList<qint64> targets;
+        QStringList arrives, report, logged;
+        for (const Answered& row : MessageAnswers) {
+            const QString id = QString::number(target);
+            program->site.Tell(u"compose %1 %2"_s.arg(id, newLayout ? u"source"_s : u"mailbody"_s));
+            program->site.Tell(u"message-outcome %1 %2"_s.arg(id, QString::fromUtf16(row.answer)));
+            report += QString::fromUtf16(row.report);
+            logged += row.isLogged ? QStringList{id} : QStringList();
+            arrives += row.arrives ? QStringList{Message(target)} : QStringList();
+            targets += target++;
+        }
+        EXPECT_EQ(Send(Messages, targets, newLayout), arrives);
+        EXPECT_TRUE(isInTime);
+        EXPECT_EQ(Report(Messages), report);
+        EXPECT_EQ(Logged(Messages), logged);
+    }
+}
+
+TEST_F(RefusedWriting, EachAnswerToACommentIsToldAsWhatItIs) {
+    qint64 target = 100401;
+    for (const bool newLayout : {false, true}) {
+        SCOPED_TRACE(newLayout);
+        const std::span<const Answered> rows =
+            newLayout ? std::span<const Answered>(NewerCommentAnswers) : OlderCommentAnswers;
+        QList<qint64> targets;
+        QStringList arrives, report, logged;
+        for (const Answered& row : rows) {
+            const QString id = QString::number(target);
+            program->site.Tell(u"comment-form %1 %2"_s.arg(id, newLayout ? u"box"_s : u"plain"_s));
+            program->site.Tell(u"comment-outcome %1 %2"_s.arg(id, QString::fromUtf16(row.answer)));
+            report += QString::fromUtf16(row.report);
+            logged += row.isLogged ? QStringList{id} : QStringList();
+            arrives += row.arrives ? QStringList{Comment(target)} : QStringList();
+            targets += target++;
+        }
+        EXPECT_EQ(Send(Comments, targets, newLayout), arrives);
+        EXPECT_TRUE(isInTime);
+        EXPECT_EQ(Report(Comments), report);
+        EXPECT_EQ(Logged(Comments), logged);
+    }
+}
 
 // The older page alone says so; whoever comes after it is not written to.
 TEST_F(RefusedWriting, AFloodEndsTheRun) {
