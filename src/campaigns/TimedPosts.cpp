@@ -148,6 +148,7 @@ void TimedPosts::Failed(const QString& why) {
     m_app.Get<RunReport>().Close(ReportResult::Failed, why);
     m_isReported = false;
     WaitForNext();
+    TellMinutes("Not posted");
 }
 
 bool TimedPosts::IsLast() const {
@@ -163,7 +164,7 @@ void TimedPosts::WaitForNext() {
     state.*m_campaign.activity.waits = true;
     Clock().Restart();
     m_app.controls.SetVisible(m_timing.busyLabel, true);
-    TellMinutes();
+    TellMinutes(m_timing.posted);
     ShowDue();
     m_app.Get<RunReport>().Rest();
 }
@@ -203,7 +204,7 @@ void TimedPosts::Tick() {
     link.SetEnabled(false);
     ++(state.*m_timing.elapsed);
     if (m_timing.tellsEachMinute)
-        TellMinutes();
+        TellMinutes(m_timing.posted);
     ShowDue();
     link.SetEnabled(linkTimer);
     if (MinutesLeft() > 0 || !m_app.Get<Lending>().MayTake())
@@ -222,10 +223,9 @@ qint32 TimedPosts::MinutesLeft() const {
     return std::max(m_app.state.*m_timing.drawn - m_app.state.*m_timing.elapsed, 0);
 }
 
-void TimedPosts::TellMinutes() {
+void TimedPosts::TellMinutes(const char* outcome) {
     const qint32 minutes = MinutesLeft();
-    m_app.SetStatus(QString::fromLatin1(m_timing.posted) + u", time delay active ("_s +
-                    QString::number(minutes) +
+    m_app.SetStatus(QString::fromLatin1(outcome) + u", time delay active ("_s + QString::number(minutes) +
                     (minutes == 1 ? u" minute remaining)..."_s : u" minutes remaining)..."_s));
 }
 

@@ -44,7 +44,7 @@ private:
     void Finish();
     void Repair(const char* from, bool all);
     void ShowDue();
-    void TellMinutes();
+    void TellMinutes(const char* outcome);
     qint32 MinutesLeft() const;
     QString NotePath() const;
     void TellOldNotes();
