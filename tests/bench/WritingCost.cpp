@@ -32,12 +32,17 @@ struct Case {
     const char16_t* form;
     int targets; // in a block
     int steps;   // of the program a target, each after its delay
+    int waitsMs; // that the program makes besides, before and after it presses
     // Run in the page one after the other, each until the page that it leads to has come.
     std::vector<const char16_t*> presses;
     const char16_t* answer;
 };
 
 #define BY_NAME u"const by = n => document.getElementsByName(n)[0] || document.getElementById(n);"
+// Looks as often as the program does.
+#define UNTIL                                                                                                \
+    u"const until = (isSo, act) => { const clock = setInterval(() => {"                                      \
+    u"if (isSo()) { clearInterval(clock); act(); } }, 10); };"
 #define PRESS(tag, caption)                                                                                  \
     u"[...document.getElementsByTagName("                                                                    \
     u"'" tag u"')].find(b => (b.value || b.innerText).trim().toLowerCase()"                                  \
@@ -51,6 +56,7 @@ const std::vector<Case>& Cases() {
          u"source",
          30,
          2,
+         0,
          {BY_NAME u"by('%1').value = 'Hi'; by('%2_editsource').firstElementChild.click();"
                   u"by('%2_editsourcearea').value = '%3';" PRESS(u"input", u"send")},
          u"Your message has been sent"},
@@ -60,14 +66,28 @@ const std::vector<Case>& Cases() {
          u"mailbody",
          30,
          2,
+         0,
          {BY_NAME u"by('%1').value = 'Hi'; by('%2').value = '%3';" PRESS(u"input", u"send")},
          u"Your message has been sent"},
+        {"a comment, new layout",
+         Comments,
+         true,
+         u"box",
+         5,
+         1,
+         4000,
+         {BY_NAME UNTIL u"const box = by('newComment'), hint = by('hint'); box.focus();"
+                        u"until(() => by('entry').classList.contains('absolute'), () => { box.value = '%3';"
+                        u"until(() => hint.style.display === 'none', () => {" PRESS(u"button",
+                                                                                    u"post") u"}) });"},
+         u"Your comment has been posted"},
         {"a comment, old layout",
          Comments,
          false,
          u"plain",
          30,
          3,
+         0,
          {BY_NAME u"by('%2').value = '%3';" PRESS(u"input", u"post a comment"),
           PRESS(u"input", u"post a comment")},
          u"Your comment has been posted"},
@@ -106,7 +126,9 @@ private:
     void VisitBare(const Case& each);
     void OnChange(const Control& control);
     void MakeBare();
-    bool IsIdle() const { return startedNs == 0 && !isBareBusy && page != nullptr; }
+    bool IsIdle() const {
+        return startedNs == 0 && program.driver.Messages().size() == runs && !isBareBusy && page != nullptr;
+    }
     QStringList NextTargets(int count);
     static QString AddressOf(const Case& each, const QString& id);
     static QString ScriptOf(const Case& each, size_t press);
@@ -119,6 +141,8 @@ private:
     const Case* running = nullptr;
     bool isBareBusy = false; // its loop lets the next step look
     long long startedNs = 0;
+    qsizetype runs = 0;
+    int targetsBefore = 0;
     qint64 callsBefore = 0;
     std::map<const Case*, Figures> figures;
 };
@@ -159,13 +183,16 @@ void WritingCost::Send(const Case& each) {
     folders.SaveList(NextTargets(each.targets));
     program.app.Get<GatheredList>().FillScannedList({}, true, false);
     callsBefore = program.app.WebBrowser1().EngineCalls();
+    targetsBefore = program.app.state.lngTargetNumber;
+    ++runs;
     startedNs = NowNs();
     program.app.commands.Run(QString::fromLatin1(each.campaign.send) + u"_Click"_s);
 }
 
-// The progress line is emptied at the very end of a run, before its report comes up.
+// The progress line is emptied at the very end of a run, before its report comes up, and before its start.
 void WritingCost::OnChange(const Control& control) {
-    if (control.name != "lblProgress"_L1 || !control.text.isEmpty() || startedNs == 0)
+    if (control.name != "lblProgress"_L1 || !control.text.isEmpty() || startedNs == 0 ||
+        program.app.state.lngTargetNumber == targetsBefore)
         return;
     const double ms = static_cast<double>(NowNs() - startedNs) / 1e6;
     const qint64 calls = program.app.WebBrowser1().EngineCalls() - callsBefore;
@@ -221,14 +248,15 @@ QString WritingCost::ScriptOf(const Case& each, size_t press) {
 }
 
 void WritingCost::Report() const {
-    std::printf("\n%d blocks each, per target, without the delays of %d ms before the steps:\n", Blocks,
-                StepDelayMs);
+    std::printf("\n%d blocks each, per target, without the delays of %d ms before the steps and the settling "
+                "waits:\n",
+                Blocks, StepDelayMs);
     for (const Case& each : Cases()) {
         Figures of = figures.at(&each);
         for (std::vector<double>* values : {&of.ofProgram, &of.ofBare, &of.calls})
             values->erase(values->begin());
         for (double& ms : of.ofProgram)
-            ms -= each.steps * StepDelayMs;
+            ms -= each.steps * StepDelayMs + each.waitsMs;
         std::printf("%s\n", each.name);
         PrintSpread("  the program", of.ofProgram, "ms");
         PrintSpread("  a bare page in a window", of.ofBare, "ms");
