@@ -75,11 +75,9 @@ void RequestJudge::AfterRequest(const QString& id, const QStringList& journal, c
                 Excuse(u"the site's answer was lost"_s);
             if (m_plan.redirects.contains(id))
                 Excuse(u"the site answered with its error page"_s);
-            // Or gave it up before, and it has been opened again since: then it may meet the limit all the
-            // same.
-            m_mayMeetLimit = m_givenUp.contains(id) ? id : QString();
-            if (!m_mayMeetLimit.isEmpty())
+            if (m_givenUp.contains(id))
                 Excuse(u"the user gave up while it was on its way"_s);
+            m_lastAsked = id;
         } else if (word == u"asked-again"_s) {
             ++m_askedAgain;
             Demand(m_excused.contains(id), id + u" was opened again although nothing came between"_s);
@@ -110,8 +108,9 @@ void RequestJudge::OnMessage(App& app, const QString& text) {
     ReadLog();
     if (text == u"Your specified limit has been reached"_s) {
         CheckLimit(app);
-        if (m_unlogged.isEmpty() && !m_mayMeetLimit.isEmpty())
-            m_unlogged.insert(m_mayMeetLimit);
+        // Its answer came all the same.
+        if (m_unlogged.isEmpty() && m_excused.contains(m_lastAsked) && !m_logged.contains(m_lastAsked))
+            m_unlogged.insert(m_lastAsked);
         Demand(m_unlogged.size() == 1, u"%1 instead of one stand beyond the limit"_s.arg(m_unlogged.size()));
         for (const QString& id : std::as_const(m_unlogged))
             if (IsNoted(id)) // otherwise the disk has refused it

@@ -31,7 +31,7 @@ private:
     QSet<QString> m_confirmed; // by a page that the program has looked at, and no disk refused to note it
     qint32 m_confirming = -1;  // number of the target that a page has just confirmed
     qint32 m_refused = -1;     // of one whose note the disk may have refused
-    QString m_mayMeetLimit;    // the last one that was asked, where the user had given it up
+    QString m_lastAsked;
     QSet<QString> m_givenUp;   // a request that was on its way may still come to the site
     int m_limitPagesInARow = 0;
     int m_skippedSeen = 0;
