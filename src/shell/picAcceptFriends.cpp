@@ -27,7 +27,10 @@ QGroupBox* FollowUpFrame(const Commands& commands) {
     column->addWidget(Named(new QRadioButton, "optAcceptDontSend"_L1));
     column->addLayout(NewChoiceRow(commands, "optAcceptSendMsg"_L1, {"picAccMsgPreview"_L1}));
     QLineEdit* subject = NewLine("txtAcceptSubject"_L1);
-    column->addLayout(NewRow({NewCaptionOf(*subject), subject}));
+    auto* line = new QHBoxLayout;
+    line->addWidget(NewCaptionOf(*subject));
+    line->addWidget(subject, 1);
+    column->addLayout(line);
     column->addLayout(NewReadText("txtAcceptMessage"_L1, LinesOfAText, "lblAccMsgReads"_L1), 1);
     column->addLayout(NewChoiceRow(commands, "optAcceptSendCom"_L1, {"picAccComPreview"_L1}));
     column->addLayout(NewReadText("txtAcceptComment"_L1, LinesOfAText, "lblAccComReads"_L1), 1);
