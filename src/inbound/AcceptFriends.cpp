@@ -175,7 +175,7 @@ void AcceptFriends::picCmdAutoApprove_Click() {
 // sent, is done waiting.
 void AcceptFriends::piccmdAccStop_Click() {
     RunState& state = m_app.state;
-    if (!state.AcceptStopRequested && state.intAccStep != 0) {
+    if (!state.AcceptStopRequested && state.intAccStep != AcceptStep::None) {
         state.AcceptStopRequested = true;
         return;
     }
@@ -304,7 +304,7 @@ Next AcceptFriends::HandOver(const Campaign& campaign, const QString& mark) {
         m_app.Get<GatherDriver>().SetMustNotHaveTexts();
     }
     state.blnCheckLog = m_app.controls.Ticked(campaign.checkLogBox);
-    state.intAccStep = 0;
+    state.intAccStep = AcceptStep::None;
     state.CurrentAction = campaign.Word();
     state.strAcceptMode = campaign.Word();
     state.*campaign.activity.step = campaign.firstStep;

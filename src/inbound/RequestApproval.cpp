@@ -49,7 +49,7 @@ Next AcceptFriends::ApproveFriendRequests() {
 }
 
 void AcceptFriends::StopWithMessage(const QString& message) {
-    m_app.state.intAccStep = 0;
+    m_app.state.intAccStep = AcceptStep::None;
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     m_app.SetStatus(u"Nothing more is accepted. Press Stop to end the run."_s);
     m_app.ShowMessage(message);
