@@ -330,4 +330,27 @@ TEST_F(MessageQueueTests, AHandlersErrorLeavesTheQueueUsable) {
     EXPECT_EQ(order, QStringList{u"tick"_s});
 }
 
+// What its handler runs is parked, and somebody else needs the timer meanwhile.
+TEST_F(MessageQueueTests, AnewATimerFiresInsideItsOwnHandler) {
+    int fired = 0;
+    std::optional<int> whileParked, afterwards;
+    Timer timer(queue, 100, true);
+    timer.SetHandler([&] {
+        if (++fired > 1)
+            return;
+        {
+            const Timer::Anew anew(timer);
+            Turn(100);
+            whileParked = fired;
+        }
+        Turn(100);
+        afterwards = fired;
+    });
+    Turn(100);
+    EXPECT_EQ(whileParked, 2);
+    EXPECT_EQ(afterwards, 2);
+    Turn(100);
+    EXPECT_EQ(fired, 3);
+}
+
 } // namespace qlm
