@@ -29,7 +29,7 @@ std::vector<ControlRow> FriendRequesterTab() {
             .Tip(u"Uses the message specified on the 'Auto Messenger' tab")
             .Kept("FriendRequest"),
         Box("chkFRAddToUpdates", u"Add to my friend u&pdates").Tip(TipOfThePage).Kept("FriendRequest"),
-        Line("txtDelPenFRStartPage", u"Sta&rt on page")
+        Line("txtDelPenFRStartPage", u"&First page")
             .Tip(u"The page of your sent requests to begin on")
             .Spoken(u"Page to begin on")
             .Hint(u"1")
@@ -49,7 +49,7 @@ std::vector<ControlRow> FriendRequesterTab() {
             .Begins()
             .Tip(u"Send a friend request to each ID in the gathered list"),
         Button("piccmdAddFriendsStop", u"S&top").Picture("SENDSTOP").Tip(u"Stop sending friend requests"),
-        Button("picDeletePendingRequests", u"Cancel pe&nding requests")
+        Button("picDeletePendingRequests", u"&Cancel pending requests")
             .Picture("REMOVEFRIENDS")
             .Begins()
             .Tip(u"Take back the friend requests that nobody has answered"),
