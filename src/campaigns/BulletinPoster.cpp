@@ -116,6 +116,8 @@ Next BulletinPoster::SubmitBulletin() {
     m_app.SetStatus(u"Waiting for bulletin page to finish loading..."_s);
     m_app.Get<PageSigns>().WaitForDocument();
     WaitUntilComplete();
+    if (IsOnSite() && !HasText())
+        return Next::Wait;
     if (IsOnSite())
         FillForm();
     // A stranger's page may have come in the waits of the form.
@@ -129,6 +131,18 @@ Next BulletinPoster::SubmitBulletin() {
     Await(BulletinStep::Posted, u"Text"_s, Confirmation);
     Diagnostics::IgnoreErrors([&button] { button.Click(); });
     return Next::Wait;
+}
+
+// Without one, as when the list has been emptied since the start, the post waits for its next minute: the
+// form would be opened again and again.
+bool BulletinPoster::HasText() {
+    const QString error = m_app.diagnostics.Trap("SubmitBulletin", [this] { m_posts.Text(); });
+    if (error.isEmpty())
+        return true;
+    m_app.state.intBulStep = BulletinStep::None;
+    m_posts.Failed(error);
+    m_posts.Return();
+    return false;
 }
 
 void BulletinPoster::FillForm() {

@@ -32,6 +32,7 @@ private:
     void DeleteBulletin();
     bool MustDeleteFirst() const;
     void OpenSourceView();
+    bool HasText();
     void FillForm();
     void WaitUntilComplete();
     bool IsOnSite();

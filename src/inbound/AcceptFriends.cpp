@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "inbound/AcceptFriends.h"
 
-#include "accounts/LoginFlow.h"
 #include "browser/Cover.h"
 #include "browser/PageSigns.h"
 #include "campaigns/Campaigns.h"
@@ -50,10 +49,6 @@ bool LacksMessage(App& app) {
            (IsBlank(app, "txtAcceptSubject"_L1) || IsBlank(app, "txtAcceptMessage"_L1));
 }
 
-bool LoginRuns(App& app) {
-    return app.state.CurrentAction == ActivityWord::Login && app.state.blnWaitForLoginFirst;
-}
-
 struct AcceptCheck {
     bool (*fails)(App&);
     const char16_t* message;
@@ -62,7 +57,6 @@ struct AcceptCheck {
 
 const std::vector<AcceptCheck>& Checks() {
     static const std::vector<AcceptCheck> rows{
-        {LoginRuns, u"Please wait for the login process to finish", {}},
         {LacksComment, u"Please enter a comment.", "txtAcceptComment"_L1},
         {LacksAlternative, u"Please enter an alternate non-HTML comment, or disable the setting.",
          "txtAcceptCommentNonHTML"_L1},
@@ -140,17 +134,15 @@ bool AcceptFriends::MayStart() {
         if (!check.fails(m_app))
             continue;
         m_app.ShowMessage(QString::fromUtf16(check.message));
-        if (!check.focus.isEmpty()) {
-            m_app.controls.SetEnabled(check.focus, true);
-            m_app.controls.SetFocus(check.focus);
-        }
+        m_app.controls.SetEnabled(check.focus, true);
+        m_app.controls.SetFocus(check.focus);
         return false;
     }
     return true;
 }
 
 void AcceptFriends::picCmdAutoApprove_Click() {
-    if (!MayStart())
+    if (m_app.Get<GatherDriver>().RefuseDuringLogin() || !MayStart())
         return;
     RunState& state = m_app.state;
     NeedNumber(m_app, "txtAcceptToPage"_L1);

@@ -8,6 +8,7 @@
 #include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/Text.h"
+#include "gather/GatherDriver.h"
 #include "inbound/InboundReports.h"
 #include "steps/RunReport.h"
 #include "steps/Steps.h"
@@ -53,10 +54,8 @@ PendingRequests::PendingRequests(App& app) : m_app(app) {
 
 void PendingRequests::picDeletePendingRequests_Click() {
     RunState& state = m_app.state;
-    if (state.CurrentAction == ActivityWord::Login && state.blnWaitForLoginFirst) {
-        m_app.ShowMessage(u"Please wait for the login process to finish"_s);
+    if (m_app.Get<GatherDriver>().RefuseDuringLogin())
         return;
-    }
     if (!IsNumeric(m_app.controls.Text("txtDelPenFRStartPage"_L1)))
         m_app.controls.SetText("txtDelPenFRStartPage"_L1, u"1"_s);
     m_app.Get<SendRuns>().ResetRun(ActivityWord::DeletingPending);
@@ -81,7 +80,14 @@ void PendingRequests::End() {
 void PendingRequests::ErrDeletePendingFRMOBILE() {
     Waiting::LeaveHere([this] {
         const Waiting::Owned owned(m_app.waiting);
-        m_app.diagnostics.Trap("ErrDeletePendingFRMOBILE", [this] { DeleteOnMobileSite(); });
+        const QString error =
+            m_app.diagnostics.Trap("ErrDeletePendingFRMOBILE", [this] { DeleteOnMobileSite(); });
+        if (error.isEmpty())
+            return;
+        // No tick would go on with it.
+        m_app.Get<StopResume>().StopAll(StopReason::PendingFailed);
+        m_app.SetStatus(u"Canceling pending requests has ended with an error: "_s + error);
+        m_app.Get<StopResume>().DoFinishedExit();
     });
 }
 

@@ -100,7 +100,9 @@ void AcceptFriends::TickBoxes() {
             Trace(u"APPROVE3 - CHECK BOX: "_s + box.OuterHTML());
             box.Click();
         }
-        if (const QString id = IdOfBox(box); !id.isEmpty())
+        const QString id = IdOfBox(box);
+        // Whoever stands there twice gets one message.
+        if (!id.isEmpty() && !m_app.controls.Items("lstAcceptIDs"_L1).contains(id))
             m_app.controls.AddItem("lstAcceptIDs"_L1, id);
     }
 }

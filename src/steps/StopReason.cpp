@@ -44,6 +44,7 @@ constexpr StopReasonRow Rows[] = {
     {StopReason::GatherStop, "GATHERSTOP"_L1, Ending::Stopped},
     {StopReason::StoppedInFilter, "IGP1"_L1, Ending::Other, true},
     {StopReason::GatherDone, "IGP2"_L1, Ending::AllDone, true},
+    {StopReason::PendingFailed, "IDPFR"_L1, Ending::Other, true},
     {StopReason::PagesRepeat, "LF2"_L1},
     {StopReason::LoginAgain, "LF2"_L1},
 };

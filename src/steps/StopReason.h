@@ -42,6 +42,7 @@ enum class StopReason {
     GatherStop,      // the Stop button of the gathering
     StoppedInFilter, // a stop was found at the return from the filters
     GatherDone,      // no next page
+    PendingFailed,   // an error has ended the canceling of pending requests
     PagesRepeat,     // the site shows no more than a thousand pages
     LoginAgain,      // the session was lost a second time on the way back to the list
 };

@@ -252,7 +252,7 @@ TEST_F(LendingTest, WhichStopsAreOwnEnds) {
                                       StopReason::CommentsDone, StopReason::AcceptDone,
                                       StopReason::PendingDone,  StopReason::RequestLimit,
                                       StopReason::LoginDone,    StopReason::StoppedInFilter,
-                                      StopReason::GatherDone};
+                                      StopReason::GatherDone,   StopReason::PendingFailed};
     for (int i = 0; i <= static_cast<int>(StopReason::LoginAgain); ++i) {
         const auto reason = static_cast<StopReason>(i);
         EXPECT_EQ(RowOf(reason).isOwnEnd, std::find(own.begin(), own.end(), reason) != own.end())
