@@ -15,16 +15,8 @@ const QString SemicolonWord = u"%cln%"_s;
 // The comment in front of its flag is looked for without the "=".
 const QString CommentEnd = u"&usenonhtml"_s;
 
-// Every marker begins with a "&", which is found sooner than letters of either case.
-qsizetype Find(const QString& text, const QString& marker) {
-    for (qsizetype at = text.indexOf(u'&'); at >= 0; at = text.indexOf(u'&', at + 1))
-        if (QStringView(text).sliced(at).startsWith(marker, Qt::CaseInsensitive))
-            return at;
-    return -1;
-}
-
 qsizetype Need(const QString& text, const QString& marker) {
-    const qsizetype place = Find(text, marker);
+    const qsizetype place = FindMarker(text, marker);
     if (place < 0)
         throw std::invalid_argument("Invalid procedure call or argument");
     return place;
@@ -40,6 +32,14 @@ ContentFields CommentOf(const QString& line) {
 }
 
 } // namespace
+
+// Every marker begins with a "&", which is found sooner than letters of either case.
+qsizetype FindMarker(const QString& text, const QString& marker) {
+    for (qsizetype at = text.indexOf(u'&'); at >= 0; at = text.indexOf(u'&', at + 1))
+        if (QStringView(text).sliced(at).startsWith(marker, Qt::CaseInsensitive))
+            return at;
+    return -1;
+}
 
 QString EscapeField(ContentKind kind, const QString& text) {
     QString escaped = text;
@@ -63,12 +63,12 @@ QString TextBehind(const QString& text, const QString& marker) {
 }
 
 QString FlagTextOf(const QString& line) {
-    const qsizetype place = Find(line, SelectedMarker);
+    const qsizetype place = FindMarker(line, SelectedMarker);
     return place < 0 ? SelectedFlag : line.mid(place);
 }
 
 QString WithoutFlag(const QString& line) {
-    return line.left(Find(line, SelectedMarker));
+    return line.left(FindMarker(line, SelectedMarker));
 }
 
 QString LineOf(ContentKind kind, const ContentFields& fields, const QString& flagText) {

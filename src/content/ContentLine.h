@@ -26,6 +26,9 @@ inline const QString NonHTMLMarker = QStringLiteral("&nonhtmlcomment=");
 inline const QString SelectedMarker = QStringLiteral("&Selected=");
 inline const QString SelectedFlag = QStringLiteral("&Selected=1");
 
+// Where the first such marker begins, or -1.
+qsizetype FindMarker(const QString& text, const QString& marker);
+
 // A field as it stands in the file. Of a message a lone line feed stays, which splits its line.
 QString EscapeField(ContentKind kind, const QString& text);
 QString UnescapeLine(const QString& line);

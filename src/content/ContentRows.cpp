@@ -28,7 +28,7 @@ QString FirstLineOf(const QString& text) {
 }
 
 bool Holds(const QString& line, const QString& marker) {
-    return line.contains(marker, Qt::CaseInsensitive);
+    return FindMarker(line, marker) >= 0;
 }
 
 // All that an entry holds, escapes undone; of a comment the alternative also where it isn't used.
@@ -94,7 +94,7 @@ const QString& RowMarkerOf(ContentKind kind) {
 }
 
 std::optional<QString> RowOf(ContentKind kind, const QString& line) {
-    const qsizetype end = line.indexOf(RowMarkerOf(kind), 0, Qt::CaseInsensitive);
+    const qsizetype end = FindMarker(line, RowMarkerOf(kind));
     if (end < 0)
         return std::nullopt;
     return HasSubject(kind) ? line.left(end) : FirstLineOf(line.left(end));

@@ -116,8 +116,9 @@ void ListScreens::StoreOrder() {
     m_app.Get<SettingsFields>().Sync();
 }
 
-void ListScreens::FillList() {
-    const QString error = m_app.diagnostics.Trap(m_screen->fillTag, [this] { ShowRows(m_list->Lines()); });
+void ListScreens::FillList(int chosenRow) {
+    const QString error =
+        m_app.diagnostics.Trap(m_screen->fillTag, [&] { ShowRows(m_list->Lines(), chosenRow); });
     if (error.isEmpty() || !*m_screen->clearOffer ||
         !m_app.AskYesNo(QString::fromUtf16(m_screen->clearOffer)))
         return;
@@ -126,7 +127,7 @@ void ListScreens::FillList() {
 }
 
 // A line without its marker is told of when all others show.
-void ListScreens::ShowRows(const QStringList& lines) {
+void ListScreens::ShowRows(const QStringList& lines, int chosenRow) {
     m_app.controls.SetItems(Box(), {});
     const FilledRows filled = RowsOf(m_list->Kind(), lines);
     QStringList texts;
@@ -138,7 +139,7 @@ void ListScreens::ShowRows(const QStringList& lines) {
     if (texts.isEmpty())
         texts.append(QString::fromUtf16(m_screen->placeholder) + u"..."_s);
     m_app.controls.SetItems(Box(), texts, ticks);
-    m_app.controls.SetSelected(Box(), 0);
+    m_app.controls.SetSelected(Box(), chosenRow);
     if (filled.brokenLine > 0)
         throw std::runtime_error("Line " + std::to_string(filled.brokenLine) + " of the list has no \"" +
                                  RowMarkerOf(m_list->Kind()).toStdString() + '"');
@@ -239,8 +240,7 @@ void ListScreens::Move(Direction direction) {
         QStringList lines = m_list->Lines();
         MoveRow(m_list->Kind(), lines, m_app.controls.SelectedText(Box()), direction);
         m_list->File().Rewrite(lines);
-        FillList();
-        m_app.controls.SetSelected(Box(), isUp ? row - 1 : row + 1);
+        FillList(isUp ? row - 1 : row + 1);
     });
 }
 
@@ -252,8 +252,7 @@ void ListScreens::Drop(int place) {
     QStringList lines = m_list->Lines();
     MoveRowTo(m_list->Kind(), lines, row, place);
     m_list->File().Rewrite(lines);
-    FillList();
-    m_app.controls.SetSelected(Box(), place);
+    FillList(place);
 }
 
 // Boxes show what the file says: of rows with one text the first is meant.

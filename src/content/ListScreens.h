@@ -23,8 +23,8 @@ private:
     void RestoreOrder();
     void StoreOrder();
     // FillBulletinsList and so on.
-    void FillList();
-    void ShowRows(const QStringList& lines);
+    void FillList(int chosenRow = 0);
+    void ShowRows(const QStringList& lines, int chosenRow);
     void FillDetails();
     void EnableMoves();
     bool IsNothingSelected() const;

@@ -27,9 +27,19 @@ char ToAnsiCode(char16_t character) {
     return found == UpperControls.end() ? '?' : static_cast<char>(0x80 + (found - UpperControls.begin()));
 }
 
+// Most text is, and needs no look at each character: it is the same in both.
+bool IsAscii(QStringView text) {
+    char16_t bits = 0;
+    for (const QChar character : text)
+        bits |= character.unicode();
+    return bits < 0x80;
+}
+
 } // namespace
 
 QByteArray ToAnsi(QStringView text) {
+    if (IsAscii(text))
+        return text.toLatin1();
     QByteArray bytes(text.size(), Qt::Uninitialized);
     char* out = bytes.data();
     for (qsizetype i = 0; i < text.size(); ++i) {
@@ -44,6 +54,8 @@ QByteArray ToAnsi(QStringView text) {
 
 QString FromAnsi(QByteArrayView bytes) {
     QString text = QString::fromLatin1(bytes);
+    if (IsAscii(QStringView(text)))
+        return text;
     for (QChar& character : text)
         if (const char16_t code = character.unicode(); code >= 0x80 && code < 0xA0)
             character = UpperControls[code - 0x80U];

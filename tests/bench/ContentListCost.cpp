@@ -14,6 +14,7 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QListView>
+#include <QListWidget>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <functional>
@@ -63,6 +64,7 @@ public:
         m_app->state.DataFolder = m_world.dataFolder;
         m_app->state.ErrorLogPath = m_app->DataFile(u"Error.log"_s);
         m_dialogs.Attach(*m_app, m_views);
+        ShowFirstWindow();
     }
     ~ContentListCost() { m_dialogs.Detach(); }
 
@@ -82,6 +84,15 @@ public:
     }
 
 private:
+    // The list is never the first window: what the first one pays for fonts and styles is not the list's.
+    static void ShowFirstWindow() {
+        QWidget window;
+        QListWidget list(&window);
+        list.addItem(u"text"_s);
+        window.show();
+        QApplication::processEvents();
+    }
+
     void Time(const std::string& name, const std::function<void()>& act) {
         QElapsedTimer timer;
         timer.start();
