@@ -138,7 +138,6 @@ void RestoreLines(QStringList& lines, const std::vector<RemovedLine>& removed) {
 }
 
 void MoveRow(ContentKind kind, QStringList& lines, const QString& row, Direction direction) {
-    DropBlankLines(lines);
     const std::vector<qsizetype> places = PlacesOfRows(kind, lines);
     const auto found =
         std::ranges::find_if(places, [&](qsizetype place) { return RowOf(kind, lines[place]) == row; });

@@ -519,9 +519,12 @@ TEST_F(ListScreensTest, ARewriteBetweenTwoPicksShiftsWhatTheNextOneFinds) {
 
 TEST_F(ListScreensTest, ASecondScreenDoesNotOpenOverTheFirst) {
     WithLetters(BulletinCase, u"AB"_s, [&] {
+        bool wasOpened = false;
+        dialogs.onModal[u"frmMessagesList"_s] = [&] { wasOpened = true; };
         Run(u"picMessanger.picEditList_Click"_s);
-        EXPECT_FALSE(dialogs.IsFormOpen(u"frmMessagesList"_s));
-        EXPECT_EQ(Rows(), u"A|B"_s);
+        EXPECT_FALSE(wasOpened);
+        Click(u"cmdMoveDown"_s); // of the first one
+        EXPECT_EQ(Rows(), u"B|A"_s);
     });
 }
 
