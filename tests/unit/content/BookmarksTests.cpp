@@ -202,4 +202,27 @@ TEST_F(BookmarksTest, LettersThatTheFileCannotHoldAreToldBeforeTheyAreLost) {
     EXPECT_FALSE(app->files.FileExists(Path()));
 }
 
+TEST_F(BookmarksTest, AChangeThatCannotBeWrittenIsReportedAndTheListStays) {
+    world.web.SetPage(u"http://www.example.com/"_s, u"<body>page</body>"_s);
+    Managing({u"a&Bookmark=1"_s, u"b&Bookmark=2"_s}, [&] {
+        world.gate.readOnlyFolders = {world.installationFolder};
+        Run("frmManageBookmarks.cmdMoveDown_Click");
+        Select(1);
+        Run("frmManageBookmarks.cmdMoveUp_Click");
+        dialogs.answers = {Answer::Yes};
+        Run("frmManageBookmarks.cmdDeleteBookmark_Click");
+        OnBookmark(u"c"_s, u"http://www.example.com/"_s);
+        Run("frmManageBookmarks.cmdAddBookmark_Click");
+        EXPECT_TRUE(stayedOpen);
+        EXPECT_EQ(Rows(), (QStringList{u"a"_s, u"b"_s}));
+        world.gate.readOnlyFolders.clear();
+    });
+    EXPECT_EQ(Lines(), (QStringList{u"a&Bookmark=1"_s, u"b&Bookmark=2"_s}));
+    const QString log = app->files.ReadLines(app->state.ErrorLogPath).join(u'\n');
+    for (const QString& procedure :
+         {u"MoveDown - frmManageBookmarks"_s, u"MoveUp - frmManageBookmarks"_s,
+          u"cmdDeleteBookmark_Click - frmManageBookmarks"_s, u"cmdSave_Click - frmBookmark"_s})
+        EXPECT_TRUE(log.contains(u"Proc: "_s + procedure)) << procedure.toStdString();
+}
+
 } // namespace qlm

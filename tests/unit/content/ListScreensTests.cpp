@@ -188,7 +188,7 @@ TEST_F(ListScreensTest, ABrokenLineIsReportedAndTheOthersShow) {
             EXPECT_EQ(Rows(), u"A|B"_s);
             EXPECT_EQ(Selected(), 0);
             EXPECT_TRUE(ErrorLog().contains(u"Proc: Fill"_s + each.items + u"List - "_s + each.tag));
-            EXPECT_TRUE(ErrorLog().contains(u"Line 2 of the list"_s));
+            EXPECT_TRUE(ErrorLog().contains(u"Line 2 of the list has no \"&"_s));
         });
     EXPECT_EQ(TakeMessages(),
               (QStringList{u"It seems that your bulletins list file may have become corrupted "

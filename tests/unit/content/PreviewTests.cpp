@@ -105,6 +105,7 @@ TEST_F(PreviewTest, WithoutItsTemplateTheBareTextShowsAndTheReasonIsLogged) {
     Show({}, u"<i>bare</i>"_s, Preview::As::Markup, [&] {
         EXPECT_EQ(Text().trimmed(), u"bare"_s);
         EXPECT_TRUE(ErrorLog().contains(u"Proc: Form_Load - frmPreview"_s));
+        EXPECT_TRUE(ErrorLog().contains(u"The template of the preview is missing: \""_s));
         EXPECT_TRUE(ErrorLog().contains(u"previewtemplateMSG.htm"_s));
     });
     Show({}, u"<i>bare</i>"_s, Preview::As::Text, [&] { EXPECT_EQ(Text().trimmed(), u"<i>bare</i>"_s); });
@@ -114,7 +115,7 @@ TEST_F(PreviewTest, ATemplateWithoutAPlaceCountsAsMissing) {
     app->files.WriteBytes(folder.filePath(Templates + u"/previewtemplateMSG.htm"_s), "<body>no place</body>");
     Show({}, u"bare"_s, Preview::As::Markup, [&] {
         EXPECT_EQ(Text().trimmed(), u"bare"_s);
-        EXPECT_TRUE(ErrorLog().contains(u"no place for the text"_s));
+        EXPECT_TRUE(ErrorLog().contains(u"The template of the preview has no place for the text: \""_s));
     });
 }
 
@@ -124,7 +125,8 @@ TEST_F(PreviewTest, ATemplateThatNeverLoadsIsGivenUpAndTheReasonLogged) {
     Show({}, u"<i>bare</i>"_s, Preview::As::Markup, [&] {
         EXPECT_EQ((world.clock.NowMs() - before) / 1000, 10);
         EXPECT_EQ(Text().trimmed(), u"bare"_s);
-        EXPECT_TRUE(ErrorLog().contains(u"did not load"_s)) << ErrorLog().toStdString();
+        EXPECT_TRUE(ErrorLog().contains(u"The page of the preview did not load: \""_s))
+            << ErrorLog().toStdString();
     });
 }
 
