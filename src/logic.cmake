@@ -171,6 +171,12 @@ add_library(quillmere_logic STATIC
     inbound/RequestApproval.cpp
     inbound/RequestList.cpp
 
+    maintenance/Backup.cpp
+    maintenance/BackupSet.cpp
+    maintenance/Restore.cpp
+    maintenance/RestoreCheck.cpp
+    maintenance/StagedFiles.cpp
+
     program/Activities.cpp
     program/GlobalSettings.cpp
     program/MainForm.cpp

@@ -22,9 +22,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Nothing of the program's is as big, and all of it would be in memory at once.
-constexpr qint64 LargestWhole = 256 * 1024 * 1024;
-
 mode_t ModeFor(Readers readers) {
     return readers == Readers::OwnerAlone ? 0600 : 0644;
 }
@@ -62,6 +59,17 @@ bool FileSystem::FileExists(const QString& path) const {
 
 bool FileSystem::FolderExists(const QString& path) const {
     return QFileInfo(path).isDir();
+}
+
+QStringList FileSystem::NamesIn(const QString& folder) const {
+    const auto wanted = QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot;
+    QStringList names;
+    for (const QFileInfo& entry : QDir(folder).entryInfoList(wanted, QDir::Name))
+        if (!entry.isDir())
+            names.append(entry.fileName());
+        else if (!entry.isSymLink())
+            names.append(entry.fileName() + u'/');
+    return names;
 }
 
 void FileSystem::Refuse(const QString& path) const {
@@ -257,6 +265,21 @@ void FileSystem::Replace(const QString& temporary, const QString& path) {
 
 void FileSystem::CopyFile(const QString& from, const QString& to, Readers readers) {
     WriteBytes(to, ReadBytes(from), readers);
+}
+
+void FileSystem::MoveFile(const QString& from, const QString& to) {
+    CreateFolder(QFileInfo(to).absolutePath());
+    Refuse(to);
+    Replace(from, to);
+}
+
+void FileSystem::DeleteFolder(const QString& path) {
+    if (!FolderExists(path))
+        return;
+    Refuse(path);
+    if (!QDir(path).removeRecursively())
+        throw FileError("Cannot delete the folder \"" + path.toStdString() + '"');
+    SyncFolderOf(path);
 }
 
 bool FileSystem::IsWritable(const QString& folder, const QString& testFileName) {

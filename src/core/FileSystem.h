@@ -34,6 +34,10 @@ class FileSystem {
 public:
     explicit FileSystem(WriteGate* gate = nullptr) : m_gate(gate) {}
 
+    // Nothing of the program's is as big, and all of it would be in memory at once: ReadBytes and ReadLines
+    // refuse it.
+    static constexpr qint64 LargestWhole = 256 * 1024 * 1024;
+
     bool FileExists(const QString& path) const;
     bool FolderExists(const QString& path) const;
     void CreateFolder(const QString& path);
@@ -44,6 +48,10 @@ public:
     // Creates the file anew, empty.
     void CreateFile(const QString& path, Readers readers = Readers::Everyone);
     void DeleteFile(const QString& path);
+
+    // What stands in a folder, in order: its ordinary files, and its folders with a "/" at the end. Links to
+    // folders are passed over. Nothing where there is no such folder.
+    QStringList NamesIn(const QString& folder) const;
 
     // All lines, for a file that may be written back: one of more than a megabyte is an error.
     QStringList ReadLines(const QString& path) const;
@@ -68,6 +76,11 @@ public:
     void WriteBytes(const QString& path, const QByteArray& bytes, Readers readers = Readers::Everyone);
     // Overwrites the target, whole or not at all.
     void CopyFile(const QString& from, const QString& to, Readers readers = Readers::Everyone);
+
+    // Takes the target's place, whole; both are on one file system.
+    void MoveFile(const QString& from, const QString& to);
+    // With all that is in it.
+    void DeleteFolder(const QString& path);
 
     // True when a file can be created and deleted in the folder.
     bool IsWritable(const QString& folder, const QString& testFileName);

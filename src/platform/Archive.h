@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <vector>
@@ -27,7 +28,7 @@ struct ArchiveEntry {
 };
 
 struct ArchiveFile {
-    QString name; // folders divided by "/"
+    QString name; // folders divided by "/"; with one at its end a folder that holds nothing
     QByteArray content;
 };
 
@@ -47,9 +48,11 @@ public:
     virtual ~Archive() = default;
     // Throws ArchiveError.
     virtual std::unique_ptr<ArchiveReader> Read(const QByteArray& bytes) = 0;
+    // How far the writing has come, in percent. What it throws ends the writing.
+    using Progress = std::function<void(int percent)>;
     // An archive of at least one file, in that order. Throws ArchiveError, also for a name that stands there
     // twice.
-    virtual QByteArray Write(const std::vector<ArchiveFile>& files) = 0;
+    virtual QByteArray Write(const std::vector<ArchiveFile>& files, const Progress& progress = {}) = 0;
 };
 
 } // namespace qlm

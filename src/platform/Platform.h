@@ -49,6 +49,8 @@ public:
     // The special folder of that number, with a trailing separator; the program asks for 28, local
     // application data.
     virtual QString SpecialFolderPath(int id) const = 0;
+    // Where what nobody needs for long is put.
+    virtual QString TemporaryFolder() const = 0;
     // Contents of deployment.ini.
     virtual QString DeploymentText() const = 0;
 };

@@ -35,6 +35,8 @@
 #include "gather/WebSearch.h"
 #include "inbound/AcceptFriends.h"
 #include "inbound/PendingRequests.h"
+#include "maintenance/Backup.h"
+#include "maintenance/Restore.h"
 #include "program/GlobalSettings.h"
 #include "program/MainForm.h"
 #include "program/StartUp.h"
@@ -107,6 +109,8 @@ void App::MakeFamilies() {
             campaign->makeMachine(m_families, *this);
     m_families.Make<AcceptFriends>(*this);
     m_families.Make<PendingRequests>(*this);
+    m_families.Make<Backup>(*this);
+    m_families.Make<Restore>(*this);
 }
 
 // What the floors below ask of those above.

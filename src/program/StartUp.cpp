@@ -5,6 +5,7 @@
 #include "core/App.h"
 #include "core/ProductServer.h"
 #include "core/Text.h"
+#include "maintenance/Restore.h"
 
 namespace qlm {
 
@@ -54,6 +55,7 @@ void StartUp::SettleFolders() {
     state.ProgramFolder = TestUserRights() ? m_app.platform.InstallationFolder() : state.DataFolder;
     state.ErrorLogPath = FileSystem::Join(state.DataFolder, u"Error.log"_s);
     Diagnostics::IgnoreErrors([this] { m_app.files.CreateFolder(m_app.state.DataFolder); });
+    m_app.Get<Restore>().FinishLast();
     Diagnostics::IgnoreErrors([this] { BringInstalledFiles(); });
     const QString logging =
         m_app.platform.Settings().GetSetting(u"General"_s, u"mnuEnableLogging"_s, u"False"_s);

@@ -47,6 +47,8 @@ constexpr MenuRow Rows[] = {
     {Kind::Menu, "", "mnuHelp"},
     {Kind::Tick, "mnuHelp", "mnuDisableBrowserSounds"},
     {Kind::Item, "mnuHelp", "mnuResetSettings"},
+    {Kind::Item, "mnuHelp", "mnuBackup"},
+    {Kind::Item, "mnuHelp", "mnuRestore"},
     {Kind::Item, "mnuHelp", "mnuSaveScreenshot"},
     {Kind::Tick, "mnuHelp", "mnuEnableLogging"},
     {Kind::Item, "mnuHelp", "mnuGoToQLMDataFolder"},

@@ -40,7 +40,6 @@ public:
     virtual BrowserControl& OtherBrowser() = 0;
     virtual qlm::Pump& Pump() = 0;
     virtual qlm::Http& Http() = 0;
-    virtual qlm::Archive& Archive() = 0;
     // Scripts of the pages run. Where they do not, attributes beside them stand in.
     virtual bool RunsScripts() const = 0;
 };

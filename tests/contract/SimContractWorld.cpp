@@ -39,7 +39,6 @@ public:
     BrowserControl& OtherBrowser() override { return m_platform.Browser(BrowserName::webHide); }
     qlm::Pump& Pump() override { return m_platform.Pump(); }
     qlm::Http& Http() override { return m_platform.Http(); }
-    qlm::Archive& Archive() override { return m_platform.Archive(); }
     bool RunsScripts() const override { return false; }
 
 private:

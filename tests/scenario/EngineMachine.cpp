@@ -36,6 +36,7 @@ public:
     qlm::WriteGate* WriteGate() override { return m_services.WriteGate(); }
     QString InstallationFolder() const override { return m_services.InstallationFolder(); }
     QString SpecialFolderPath(int id) const override { return m_services.SpecialFolderPath(id); }
+    QString TemporaryFolder() const override { return m_services.TemporaryFolder(); }
     QString DeploymentText() const override { return m_services.DeploymentText(); }
 
     QtBrowser& Browser(BrowserName name) override {

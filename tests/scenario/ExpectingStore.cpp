@@ -47,6 +47,16 @@ void Bytes(Stage& stage, Arguments& arguments) {
     ExpectText(u"the content of "_s + path, expected, QString::fromLatin1(ReadFile(path).toHex().toUpper()));
 }
 
+// The names in an archive, in order.
+void ArchiveNames(Stage& stage, Arguments& arguments) {
+    const QString path = stage.Path(arguments.Take("the path"));
+    const auto archive = stage.TheApp().platform.Archive().Read(ReadFile(path));
+    QStringList names;
+    for (const ArchiveEntry& entry : archive->Entries())
+        names.append(entry.name);
+    ExpectLines(QFileInfo(path).fileName(), arguments.TakeLines(), names);
+}
+
 QStringList DebugLines(Stage& stage, const QString& name) {
     const QString path = stage.Path(u"{DataFolder}/"_s + name);
     return QFile::exists(path) ? ReadLines(path) : QStringList();
@@ -93,6 +103,7 @@ const CommandRows& ExpectingStoreCommands() {
         {"expect file", "word word", File},
         {"expect no file", "word", NoFile},
         {"expect bytes", "word word *", Bytes},
+        {"expect archive", "word word", ArchiveNames},
         {"expect debug", "word word", Debug},
         {"expect no debug", "word word", NoDebug},
         {"expect setting", "word word word", Setting},

@@ -16,6 +16,8 @@ std::vector<ControlRow> Menus() {
         MenuItem("mnuManageBookmarks", u"&Manage Bookmarks..."),
         MenuItem("mnuHelp", u"&Help"),
         MenuItem("mnuResetSettings", u"&Reset Settings..."),
+        MenuItem("mnuBackup", u"&Backup..."),
+        MenuItem("mnuRestore", u"Res&tore..."),
         MenuItem("mnuSaveScreenshot", u"&Save screenshot and page source..."),
         MenuItem("mnuGoToQLMDataFolder", u"&Go to QLM Data Folder"),
         // Chaining. The items of the friend requests are stored without the activity's word.

@@ -108,4 +108,8 @@ QString QtPlatform::SpecialFolderPath(int id) const {
     return id == localApplicationData ? m_localDataFolder : QString();
 }
 
+QString QtPlatform::TemporaryFolder() const {
+    return QDir::tempPath();
+}
+
 } // namespace qlm

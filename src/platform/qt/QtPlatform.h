@@ -3,11 +3,11 @@
 
 #include "platform/Platform.h"
 #include "platform/qt/PracticeServer.h"
-#include "platform/qt/QtArchive.h"
 #include "platform/qt/QtBrowser.h"
 #include "platform/qt/QtDesktop.h"
 #include "platform/qt/QtHttp.h"
 #include "platform/qt/QtSettings.h"
+#include "platform/zip/ZipArchive.h"
 
 #include <functional>
 #include <map>
@@ -42,13 +42,14 @@ public:
     qlm::Shell& Shell() override { return m_shell; }
     QtAttention& Attention() override { return m_attention; }
     QtTray& Tray() override { return m_tray; }
-    QtArchive& Archive() override { return m_archive; }
+    ZipArchive& Archive() override { return m_archive; }
     qlm::Random& Random() override { return m_random; }
     qlm::Desktop& Desktop() override { return m_desktop; }
     QtBrowser& Browser(BrowserName name) override;
 
     QString InstallationFolder() const override { return m_installationFolder; }
     QString SpecialFolderPath(int id) const override;
+    QString TemporaryFolder() const override;
     QString DeploymentText() const override { return m_deploymentText; }
 
     // Where the program keeps its data in that folder of local application data; empty for the user's own.
@@ -79,7 +80,7 @@ private:
     QtShell m_shell;
     QtTray m_tray;
     QtAttention m_attention;
-    QtArchive m_archive;
+    ZipArchive m_archive;
     QtRandom m_random;
     QtDesktop m_desktop;
     // Pages must go before their profile.

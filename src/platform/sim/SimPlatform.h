@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/sim/SimArchive.h"
 #include "platform/sim/SimBrowser.h"
 #include "platform/sim/SimServices.h"
+#include "platform/zip/ZipArchive.h"
 
 #include <map>
 #include <memory>
@@ -37,13 +37,14 @@ public:
     SimShell& Shell() override { return m_shell; }
     SimAttention& Attention() override { return m_attention; }
     SimTray& Tray() override { return m_tray; }
-    SimArchive& Archive() override { return m_archive; }
+    ZipArchive& Archive() override { return m_archive; }
     SimRandom& Random() override { return m_world.random; }
     SimDesktop& Desktop() override { return m_desktop; }
     SimBrowser& Browser(BrowserName name) override;
     SimWriteGate* WriteGate() override { return &m_world.gate; }
     QString InstallationFolder() const override { return m_world.installationFolder; }
     QString SpecialFolderPath(int id) const override;
+    QString TemporaryFolder() const override { return m_world.dataFolder + QStringLiteral("/temp"); }
     QString DeploymentText() const override { return m_world.deploymentText; }
 
 private:
@@ -54,7 +55,7 @@ private:
     SimShell m_shell;
     SimAttention m_attention;
     SimTray m_tray;
-    SimArchive m_archive;
+    ZipArchive m_archive;
     SimDesktop m_desktop;
     std::map<BrowserName, std::unique_ptr<SimBrowser>> m_browsers;
 };

@@ -2,7 +2,6 @@
 #include "ContractWorld.h"
 #include "LoopbackServer.h"
 #include "platform/qt/EngineProfile.h"
-#include "platform/qt/QtArchive.h"
 #include "platform/qt/QtBrowser.h"
 #include "platform/qt/QtHttp.h"
 
@@ -80,7 +79,6 @@ public:
     BrowserControl& OtherBrowser() override { return *m_otherBrowser; }
     qlm::Pump& Pump() override { return m_pump; }
     qlm::Http& Http() override { return m_http; }
-    qlm::Archive& Archive() override { return m_archive; }
     bool RunsScripts() const override { return true; }
 
 private:
@@ -88,7 +86,6 @@ private:
 
     QtPump m_pump;
     QtHttp m_http{m_pump, silenceMs};
-    QtArchive m_archive;
     QObject m_profileOwner;
     QWebEngineProfile* m_profile;
     std::unique_ptr<QtBrowser> m_browser;

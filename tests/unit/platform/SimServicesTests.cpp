@@ -146,15 +146,6 @@ TEST(SimTrayTests, ADesktopMayHaveNoTray) {
     EXPECT_EQ(attention.calls, QStringList{u"note Quillmere: text"_s});
 }
 
-TEST(SimArchiveTests, AStrangersArchiveMayHoldAnything) {
-    SimArchive archive;
-    const auto read = archive.Read(SimArchive::Pack(
-        {{{u"l"_s, ArchiveEntry::Kind::Link, 3}, "abc"}, {{u"lie"_s, ArchiveEntry::Kind::File, 5}, "abc"}}));
-    EXPECT_EQ(read->Entries()[0].kind, ArchiveEntry::Kind::Link);
-    EXPECT_EQ(read->Content(0), "abc");
-    EXPECT_THROW(read->Content(1), ArchiveError);
-}
-
 TEST(SimRandomTests, AListIsRepeatedAndASeedIsFixed) {
     SimRandom random;
     SimRandom same;

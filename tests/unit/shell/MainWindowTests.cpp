@@ -281,7 +281,7 @@ TEST_F(MainWindowTest, EveryWayOfGatheringIsShown) {
 }
 
 TEST_F(MainWindowTest, OptionsWithoutEffectAreNotShown) {
-    EXPECT_EQ(Named<QObject>("mnuBackup"), nullptr);
+    EXPECT_EQ(Named<QObject>("mnuShowInfoBar"), nullptr);
 }
 
 } // namespace qlm

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "platform/qt/QtArchive.h"
+#include "platform/zip/ZipArchive.h"
+
+#include "platform/MessageQueue.h"
 
 #include <algorithm>
+#include <exception>
 #include <string>
 #include <zip.h>
 
@@ -126,7 +129,14 @@ private:
     std::vector<ArchiveEntry> m_entries;
 };
 
+void AddFolder(zip_t* archive, const QString& name) {
+    if (zip_dir_add(archive, name.toUtf8().constData(), ZIP_FL_ENC_UTF_8) < 0)
+        Fail(archive);
+}
+
 void Add(zip_t* archive, const ArchiveFile& file) {
+    if (file.name.endsWith(u'/'))
+        return AddFolder(archive, file.name);
     zip_source_t* source = zip_source_buffer(archive, file.content.constData(),
                                              static_cast<zip_uint64_t>(file.content.size()), 0);
     if (!source)
@@ -150,23 +160,61 @@ QByteArray BytesOf(zip_source_t* source) {
     return bytes;
 }
 
+// Tells how far the library has come. What is thrown on the way waits until the library has been left.
+class Watch {
+public:
+    Watch(zip_t* archive, const Archive::Progress& progress) : m_progress(progress) {
+        if (!progress)
+            return;
+        zip_register_progress_callback_with_state(archive, precision, Tell, nullptr, this);
+        zip_register_cancel_callback_with_state(archive, IsOver, nullptr, this);
+    }
+    void ThrowOn() const {
+        if (m_thrown)
+            std::rethrow_exception(m_thrown);
+    }
+
+private:
+    static constexpr double precision = 0.01;
+
+    static void Tell(zip_t*, double share, void* self) {
+        auto* watch = static_cast<Watch*>(self);
+        if (watch->m_thrown)
+            return;
+        try {
+            watch->m_progress(static_cast<int>(share * 100));
+        } catch (const ProgramEnding&) {
+            watch->m_thrown = std::current_exception();
+        } catch (const std::exception&) {
+            watch->m_thrown = std::current_exception();
+        }
+    }
+    static int IsOver(zip_t*, void* self) { return static_cast<Watch*>(self)->m_thrown ? 1 : 0; }
+
+    const Archive::Progress& m_progress;
+    std::exception_ptr m_thrown;
+};
+
 } // namespace
 
-std::unique_ptr<ArchiveReader> QtArchive::Read(const QByteArray& bytes) {
+std::unique_ptr<ArchiveReader> ZipArchive::Read(const QByteArray& bytes) {
     // The library takes nothing at all for an archive with nothing in it.
     if (bytes.isEmpty())
         throw ArchiveError("This is no archive");
     return std::make_unique<ZipReader>(bytes);
 }
 
-QByteArray QtArchive::Write(const std::vector<ArchiveFile>& files) {
+QByteArray ZipArchive::Write(const std::vector<ArchiveFile>& files, const Progress& progress) {
     if (files.empty())
         throw ArchiveError("There is nothing to put into the archive");
     const Source source = SourceOf({});
     OpenArchive archive = Open(source.get(), ZIP_TRUNCATE);
     for (const ArchiveFile& file : files)
         Add(archive.get(), file);
-    if (zip_close(archive.get()) != 0)
+    const Watch watch(archive.get(), progress);
+    const bool isWhole = zip_close(archive.get()) == 0;
+    watch.ThrowOn();
+    if (!isWhole)
         Fail(archive.get());
     // It has gone with its closing.
     (void)archive.release();

@@ -6,10 +6,10 @@
 namespace qlm {
 
 // ZIP files by libzip, in memory.
-class QtArchive final : public Archive {
+class ZipArchive final : public Archive {
 public:
     std::unique_ptr<ArchiveReader> Read(const QByteArray& bytes) override;
-    QByteArray Write(const std::vector<ArchiveFile>& files) override;
+    QByteArray Write(const std::vector<ArchiveFile>& files, const Progress& progress = {}) override;
 };
 
 } // namespace qlm
