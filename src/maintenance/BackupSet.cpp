@@ -91,7 +91,8 @@ void BackupSet::Add(const QString& name) {
 
 std::optional<BackupSet::Place> BackupSet::PlaceOf(const QString& entry) const {
     QString clean = entry;
-    const QStringList parts = clean.replace(u'\\', u'/').split(u'/', Qt::SkipEmptyParts);
+    QStringList parts = clean.replace(u'\\', u'/').split(u'/', Qt::SkipEmptyParts);
+    parts.removeAll(u"."_s);
     const bool isFolder = clean.endsWith(u'/');
     if (parts.isEmpty())
         return std::nullopt;

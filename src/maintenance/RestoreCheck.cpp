@@ -34,7 +34,9 @@ bool IsNeitherFileNorFolder(const ArchiveEntry& entry) {
 
 // As a system reads it that does not tell letter case apart.
 QString FoldedName(const QString& name) {
-    return Divided(name).split(u'/', Qt::SkipEmptyParts).join(u'/').toCaseFolded();
+    QStringList parts = Divided(name).split(u'/', Qt::SkipEmptyParts);
+    parts.removeAll(u"."_s);
+    return parts.join(u'/').toCaseFolded();
 }
 
 QString WhyNameIsRefused(const ArchiveEntry& entry, QSet<QString>& names) {

@@ -212,6 +212,7 @@ TEST_F(BackupTest, AnEntryGoesWhereTheProgramLooks) {
     EXPECT_EQ(place(u"accounts\\A@example.com\\OWN.txt"_s), u"ACCOUNTS/a@example.com/own.TXT"_s);
     EXPECT_EQ(place(u"accounts/new@example.com/messageslist.txt"_s),
               u"ACCOUNTS/new@example.com/MessagesList.txt"_s);
+    EXPECT_EQ(place(u"./friendslog.txt"_s), u"FriendsLog.txt"_s);
     EXPECT_EQ(place(u"Event Invite Logs/"_s), u"EVENT INVITE LOGS/"_s);
     EXPECT_EQ(place(u"ACCOUNTS/x@example.com/"_s), u"ACCOUNTS/x@example.com/"_s);
     for (const QString& stranger : {u"deployment.ini"_s, u"sub/FriendsLog.txt"_s, u"FriendsLog.txt/"_s,

@@ -38,7 +38,8 @@ TEST(RestoreCheck, LinksAndDevicesRefuseTheWholeArchive) {
 }
 
 TEST(RestoreCheck, NamesThatDifferInCapitalLettersAloneRefuseTheWholeArchive) {
-    for (const QString& twin : {u"friendslog.TXT"_s, u"FriendsLog.txt"_s, u"friendslog.txt/"_s})
+    for (const QString& twin :
+         {u"friendslog.TXT"_s, u"FriendsLog.txt"_s, u"friendslog.txt/"_s, u"./friendslog.txt"_s})
         EXPECT_EQ(WhyNot({{u"FriendsLog.txt"_s}, {twin}}),
                   u"two names in it are the same but for capital letters: \"%1\"."_s.arg(twin));
     EXPECT_FALSE(WhyNot({{u"ACCOUNTS/\u00c4.txt"_s}, {u"ACCOUNTS\\\u00e4.txt"_s}}).isEmpty());

@@ -101,7 +101,7 @@ TEST_F(RestoreFuzz, AHundredThousandDamagedArchivesAreReadOrRefused) {
 TEST_F(RestoreFuzz, NothingIsWrittenOutsideTheFolder) {
     const QByteArray whole = Ordinary();
     const QString archive = folder.filePath(u"some.qlm"_s);
-    for (int i = 0; i < 300; ++i) {
+    for (int i = 0; i < 100; ++i) {
         app->files.WriteBytes(archive, Damaged(whole));
         dialogs.answers = {Dialogs::Answer::Ok};
         dialogs.files.push_back(archive);

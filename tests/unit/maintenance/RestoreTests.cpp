@@ -15,6 +15,26 @@ const QString ClosingWords =
     u"Backup set successfully restored!\r\nQuillmere needs to be restarted for the new "
     "settings to take effect. The program will now close."_s;
 
+// FriendsLog.txt in small letters and a list of an account, as common tools pack them.
+constexpr auto ByInfoZip =
+    "UEsDBAoAAAAAAG6kdl14LTxfBgAAAAYAAAAOABwAZnJpZW5kc2xvZy50eHRVVAkAAxBSA2sQUgNrdXgLAAEEAAAAAAQAAAAA"
+    "MTAwMQ0KUEsDBAoAAAAAAG6kdl0AAAAAAAAAAAAAAAAJABwAQUNDT1VOVFMvVVQJAAMQUgNrEFIDa3V4CwABBAAAAAAEAAAA"
+    "AFBLAwQKAAAAAABupHZdAAAAAAAAAAAAAAAAFwAcAEFDQ09VTlRTL2FAZXhhbXBsZS5jb20vVVQJAAMQUgNrEFIDa3V4CwAB"
+    "BAAAAAAEAAAAAFBLAwQKAAAAAABupHZd9sFwlh0AAAAdAAAAJwAcAEFDQ09VTlRTL2FAZXhhbXBsZS5jb20vTWVzc2FnZXNM"
+    "aXN0LnR4dFVUCQADEFIDaxBSA2t1eAsAAQQAAAAABAAAAABIaSZNZXNzYWdlPUhlbGxvJlNlbGVjdGVkPTENClBLAQIeAwoA"
+    "AAAAAG6kdl14LTxfBgAAAAYAAAAOABgAAAAAAAEAAACkgQAAAABmcmllbmRzbG9nLnR4dFVUBQADEFIDa3V4CwABBAAAAAAE"
+    "AAAAAFBLAQIeAwoAAAAAAG6kdl0AAAAAAAAAAAAAAAAJABgAAAAAAAAAEADtQU4AAABBQ0NPVU5UUy9VVAUAAxBSA2t1eAsA"
+    "AQQAAAAABAAAAABQSwECHgMKAAAAAABupHZdAAAAAAAAAAAAAAAAFwAYAAAAAAAAABAA7UGRAAAAQUNDT1VOVFMvYUBleGFt"
+    "cGxlLmNvbS9VVAUAAxBSA2t1eAsAAQQAAAAABAAAAABQSwECHgMKAAAAAABupHZd9sFwlh0AAAAdAAAAJwAYAAAAAAABAAAA"
+    "pIHiAAAAQUNDT1VOVFMvYUBleGFtcGxlLmNvbS9NZXNzYWdlc0xpc3QudHh0VVQFAAMQUgNrdXgLAAEEAAAAAAQAAAAAUEsF"
+    "BgAAAAAEAAQAbQEAAGABAAAAAA==";
+constexpr auto ByPython =
+    "UEsDBBQAAAAIAG6kdl14LTxfCAAAAAYAAAAOAAAAZnJpZW5kc2xvZy50eHQzNDAw5OUCAFBLAwQUAAAACABupHZd9sFwlh8A"
+    "AAAdAAAAJwAAAEFDQ09VTlRTL2FAZXhhbXBsZS5jb20vTWVzc2FnZXNMaXN0LnR4dPPIVPNNLS5OTE+19UjNyclXC07NSU0u"
+    "SU2xNeTlAgBQSwECFAMUAAAACABupHZdeC08XwgAAAAGAAAADgAAAAAAAAAAAAAAgAEAAAAAZnJpZW5kc2xvZy50eHRQSwEC"
+    "FAMUAAAACABupHZd9sFwlh8AAAAdAAAAJwAAAAAAAAAAAAAAgAE0AAAAQUNDT1VOVFMvYUBleGFtcGxlLmNvbS9NZXNzYWdl"
+    "c0xpc3QudHh0UEsFBgAAAAACAAIAkQAAAJgAAAAAAA==";
+
 class RestoreTest : public SimulatedProgram {
 protected:
     QString In(const QString& name) const { return app->ProgramFile(name); }
@@ -61,6 +81,17 @@ TEST_F(RestoreTest, BringsTheFilesBackAndEndsTheProgramUnsaved) {
         struct stat status {};
         ASSERT_EQ(stat(In(name).toUtf8(), &status), 0);
         EXPECT_EQ(status.st_mode & 077, 0U) << name.toStdString();
+    }
+}
+
+TEST_F(RestoreTest, ArchivesOfOtherToolsComeBackToo) {
+    for (const char* made : {ByInfoZip, ByPython}) {
+        RestoreFrom(QByteArray::fromBase64(made));
+        EXPECT_EQ(Told(), u"Restored files: 2"_s);
+        EXPECT_EQ(Read(u"FriendsLog.txt"_s), "1001\r\n");
+        EXPECT_EQ(Read(u"ACCOUNTS/a@example.com/MessagesList.txt"_s), "Hi&Message=Hello&Selected=1\r\n");
+        dialogs.messages.clear();
+        app->files.WriteBytes(In(u"FriendsLog.txt"_s), "old");
     }
 }
 
