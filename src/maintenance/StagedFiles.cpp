@@ -30,10 +30,8 @@ void StagedFiles::Seal() {
 }
 
 void StagedFiles::Finish() {
-    if (m_files.FileExists(m_mark)) {
+    if (m_files.FileExists(m_mark))
         MoveAll({});
-        m_files.DeleteFile(m_mark);
-    }
     m_files.DeleteFolder(FileSystem::Join(m_folder, Stage));
 }
 

@@ -106,6 +106,13 @@ TEST_F(BackupTest, OfTwoNamesThatDifferInCapitalsTheProgramsOwnGoesInAndTheOther
                      u"Backup successful!"_s}));
 }
 
+TEST_F(BackupTest, ALinkToAFolderLeadsIntoNoCircle) {
+    Write(u"ACCOUNTS/a@example.com/x.txt"_s);
+    ASSERT_TRUE(QFile::link(In(u"ACCOUNTS"_s), In(u"ACCOUNTS/a@example.com/loop"_s)));
+    BackUp();
+    EXPECT_EQ(NamesInTarget(), QStringList{u"ACCOUNTS/a@example.com/x.txt"_s});
+}
+
 TEST_F(BackupTest, NothingChosenMakesNothing) {
     Write(u"FriendsLog.txt"_s);
     app->commands.Run(u"mnuBackup_Click"_s);
@@ -177,14 +184,19 @@ TEST_F(BackupTest, TheProgramsEndCallsItOff) {
 
 TEST_F(BackupTest, ASecondOneWaitsForTheFirst) {
     Write(u"FriendsLog.txt"_s);
+    app->SetStatus(u"Login successful!"_s);
+    QString status;
     Timer second(platform->Pump().Queue(), 1, false);
     second.SetHandler([&] {
         second.SetEnabled(false);
+        status = app->Status();
         app->commands.Run(u"mnuBackup_Click"_s);
     });
     second.Restart();
     BackUp();
     EXPECT_EQ(dialogs.fileDialogs.size(), 1);
+    EXPECT_TRUE(status.startsWith(u"Making the backup... "_s)) << status.toStdString();
+    EXPECT_EQ(app->Status(), u"Login successful!"_s);
     EXPECT_EQ(dialogs.Texts(), QStringList{u"Backup successful!"_s});
 }
 
@@ -199,6 +211,8 @@ TEST_F(BackupTest, LeftOversOfEarlierVersionsGo) {
 
 TEST_F(BackupTest, AnEntryGoesWhereTheProgramLooks) {
     Write(u"ACCOUNTS/a@example.com/own.TXT"_s);
+    Write(u"ACCOUNTS/B@example.com/x.txt"_s);
+    Write(u"ACCOUNTS/b@example.com/y.txt"_s);
     const BackupSet set(app->files, app->state.ProgramFolder);
     auto place = [&set](const QString& entry) {
         const auto found = set.PlaceOf(entry);
@@ -213,6 +227,7 @@ TEST_F(BackupTest, AnEntryGoesWhereTheProgramLooks) {
     EXPECT_EQ(place(u"accounts/new@example.com/messageslist.txt"_s),
               u"ACCOUNTS/new@example.com/MessagesList.txt"_s);
     EXPECT_EQ(place(u"./friendslog.txt"_s), u"FriendsLog.txt"_s);
+    EXPECT_EQ(place(u"ACCOUNTS/B@example.com/z.txt"_s), u"ACCOUNTS/B@example.com/z.txt"_s);
     EXPECT_EQ(place(u"Event Invite Logs/"_s), u"EVENT INVITE LOGS/"_s);
     EXPECT_EQ(place(u"ACCOUNTS/x@example.com/"_s), u"ACCOUNTS/x@example.com/"_s);
     for (const QString& stranger : {u"deployment.ini"_s, u"sub/FriendsLog.txt"_s, u"FriendsLog.txt/"_s,

@@ -155,6 +155,14 @@ TEST_F(RestoreTest, WhatCannotBeWrittenChangesNothing) {
     EXPECT_EQ(dialogs.Texts().last(), ClosingWords);
 }
 
+TEST_F(RestoreTest, WhatAnEarlierOneLeftUnfinishedIsNotTakenAlong) {
+    app->files.CreateFolder(In(u"Restoring/files"_s));
+    app->files.WriteBytes(In(u"Restoring/files/Gathered.txt"_s), "left");
+    RestoreFiles({{u"FriendsLog.txt"_s, "new"}});
+    EXPECT_EQ(Read(u"FriendsLog.txt"_s), "new");
+    EXPECT_FALSE(app->files.FileExists(In(u"Gathered.txt"_s)));
+}
+
 // A place that is taken by a folder: the rest stands, and the next start tries again.
 TEST_F(RestoreTest, WhatCannotTakeItsPlaceYetIsTold) {
     app->files.CreateFolder(In(u"Gathered.txt"_s));
