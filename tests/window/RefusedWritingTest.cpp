@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Messages and comments that the site doesn't take, on the real engine.
+// Messages and comments that the site doesn't take, or not at once, on the real engine.
 #include "Writing.h"
 
 #include <span>
@@ -10,7 +10,42 @@ namespace qlm {
 class RefusedWriting : public WritingTest {
 protected:
     static void SetUpTestSuite() { program = std::make_unique<GatheringProgram>(2 * ClockRate); }
-    void TearDown() override { program->site.Tell(u"mail 900001 on"_s); }
+
+    RefusedWriting() {
+        QObject::connect(&m_looks, &QTimer::timeout, &m_looks, [this] {
+            if (!IsIdle())
+                program->Act([this] { AnswerCaptcha(); });
+        });
+    }
+
+    void TearDown() override {
+        m_looks.stop();
+        Do([] {}); // what is still queued is done before
+        program->site.Tell(u"mail 900001 on"_s);
+    }
+
+    // The user types these into the pages that ask for a word, one into each, and sends them. Within the
+    // program's own waits nothing but a timer's turn comes.
+    void AnswerCaptchas(const QStringList& words) {
+        m_words = words;
+        m_looks.start(100);
+    }
+    qsizetype WordsLeft() const { return m_words.size(); }
+
+private:
+    void AnswerCaptcha() {
+        BrowserControl& browser = TheApp().WebBrowser1();
+        const Document page = browser.ReadyState() == 4 ? browser.Document() : Document();
+        const Element field = page ? page.GetElementById(u"captchaText"_s) : Element();
+        if (m_words.isEmpty() || !field || !field.Value().isEmpty() ||
+            TheApp().Status() != u"Waiting for user to enter and submit CAPTCHA..."_s)
+            return;
+        field.SetValue(m_words.takeFirst());
+        field.Submit();
+    }
+
+    QTimer m_looks;
+    QStringList m_words;
 };
 
 namespace {
@@ -122,6 +157,44 @@ TEST_F(RefusedWriting, AnAccountWithoutMailSendsNothing) {
         EXPECT_EQ(Report(Messages),
                   QStringList(2, u"Failed: The site wants you to set up your mail first"_s));
         EXPECT_EQ(Logged(Messages), QStringList());
+    }
+}
+
+TEST_F(RefusedWriting, AMessageArrivesOnceAfterAWrongWordAndTheRightOne) {
+    program->site.Tell(u"captcha-word zebra"_s);
+    qint64 target = 100701;
+    for (const bool newLayout : {false, true}) {
+        SCOPED_TRACE(newLayout);
+        program->site.Tell(u"compose %1 %2"_s.arg(target).arg(newLayout ? u"source"_s : u"mailbody"_s));
+        program->site.Tell(u"message-outcome %1 captcha"_s.arg(target));
+        AnswerCaptchas({u"wrong"_s, u"zebra"_s});
+        EXPECT_EQ(Send(Messages, {target, target + 1}, newLayout),
+                  (QStringList{Message(target), Message(target + 1)}));
+        EXPECT_TRUE(isInTime);
+        EXPECT_EQ(WordsLeft(), 0);
+        EXPECT_EQ(journal.filter(u"captcha-wrong"_s).size(), 1) << journal.join(u'\n').toStdString();
+        EXPECT_EQ(Report(Messages), (QStringList{u"Sent"_s, u"Sent"_s}));
+        EXPECT_EQ(Logged(Messages), (QStringList{QString::number(target), QString::number(target + 1)}));
+        target += 2;
+    }
+}
+
+TEST_F(RefusedWriting, ACommentArrivesOnceAfterAWrongWordAndTheRightOne) {
+    program->site.Tell(u"captcha-word zebra"_s);
+    qint64 target = 100801;
+    for (const bool newLayout : {false, true}) {
+        SCOPED_TRACE(newLayout);
+        program->site.Tell(u"comment-form %1 %2"_s.arg(target).arg(newLayout ? u"box"_s : u"plain"_s));
+        program->site.Tell(u"comment-outcome %1 captcha"_s.arg(target));
+        AnswerCaptchas({u"wrong"_s, u"zebra"_s});
+        EXPECT_EQ(Send(Comments, {target, target + 1}, newLayout),
+                  (QStringList{Comment(target), Comment(target + 1)}));
+        EXPECT_TRUE(isInTime);
+        EXPECT_EQ(WordsLeft(), 0);
+        EXPECT_EQ(journal.filter(u"captcha-wrong"_s).size(), 1) << journal.join(u'\n').toStdString();
+        EXPECT_EQ(Report(Comments), (QStringList{u"Sent"_s, u"Sent"_s}));
+        EXPECT_EQ(Logged(Comments), (QStringList{QString::number(target), QString::number(target + 1)}));
+        target += 2;
     }
 }
 
