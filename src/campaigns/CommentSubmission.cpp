@@ -51,7 +51,7 @@ std::optional<QString> Commenter::TextOfTarget() {
     }
     const bool refusesHTML = RefusesHTML(m_app);
     if (!m_target.comment)
-        m_target.comment = ChooseComment(m_app);
+        m_app.Get<SendRuns>().ChooseOrStop([this] { m_target.comment = ChooseComment(m_app); });
     const std::optional<QString> text = refusesHTML ? m_target.comment->nonHTML : m_target.comment->text;
     if (!text) {
         state.blnSkipCurrentID = true;

@@ -58,7 +58,7 @@ private:
         for (int index = 1; index <= m_lines; ++index)
             if (const QString line = At(index); IsSelected(line))
                 return line;
-        throw std::runtime_error("No entry of the list is selected");
+        throw NoEntrySelected();
     }
 
     App& m_app;

@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <optional>
+#include <stdexcept>
 
 namespace qlm {
 
@@ -17,8 +18,13 @@ struct SubjectAndBody {
     QString body;
 };
 
+// The list has been emptied, or its last tick taken away, since the run began.
+struct NoEntrySelected : std::runtime_error {
+    NoEntrySelected() : std::runtime_error("No entry of the list is selected") {}
+};
+
 // The next entry of the campaign's list, in order or by chance; moves the list's index on. Messages step by
-// two. Throws when no entry is selected, and when the index passes 16 bits.
+// two. Throws NoEntrySelected, and an error when the index passes 16 bits.
 QString PickContentLine(App& app, const Campaign& campaign);
 
 // Of a campaign without subject that is empty. The message after a friend request shares the messenger's list

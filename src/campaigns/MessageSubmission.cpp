@@ -80,8 +80,10 @@ bool Messenger::WaitForComposePage() {
 
 // Chosen once, however often the page is tried: the next line of the list is the next target's.
 const SubjectAndBody& Messenger::TextOfTarget() {
-    if (std::exchange(m_textOf, m_app.state.lngTargetNumber) != m_app.state.lngTargetNumber)
-        m_text = ChooseText(m_app, Messages);
+    const qint32 target = m_app.state.lngTargetNumber;
+    if (m_textOf != target)
+        m_app.Get<SendRuns>().ChooseOrStop([this] { m_text = ChooseText(m_app, Messages); });
+    m_textOf = target;
     return m_text;
 }
 

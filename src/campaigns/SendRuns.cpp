@@ -5,6 +5,7 @@
 #include "browser/Cover.h"
 #include "campaigns/Campaigns.h"
 #include "campaigns/ChainedStart.h"
+#include "campaigns/ContentChoice.h"
 #include "campaigns/Counters.h"
 #include "campaigns/SentLog.h"
 #include "core/ActivityWords.h"
@@ -246,6 +247,23 @@ bool SendRuns::NoteBeforeSend() {
         m_app.ShowMessage(u"Quillmere can't note whom it is about to send to, so somebody might get the same "
                           "twice. The run has been stopped."_s);
     return false;
+}
+
+void SendRuns::ChooseOrStop(const std::function<void()>& choose) {
+    try {
+        choose();
+    } catch (const NoEntrySelected&) {
+        StopWithoutText();
+    }
+}
+
+void SendRuns::StopWithoutText() {
+    const QString what = QString::fromLatin1(FindTargetCampaign(m_app.state.CurrentAction)->what);
+    m_app.Get<StopResume>().StopAll(StopReason::NoText);
+    if (!m_app.Get<StopResume>().DoFinishedExit())
+        m_app.ShowMessage(u"None of the "_s + what +
+                          u" in your list is selected any more. The run has been stopped."_s);
+    m_app.waiting.LeaveIfObsolete();
 }
 
 bool SendRuns::IsOnSite() {

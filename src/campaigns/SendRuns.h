@@ -5,6 +5,7 @@
 #include "campaigns/ReportDialog.h"
 
 #include <QString>
+#include <functional>
 
 namespace qlm {
 
@@ -34,6 +35,9 @@ public:
     // Notes strCurrentID beside the log, before a click that can't be taken back. False when the disk refuses
     // that: the run is stopped, since a message that nobody remembers may be sent twice.
     bool NoteBeforeSend();
+    // Chooses the text of the target. Where nothing in the list of texts is selected any more the run is
+    // over, and its step leaves by RunEnded.
+    void ChooseOrStop(const std::function<void()>& choose);
     // The page in WebBrowser1 is the site's own. Texts are typed into such pages alone: a stranger's may show
     // the same form.
     bool IsOnSite();
@@ -64,6 +68,7 @@ private:
     void Stop(const Campaign& campaign);
     void chkRemoveAfterSent_MouseDown();
     void ReturnToAccepting();
+    void StopWithoutText();
     bool Accepting() const;
     bool IsLogged();
     void ReportSkip();

@@ -38,6 +38,7 @@ EndRow RowFor(Ending ending, const ReportKind& kind) {
         {Ending::Closed, "The program was closed", Unfinished, "The program was closed"},
         {Ending::Uncounted, "The count of today could not be saved", Unfinished, ""},
         {Ending::Unnoted, "Whom to send to could not be noted", Unfinished, "It was not sent"},
+        {Ending::NoText, "No text in the list was selected any more", Unfinished, ""},
         {Ending::Flooding, "The site says that you are flooding comments", ReportResult::Failed,
          "The site takes no more comments for now"},
         {Ending::DailyLimit, "The site's daily limit was reached", ReportResult::Failed, ""},

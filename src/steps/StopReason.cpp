@@ -32,6 +32,7 @@ constexpr StopReasonRow Rows[] = {
     {StopReason::Closing, "FU"_L1, Ending::Closed},
     {StopReason::Uncounted, "UNCOUNTED"_L1, Ending::Uncounted},
     {StopReason::Unnoted, "UNNOTED"_L1, Ending::Unnoted},
+    {StopReason::NoText, "NOTEXT"_L1, Ending::NoText},
     {StopReason::Flooding, "0"_L1, Ending::Flooding},
     {StopReason::DailyLimit, "LF2"_L1, Ending::DailyLimit},
     {StopReason::NotEnglish, "LF1"_L1},

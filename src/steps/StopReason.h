@@ -30,6 +30,7 @@ enum class StopReason {
     Closing,     // the program ends
     Uncounted,   // the count of the day can't be saved
     Unnoted,     // who is about to be sent to can't be noted
+    NoText,      // nothing in the list of texts is selected any more
     Flooding,    // the site takes no more comments for now
     DailyLimit,  // the site lets the account send nothing more today
     NotEnglish,  // the site speaks another language
@@ -48,7 +49,18 @@ enum class StopReason {
 };
 
 // What a reason means to a run that is ended by it.
-enum class Ending { AllDone, LimitMet, Stopped, Closed, Uncounted, Unnoted, Flooding, DailyLimit, Other };
+enum class Ending {
+    AllDone,
+    LimitMet,
+    Stopped,
+    Closed,
+    Uncounted,
+    Unnoted,
+    NoText,
+    Flooding,
+    DailyLimit,
+    Other
+};
 
 struct StopReasonRow {
     StopReason reason;
