@@ -79,8 +79,10 @@ void FriendRequester::IterateAddFriends() {
         error = RunSteps(m_app, *this, Machine());
     while (IsBusyBrowser(error) && WaitForBusyBrowser());
     // The page is looked at again; an empty one for long repeats the step.
-    if (!error.isEmpty() && !IsBusyBrowser(error))
-        m_app.timers->tmrCheckLinkLoaded.Restart();
+    if (error.isEmpty() || IsBusyBrowser(error))
+        return;
+    m_app.state.blnLinkFound = false;
+    m_app.timers->tmrCheckLinkLoaded.Restart();
 }
 
 // False when the run has moved on or ended meanwhile.

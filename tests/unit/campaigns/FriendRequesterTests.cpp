@@ -84,6 +84,15 @@ TEST_F(FriendRequesterTest, AnotherErrorEndsTheStepAndTheEmptyPageRepeatsIt) {
     EXPECT_EQ(Log(), QStringList{u"1002"_s});
 }
 
+// The confirmation still stands there; it is found again, and the run goes on.
+TEST_F(FriendRequesterTest, AnErrorAfterTheConfirmationDoesNotHoldTheRunUp) {
+    FailAtStatus(u"Friend request successfully sent"_s, "Something else");
+    EXPECT_EQ(Run().size(), 2);
+    EXPECT_TRUE(m_failed);
+    EXPECT_EQ(Log(), (QStringList{u"1001"_s, u"1002"_s}));
+    EXPECT_TRUE(app->state.CurrentAction.isEmpty());
+}
+
 TEST_F(FriendRequesterTest, AMessageBehindARequestIsHandedToTheMessenger) {
     app->controls.SetTicked("chkFrSendMessage"_L1, true);
     app->controls.SetText("txtMsgSubject"_L1, u"Hi"_s);
