@@ -40,7 +40,7 @@ void RequestFields::EnterNote() {
             for (const Element& field : document.GetElementsByName(name))
                 field.SetValue(note);
         };
-        if (m_app.state.blnNewLayout) {
+        if (IsNewerPage(m_app)) {
             enter(NewNote);
             return;
         }

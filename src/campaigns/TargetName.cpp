@@ -100,7 +100,8 @@ QString CleanTargetName(const QString& name) {
 
 bool IsNewerPage(App& app) {
     const QString address = app.WebBrowser1().LocationURL();
-    return app.state.blnNewLayout || address.contains(u"/my/mail/new"_s) || address.endsWith(u"/comments"_s);
+    return app.state.blnNewLayout || address.contains(u"/my/mail/new"_s) ||
+           address.contains(u"/my/friends/addtofriends"_s) || address.endsWith(u"/comments"_s);
 }
 
 QString GetTargetName(App& app, const QString& html, const QString& kind) {

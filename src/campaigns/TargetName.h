@@ -8,7 +8,7 @@ namespace qlm {
 class App;
 
 // Whether the page in WebBrowser1 is made as those of the new layout are. The way through the filter leads to
-// the newer pages for messages and comments on both.
+// the newer pages on both.
 bool IsNewerPage(App& app);
 // The target's display name as the page in WebBrowser1 shows it; empty when there is none or it holds more
 // than letters, digits, hyphens and two blanks. html is that page's; kind is "Message", "Comment" or "Friend

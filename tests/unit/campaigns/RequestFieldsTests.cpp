@@ -19,10 +19,10 @@ protected:
         app->state.strCurrentID = u"1001"_s;
         app->state.lngTargetNumber = 1;
     }
-    void Show(const QString& body) {
-        world.web.SetPage(u"http://www.example.com/request"_s,
-                          u"<html><body><a href='/'>Home</a>"_s + body + u"</body></html>"_s);
-        app->WebBrowser1().Navigate(u"http://www.example.com/request"_s);
+    void Show(const QString& body, const QString& path = u"request"_s) {
+        const QString address = u"http://www.example.com/"_s + path;
+        world.web.SetPage(address, u"<html><body><a href='/'>Home</a>"_s + body + u"</body></html>"_s);
+        app->WebBrowser1().Navigate(address);
         platform->Pump().RunFor(1000);
     }
     Element ById(const QString& id) { return app->WebBrowser1().Document().GetElementById(id); }
@@ -61,6 +61,15 @@ TEST_F(NoteTest, OfTheOldLayoutGoesIntoBothItsFields) {
     EXPECT_EQ(ById(u"ctl00_ctl00_ctl00_cpMain_cpMain_cpfMainBody_NoteToFriend_Note"_s).Value(),
               u"Hi Mary!"_s);
     EXPECT_EQ(ById(u"a"_s).Value(), QString());
+}
+
+// The way through the filter leads there on both layouts.
+TEST_F(NoteTest, OfTheNewerPageGoesIntoItsFieldOnTheOldLayoutToo) {
+    Show(names + u"<input id='a' name='extraText'><input id='c' name='ctl00$cpMain$NoteToFriend$Note'>"_s,
+         u"my/friends/addtofriends/1001"_s);
+    fields.EnterNote();
+    EXPECT_EQ(ById(u"a"_s).Value(), u"Hi John!"_s);
+    EXPECT_EQ(ById(u"c"_s).Value(), QString());
 }
 
 TEST_F(NoteTest, LosesItsTokenOnAPageWithoutAName) {
