@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "browser/PageSigns.h"
+#include "campaigns/Campaigns.h"
 #include "campaigns/CaptchaCalls.h"
 #include "campaigns/CommentForm.h"
 #include "campaigns/Commenter.h"
+#include "campaigns/Counters.h"
 #include "core/ActivityWords.h"
 #include "core/App.h"
 #include "steps/Steps.h"
@@ -70,7 +72,8 @@ Next Commenter::PressConfirm() {
     button.element.Click();
     AwaitPosted(ConfirmedStatus);
     // The end of the run must not cut the post off.
-    m_app.waiting.WaitWhile([this] { return !IsPosted(); }, PostedSeconds);
+    if (!Comments.isPartOfAnother(m_app.state) && m_app.Get<Counters>().IsLimitDue(Comments))
+        m_app.waiting.WaitWhile([this] { return !IsPosted(); }, PostedSeconds);
     LimitIsMet();
     return Next::Wait;
 }

@@ -124,9 +124,17 @@ bool Counters::LimitReached(const Campaign& campaign) const {
     return m_app.state.*(IsPerDay(campaign) ? campaign.today.count : campaign.session) >= *limit;
 }
 
+bool Counters::LimitIsUncounted(const Campaign& campaign) const {
+    return !m_isStored && IsPerDay(campaign) && ToLong(m_app.controls.Text(campaign.amount));
+}
+
+bool Counters::IsLimitDue(const Campaign& campaign) const {
+    return LimitReached(campaign) || LimitIsUncounted(campaign);
+}
+
 bool Counters::StopUncounted() {
     const Campaign* campaign = FindCampaign(m_app.state.CurrentAction);
-    if (m_isStored || !campaign || !IsPerDay(*campaign) || !ToLong(m_app.controls.Text(campaign->amount)))
+    if (!campaign || !LimitIsUncounted(*campaign))
         return false;
     m_app.Get<StopResume>().StopAll(StopReason::Uncounted);
     if (!m_app.Get<StopResume>().DoFinishedExit())

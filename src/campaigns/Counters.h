@@ -21,6 +21,8 @@ public:
     bool Count(const Campaign& campaign);
     // So many friend requests have been accepted.
     void CountAccepted(qint32 number);
+    // Whether one of the two below would end the campaign's run.
+    bool IsLimitDue(const Campaign& campaign) const;
     // True when the campaign's limit has been reached and its run is over.
     bool StopAtLimit(const Campaign& campaign);
     // True when the last count could not be saved and the running campaign has a limit for the day: its run
@@ -35,6 +37,7 @@ private:
     void Read();
     bool IsPerDay(const Campaign& campaign) const;
     bool LimitReached(const Campaign& campaign) const;
+    bool LimitIsUncounted(const Campaign& campaign) const;
 
     App& m_app;
     bool m_isStored = true;
