@@ -41,6 +41,8 @@ public:
     virtual void OnKill(int stored) = 0;
     // The user takes the target from under the program.
     virtual void OnUserGivesUp(const QString& id) = 0;
+    // A post takes the browser; the target is given up or its page loaded again.
+    virtual void OnLoan(const QString& id, bool isGivenUp) = 0;
     // The list has been walked to its end.
     virtual void OnEnd(App& app) = 0;
 

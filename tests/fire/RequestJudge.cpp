@@ -140,6 +140,14 @@ void RequestJudge::OnUserGivesUp(const QString& id) {
     Excuse(u"the user pressed Skip or Stop in between"_s);
 }
 
+void RequestJudge::OnLoan(const QString& id, bool isGivenUp) {
+    ReadLog();
+    if (isGivenUp)
+        OnUserGivesUp(id);
+    else
+        Excuse(u"a bulletin took its page"_s);
+}
+
 void RequestJudge::OnEnd(App& app) {
     ReadLog();
     Demand(m_unlogged.isEmpty(), u"somebody was asked and is not logged at the end"_s);

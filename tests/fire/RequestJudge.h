@@ -18,6 +18,7 @@ public:
     void OnMessage(App& app, const QString& text) override;
     void OnKill(int stored) override;
     void OnUserGivesUp(const QString& id) override;
+    void OnLoan(const QString& id, bool isGivenUp) override;
     void OnEnd(App& app) override;
     int AskedAgain() const override { return m_askedAgain; }
 
@@ -32,7 +33,7 @@ private:
     qint32 m_confirming = -1;  // number of the target that a page has just confirmed
     qint32 m_refused = -1;     // of one whose note the disk may have refused
     QString m_lastAsked;
-    QSet<QString> m_givenUp;   // a request that was on its way may still come to the site
+    QSet<QString> m_givenUp; // a request that was on its way may still come to the site
     int m_limitPagesInARow = 0;
     int m_skippedSeen = 0;
     int m_askedAgain = 0;

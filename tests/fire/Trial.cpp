@@ -91,7 +91,7 @@ void FormsWithoutWidgets::ShowForm(const QString& form) {
         app->Get<MainForm>().Form_Load();
 }
 
-Trial::Trial(quint64 seed, int targets, const Campaign& campaign, Telling telling)
+Trial::Trial(quint64 seed, int targets, const Campaign& campaign, bool hasPosts, Telling telling)
     : m_campaign(campaign),
       m_seed(seed),
       m_telling(telling),
@@ -101,6 +101,16 @@ Trial::Trial(quint64 seed, int targets, const Campaign& campaign, Telling tellin
       m_site(seed, [this] { return m_world.clock.Now(); }),
       m_judge(MakeJudge(m_plan, LogIn(m_folder, campaign), NotesIn(m_folder, campaign))) {
     m_judge->trace = [this](const QString& text) { Trace(text); };
+    if (hasPosts)
+        AddPosts();
+}
+
+void Trial::AddPosts() {
+    m_posts = std::make_unique<PostFire>(m_seed, m_plan, m_site, m_folder.filePath(u"program"_s));
+    m_posts->trace = m_judge->trace;
+    m_posts->press = [this](const QString& command) { Do(command); };
+    m_posts->storedCount = [this](const Campaign& campaign) { return StoredCount(campaign); };
+    m_posts->onLoan = [this](const QString& id, bool isGivenUp) { m_judge->OnLoan(id, isGivenUp); };
 }
 
 Trial::~Trial() {
@@ -148,6 +158,8 @@ void Trial::SetUp() {
     for (const QString& line : m_plan.controls)
         if (const QString wrong = m_site.Control(line); !wrong.isEmpty())
             throw std::logic_error(wrong.toStdString());
+    if (m_posts)
+        m_posts->SetUp();
     m_world.web.responder = [this](const SimRequest& request) { return AnswerPage(request); };
     m_world.http.responder = [this](const QString& url) {
         return ProductAnswer(url.mid(url.indexOf(u'/', 8)), m_world.clock.Now());
@@ -187,6 +199,8 @@ SimAnswer Trial::AnswerPage(const SimRequest& request) {
     answer = AnswerOf(m_site, request);
     if (!id.isEmpty())
         m_judge->AfterRequest(id, m_site.TakeJournal(), answer.html);
+    if (m_posts)
+        m_posts->OnRequest(*m_app, request, DiskRefuses());
     // Nor does the site refuse for ever whoever tells nobody of it.
     if (&m_campaign != &FriendRequests && IsLimitPage(answer.html) && ++m_siteStops == SiteStopsOfADay)
         LiftRefusals();
@@ -223,9 +237,9 @@ void Trial::Spoil(SimAnswer& answer, const QString& id) {
     m_plan.replies.erase(reply);
 }
 
-int Trial::StoredCount() const {
+int Trial::StoredCount(const Campaign& campaign) const {
     return m_world.settings
-        .GetSetting(u"Counters\\"_s + Account, QString::fromLatin1(m_campaign.today.key), u"0"_s)
+        .GetSetting(u"Counters\\"_s + Account, QString::fromLatin1(campaign.today.key), u"0"_s)
         .toInt();
 }
 
@@ -239,6 +253,8 @@ void Trial::StartProgram() {
     m_answerAtMs = -1;
     m_pressedFor = -1;
     m_judge->OnStart();
+    if (m_posts)
+        m_posts->OnStart(*m_app);
     Trace(u"the program starts"_s);
     m_platform->Pump().Queue().Post([this] {
         m_app->Get<StartUp>().Main();
@@ -283,10 +299,14 @@ QString Trial::Run() {
             if (m_isOver)
                 break;
             m_judge->OnKill(StoredCount());
+            if (m_posts)
+                m_posts->OnKill();
             DropProgram();
         }
         m_judge->Look(*m_app, StoredCount(), m_diskRefusesUntilMs >= 0);
         m_judge->OnEnd(*m_app);
+        if (m_posts)
+            m_posts->OnEnd(*m_app);
     } catch (const Broken& broken) {
         return broken.promise;
     }
@@ -301,6 +321,8 @@ void Trial::Watch() {
         m_writesSeen = m_world.gate.writes;
         m_judge->Look(*m_app, StoredCount(), m_diskRefusesUntilMs >= 0);
     }
+    if (m_posts)
+        m_posts->Watch(*m_app);
     m_judge->Watch(*m_app, m_diskRefusesUntilMs >= 0);
     if (m_telling.trace)
         TraceState();
@@ -342,7 +364,9 @@ void Trial::Look() {
         m_world.gate.readOnlyFolders = {m_world.installationFolder};
         m_diskRefusesUntilMs = m_world.clock.NowMs() + m_dice.Between(1, 20) * 1000;
     }
-    if (m_app->state.CurrentAction.isEmpty())
+    if (m_posts)
+        m_posts->Look(*m_app, DiskRefuses());
+    if (m_app->state.CurrentAction.isEmpty() || (m_posts && PostFire::Rests(*m_app)))
         LookAtIdleProgram();
     else
         LookAtRunningProgram();
@@ -351,6 +375,8 @@ void Trial::Look() {
 void Trial::LookAtIdleProgram() {
     const bool isLoggedIn = !m_app->state.MyProfileID.isEmpty() && m_dialogs.IsFormOpen(u"frmMain"_s);
     if (m_isOver || !isLoggedIn)
+        return;
+    if (m_posts && m_posts->BeginsOne(*m_app, DiskRefuses()))
         return;
     if (++m_runs > MostRuns)
         throw Broken{u"the run doesn't come to its end"_s};
@@ -373,6 +399,8 @@ void Trial::LookAtIdleProgram() {
     m_app->state.blnNewLayout = !m_plan.oldLayout;
     m_judge->OnRun(m_app->state.*m_campaign.today.count);
     Click(m_campaign.send);
+    if (m_posts)
+        m_posts->OnLenderStarted(*m_app);
 }
 
 void Trial::LookAtRunningProgram() {
@@ -388,10 +416,12 @@ void Trial::LookAtRunningProgram() {
     const qint64 standsMs = m_world.clock.NowMs() - m_standingSinceMs;
     if (standsMs > LongestStandMs)
         throw Broken{u"the program waits without an end at "_s + m_app->Status()};
+    const bool isTold = !m_app->controls.Text("lblWaitingFor"_L1).isEmpty();
+    if (m_posts)
+        m_posts->LookAtPost(*m_app, isTold, DiskRefuses());
     if (state.CurrentAction != m_campaign.Word() || AnswerCaptcha())
         return;
     PressOldButton();
-    const bool isTold = !m_app->controls.Text("lblWaitingFor"_L1).isEmpty();
     const qint64 silentMs = &m_campaign != &FriendRequests                ? SilentFormMs
                             : state.intFRStep == FriendStep::DecideFilter ? SilentFilterMs
                                                                           : SilentWaitMs;
@@ -404,6 +434,8 @@ void Trial::LookAtRunningProgram() {
         Click("picSkip");
     } else if (m_dice.Happens(m_plan.stopsInThousandLooks)) {
         m_judge->OnUserGivesUp(state.strCurrentID);
+        if (m_posts)
+            m_posts->OnStop(DiskRefuses());
         Click(m_campaign.stop);
     }
 }

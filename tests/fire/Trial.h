@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Judge.h"
+#include "PostFire.h"
 #include "platform/sim/RecordingDialogs.h"
 #include "platform/sim/SimPlatform.h"
 #include "practice/PracticeSite.h"
@@ -35,7 +36,7 @@ struct Telling {
 // whatever the site, the disk and the process do meanwhile.
 class Trial {
 public:
-    Trial(quint64 seed, int targets, const Campaign& campaign, Telling telling);
+    Trial(quint64 seed, int targets, const Campaign& campaign, bool hasPosts, Telling telling);
     ~Trial();
 
     // Nothing, or the promise that was broken.
@@ -43,10 +44,13 @@ public:
 
     const Plan& ThePlan() const { return m_plan; }
     const Judge& TheJudge() const { return *m_judge; }
+    // Null for a trial without posts.
+    const PostFire* Posts() const { return m_posts.get(); }
     int Kills() const { return m_kills; }
     qint64 VirtualSeconds() const { return m_world.clock.NowMs() / 1000; }
 
 private:
+    void AddPosts();
     void SetUp();
     void LiftRefusals();
     void StartProgram();
@@ -65,7 +69,9 @@ private:
     qint64 AskedTarget() const;
     void Spoil(SimAnswer& answer, const QString& id);
     void RepairForm(const QString& id);
-    int StoredCount() const;
+    int StoredCount() const { return StoredCount(m_campaign); }
+    int StoredCount(const Campaign& campaign) const;
+    bool DiskRefuses() const { return m_diskRefusesUntilMs >= 0; }
     void Trace(const QString& text) const;
     void TraceState();
 
@@ -79,6 +85,7 @@ private:
     practice::PracticeSite m_site;
     FormsWithoutWidgets m_dialogs;
     std::unique_ptr<Judge> m_judge;
+    std::unique_ptr<PostFire> m_posts;
     std::unique_ptr<SimPlatform> m_platform;
     std::unique_ptr<App> m_app;
 

@@ -87,6 +87,13 @@ void WritingJudge::OnUserGivesUp(const QString& id) {
     Excuse();
 }
 
+void WritingJudge::OnLoan(const QString& id, bool isGivenUp) {
+    if (isGivenUp)
+        OnUserGivesUp(id);
+    else
+        Excuse();
+}
+
 void WritingJudge::OnEnd(App& app) {
     ReadLog();
     CheckRemembered();

@@ -17,6 +17,7 @@ public:
     void OnMessage(App& app, const QString& text) override;
     void OnKill(int stored) override;
     void OnUserGivesUp(const QString& id) override;
+    void OnLoan(const QString& id, bool isGivenUp) override;
     void OnEnd(App& app) override;
 
 private:

@@ -24,10 +24,12 @@ struct Options {
     bool hasTrail = false;
     QString campaign = u"requests"_s;
 
+    bool HasPosts() const { return campaign.endsWith(u"+posts"_s); }
     const qlm::Campaign& TheCampaign() const {
-        return campaign == u"messages"   ? qlm::Messages
-               : campaign == u"comments" ? qlm::Comments
-                                         : qlm::FriendRequests;
+        const QString word = campaign.section(u'+', 0, 0);
+        return word == u"messages"   ? qlm::Messages
+               : word == u"comments" ? qlm::Comments
+                                     : qlm::FriendRequests;
     }
 };
 
@@ -41,7 +43,10 @@ Options Read(const QCoreApplication& application) {
          {u"step"_s, u"The distance from one to the next."_s, u"number"_s, u"1"_s},
          {u"targets"_s, u"Profiles on the list."_s, u"number"_s, u"500"_s},
          {u"processes"_s, u"How many work side by side."_s, u"number"_s, u"1"_s},
-         {u"campaign"_s, u"\"requests\", \"messages\" or \"comments\"."_s, u"word"_s, u"requests"_s},
+         {u"campaign"_s,
+          u"\"requests\", \"messages\" or \"comments\"; with \"+posts\" behind it bulletins and status "
+          "updates fall due meanwhile."_s,
+          u"word"_s, u"requests"_s},
          {u"trace"_s, u"Tells what happens, with the virtual time."_s},
          {u"trail"_s,
           u"Has the program write its trail, which is told with --trace. Its lines are writes, too: "
@@ -61,14 +66,18 @@ Options Read(const QCoreApplication& application) {
 bool RunSeed(quint64 seed, const Options& options) {
     QElapsedTimer time;
     time.start();
-    Trial trial(seed, options.targets, options.TheCampaign(), {options.isTraced, options.hasTrail});
+    Trial trial(seed, options.targets, options.TheCampaign(), options.HasPosts(),
+                {options.isTraced, options.hasTrail});
     const QString broken = trial.Run();
     const Judge& judge = trial.TheJudge();
+    const PostFire* posts = trial.Posts();
+    const QString posted =
+        posts ? u" %1 posts sent, %2 loans,"_s.arg(posts->Arrived()).arg(posts->Loans()) : QString();
     std::printf(
-        "%s seed %llu: %s; %d asked, %d logged, %d asked again, %d kills, %lld virtual minutes, %lld ms\n",
+        "%s seed %llu: %s; %d asked, %d logged, %d asked again,%s %d kills, %lld virtual minutes, %lld ms\n",
         broken.isEmpty() ? "ok" : "FAIL", static_cast<unsigned long long>(seed),
         qPrintable(trial.ThePlan().Describe()), judge.Asked(), judge.Logged(), judge.AskedAgain(),
-        trial.Kills(), static_cast<long long>(trial.VirtualSeconds() / 60),
+        qPrintable(posted), trial.Kills(), static_cast<long long>(trial.VirtualSeconds() / 60),
         static_cast<long long>(time.elapsed()));
     if (!broken.isEmpty())
         std::printf(
