@@ -117,7 +117,6 @@ Next Commenter::DecideFilter() {
     RunState& state = m_app.state;
     if (!m_app.Get<SendRuns>().PassesFilter(u"IterateSendComments - 2"_s)) {
         m_target.isOpen = false;
-        state.intComStep = CommentStep::NextTarget;
         return Next::Again;
     }
     // Unlike the direct way, this one uses the new address on both layouts.

@@ -57,6 +57,7 @@ constinit const Campaign Comments{
                  .tracesFound = true,
                  .sends = true,
                  .lent = &RunState::blnResumeCom,
+                 .nextTarget = CommentStep::NextTarget,
                  .tracesPageClasses = true,
                  .stepAfterSkip = CommentStep::AfterSend,
                  .onErrorPage = HandleCommenterErrorPage},

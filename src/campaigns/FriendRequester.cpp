@@ -156,10 +156,8 @@ Next FriendRequester::EndRun() {
 
 Next FriendRequester::DecideFilter() {
     RunState& state = m_app.state;
-    if (!m_app.Get<SendRuns>().PassesFilter(u"IterateAddFriends - 2"_s)) {
-        state.intFRStep = FriendStep::NextTarget;
+    if (!m_app.Get<SendRuns>().PassesFilter(u"IterateAddFriends - 2"_s))
         return Next::Again;
-    }
     // Unlike the direct way, this one uses the new address on both layouts.
     state.intFRStep = FriendStep::Submit;
     Await(u"Text"_s, u"Request Sent!"_s);

@@ -24,6 +24,8 @@ public:
     // The page confirms the request to the current target. The log line comes with the step; whatever cuts in
     // before it, the note stays.
     void NoteConfirmation();
+    // The site has confirmed the request to the present target, whether or not its step has seen it yet.
+    bool IsConfirmed() const;
 
 private:
     static const StepMachine<FriendRequester>& Machine();

@@ -88,6 +88,8 @@ constinit const Campaign FriendRequests{
                  .tracesFound = true,
                  .sends = true,
                  .lent = &RunState::varResumeFR,
+                 .nextTarget = FriendStep::NextTarget,
+                 .isDone = [](App& app) { return app.Get<FriendRequester>().IsConfirmed(); },
                  .tracesPageClasses = true,
                  .stepAfterSkip = FriendStep::AfterSend,
                  .onErrorPage = HandleRequesterErrorPage,

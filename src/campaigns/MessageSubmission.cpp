@@ -61,6 +61,10 @@ bool Messenger::IsSubmitted() const {
     return m_submitted == m_app.state.lngTargetNumber;
 }
 
+bool Messenger::HasSent() const {
+    return IsSubmitted() && m_app.state.intMsgStep == MessageStep::AfterSend;
+}
+
 void Messenger::WaitUntilComplete() {
     m_app.waiting.WaitWhile([this] { return m_app.WebBrowser1().ReadyState() != 4; }, CompletePageSeconds);
 }

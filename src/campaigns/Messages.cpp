@@ -50,6 +50,8 @@ constinit const Campaign Messages{
                  .tracesFound = true,
                  .sends = true,
                  .lent = &RunState::blnResumeMsg,
+                 .nextTarget = MessageStep::NextTarget,
+                 .isDone = [](App& app) { return app.Get<Messenger>().HasSent(); },
                  .tracesPageClasses = true,
                  .stepAfterSkip = MessageStep::AfterSend,
                  .onErrorPage = HandleMessengerErrorPage},

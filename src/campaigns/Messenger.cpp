@@ -123,10 +123,8 @@ Next Messenger::EndRun() {
 
 Next Messenger::DecideFilter() {
     RunState& state = m_app.state;
-    if (!m_app.Get<SendRuns>().PassesFilter(u"IterateSendMessages - 2"_s)) {
-        state.intMsgStep = MessageStep::NextTarget;
+    if (!m_app.Get<SendRuns>().PassesFilter(u"IterateSendMessages - 2"_s))
         return Next::Again;
-    }
     // Unlike the direct way, this one uses the new address on both layouts.
     state.intMsgStep = MessageStep::Submit;
     m_app.WebBrowser1().Navigate(u"about:blank"_s);

@@ -16,6 +16,8 @@ public:
 
     // The step routine.
     void IterateSendMessages();
+    // The message to the present target has been pressed; its confirmation is awaited.
+    bool HasSent() const;
 
 private:
     static const StepMachine<Messenger>& Machine();

@@ -36,7 +36,7 @@ Next FriendRequester::SubmitFriend() {
             return PutTargetOff();
         state.intCaptchaSkips = 0;
         m_app.Get<CaptchaCalls>().CallUser();
-    } else if (page.IsRequestSentPage()) {
+    } else if (IsConfirmed() || page.IsRequestSentPage()) {
         if (!RequestWasSent())
             return Next::Wait;
     } else if (captcha) {
@@ -46,6 +46,10 @@ Next FriendRequester::SubmitFriend() {
         return LookAgain();
     }
     return GoOnAfterSubmit();
+}
+
+bool FriendRequester::IsConfirmed() const {
+    return m_confirmed == m_app.state.lngTargetNumber;
 }
 
 // Once a target: a disk that refuses is not asked again at each turn of a wait.

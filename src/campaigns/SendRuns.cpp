@@ -290,6 +290,8 @@ bool SendRuns::PassesFilter(const QString& caller) {
     ++state.lngFilteredCount;
     m_app.Get<RunReport>().Close(ReportResult::Skipped, u"Doesn't match your filter settings"_s);
     ShowCounts();
+    const Activity& activity = FindCampaign(state.CurrentAction)->activity;
+    state.*activity.step = activity.nextTarget;
     m_app.ClearPage();
     RemoveUsedTarget(caller);
     return false;

@@ -43,8 +43,8 @@ public:
     bool IsOnSite();
     // Opens the profile that the filters are to judge.
     void OpenProfile();
-    // A profile that the filters refuse is counted, and its target is done with. caller is the trace word of
-    // its removal.
+    // A profile that the filters refuse is counted, its target done with, and the next one is due. caller is
+    // the trace word of its removal.
     bool PassesFilter(const QString& caller);
     // Moves on after the target under the cursor: the index, or with chkRemoveAfterSent the head of the
     // list.

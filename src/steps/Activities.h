@@ -27,6 +27,11 @@ struct Activity {
     bool sends = false; // to one person after the other
     // Says that the browser is lent to a post that fell due; nullptr for an activity that doesn't lend it.
     bool RunState::*lent = nullptr;
+    // The step that takes up the next target; while it stands there nothing has been asked for that one.
+    qint16 nextTarget = 0;
+    // What the page of the present target was opened for has been done: it need not come again. nullptr:
+    // that can't be told.
+    bool (*isDone)(App&) = nullptr;
     // Says that it waits for its next post, and that the browser is free; nullptr for one that never waits so.
     bool RunState::*waits = nullptr;
     bool tracesPageClasses = false; // whatever page the classifier knows is noted in the debug file

@@ -45,15 +45,17 @@ void Lending::Lend(const Activity& lender, Page page) {
               m_app.Get<RunReport>().SetAside(),
               state.blnWaitingForCaptcha,
               state.blnInDelay,
+              state.blnInDelay || (lender.nextTarget != 0 && state.*lender.step == lender.nextTarget),
+              page == Page::Kept && lender.isDone && lender.isDone(m_app),
               state.blnHoldLinkCheck,
               m_app.timers->tmrCheckLinkLoaded.Enabled(),
               m_app.timers->tmrAutoResume.Enabled()};
     state.*lender.lent = true;
-    if (page == Page::Kept && !state.blnInDelay) {
+    if (page == Page::Kept && !m_loan->isParked && !m_loan->isDone) {
         const QString shown = m_app.WebBrowser1().LocationURL();
         state.strResumeURL = shown == u"about:blank"_s ? m_app.WebBrowser1().LastAsked() : shown;
     }
-    if (state.blnInDelay)
+    if (m_loan->isParked)
         m_app.waiting.Park();
     else
         m_app.waiting.OutdateSteps();
@@ -73,17 +75,25 @@ bool Lending::GiveBack() {
     state.blnSkipRequested = false;
     m_app.timers->Timer1.SetEnabled(false);
     m_app.timers->tmrAutoResume.SetEnabled(loan.watchdog);
-    if (loan.isInDelay) {
-        state.blnInDelay = true;
+    if (loan.isParked) {
+        state.blnInDelay = loan.isInDelay;
         state.blnHoldLinkCheck = loan.isHeld;
         m_app.timers->tmrCheckLinkLoaded.SetEnabled(loan.linkTimer);
-        m_app.Get<Cover>().Show();
+        if (loan.isInDelay)
+            m_app.Get<Cover>().Show();
+        else
+            m_app.WebBrowser1().Navigate(u"about:blank"_s);
         m_app.waiting.Readmit();
         return true;
     }
     m_app.waiting.OutdateSteps();
     state.blnHoldLinkCheck = false;
-    state.blnLinkFound = false;
+    state.blnLinkFound = loan.isDone;
+    if (loan.isDone) {
+        m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
+        m_app.timers->Timer1.Restart();
+        return true;
+    }
     if (!address.isEmpty())
         m_app.WebBrowser1().Navigate(address);
     m_app.timers->tmrCheckLinkLoaded.Restart();

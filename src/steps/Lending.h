@@ -23,8 +23,9 @@ public:
     bool MayTake() const;
     bool IsLent() const { return m_loan.has_value(); }
     // borrower becomes the running activity, with nothing expected yet. A page that is kept is loaded again
-    // at the return; within a delay there is none: it belongs to a target that is done with, and a page that
-    // asks by being opened would ask again.
+    // at the return; within a delay and between two targets there is none: it belongs to a target that is
+    // done with, and a page that asks by being opened would ask again. So would the page of a target whose
+    // confirmation has come.
     void Take(QLatin1StringView borrower, Page page);
     // Makes the lender the running activity again. False when nothing was lent; then nothing is done.
     bool GiveBack();
@@ -38,6 +39,8 @@ private:
         ReportStream* report;
         bool asksForCaptcha;
         bool isInDelay;
+        bool isParked; // its step goes on at the return
+        bool isDone;   // with its page
         bool isHeld;
         bool linkTimer;
         bool watchdog;

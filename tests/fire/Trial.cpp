@@ -408,7 +408,8 @@ void Trial::LookAtRunningProgram() {
     const QString standing = state.CurrentAction + QString::number(state.lngTargetNumber) + u' ' +
                              QString::number(state.*m_campaign.activity.step) +
                              QString::number(state.intLoginStep) + state.strLinkValue +
-                             (&m_campaign == &FriendRequests ? QString() : m_app->Status());
+                             (&m_campaign == &FriendRequests ? QString() : m_app->Status()) +
+                             (m_posts ? QString::number(m_posts->Loans()) : QString());
     if (standing != m_standing) {
         m_standing = standing;
         m_standingSinceMs = m_world.clock.NowMs();
