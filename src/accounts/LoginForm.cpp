@@ -33,13 +33,13 @@ bool IsLoginInput(const Element& input) {
     return false;
 }
 
+} // namespace
+
 // What belongs to no form stays in the page.
 bool StaysOnTheSite(const Deployment& site, const Element& control) {
     const QString address = control.Read(ElementText::SentTo);
     return address.isEmpty() || site.IsSitePage(address);
 }
-
-} // namespace
 
 bool FillLoginForm(const Deployment& site, const Document& document, const QString& email,
                    const QString& password) {

@@ -13,6 +13,8 @@ struct LoginButton {
     bool stopFirst = false;
 };
 
+// False for what a form would send elsewhere.
+bool StaysOnTheSite(const Deployment& site, const Element& control);
 // Writes e-mail and password into whatever login form the page has. Does nothing, and answers false, on a
 // page that isn't the site's; a form of its page that would be sent elsewhere stays empty.
 bool FillLoginForm(const Deployment& site, const Document& document, const QString& email,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "inbound/PendingRequests.h"
 
+#include "accounts/LoginForm.h"
 #include "browser/Cover.h"
 #include "browser/PageClassifier.h"
 #include "browser/PageSigns.h"
@@ -140,12 +141,15 @@ bool PendingRequests::LogInOnMobileSite() {
     if (!IsOnSite())
         return false;
     const Document page = m_app.WebBrowser1().Document();
-    if (const Element email = page.GetElementById(u"emailTextBox"_s))
-        email.SetInnerText(m_app.state.AccountEmail);
-    if (const Element password = page.GetElementById(u"passwordTextBox"_s))
-        password.SetInnerText(m_app.state.AccountPassword);
+    const auto fill = [&](const QString& id, const QString& text) {
+        if (const Element field = page.GetElementById(id); field && StaysOnTheSite(m_app.deployment, field))
+            field.SetInnerText(text);
+    };
+    fill(u"emailTextBox"_s, m_app.state.AccountEmail);
+    fill(u"passwordTextBox"_s, m_app.state.AccountPassword);
     m_app.waiting.Pump();
-    if (const Element button = m_app.WebBrowser1().Document().GetElementById(u"loginCommand"_s))
+    const Element button = m_app.WebBrowser1().Document().GetElementById(u"loginCommand"_s);
+    if (button && StaysOnTheSite(m_app.deployment, button))
         button.Click();
     const bool isSignedIn = m_app.waiting.WaitWhile(
         [this] { return !m_app.Get<PageSigns>().IsTextInPage(u"my profile"_s); }, WaitLimitSeconds);

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Whether a long run stays as light and as quick as it began: bench_soak [TURNS [messages]]
+// Whether a long run stays as light and as quick as it began: bench_soak [TURNS [messages|accepting]]
 //
 // One friend request after the other, as the user's own run sends them: each turn loads a blank page and a
 // request page; or one message after the other: a blank page, a compose page that is filled in, and the page
-// that confirms it. In the real window, on the real engine, against the practice site. The step's delay of
-// 400 ms is shortened, nothing else.
+// that confirms it; or whoever has asked is accepted, page by page, and each gets a message. In the real
+// window, on the real engine, against the practice site. The step's delay of 400 ms is shortened, nothing
+// else.
 #include "Figures.h"
 #include "ProcessFigures.h"
 #include "RunningProgram.h"
@@ -13,6 +14,7 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <numeric>
 #include <unistd.h>
@@ -40,6 +42,8 @@ public:
 
     void PlanRequests();
     void PlanMessages();
+    void PlanAccepting();
+    bool HasAcceptedAll();
     bool Run() { return program.Run(); }
     void Report() const;
 
@@ -84,6 +88,35 @@ void Soak::PlanMessages() {
         program.app.controls.SetText("txtMsgMessage"_L1, u"Hello &NAME&,\r\nhow are you?"_s);
     });
     program.PlanReport(3600);
+}
+
+// A turn is a message; the first one on each page takes the approval of its 25 with it.
+void Soak::PlanAccepting() {
+    site.Tell(u"message-share sent 100"_s);
+    site.Tell(u"message-limit off"_s);
+    site.Tell(u"accept-share accepted 100"_s);
+    site.Tell(u"incoming 900001 %1"_s.arg(turns + 1));
+    PlanTurns();
+    program.PlanSending(u"Accept Friends"_s, "picCmdAutoApprove", [this] {
+        program.app.controls.SetTicked("optAcceptSendMsg"_L1, true);
+        program.app.controls.SetText("txtAcceptSubject"_L1, u"Hi &NAME&"_s);
+        program.app.controls.SetText("txtAcceptMessage"_L1, u"Thanks for asking"_s);
+    });
+    program.PlanReport(6 * 3600, u"Finished accepting"_s);
+}
+
+// Everybody once, each with one message, by the site's journal.
+bool Soak::HasAcceptedAll() {
+    const QStringList journal = site.Journal();
+    QStringList accepted = TargetsOf(journal, u"accepted"_s);
+    QStringList messaged = TargetsOf(journal, u"messaged"_s);
+    std::ranges::sort(accepted);
+    std::ranges::sort(messaged);
+    const bool isAll =
+        accepted.size() == turns + 1 && accepted == messaged && accepted.removeDuplicates() == 0;
+    std::printf("%lld accepted, %lld messages: %s\n", static_cast<long long>(accepted.size()),
+                static_cast<long long>(messaged.size()), isAll ? "everybody once" : "NOT everybody once");
+    return isAll;
 }
 
 void Soak::PlanTurns() {
@@ -173,11 +206,15 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     const int turns = argc > 1 ? std::atoi(argv[1]) : 2000;
     if (turns < 2 * qlm::MeanOver) {
-        std::fprintf(stderr, "usage: bench_soak [TURNS, at least %d [messages]]\n", 2 * qlm::MeanOver);
+        std::fprintf(stderr, "usage: bench_soak [TURNS, at least %d [messages|accepting]]\n",
+                     2 * qlm::MeanOver);
         return 2;
     }
     qlm::Soak soak(turns);
-    if (argc > 2 && qstrcmp(argv[2], "messages") == 0)
+    const bool isAccepting = argc > 2 && qstrcmp(argv[2], "accepting") == 0;
+    if (isAccepting)
+        soak.PlanAccepting();
+    else if (argc > 2 && qstrcmp(argv[2], "messages") == 0)
         soak.PlanMessages();
     else
         soak.PlanRequests();
@@ -186,5 +223,5 @@ int main(int argc, char** argv) {
         return 1;
     }
     soak.Report();
-    return 0;
+    return isAccepting && !soak.HasAcceptedAll() ? 1 : 0;
 }
