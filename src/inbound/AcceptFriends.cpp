@@ -15,6 +15,7 @@
 #include "steps/Steps.h"
 #include "steps/StopResume.h"
 
+#include <utility>
 #include <vector>
 
 namespace qlm {
@@ -27,6 +28,7 @@ const QString OldList = u"{MessagingHost}/index.cfm?fuseaction=mail.friendReques
 const QString LastPageButton =
     u"cpMain$messagingMain$FriendRequestsIncomingV2$pagingNavigation1$LastRecordDirectPageLinkButton"_s;
 constexpr int PageSeconds = 30;
+constexpr int MostTimesAlike = 3;
 
 bool Sends(App& app, QLatin1StringView option) {
     return app.controls.Ticked(option);
@@ -155,6 +157,10 @@ void AcceptFriends::picCmdAutoApprove_Click() {
     state.PageApproved = false;
     state.AcceptStopRequested = false;
     m_requests = 0;
+    m_pressedFor.clear();
+    m_followedUp.clear();
+    m_lastList.clear();
+    m_timesAlike = 0;
     const RunMark start = m_app.waiting.Mark();
     m_app.Get<RunReport>().BeginRun(AcceptReport);
     // A disk that refuses the report brings a box up, and whatever happens while it is there.
@@ -182,6 +188,16 @@ void AcceptFriends::IterateAcceptFriends() {
         return;
     if (RunSteps(m_app, *this, Machine()).isEmpty())
         return;
+    if (!m_pressedFor.isEmpty()) {
+        // Of these some have been accepted: the list, loaded anew, shows who has not.
+        QStringList pressedFor = std::exchange(m_pressedFor, {});
+        pressedFor.removeAll(QString());
+        m_app.controls.SetItems("lstAcceptIDs"_L1, pressedFor);
+        m_app.state.PageApproved = true;
+        m_app.state.intAccStep = AcceptStep::OpenList;
+        IterateAcceptFriends();
+        return;
+    }
     // The page is looked at again.
     m_app.state.blnLinkFound = false;
     m_app.timers->tmrCheckLinkLoaded.Restart();
@@ -236,7 +252,8 @@ Next AcceptFriends::OpenList() {
     m_app.waiting.Pump();
     browser.Navigate(m_app.Expand(state.blnNewLayout ? IncomingRequests : OldList));
     m_app.waiting.Pump();
-    const bool fromOldest = m_app.controls.Ticked("chkAcceptFromOldest"_L1);
+    // Whoever waits for their follow-up gets it first.
+    const bool fromOldest = m_app.controls.Ticked("chkAcceptFromOldest"_L1) && !state.PageApproved;
     state.intAccStep = fromOldest ? AcceptStep::LastPage : AcceptStep::Approve;
     Trace(fromOldest ? u"case 2.2"_s : u"case 2.3"_s);
     m_app.waiting.WaitFor(u"the requests page"_s,
@@ -275,11 +292,38 @@ Next AcceptFriends::WorkOnPage() {
         return Next::Again;
     }
     Trace(u"case 3.6"_s);
+    if (IsInVain()) {
+        StopWithMessage(u"These requests stay whatever is pressed. Please look at them yourself."_s);
+        return Next::Wait;
+    }
     m_app.controls.SetItems("lstAcceptIDs"_L1, {});
     if (!state.blnNewLayout)
         PrepareOldList();
     SetLoadCheck();
     return ApproveFriendRequests();
+}
+
+// The site may keep its requests for ever.
+bool AcceptFriends::IsInVain() {
+    QStringList list;
+    for (const Element& box : RequestBoxes(m_app.WebBrowser1().Document()))
+        list.append(box.OuterHTML());
+    const bool isAlike = !list.isEmpty() && list == m_lastList;
+    m_lastList = list;
+    m_timesAlike = isAlike ? m_timesAlike + 1 : 0;
+    return m_timesAlike == MostTimesAlike;
+}
+
+// Who still stands on the list has not been accepted, and gets it when they have. Nobody gets it twice.
+void AcceptFriends::ChooseFollowUps() {
+    QSet<QString> waiting;
+    if (m_app.state.blnNewLayout)
+        for (const Element& box : RequestBoxes(m_app.WebBrowser1().Document()))
+            waiting.insert(IdOfBox(box));
+    QStringList due = m_app.controls.Items("lstAcceptIDs"_L1);
+    due.removeIf([&](const QString& id) { return waiting.contains(id) || m_followedUp.contains(id); });
+    m_followedUp.unite({due.begin(), due.end()});
+    m_app.controls.SetItems("lstAcceptIDs"_L1, due);
 }
 
 // The campaign's steps work through lstAcceptIDs, and enter this machine again at their end.
@@ -295,6 +339,7 @@ Next AcceptFriends::HandOver(const Campaign& campaign, const QString& mark) {
         state.AcceptReturnURL = m_app.WebBrowser1().LocationURL();
         m_app.Get<GatherDriver>().SetMustNotHaveTexts();
     }
+    ChooseFollowUps();
     state.blnCheckLog = m_app.controls.Ticked(campaign.checkLogBox);
     state.intAccStep = AcceptStep::None;
     state.CurrentAction = campaign.Word();

@@ -5,6 +5,7 @@
 #include "steps/ReportStream.h"
 #include "steps/StepMachine.h"
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -38,6 +39,8 @@ private:
     Next Finish();
     Next OpenLastPage();
     bool IsFinished();
+    bool IsInVain();
+    void ChooseFollowUps();
     Next HandOver(const Campaign& campaign, const QString& mark);
     void SetLoadCheck();
     void WaitUntilIdle();
@@ -60,6 +63,10 @@ private:
     int m_listener = 0;
     qint32 m_approvingRun = -1; // the run whose page is being approved
     qint32 m_requests = 0;      // of this run, counted for the names of those without an ID
+    QStringList m_pressedFor;   // on the page that is being approved
+    QSet<QString> m_followedUp; // in this run
+    QStringList m_lastList;     // the boxes of the list that was approved last,
+    int m_timesAlike = 0;       // and how often it has come back as it was
 };
 
 } // namespace qlm

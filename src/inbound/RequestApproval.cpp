@@ -37,10 +37,12 @@ qint16 CountOnPage(App& app, const QString& words) {
 
 Next AcceptFriends::ApproveFriendRequests() {
     const QScopedValueRollback approving(m_approvingRun, m_app.state.lngRunNumber);
+    m_pressedFor.clear();
     if (m_app.state.blnNewLayout)
         ApproveInNewLayout();
     else
         ApproveInOldLayout();
+    m_pressedFor.clear();
     // The ticks that came meanwhile were for the page as it was.
     m_app.timers->Timer1.SetEnabled(false);
     if (m_app.state.PageApproved)
@@ -120,6 +122,7 @@ void AcceptFriends::Accept(const Element& button, const QString& id) {
     const qint16 accepted = CountOnPage(m_app, Accepted);
     const qint16 failed = CountOnPage(m_app, FailedOne);
     Trace(u"APPROVE5 - FOUND!"_s);
+    m_pressedFor.append(id);
     button.Click();
     const bool isAnswered = m_app.waiting.WaitWhile(
         [&] {
@@ -223,8 +226,8 @@ void AcceptFriends::ApproveInOldLayout() {
         m_app.Get<RunReport>().Close(ReportResult::Accepted);
     }
     m_app.Get<GatherDriver>().SetMustNotHaveTexts();
-    m_app.WebBrowser1().Navigate(ApproveTicked);
     m_app.state.PageApproved = true;
+    m_app.WebBrowser1().Navigate(ApproveTicked);
 }
 
 } // namespace qlm
