@@ -50,9 +50,10 @@ private:
     Next ApproveFriendRequests();
     void ApproveInNewLayout();
     void ApproveInOldLayout();
-    void TickBoxes();
+    QStringList TickBoxes();
     QStringList TickOldBoxes();
     void Accept(const Element& button, const QString& id);
+    void Refuse(const QString& id);
     QString NameOfRequest(const QString& id);
     void PrepareOldList();
     void DenyVanished();

@@ -47,7 +47,8 @@ Next AcceptFriends::ApproveFriendRequests() {
     m_app.timers->Timer1.SetEnabled(false);
     if (m_app.state.PageApproved)
         SetLoadCheck();
-    return Next::Wait;
+    // Whoever has pressed Stop is waiting for nothing else.
+    return m_app.state.AcceptStopRequested && !m_app.state.PageApproved ? Next::Again : Next::Wait;
 }
 
 void AcceptFriends::StopWithMessage(const QString& message) {
@@ -70,13 +71,13 @@ void AcceptFriends::ApproveInNewLayout() {
     Trace(u"APPROVE1... PAGE SOURCE: "_s + page.BodyHTML());
     bool isFound = false;
     if (IsOnSite()) {
-        TickBoxes();
+        const QStringList ids = TickBoxes();
         qsizetype request = 0;
         for (const Element& button : page.GetElementsByTagName(u"button"_s)) {
             if (!IsAcceptButton(button))
                 continue;
             isFound = true;
-            Accept(button, m_app.controls.Items("lstAcceptIDs"_L1).value(request++));
+            Accept(button, ids.value(request++));
             if (state.AcceptStopRequested)
                 return;
             m_app.Get<GatherDriver>().SetMustNotHaveTexts();
@@ -96,7 +97,9 @@ void AcceptFriends::ApproveInNewLayout() {
                         "Please try again, or contact QLM Support."_s);
 }
 
-void AcceptFriends::TickBoxes() {
+// The ID of each request, empty where the box gives none away.
+QStringList AcceptFriends::TickBoxes() {
+    QStringList ids;
     for (const Element& box : RequestBoxes(m_app.WebBrowser1().Document())) {
         if (!IsChecked(box)) {
             Trace(u"APPROVE3 - CHECK BOX: "_s + box.OuterHTML());
@@ -104,9 +107,13 @@ void AcceptFriends::TickBoxes() {
         }
         const QString id = IdOfBox(box);
         // Whoever stands there twice gets one message.
-        if (!id.isEmpty() && !m_app.controls.Items("lstAcceptIDs"_L1).contains(id))
+        if (!IsRequestBox(box) || (!id.isEmpty() && ids.contains(id)))
+            continue;
+        ids.append(id);
+        if (!id.isEmpty())
             m_app.controls.AddItem("lstAcceptIDs"_L1, id);
     }
+    return ids;
 }
 
 // In the report.
@@ -133,10 +140,20 @@ void AcceptFriends::Accept(const Element& button, const QString& id) {
     if (CountOnPage(m_app, Accepted) != accepted)
         report.Close(ReportResult::Accepted);
     else if (CountOnPage(m_app, FailedOne) > failed)
-        report.Close(ReportResult::Failed, u"An error has occurred while processing the request"_s);
+        Refuse(id);
     else
         report.Close(ReportResult::Unfinished,
                      isAnswered ? u"You pressed Stop"_s : u"The site gave no answer in 50 seconds"_s);
+}
+
+// Who is no friend gets nothing.
+void AcceptFriends::Refuse(const QString& id) {
+    m_app.Get<RunReport>().Close(ReportResult::Failed,
+                                 u"An error has occurred while processing the request"_s);
+    m_pressedFor.removeAll(id);
+    const qsizetype row = m_app.controls.Items("lstAcceptIDs"_L1).indexOf(id);
+    if (row >= 0)
+        m_app.controls.RemoveItem("lstAcceptIDs"_L1, static_cast<int>(row));
 }
 
 void AcceptFriends::PrepareOldList() {

@@ -48,8 +48,12 @@ std::vector<Element> RequestBoxes(const Document& page) {
     return boxes;
 }
 
+bool IsRequestBox(const Element& box) {
+    return Has(box.OuterHTML(), u"FriendRequest"_s);
+}
+
 QString IdOfBox(const Element& box) {
-    if (!Has(box.OuterHTML(), u"FriendRequest"_s))
+    if (!IsRequestBox(box))
         return {};
     const QStringList parts = box.GetAttribute(u"mode"_s).split(u',');
     const QString id = parts.size() > 2 ? parts[1].trimmed() : QString();

@@ -19,7 +19,9 @@ QString LastPageNumberOf(const Document& page);
 
 // The boxes that choose requests, in page order.
 std::vector<Element> RequestBoxes(const Document& page);
-// Newer layout: the ID between the first two commas of the box's "mode"; empty where there is none.
+// Newer layout: the box of one request.
+bool IsRequestBox(const Element& box);
+// The ID between the first two commas of the box's "mode"; empty where there is none.
 QString IdOfBox(const Element& box);
 // Older layout: the box above the list that ticks all the others, and the one for somebody's updates.
 bool IsBoxOfAll(const Element& box);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // quillmere-fire: many runs of a campaign against a site, a disk and a process that fail. Each seed
 // is a run of its own, from a list of 500 to its end; the same seed is the same run.
+#include "AcceptTrial.h"
 #include "Trial.h"
 
 #include <QCommandLineParser>
@@ -45,7 +46,7 @@ Options Read(const QCoreApplication& application) {
          {u"processes"_s, u"How many work side by side."_s, u"number"_s, u"1"_s},
          {u"campaign"_s,
           u"\"requests\", \"messages\" or \"comments\"; with \"+posts\" behind it bulletins and status "
-          "updates fall due meanwhile."_s,
+          "updates fall due meanwhile. Or \"accepting\"."_s,
           u"word"_s, u"requests"_s},
          {u"trace"_s, u"Tells what happens, with the virtual time."_s},
          {u"trail"_s,
@@ -62,8 +63,28 @@ Options Read(const QCoreApplication& application) {
             parser.value(u"campaign"_s)};
 }
 
+void PrintRepeat(quint64 seed, const Options& options, const QString& broken) {
+    if (!broken.isEmpty())
+        std::printf(
+            "  %s\n  repeat: quillmere-fire --campaign %s --first %llu --seeds 1 --targets %d --trace\n",
+            qPrintable(broken), qPrintable(options.campaign), static_cast<unsigned long long>(seed),
+            options.targets);
+    std::fflush(stdout);
+}
+
+bool RunAccepting(quint64 seed, const Options& options) {
+    AcceptTrial trial(seed, options.targets, {options.isTraced, options.hasTrail});
+    const QString broken = trial.Run();
+    std::printf("%s seed %llu: %s\n", broken.isEmpty() ? "ok" : "FAIL", static_cast<unsigned long long>(seed),
+                qPrintable(trial.Describe()));
+    PrintRepeat(seed, options, broken);
+    return broken.isEmpty();
+}
+
 // A line for each seed; a parent process counts them.
 bool RunSeed(quint64 seed, const Options& options) {
+    if (options.campaign == u"accepting"_s)
+        return RunAccepting(seed, options);
     QElapsedTimer time;
     time.start();
     Trial trial(seed, options.targets, options.TheCampaign(), options.HasPosts(),
@@ -79,12 +100,7 @@ bool RunSeed(quint64 seed, const Options& options) {
         qPrintable(trial.ThePlan().Describe()), judge.Asked(), judge.Logged(), judge.AskedAgain(),
         qPrintable(posted), trial.Kills(), static_cast<long long>(trial.VirtualSeconds() / 60),
         static_cast<long long>(time.elapsed()));
-    if (!broken.isEmpty())
-        std::printf(
-            "  %s\n  repeat: quillmere-fire --campaign %s --first %llu --seeds 1 --targets %d --trace\n",
-            qPrintable(broken), qPrintable(options.campaign), static_cast<unsigned long long>(seed),
-            options.targets);
-    std::fflush(stdout);
+    PrintRepeat(seed, options, broken);
     return broken.isEmpty();
 }
 
