@@ -44,13 +44,27 @@ void SetSignIn(World& world, Arguments& args) {
         throw BadControl(u"unknown design: "_s + name);
 }
 
+const Account& AccountNamed(const World& world, Arguments& args) {
+    const QString mail = args.Word().toLower();
+    for (const Account& account : world.accounts.All())
+        if (account.mail == mail)
+            return account;
+    throw BadControl(u"nobody signs in as "_s + mail);
+}
+
 void SetLimit(World& world, Arguments& args) {
     args.Expect("friend-requests"_L1);
     std::optional<int> limit;
     if (!args.NextIs("off"_L1))
         limit = args.Count();
+    if (!args.NextIs("for"_L1)) {
+        args.End();
+        world.requests.SetDailyLimit(limit);
+        return;
+    }
+    const qint64 asker = AccountNamed(world, args).id;
     args.End();
-    world.requests.SetDailyLimit(limit);
+    world.requests.SetDailyLimitOf(asker, limit);
 }
 
 void SetShare(World& world, Arguments& args) {
@@ -140,6 +154,8 @@ void SetFault(World& world, Arguments& args) {
         fault.delayMs = args.Count();
     if (args.NextIs("times"_L1))
         fault.left = args.Count();
+    if (args.NextIs("for"_L1))
+        fault.mail = AccountNamed(world, args).mail;
     args.End();
     world.faults.Set(fault);
 }

@@ -48,7 +48,8 @@ std::optional<FaultKind> FaultNamed(const QString& name) {
 
 void Faults::Set(Fault fault) {
     fault.prefix = Bare(fault.prefix);
-    Remove(fault.prefix);
+    m_faults.removeIf(
+        [&fault](const Fault& other) { return other.prefix == fault.prefix && other.mail == fault.mail; });
     m_faults.append(fault);
 }
 
@@ -56,10 +57,11 @@ void Faults::Remove(const QString& prefix) {
     m_faults.removeIf([bare = Bare(prefix)](const Fault& fault) { return fault.prefix == bare; });
 }
 
-std::optional<Fault> Faults::Meet(const QString& address) {
+std::optional<Fault> Faults::Meet(const QString& address, const QString& mail) {
     const QString lower = address.toLower();
     for (auto fault = m_faults.rbegin(); fault != m_faults.rend(); ++fault) {
-        if (fault->left == 0 || !Fits(fault->prefix, lower))
+        if (fault->left == 0 || !Fits(fault->prefix, lower) ||
+            (!fault->mail.isEmpty() && fault->mail != mail))
             continue;
         if (fault->left > 0)
             --fault->left;

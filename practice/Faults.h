@@ -41,19 +41,21 @@ struct Fault {
         prefix; ///< host + path, lower case, without a scheme; a "$" at the end means exactly this address
     FaultKind kind = FaultKind::Slow;
     int delayMs = 0;
-    int left = -1; ///< how many more requests it meets; -1 for all
+    int left = -1;     ///< how many more requests it meets; -1 for all
+    QString mail = {}; ///< meets that account alone; everybody when empty
 };
 
 /// The faults in force. The one set last wins where several fit.
 class Faults {
 public:
-    /// Sets a fault in place of an older one with the same prefix.
+    /// Sets a fault in place of an older one with the same prefix for the same account.
     void Set(Fault fault);
     void Remove(const QString& prefix);
     void Clear() { m_faults.clear(); }
 
-    /// The fault that meets a request for `address` (host + path with query), counted down.
-    std::optional<Fault> Meet(const QString& address);
+    /// The fault that meets a request of that account for `address` (host + path with query), counted down.
+    /// `mail` is empty for a visitor who isn't signed in.
+    std::optional<Fault> Meet(const QString& address, const QString& mail);
 
 private:
     QList<Fault> m_faults;

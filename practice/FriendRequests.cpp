@@ -136,7 +136,8 @@ void FriendRequests::Settle(qint64 asker, qint64 target) {
 }
 
 bool FriendRequests::LimitReached(qint64 asker, QDate day) const {
-    return m_dailyLimit && m_askedOn.value({asker, day}) >= *m_dailyLimit;
+    const std::optional<int> limit = m_limitOf.value(asker, m_dailyLimit);
+    return limit && m_askedOn.value({asker, day}) >= *limit;
 }
 
 CaptchaKind FriendRequests::KindOfCaptcha(qint64 target) const {

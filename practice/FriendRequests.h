@@ -69,6 +69,8 @@ public:
 
     /// After so many requests of one account in a day comes the limit page; nothing for no limit.
     void SetDailyLimit(std::optional<int> limit) { m_dailyLimit = limit; }
+    /// The same for one account, which goes before it.
+    void SetDailyLimitOf(qint64 asker, std::optional<int> limit) { m_limitOf[asker] = limit; }
     bool LimitReached(qint64 asker, QDate day) const;
 
     /// The word drawn in the image. It stays until a wrong answer; a word set by hand stays for good.
@@ -96,6 +98,7 @@ private:
     QHash<qint64, QList<qint64>> m_pending; // oldest first
     QHash<std::pair<qint64, QDate>, int> m_askedOn;
     std::optional<int> m_dailyLimit;
+    QHash<qint64, std::optional<int>> m_limitOf;
     QString m_captchaWord;
     std::optional<CaptchaKind> m_captchaKind = CaptchaKind::Image;
     QHash<Pair, int> m_captchas;

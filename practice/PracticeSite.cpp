@@ -59,7 +59,8 @@ Response PracticeSite::Answer(const Request& request) {
         return match.handler(visit);
     if (!match.picture)
         m_world->journal.Visit(visit.FullAddress());
-    const auto fault = m_world->faults.Meet(visit.FullAddress());
+    const auto fault =
+        m_world->faults.Meet(visit.FullAddress(), visit.account ? visit.account->mail : QString());
     const Response response = fault ? AnswerThrough(*fault, visit, match.handler) : match.handler(visit);
     m_world->journal.Shown(u"shown"_s, visit.FullAddress(), visit.shown);
     m_world->journal.Shown(u"shown-by-name"_s, visit.FullAddress(), visit.shownByName);

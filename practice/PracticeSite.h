@@ -61,7 +61,9 @@ struct World;
 ///     account MAIL PASSWORD ID       adds or changes an account
 ///     name ID NAME                   renames somebody; all words up to the end are the name
 ///     sign-in DESIGN                 ids, splash, names, button, image, link, element or get
-///     limit friend-requests N|off    requests of one account in a day before the limit page
+///     limit friend-requests N|off [for MAIL]    requests of each account, or of that one, in a day before
+///     the
+///                                    limit page
 ///     share OUTCOME PERCENT          how many profiles answer so
 ///     outcome ID OUTCOME             how one profile answers
 ///     refuse ID N|off                that profile answers with the Nth of the refusals
@@ -97,7 +99,7 @@ struct World;
 ///     captcha-kind KIND|mixed        image, image-text, words, settings; image at the start
 ///     friends ID COUNT               length of a friends list
 ///     list NAME COUNT [PERPAGE]      length of the lists of one design, and of their pages
-///     fault ADDRESS KIND [MS] [times N] | fault ADDRESS off
+///     fault ADDRESS KIND [MS] [times N] [for MAIL] | fault ADDRESS off
 ///                                    ADDRESS is the beginning of an address, or a whole one with "$" behind;
 ///                                    KIND: slow MS, hang, reset, nobody, error, loggedout, limit, captcha,
 ///                                    alert, unload, endless, wrong, lost, blank; and what comes between a

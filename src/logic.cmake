@@ -75,9 +75,12 @@ add_library(quillmere_logic STATIC
     steps/StopResume.cpp
     steps/TypedLogin.cpp
 
+    accounts/AccountChain.cpp
     accounts/AccountDetails.cpp
     accounts/AccountFile.cpp
     accounts/AccountScreens.cpp
+    accounts/ChainScreens.cpp
+    accounts/Chains.cpp
     accounts/LoginErrorPages.cpp
     accounts/LoginFlow.cpp
     accounts/LoginForm.cpp

@@ -8,6 +8,7 @@
 #include "core/SettingsFields.h"
 #include "core/Text.h"
 #include "steps/Lending.h"
+#include "steps/RunReport.h"
 #include "steps/StepDispatcher.h"
 #include "steps/Steps.h"
 #include "steps/StopResume.h"
@@ -196,23 +197,35 @@ void LoginFlow::LogInSpecifiedAccount(const QString& email, const QString& passw
         Log(u"LogSpecAcc1"_s);
         if (email.isEmpty())
             return;
-        RunState& state = m_app.state;
         if (m_app.controls.Text("lblLoggedInAs"_L1).contains(u'@'))
             m_app.Get<SettingsFields>().SaveListsAndSettings();
-        state.SwitchingAccount = true;
-        state.AccountEmail = email.trimmed().toLower();
-        state.AccountPassword = password.trimmed();
-        m_app.Get<Cover>().Hide();
-        m_app.waiting.OutdateSteps();
-        m_app.timers->Timer1.SetEnabled(false);
-        // What a login that came to no end has restored belongs to another account.
-        state.AccountsLoadedOnce = false;
-        m_app.Get<Lending>().Forget();
-        state.CurrentAction = ActivityWord::Login;
-        state.blnHoldLinkCheck = false;
-        state.intLoginStep = LoginStep::SignOut;
-        IterateLoginAccount();
+        BeginWith(email, password, LoginStep::SignOut);
     });
+}
+
+void LoginFlow::LogInChainedAccount(const QString& email, const QString& password) {
+    StopProblemTimer();
+    BeginWith(email, password, LoginStep::OpenSite);
+}
+
+void LoginFlow::BeginWith(const QString& email, const QString& password, qint16 step) {
+    RunState& state = m_app.state;
+    m_app.Get<Cover>().Hide();
+    m_app.waiting.OutdateSteps();
+    m_app.timers->Timer1.SetEnabled(false);
+    m_app.Get<Lending>().Forget();
+    m_app.Get<RunReport>().FinishRun(Ending::Other);
+    // Nothing of the run before this is left, whoever skips or resumes meanwhile.
+    static_cast<RunFields&>(state) = {};
+    state.SwitchingAccount = true;
+    state.AccountEmail = email.trimmed().toLower();
+    state.AccountPassword = password.trimmed();
+    // What a login that came to no end has restored belongs to another account.
+    state.AccountsLoadedOnce = false;
+    state.CurrentAction = ActivityWord::Login;
+    state.blnHoldLinkCheck = false;
+    state.intLoginStep = step;
+    IterateLoginAccount();
 }
 
 } // namespace qlm

@@ -28,6 +28,8 @@ public:
     QString GetPageScriptValue(const QString& browserName, const QString& key);
     // Switch Login: logs in another account, saving the fields of the present one first.
     void LogInSpecifiedAccount(const QString& email, const QString& password);
+    // The next account of a chain; the one before it has been saved.
+    void LogInChainedAccount(const QString& email, const QString& password);
 
     // What follows a login in a chain of accounts: the campaign goes on with this one.
     std::function<void()> goOnInChain;
@@ -37,6 +39,8 @@ private:
     void BeginStep();
     void LoginFormWins();
     void RestoreAccount();
+
+    void BeginWith(const QString& email, const QString& password, qint16 step);
 
     Next OpenSite();
     Next SignOut();

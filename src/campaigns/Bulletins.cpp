@@ -80,7 +80,6 @@ constinit const Campaign Bulletins{
                .posted = "Bulletin successfully posted",
                .finished = "Finished posting bulletins",
                .noteFile = "BulletinsLog.txt"},
-    .goesOnInChain = true,
 };
 
 } // namespace qlm

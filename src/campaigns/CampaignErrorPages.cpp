@@ -3,6 +3,7 @@
 
 #include "browser/Cover.h"
 #include "campaigns/FriendRequester.h"
+#include "campaigns/SendRuns.h"
 #include "core/ActivityWords.h"
 #include "core/App.h"
 #include "steps/Activities.h"
@@ -29,6 +30,10 @@ void CountLimitPage(App& app) {
     }
     state.blnDailyLimitHit = false;
     state.blnLinkFound = true;
+    if (state.blnChaining) {
+        app.Get<SendRuns>().RemoveUsedTarget(u"LoginNextCycleAccount"_s);
+        app.Get<RunReport>().FinishRun(Ending::DailyLimit);
+    }
     if (app.Get<StopResume>().HandOverInChain())
         return;
     app.Get<StopResume>().StopAll(StopReason::DailyLimit);
@@ -64,6 +69,9 @@ void HandleMessengerErrorPage(App& app) {
     app.Get<RunReport>().RemarkPage(state.intPageClass);
     if (state.blnDailyLimitHit) {
         state.blnDailyLimitHit = false;
+        // The next account writes to this one.
+        if (state.blnChaining)
+            app.Get<SendRuns>().MoveCursorBack();
         app.Get<StopResume>().StopAll(StopReason::DailyLimit);
         if (!app.Get<StopResume>().HandOverInChain())
             app.Get<StopResume>().DoFinishedExit();

@@ -121,10 +121,6 @@ struct Campaign {
 
     CampaignTiming timing{};
 
-    // Chains of accounts.
-    bool goesOnInChain = false; // the next account of a chain starts it as the button does
-    bool endClearsChain = false;
-
     QLatin1StringView Word() const { return activity.word; }
     bool HasTargets() const { return logFile[0] != 0; }
 };

@@ -3,6 +3,7 @@
 
 #include "browser/Cover.h"
 #include "campaigns/Campaigns.h"
+#include "campaigns/SendRuns.h"
 #include "core/App.h"
 #include "core/ProductServer.h"
 #include "core/SettingsFields.h"
@@ -150,6 +151,9 @@ bool Counters::StopAtLimit(const Campaign& campaign) {
         m_app.WebBrowser1().Stop();
         m_app.Get<Cover>().Hide();
     }
+    // It has been sent to, and is no target of the next account.
+    if (m_app.state.blnChaining)
+        m_app.Get<SendRuns>().RemoveUsedTarget(u"LoginNextCycleAccount"_s);
     m_app.Get<StopResume>().StopAll(*campaign.reasons.limitMet);
     if (m_app.Get<StopResume>().HandOverInChain())
         return true;

@@ -124,8 +124,6 @@ constinit const Campaign FriendRequests{
     .report = {.file = "FriendsReport.txt",
                .title = "Friend requests",
                .overLimit = "The request that met your limit: it is sent, but neither counted nor logged"},
-    .goesOnInChain = true,
-    .endClearsChain = true,
 };
 
 } // namespace qlm

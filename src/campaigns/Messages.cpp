@@ -90,8 +90,6 @@ constinit const Campaign Messages{
     .checkLogBox = "chkMsgDontSendAgain"_L1,
     .reportButton = "piccmdMsgReport",
     .report = {.file = "MessagesReport.txt", .title = "Messages"},
-    .goesOnInChain = true,
-    .endClearsChain = true,
 };
 
 } // namespace qlm

@@ -43,7 +43,8 @@ SendRuns::SendRuns(App& app) : m_app(app), m_logDialog(app), m_reportDialog(app,
 
 void SendRuns::RegisterCommands(const Campaign& campaign) {
     Commands& commands = m_app.commands;
-    commands.Add(ClickOf(campaign.send), campaign.startProcedure, [this, &campaign] { Start(campaign); });
+    commands.Add(ClickOf(campaign.send), campaign.startProcedure,
+                 [this, &campaign](int how) { Start(campaign, how == ByClock); });
     if (campaign.stop[0])
         commands.Add(ClickOf(campaign.stop), [this, &campaign] { Stop(campaign); });
     if (campaign.log[0])
@@ -55,20 +56,35 @@ void SendRuns::RegisterCommands(const Campaign& campaign) {
                      [this, &campaign] { m_reportDialog.Show(campaign.report); });
 }
 
-void SendRuns::Start(const Campaign& campaign) {
+void SendRuns::Start(const Campaign& campaign, bool byClock) {
+    // What stops the running campaign forgets it.
+    const bool goesOn = m_app.state.SwitchingAccount;
     MarkStart(campaign, 1);
     m_app.WebBrowser1().SetSilent(true);
     m_app.webHide().SetSilent(true);
     m_app.Get<Cover>().Hide();
     if (campaign.prepare)
         campaign.prepare(m_app);
-    if (!CampaignMayStart(m_app, campaign) || (campaign.mayStart && !campaign.mayStart(m_app, campaign)))
+    if (!MayStart(campaign)) {
+        if (goesOn && m_app.state.blnChaining)
+            EndRefusedChain(m_app);
         return;
+    }
     MarkStart(campaign, 2);
     if (campaign.stopsRunningOne)
         m_app.Get<StopResume>().StopAll(campaign.reasons.stopped);
+    const ChainedStart chained = StartInChain(m_app, campaign, goesOn, byClock);
+    if (chained == ChainedStart::Begins)
+        return;
+    // The next account of a chain goes on in the list where the last one left it.
+    if (chained != ChainedStart::GoesOn)
+        m_app.state.intCurrentIDIndex = 0;
     Reset(campaign);
     Begin(campaign);
+}
+
+bool SendRuns::MayStart(const Campaign& campaign) {
+    return CampaignMayStart(m_app, campaign) && (!campaign.mayStart || campaign.mayStart(m_app, campaign));
 }
 
 void SendRuns::MarkStart(const Campaign& campaign, int number) {
@@ -96,6 +112,7 @@ void SendRuns::ResetRun(QLatin1StringView word) {
     RunState& state = m_app.state;
     m_app.waiting.OutdateSteps();
     EndPost();
+    m_app.Get<StopResume>().EndChainOfOthers(word);
     state.CurrentAction = word;
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     m_app.timers->Timer1.SetEnabled(false);
@@ -128,9 +145,6 @@ void SendRuns::Reset(const Campaign& campaign) {
     RunState& state = m_app.state;
     ResetRun(campaign.Word());
     state.*campaign.session = 0;
-    // The next account of a chain goes on in the list where the last one left it.
-    if (!state.blnChaining || state.ChainedCampaign != campaign.Word())
-        state.intCurrentIDIndex = 0;
     // Of friend requests the log is the only guard against asking somebody twice.
     state.blnCheckLog = campaign.checkLogBox.isEmpty() || m_app.controls.Ticked(campaign.checkLogBox);
     SentLog(m_app, &campaign).SettleNotes();
@@ -343,7 +357,8 @@ void SendRuns::Finish() {
         ReturnToAccepting();
         return;
     }
-    RunState& state = m_app.state;
+    const RunState& state = m_app.state;
+    const bool isChained = state.blnChaining;
     m_app.Get<StopResume>().StopAll(*campaign->reasons.finished);
     if (m_app.Get<StopResume>().DoFinishedExit())
         return;
@@ -352,13 +367,11 @@ void SendRuns::Finish() {
         if (count > 0)
             text += u"\n\n"_s + QString::number(count) + words;
     };
-    if (!state.blnChaining) {
+    if (!isChained) {
         addParagraph(state.lngSkippedCount, u" ID's were skipped because you sent to them previously."_s);
         addParagraph(state.lngFilteredCount, u" ID's didn't match your filter settings."_s);
     }
     m_app.ShowMessage(text);
-    if (campaign->endClearsChain)
-        state.blnChaining = false;
 }
 
 void SendRuns::ReturnToAccepting() {

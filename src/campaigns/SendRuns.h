@@ -17,8 +17,10 @@ class SendRuns {
 public:
     explicit SendRuns(App& app);
 
+    // What a start by the clock says to the command of a button.
+    static constexpr int ByClock = 1;
     // The start of a campaign: the checks, the question, the reset, the first step.
-    void Start(const Campaign& campaign);
+    void Start(const Campaign& campaign, bool byClock = false);
     // What any run begins with: nothing of an earlier one is left, and whoever had lent the browser is over.
     void ResetRun(QLatin1StringView word);
     ReportDialog& ReportWindow() { return m_reportDialog; }
@@ -62,6 +64,7 @@ public:
 private:
     void RegisterCommands(const Campaign& campaign);
     void MarkStart(const Campaign& campaign, int number);
+    bool MayStart(const Campaign& campaign);
     void Reset(const Campaign& campaign);
     void Begin(const Campaign& campaign);
     void EndPost();

@@ -8,6 +8,7 @@
 #include "core/App.h"
 #include "core/Text.h"
 #include "steps/RunReport.h"
+#include "steps/StopResume.h"
 
 #include <stdexcept>
 
@@ -45,7 +46,7 @@ void StatusUpdater::ShowCharactersLeft() {
 }
 
 void StatusUpdater::BeginRun() {
-    m_app.state.blnChaining = false;
+    m_app.Get<StopResume>().EndChain();
     m_posts.Begin();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "accounts/AccountChain.h"
 #include "accounts/AccountFile.h"
 #include "accounts/AccountScreens.h"
+#include "accounts/ChainScreens.h"
 #include "accounts/LoginFlow.h"
 #include "browser/Cover.h"
 #include "browser/PageBoxes.h"
@@ -86,6 +88,8 @@ void App::MakeFamilies() {
     m_families.Make<AccountFile>(*this);
     m_families.Make<AccountScreens>(*this);
     m_families.Make<LoginFlow>(*this);
+    m_families.Make<AccountChain>(*this);
+    m_families.Make<ChainScreens>(*this);
     m_families.Make<GatheredList>(*this);
     m_families.Make<GatherDriver>(*this);
     m_families.Make<LinkScanner>(*this);

@@ -36,6 +36,8 @@ constexpr FormRow Forms[] = {
     {"frmSwitchAccount"_L1, u"Switch Account", BuildSwitchAccount},
     {"frmAccountDetails"_L1, u"Account Details", BuildAccountDetails},
     {"frmLoginProblem"_L1, u"Login problem", BuildLoginProblem},
+    {"frmMultipleAccounts"_L1, u"Multiple Chaining", BuildMultipleAccounts},
+    {"frmChainingOn"_L1, u"Account Chaining", BuildChainingOn},
     {"frmError"_L1, u"Error", BuildError},
     {"frmTerms"_L1, u"Terms of Service", BuildTerms},
     {"frmTimeDelay"_L1, u"Time Delay", BuildTimeDelay, Make<frmTimeDelay>},

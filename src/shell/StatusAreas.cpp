@@ -35,6 +35,10 @@ ActivityStrip::ActivityStrip(App& app) : m_app(app), m_bar(NewProgressBar()) {
     ElidedLabel* waiting = NewElidedLabel("lblWaitingFor"_L1, u"waiting"_s);
     waiting->setProperty("hideWhenEmpty", true);
 
+    ElidedLabel* chain = NewElidedLabel("lblChain"_L1, u"quiet"_s);
+    chain->setProperty("hideWhenEmpty", true);
+    chain->setAccessibleDescription(u"The accounts that come next"_s);
+
     ElidedLabel* errors = NewElidedLabel("lblLaterErrors"_L1, u"problem"_s);
     errors->setProperty("hideWhenEmpty", true);
 
@@ -42,6 +46,7 @@ ActivityStrip::ActivityStrip(App& app) : m_app(app), m_bar(NewProgressBar()) {
     words->setSpacing(1);
     words->addWidget(action);
     words->addWidget(waiting);
+    words->addWidget(chain);
     words->addWidget(errors);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(12, 7, 12, 7);

@@ -25,8 +25,8 @@ public:
     void BeginRun(const ReportKind& kind);
     // The runs are over, for the reason that StopAll was given; at its own end the one at work alone.
     void EndRun(StopReason reason);
-    // The one at work has come to its end by itself.
-    void FinishRun() { End(Ending::AllDone); }
+    // The one at work alone has come to its end.
+    void FinishRun(Ending ending = Ending::AllDone) { End(ending); }
 
     // The one at work makes room for another one. Answers it; nullptr when there was none.
     ReportStream* SetAside();

@@ -36,6 +36,7 @@ enum class StopReason {
     NotEnglish,  // the site speaks another language
     LoginDone,   // the account is signed in
     OtherSignIn, // the user has signed in with an account that can't be named
+    ChainEnded,  // no account comes next
 
     GatherBegins,
     WebSearchBegins,
@@ -68,6 +69,8 @@ struct StopReasonRow {
     Ending ending = Ending::Other;
     // The activity has come to its end by itself: what waits for its minute goes on waiting.
     bool isOwnEnd = false;
+    // The next account of a chain may follow.
+    bool leavesChain = false;
 };
 
 const StopReasonRow& RowOf(StopReason reason);

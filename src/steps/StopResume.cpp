@@ -39,6 +39,9 @@ void StopResume::StopAll(StopReason reason) {
     m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
     state.blnHoldLinkCheck = true;
 
+    if (!RowOf(reason).leavesChain && !IsChainWaiting())
+        EndChain();
+
     for (const auto& label : {"myfraCurrentAction"_L1, "lblWaitingFor"_L1})
         Diagnostics::IgnoreErrors([&] { m_app.controls.SetText(label, {}); });
     Diagnostics::IgnoreErrors([&] { m_app.controls.SetProgress({}); });
@@ -130,6 +133,22 @@ bool StopResume::HandOverInChain() {
     m_app.Get<SettingsFields>().SaveListsAndSettings();
     m_app.commands.Run(u"LoginNextCycleAccount"_s);
     return true;
+}
+
+void StopResume::EndChain() {
+    m_app.state.blnChaining = false;
+    m_app.state.ChainedCampaign.clear();
+    m_app.controls.SetText("lblChain"_L1, {});
+}
+
+void StopResume::EndChainOfOthers(QLatin1StringView word) {
+    if (m_app.state.ChainedCampaign != word && !IsChainWaiting())
+        EndChain();
+}
+
+bool StopResume::IsChainWaiting() const {
+    const Activity* activity = FindActivity(m_app.state.ChainedCampaign);
+    return activity && activity->waits && m_app.state.*activity->waits;
 }
 
 } // namespace qlm

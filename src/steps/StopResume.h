@@ -29,8 +29,14 @@ public:
     // What a chain of accounts does when one of them has done its share: saves its entries and has the next
     // one logged in, which replaces the running activity. False without chaining.
     bool HandOverInChain();
+    // Whatever runs goes on with the account in use alone.
+    void EndChain();
+    // Another activity begins: the chain is that of the campaign started last, unless it waits for its
+    // minute.
+    void EndChainOfOthers(QLatin1StringView word);
 
 private:
+    bool IsChainWaiting() const;
     // What waits for its minute ends as well, and whoever has lent the browser.
     void EndTimedPosts();
     void SkipTo(const Activity& activity);

@@ -35,6 +35,15 @@ std::vector<ControlRow> AccountForms() {
         Button("frmAccountDetails.cmdOK", u"&OK"),
         Button("frmAccountDetails.cmdCancel", u"Cancel"),
         Button("frmLoginProblem.cmdClose", u"&Close"),
+        Label("frmMultipleAccounts.lblHeader"),
+        List("frmMultipleAccounts.lstAccounts").Spoken(u"Accounts"),
+        Box("frmMultipleAccounts.chkSelectAll", u"Select &All"),
+        Box("frmMultipleAccounts.chkChainingLoop", u"&Loop until ID's finished"),
+        Button("frmMultipleAccounts.cmdOK", u"&OK"),
+        Button("frmMultipleAccounts.cmdCancel", u"Cancel"),
+        Label("frmChainingOn.lblNote"),
+        Button("frmChainingOn.cmdContinue", u"&Continue with chaining on"),
+        Button("frmChainingOn.cmdTurnOff", u"&Turn chaining off"),
     };
 }
 

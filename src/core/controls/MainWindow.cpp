@@ -23,6 +23,8 @@ std::vector<ControlRow> MainWindow() {
         Label("lblLoggedInAs"),
         Label("myfraCurrentAction"),
         Label("lblWaitingFor"),
+        Label("lblChain"),
+        Label("lblAutoStart"),
         Label("lblTimeDelay", u"Time Delay: OFF"),
         Label("lblLaterErrors"),
         Label("lblProgress"),

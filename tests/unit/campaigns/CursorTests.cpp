@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SimulatedProgram.h"
+#include "accounts/Chains.h"
 #include "campaigns/Campaigns.h"
 #include "campaigns/SendRuns.h"
 #include "campaigns/SentLog.h"
@@ -220,14 +221,20 @@ TEST_P(StartTest, ResetsTheRunAndEntersItsFirstStep) {
 }
 
 TEST_P(StartTest, InAChainThatGoesOnKeepsTheCursor) {
+    const Chain* chain = FindChain(QString::fromUtf16(GetParam().word));
+    if (!chain)
+        GTEST_SKIP() << "no campaign that goes on";
     app->state.intCurrentIDIndex = 7;
-    app->state.blnChaining = true;
-    app->state.ChainedCampaign = QString::fromUtf16(GetParam().word);
+    app->state.SwitchingAccount = true;
+    app->controls.SetTicked(chain->on, true);
     Start();
     EXPECT_EQ(app->state.intCurrentIDIndex, 7);
-    app->state.ChainedCampaign = u"BUL"_s;
+    EXPECT_TRUE(app->state.blnChaining);
+    app->controls.SetTicked(chain->off, true);
+    app->state.SwitchingAccount = true;
     Start();
     EXPECT_EQ(app->state.intCurrentIDIndex, 0);
+    EXPECT_FALSE(app->state.blnChaining);
 }
 
 TEST_P(StartTest, LooksInTheLogByItsBox) {

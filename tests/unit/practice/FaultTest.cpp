@@ -104,6 +104,17 @@ TEST_F(FaultAtAPage, TimesCountsTheRequestsItMeets) {
     EXPECT_EQ(client.Get(page).status, 200);
 }
 
+TEST_F(FaultAtAPage, AFaultMayMeetOneAccountAlone) {
+    client.Control(u"fault www.myspace.example.com/100003 error for b@example.com"_s);
+    EXPECT_EQ(client.Get(page).status, 200);
+    client.SignIn("b@example.com");
+    EXPECT_EQ(client.Get(page).status, 500);
+    client.Control(u"fault www.myspace.example.com/100003 wrong"_s); // for everybody, besides it
+    client.Control(u"fault www.myspace.example.com/100003 error times 0 for b@example.com"_s);
+    EXPECT_TRUE(Holds(client.Text(page), u"Spotlight"_s));
+    EXPECT_NE(client.site.Control(u"fault www.myspace.example.com/ error for x@example.com"_s), QString());
+}
+
 TEST_F(FaultAtAPage, TheFaultSetLastWinsAndADollarMeansExactlyThisAddress) {
     client.Control(u"fault www.myspace.example.com/ error"_s);
     client.Control(u"fault www.myspace.example.com/100003$ wrong"_s);

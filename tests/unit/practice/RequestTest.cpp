@@ -119,6 +119,17 @@ TEST_F(FriendRequest, TheDailyLimitCountsRequestsOfOneAccountAndEndsAtMidnight) 
     EXPECT_TRUE(Holds(client.Ask(100005), u"Request Sent!"_s));
 }
 
+TEST_F(FriendRequest, AnAccountMayHaveALimitOfItsOwn) {
+    client.Control(u"limit friend-requests 0"_s);
+    client.Control(u"limit friend-requests 1 for a@example.com"_s);
+    EXPECT_TRUE(Holds(client.Ask(100003), u"Request Sent!"_s));
+    EXPECT_TRUE(Holds(client.Ask(100004), u"maximum limit of friend requests for the day"_s));
+    client.SignIn("b@example.com");
+    EXPECT_TRUE(Holds(client.Ask(100005), u"maximum limit of friend requests for the day"_s));
+    client.Control(u"limit friend-requests off for b@example.com"_s);
+    EXPECT_TRUE(Holds(client.Ask(100005), u"Request Sent!"_s));
+}
+
 TEST_F(FriendRequest, EveryNumberedRefusalSaysItsWordsAndAsksNobody) {
     qint64 target = 100003;
     for (const ::qlm::practice::Refusal& refusal : Refusals()) {

@@ -200,12 +200,40 @@ TEST_F(StopResumeTest, AnAccountOfAChainThatCannotBeLoggedInMakesRoomForTheNext)
     EXPECT_EQ(world.settings.GetSetting(u"Field Entries"_s, u"txtFRNote"_s, {}), u"kept"_s);
 }
 
-TEST_F(StopResumeTest, WithoutAccountChainingTheSkippedLoginStays) {
+TEST_F(StopResumeTest, WithoutANextAccountTheSkippedLoginEndsTheChain) {
     State().CurrentAction = u"LOGIN"_s;
     State().blnChaining = true;
     app->Get<StopResume>().SkipProfile();
     EXPECT_TRUE(Said(u"Skip"_s));
-    EXPECT_EQ(State().CurrentAction, u"LOGIN"_s);
+    EXPECT_TRUE(SaidBeginningWith(u"LOGIN stop - (GNCA)"_s));
+    EXPECT_EQ(State().CurrentAction, QString());
+    EXPECT_FALSE(State().blnChaining);
+    EXPECT_EQ(dialogs.messages.size(), 1U);
+}
+
+TEST_F(StopResumeTest, AStopLeavesTheChainOnlyWhereTheNextAccountMayFollow) {
+    for (const auto& [reason, leaves] :
+         {std::pair{StopReason::RequestLimit, true}, std::pair{StopReason::MessageLimit, true},
+          std::pair{StopReason::DailyLimit, true}, std::pair{StopReason::RequestStop, false},
+          std::pair{StopReason::WindowStop, false}, std::pair{StopReason::Uncounted, false},
+          std::pair{StopReason::Unnoted, false}, std::pair{StopReason::NotEnglish, false},
+          std::pair{StopReason::GatherBegins, false}, std::pair{StopReason::ChainEnded, false}}) {
+        State().blnChaining = true;
+        app->controls.SetText("lblChain"_L1, u"next: b@example.com"_s);
+        app->Get<StopResume>().StopAll(reason);
+        EXPECT_EQ(State().blnChaining, leaves) << static_cast<int>(reason);
+        EXPECT_EQ(app->controls.Text("lblChain"_L1).isEmpty(), !leaves);
+    }
+}
+
+TEST_F(StopResumeTest, AChainThatWaitsForItsMinuteOutlivesTheOwnEndOfOthers) {
+    State().blnChaining = true;
+    State().ChainedCampaign = u"BUL"_s;
+    State().blnBulletinWaiting = true;
+    app->Get<StopResume>().StopAll(StopReason::AcceptDone);
+    EXPECT_TRUE(State().blnChaining);
+    app->Get<StopResume>().StopAll(StopReason::AcceptStop);
+    EXPECT_FALSE(State().blnChaining);
 }
 
 TEST_F(StopResumeTest, PausingHoldsTheCheckAndTheWatchdog) {
