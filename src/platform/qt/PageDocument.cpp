@@ -184,6 +184,11 @@ QString PageDocument::BodyText(ElementText which) {
 void PageDocument::Foresee(const Foresight& foresight) {
     PageCache& cache = Cache();
     cache.foresight = foresight;
+    // This turn's look has gone out without them: whatever they are about is read together.
+    if (cache.Look())
+        for (const Question& question : foresight.questions)
+            if (!cache.Answer(question))
+                cache.foresight.readings.push_back({question.set, question.argument, question.which});
     std::erase_if(cache.foresight.readings, [&](const Reading& reading) { return cache.IsRead(reading); });
 }
 

@@ -139,6 +139,26 @@ TEST_F(EngineReading, AReadingThatIsForeseenAgainCostsNoCall) {
     EXPECT_EQ(callsOfAReading(), 0);
 }
 
+// Questions that come after the turn's look are answered by one more call, however many they are.
+TEST_F(EngineReading, QuestionsAfterALookCostOneCall) {
+    Serve(u"/form"_s, "<input name=three><input name=four>");
+    ASSERT_TRUE(Open(u"/form"_s));
+    pump.PumpMessages();
+    const Document document = browser->Document();
+    EXPECT_FALSE(document.BodyHTML().isEmpty());
+    const qint64 before = browser->EngineCalls();
+    Foresight ahead;
+    for (const QString& name : {u"one"_s, u"two"_s, u"three"_s, u"four"_s})
+        ahead.questions.push_back(
+            {ElementSet::Named, name, ElementText::Name, Question::Match::Contains, {}});
+    document.Foresee(ahead);
+    QList<bool> answers;
+    for (const Question& question : ahead.questions)
+        answers += document.Any(question);
+    EXPECT_EQ(answers, (QList<bool>{false, false, true, true}));
+    EXPECT_EQ(browser->EngineCalls() - before, 1);
+}
+
 // Text, markup and the answers to what was foreseen come with one call, on a changed page too.
 TEST_F(EngineReading, ALookWithItsQuestionIsOneCall) {
     Serve(u"/list"_s, ListPage(100));
