@@ -36,10 +36,10 @@ Process ReadProcess(int number) {
     return process;
 }
 
-double ProportionalMb(int process) {
-    for (const QByteArray& line : ReadProc(process, "smaps_rollup").split('\n'))
-        if (line.startsWith("Pss:"))
-            return line.mid(4).trimmed().split(' ').value(0).toDouble() / 1024;
+double InMb(const QByteArray& rollup, const QByteArray& field) {
+    for (const QByteArray& line : rollup.split('\n'))
+        if (line.startsWith(field + ':'))
+            return line.mid(field.size() + 1).trimmed().split(' ').value(0).toDouble() / 1024;
     return 0;
 }
 
@@ -53,7 +53,9 @@ ProgramFigures FiguresOfProgram(const QString& without) {
     ProgramFigures figures;
     QList<int> family{static_cast<int>(::getpid())};
     for (qsizetype i = 0; i < family.size(); ++i) {
-        figures.memoryMb += ProportionalMb(family[i]);
+        const QByteArray rollup = ReadProc(family[i], "smaps_rollup");
+        figures.memoryMb += InMb(rollup, "Pss");
+        figures.writtenMb += InMb(rollup, "Pss_Anon") + InMb(rollup, "Pss_Shmem");
         figures.processorMs +=
             all.value(family[i]).ticks * 1000 / static_cast<double>(::sysconf(_SC_CLK_TCK));
         for (auto process = all.cbegin(); process != all.cend(); ++process)
