@@ -62,7 +62,8 @@ bool Messenger::IsSubmitted() const {
 }
 
 bool Messenger::HasSent() const {
-    return IsSubmitted() && m_app.state.intMsgStep == MessageStep::AfterSend;
+    const qint16 step = m_app.state.intMsgStep;
+    return IsSubmitted() && (step == MessageStep::AfterSend || step == MessageStep::Captcha);
 }
 
 void Messenger::WaitUntilComplete() {

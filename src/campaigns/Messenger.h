@@ -16,7 +16,8 @@ public:
 
     // The step routine.
     void IterateSendMessages();
-    // The message to the present target has been pressed; its confirmation is awaited.
+    // The message to the present target has been pressed; its confirmation is awaited, or a CAPTCHA answered,
+    // whose page no address brings back.
     bool HasSent() const;
 
 private:

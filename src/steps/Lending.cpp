@@ -90,6 +90,8 @@ bool Lending::GiveBack() {
     state.blnHoldLinkCheck = false;
     state.blnLinkFound = loan.isDone;
     if (loan.isDone) {
+        if (loan.asksForCaptcha)
+            m_app.Get<RunReport>().Remark(u"A post fell due while its CAPTCHA was awaited"_s);
         m_app.timers->tmrCheckLinkLoaded.SetEnabled(false);
         m_app.timers->Timer1.Restart();
         return true;
