@@ -92,13 +92,14 @@ QGroupBox* NewTimingFrame(const TimingNames& names) {
     QLineEdit* amount = NewNumber(names.amount, SignsOfALimit);
     QLineEdit* from = NewNumber(names.from, SignsOfMinutes);
     QLineEdit* to = NewNumber(names.to, SignsOfMinutes);
-    QGroupBox* frame =
-        NewFrame(u"When to post"_s,
-                 {NewRow({NewCaptionOf(*amount), amount, NewText(u"times"_s)}),
-                  NewRow({NewCaptionOf(*from), from, NewCaptionOf(*to), to, NewText(u"minutes"_s)})});
+    // In a row: below each other they would not fit into the lowest window.
+    QHBoxLayout* boxes = NewRow({});
     for (const QLatin1StringView box : names.boxes)
-        frame->layout()->addWidget(Named(new QCheckBox, box));
-    return frame;
+        boxes->insertWidget(boxes->count() - 1, Named(new QCheckBox, box));
+    return NewFrame(u"When to post"_s,
+                    {NewRow({NewCaptionOf(*amount), amount, NewText(u"times"_s)}),
+                     NewRow({NewCaptionOf(*from), from, NewCaptionOf(*to), to, NewText(u"minutes"_s)}),
+                     boxes});
 }
 
 QVBoxLayout* NewTimedRunBand(const Commands& commands, const TimedRunNames& names) {
