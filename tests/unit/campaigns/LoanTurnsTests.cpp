@@ -108,7 +108,7 @@ private:
                             40 * state.blnHoldLinkCheck + 80 * app->timers->Timer1.Enabled());
         return std::exchange(m_seen, stand) != stand;
     }
-    // Whose page is opened although the log has them.
+    // Whose page is opened although the log or a note has them.
     void NoteOpened() {
         for (const auto& form : Browser().TakePosted())
             m_sent += form.url.right(4);
@@ -119,6 +119,7 @@ private:
         const QString log = app->ProgramFile(QString::fromLatin1(m_lender.campaign->logFile));
         if (app->files.FileExists(log))
             m_logged = app->files.ReadLines(log);
+        m_logged += OpenNotes(app->files, log).All();
     }
     QStringList Results() {
         QStringList results;
