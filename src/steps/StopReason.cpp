@@ -38,7 +38,7 @@ constexpr StopReasonRow Rows[] = {
     {StopReason::NotEnglish, "LF1"_L1},
     {StopReason::LoginDone, "ILA"_L1, Ending::Other, true},
     {StopReason::OtherSignIn, "TYPED"_L1},
-    {StopReason::ChainEnded, "GNCA"_L1, Ending::Other, true},
+    {StopReason::ChainEnded, "GNCA"_L1},
 
     {StopReason::GatherBegins, "GATHERSTART1"_L1},
     {StopReason::WebSearchBegins, "GATHERSTART2"_L1},
