@@ -388,9 +388,8 @@ Next AcceptFriends::OpenLastPage() {
     state.intAccStep = AcceptStep::Approve;
     SetLoadCheck();
     m_app.Get<GatherDriver>().SetMustNotHaveTexts();
-    const QString link =
-        IsOnOlderList() ? u"javascript: requestlist.GoToPage('"_s + last + u',' : LastPageButton;
-    if (page.ClickLinkFromHref(link))
+    if (IsOnOlderList() ? ClickLinkToPage(page, u"javascript: "_s, last)
+                        : page.ClickLinkFromHref(LastPageButton))
         return Next::Wait;
     state.strLinkType.clear();
     state.strLinkValue.clear();

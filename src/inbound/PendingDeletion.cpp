@@ -86,8 +86,7 @@ Next PendingRequests::OpenLastPage() {
     }
     page.WaitForDocument();
     m_app.state.intDelPenStep = PendingStep::Delete;
-    const bool isElsewhere =
-        last.toDouble() > 1 && page.ClickLinkFromHref(u"requestlist.GoToPage('"_s + last + u',');
+    const bool isElsewhere = last.toDouble() > 1 && ClickLinkToPage(page, {}, last);
     if (!isElsewhere)
         return Next::Again;
     Await(u"cancel request"_s);

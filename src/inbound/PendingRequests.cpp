@@ -237,10 +237,6 @@ bool PendingRequests::WaitForEntry() {
         report.RemarkPage(m_app.state.intPageClass);
         return false;
     }
-    if (m_app.Get<PageSigns>().IsTextInPage(u"Invalid friend ID"_s)) {
-        report.Remark(u"The site no longer knows this friend ID"_s);
-        return false;
-    }
     if (IsOnSite() && ClickText(u"Cancel Request"_s))
         return true;
     report.Remark(u"The page has nothing that cancels the request"_s);

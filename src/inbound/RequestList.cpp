@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "inbound/RequestList.h"
 
+#include "browser/PageSigns.h"
 #include "core/Text.h"
 
 #include <algorithm>
@@ -38,6 +39,12 @@ QString LastPageNumberOf(const Document& page) {
     if (!IsNumeric(number))
         number = NumberInPager(page.BodyHTML());
     return IsNumeric(number) ? number : u"1"_s;
+}
+
+// The number's quote may be closed before the comma, or after what follows it.
+bool ClickLinkToPage(PageSigns& page, const QString& beginning, const QString& number) {
+    const QString link = beginning + u"requestlist.GoToPage('"_s + number;
+    return page.ClickLinkFromHref(link + u',') || page.ClickLinkFromHref(link + u"',"_s);
 }
 
 std::vector<Element> RequestBoxes(const Document& page) {

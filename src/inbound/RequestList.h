@@ -9,6 +9,8 @@
 
 namespace qlm {
 
+class PageSigns;
+
 // The site's lists of friend requests, incoming and sent, in both layouts.
 
 // The newer list of what comes in.
@@ -16,6 +18,9 @@ inline const QString IncomingRequests = QStringLiteral("{SiteRootHost}/my/reques
 
 // GetLastPageNumber: the number of the list's last page, always digits.
 QString LastPageNumberOf(const Document& page);
+
+// Older layout: clicks the pager's link to that page, whose address begins so. False when there is none.
+bool ClickLinkToPage(PageSigns& page, const QString& beginning, const QString& number);
 
 // The boxes that choose requests, in page order.
 std::vector<Element> RequestBoxes(const Document& page);

@@ -43,7 +43,7 @@ public:
     void PlanRequests();
     void PlanMessages();
     void PlanAccepting();
-    bool HasAcceptedAll();
+    bool HasAcceptedAll() const;
     bool Run() { return program.Run(); }
     void Report() const;
 
@@ -67,7 +67,8 @@ private:
     int turn = 0;
     long long turnStartNs = 0;
     QString lastProgress;
-    QTimer standing; // runs out when a turn takes a minute
+    QTimer standing;     // runs out when a turn takes a minute
+    QStringList journal; // of the site, once all are accepted
     std::vector<double> turnMs;
     std::vector<Sample> samples;
 };
@@ -102,12 +103,16 @@ void Soak::PlanAccepting() {
         program.app.controls.SetText("txtAcceptSubject"_L1, u"Hi &NAME&"_s);
         program.app.controls.SetText("txtAcceptMessage"_L1, u"Thanks for asking"_s);
     });
-    program.PlanReport(6 * 3600, u"Finished accepting"_s);
+    WindowDriver& driver = program.driver;
+    driver.Add({u"The report"_s, 6 * 3600, [&driver] { return driver.WasTold(u"Finished accepting"_s); },
+                [this, &driver] {
+                    journal = site.Journal();
+                    driver.End({});
+                }});
 }
 
 // Everybody once, each with one message, by the site's journal.
-bool Soak::HasAcceptedAll() {
-    const QStringList journal = site.Journal();
+bool Soak::HasAcceptedAll() const {
     QStringList accepted = TargetsOf(journal, u"accepted"_s);
     QStringList messaged = TargetsOf(journal, u"messaged"_s);
     std::ranges::sort(accepted);

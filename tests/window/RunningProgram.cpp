@@ -37,8 +37,8 @@ void RunningProgram::PlanSending(const QString& tab, const char* send, std::func
                 }});
 }
 
-void RunningProgram::PlanReport(int limitSeconds, const QString& told) {
-    driver.Add({u"The report"_s, limitSeconds, [this, told] { return driver.WasTold(told); },
+void RunningProgram::PlanReport(int limitSeconds) {
+    driver.Add({u"The report"_s, limitSeconds, [this] { return driver.WasTold(u"Finished sending"_s); },
                 [this] { driver.End({}); }});
 }
 

@@ -25,7 +25,7 @@ public:
         const QString& tab = QStringLiteral("Friend Requester"), const char* send = "piccmdAddFriends",
         std::function<void()> fillIn = [] {});
     // Adds the step that waits for the run's report and ends.
-    void PlanReport(int limitSeconds, const QString& told = QStringLiteral("Finished sending"));
+    void PlanReport(int limitSeconds);
     // From the program's start until the driver has ended. False when the driver met a problem.
     bool Run();
 
