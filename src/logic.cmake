@@ -180,6 +180,8 @@ add_library(quillmere_logic STATIC
     maintenance/RestoreCheck.cpp
     maintenance/StagedFiles.cpp
 
+    schedule/AutoStart.cpp
+
     program/Activities.cpp
     program/GlobalSettings.cpp
     program/MainForm.cpp

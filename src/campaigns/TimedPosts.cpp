@@ -92,7 +92,9 @@ void TimedPosts::Hold() {
 }
 
 const SubjectAndBody& TimedPosts::Text() {
-    if (!m_text) {
+    // What was chosen for another account before the switch is not this one's to say.
+    if (!m_text || m_account != m_app.state.AccountEmail) {
+        m_account = m_app.state.AccountEmail;
         m_text = ChooseText(m_app, m_campaign);
         m_name = NameOf(*m_text);
     }

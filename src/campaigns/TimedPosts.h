@@ -55,6 +55,7 @@ private:
     const CampaignTiming& m_timing;
     const std::function<void()> m_post;
     std::optional<SubjectAndBody> m_text;
+    QString m_account; // that it was chosen for
     bool m_isReported = false;
     QString m_name; // of the present post, in report and note
 };

@@ -11,6 +11,7 @@
 #include "core/Tabs.h"
 #include "core/Text.h"
 #include "gather/BlackList.h"
+#include "schedule/AutoStart.h"
 #include "steps/ActionTick.h"
 #include "steps/BrowserHost.h"
 #include "steps/Steps.h"
@@ -80,6 +81,7 @@ void MainForm::Form_Load() {
         state.arrFriendIDs = IdList{QString()};
         m_app.diagnostics.Debug(u"debuginitial.txt"_s, u"frmLoad 2"_s);
         m_app.Get<SettingsFields>().RestoreGeneralPrevious();
+        m_app.diagnostics.Trap("mnuAutoStart_Click", [this] { m_app.Get<AutoStart>().ReadSettings(); });
         m_app.Get<Pacing>().ReadBounds();
         m_app.Get<Pacing>().UpdateTimeDelayLabel();
         m_app.Get<BlackList>().FillArrayFromFile(u"arrBlacklistIDs"_s, m_app.Get<BlackList>().Path());

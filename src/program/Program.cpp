@@ -42,6 +42,7 @@
 #include "program/GlobalSettings.h"
 #include "program/MainForm.h"
 #include "program/StartUp.h"
+#include "schedule/AutoStart.h"
 #include "steps/ActionTick.h"
 #include "steps/Activities.h"
 #include "steps/BrowserHost.h"
@@ -115,6 +116,7 @@ void App::MakeFamilies() {
     m_families.Make<PendingRequests>(*this);
     m_families.Make<Backup>(*this);
     m_families.Make<Restore>(*this);
+    m_families.Make<AutoStart>(*this);
 }
 
 // What the floors below ask of those above.

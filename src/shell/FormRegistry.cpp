@@ -37,6 +37,7 @@ constexpr FormRow Forms[] = {
     {"frmAccountDetails"_L1, u"Account Details", BuildAccountDetails},
     {"frmLoginProblem"_L1, u"Login problem", BuildLoginProblem},
     {"frmMultipleAccounts"_L1, u"Multiple Chaining", BuildMultipleAccounts},
+    {"frmAutoStart"_L1, u"Auto Start", BuildAutoStart},
     {"frmChainingOn"_L1, u"Account Chaining", BuildChainingOn},
     {"frmError"_L1, u"Error", BuildError},
     {"frmTerms"_L1, u"Terms of Service", BuildTerms},

@@ -7,6 +7,7 @@ class Form;
 
 // The builders of the forms: each lays out the widgets of one, by their names.
 void BuildAccountDetails(Form& form);
+void BuildAutoStart(Form& form);
 void BuildBlacklist(Form& form);
 void BuildBookmark(Form& form);
 void BuildChainingOn(Form& form);

@@ -90,6 +90,9 @@ FootLine::FootLine() {
     row->setContentsMargins(12, 3, 12, 3);
     row->setSpacing(16);
     row->addWidget(status, 1);
+    QLabel* start = NewLabel("lblAutoStart"_L1);
+    start->setProperty("hideWhenEmpty", true);
+    row->addWidget(start);
     row->addWidget(NewLabel("lblTimeDelay"_L1));
     row->addWidget(account);
     row->addWidget(practice);
