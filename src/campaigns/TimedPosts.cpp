@@ -13,6 +13,7 @@
 #include "steps/StopResume.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 namespace qlm {
@@ -97,6 +98,11 @@ const SubjectAndBody& TimedPosts::Text() {
         m_account = m_app.state.AccountEmail;
         m_text = ChooseText(m_app, m_campaign);
         m_name = NameOf(*m_text);
+    }
+    // The start refuses that; the fields may be those of another account since.
+    if (m_text->body.trimmed().isEmpty()) {
+        m_text.reset();
+        throw std::runtime_error("The account has no text to post");
     }
     if (!std::exchange(m_isReported, true))
         m_app.Get<RunReport>().Open(m_name);
