@@ -37,6 +37,14 @@ QString PostDrawing() {
 )-"_s;
 }
 
+QString InviteDrawing() {
+    return uR"-(<svg xmlns="http://www.w3.org/2000/svg" width="128" height="28" viewBox="0 0 128 28">
+<rect width="128" height="28" rx="5" fill="#4c7a3b"/>
+<text x="64" y="19" text-anchor="middle" font-family="Verdana, DejaVu Sans, sans-serif" font-size="12"
+ font-weight="bold" fill="#fff">Invite Others</text></svg>
+)-"_s;
+}
+
 QString ComedyBadge() {
     return uR"-(<svg xmlns="http://www.w3.org/2000/svg" width="120" height="34" viewBox="0 0 120 34">
 <rect width="120" height="34" rx="6" fill="#7a3b69"/><circle cx="18" cy="14" r="7" fill="#ffd28a"/>

@@ -11,6 +11,7 @@ struct Person;
 QString LogoDrawing();
 QString IconDrawing();
 QString PostDrawing(); ///< an image for a button
+QString InviteDrawing(); ///< another one
 QString ComedyBadge();
 QString FilmBadge();
 

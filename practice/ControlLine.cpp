@@ -3,6 +3,7 @@
 
 #include "Designs.h"
 #include "InboundControls.h"
+#include "InviteControls.h"
 #include "Refusals.h"
 #include "World.h"
 #include "WritingControls.h"
@@ -238,6 +239,9 @@ constexpr std::array controlRows{
     ControlRow{"accept-outcome"_L1, SetAcceptOutcome},
     ControlRow{"accept-share"_L1, SetAcceptShare},
     ControlRow{"request-list"_L1, SetRequestList},
+    ControlRow{"invite-form"_L1, SetInviteForm},
+    ControlRow{"invite-captcha"_L1, SetInviteCaptcha},
+    ControlRow{"public-event"_L1, SetPublicEvent},
     ControlRow{"vanish"_L1, Vanish},
     ControlRow{"mobile"_L1, SetMobile},
     ControlRow{"mail"_L1, SetMail},

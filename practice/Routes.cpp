@@ -11,7 +11,9 @@
 #include "pages/ComposePages.h"
 #include "pages/ControlPages.h"
 #include "pages/DesignPages.h"
+#include "pages/EventPages.h"
 #include "pages/FormMap.h"
+#include "pages/GroupPages.h"
 #include "pages/HardPages.h"
 #include "pages/HomePages.h"
 #include "pages/IncomingPages.h"
@@ -71,11 +73,20 @@ constexpr std::array routeRows{
     RouteRow{Role::SiteRoot, u"bulletins", u"", BulletinBoard},
     RouteRow{Role::SiteRoot, u"bulletins/new", u"", BulletinForm},
     RouteRow{Role::SiteRoot, u"bulletins/{id}", u"", PostedBulletins},
+    RouteRow{Role::Groups, u"index.cfm", u"groups.grouphome", GroupPage},
+    RouteRow{Role::Groups, u"index.cfm", u"groups.groupInvite", GroupInvitePage},
+    RouteRow{Role::Groups, u"index.cfm", u"groups.friendBox", GroupFriendBox},
+    RouteRow{Role::Events, u"index.cfm", u"groups.friendBox", GroupFriendBox},
+    RouteRow{Role::Events, u"Event/View/{id}", u"", EventPage},
+    RouteRow{Role::Events, u"Event/Report/{id}", u"", EventPage},
+    RouteRow{Role::Events, u"Event/AddEdit/{id}", u"", EventGuestPage},
+    RouteRow{Role::Events, u"Event/FriendBox/{id}", u"", EventFriendBox},
     RouteRow{Role::SiteRoot, u"{id}", u"", ProfilePage},
     RouteRow{Role::SiteRoot, u"{id}/classic", u"", ClassicProfile},
     RouteRow{Role::SiteRoot, u"style/site.css", u"", StyleSheet, Shows::Picture},
     RouteRow{Role::SiteRoot, u"style/forms.js", u"", FormScript, Shows::Picture},
     RouteRow{Role::SiteRoot, u"style/requests.js", u"", RequestScript, Shows::Picture},
+    RouteRow{Role::SiteRoot, u"style/invites.js", u"", InviteScript, Shows::Picture},
     RouteRow{Role::SiteRoot, u"style/logo.svg", u"", Logo, Shows::Picture},
     RouteRow{Role::SiteRoot, u"style/post.svg", u"", PostButton, Shows::Picture},
     RouteRow{Role::SiteRoot, u"pictures/{id}.svg", u"", ProfilePicture, Shows::Picture},

@@ -47,6 +47,7 @@ void World::Sow(quint64 newSeed) {
     friends = FriendLists(seed);
     requests = FriendRequests(seed);
     incoming = Incoming(seed);
+    invitations = Invitations();
     messages = NewMessages(seed);
     comments = NewComments(seed);
     bulletins = NewBulletins(seed);

@@ -6,6 +6,7 @@
 #include "FriendLists.h"
 #include "FriendRequests.h"
 #include "Incoming.h"
+#include "Invitations.h"
 #include "Journal.h"
 #include "ListSizes.h"
 #include "MobileDesign.h"
@@ -37,6 +38,7 @@ struct World {
     ListSizes lists;
     FriendRequests requests;
     Incoming incoming;
+    Invitations invitations;
     Writing messages;
     Writing comments;
     Writing bulletins;

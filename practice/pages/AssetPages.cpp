@@ -37,6 +37,10 @@ Response RequestScript(Visit&) {
     return Asset(u"requests.js"_s, u"text/javascript"_s);
 }
 
+Response InviteScript(Visit&) {
+    return Asset(u"invites.js"_s, u"text/javascript"_s);
+}
+
 Response Logo(Visit&) {
     return Svg(LogoDrawing());
 }
@@ -58,6 +62,8 @@ Response BadgeImage(Visit& visit) {
     const QString file = visit.captures.value(0);
     if (file == u"comedy/mscomedy.gif")
         return Svg(ComedyBadge());
+    if (file == u"button_invite_others.gif")
+        return Svg(InviteDrawing());
     return file == u"film_logo.gif" ? Svg(FilmBadge()) : NotFound(visit);
 }
 

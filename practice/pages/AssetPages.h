@@ -9,6 +9,7 @@ namespace qlm::practice {
 Response StyleSheet(Visit& visit);
 Response FormScript(Visit& visit);
 Response RequestScript(Visit& visit);
+Response InviteScript(Visit& visit);
 Response Logo(Visit& visit);
 Response PostButton(Visit& visit);
 Response Icon(Visit& visit);
