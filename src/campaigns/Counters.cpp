@@ -22,8 +22,10 @@ namespace {
 // Those that belong to no campaign.
 const std::vector<DailyCounter>& OtherCounters() {
     static const std::vector<DailyCounter> rows{
-        {"Daily Event Invites Count", "Daily Event Invites Count", &RunState::lngDailyEventInvites, {}},
-        {"Daily Group Invites Count", "Daily Group Invites Count", &RunState::lngDailyGroupInvites, {}},
+        {"Daily Event Invites Count", "Daily Event Invites Count", &RunState::lngDailyEventInvites,
+         "lblEventInvitesToday"_L1},
+        {"Daily Group Invites Count", "Daily Group Invites Count", &RunState::lngDailyGroupInvites,
+         "lblGroupInvitesToday"_L1},
         {"Daily Friend Request Accept Count",
          "Daily Friend Request Accept Count",
          &RunState::lngDailyAccepted,
@@ -56,7 +58,7 @@ void ShowToday(App& app, const DailyCounter& counter) {
 
 constexpr qint32 MostCounted = std::numeric_limits<qint32>::max();
 
-void Raise(qint32& count) {
+void RaiseByOne(qint32& count) {
     if (count < MostCounted)
         ++count;
 }
@@ -168,10 +170,23 @@ void Counters::ShowSentAtStart(const Campaign& campaign) {
 }
 
 void Counters::CountAccepted(qint32 number) {
-    qint32& today = m_app.state.lngDailyAccepted;
-    today = today < MostCounted - number ? today + number : MostCounted;
-    m_app.platform.Settings().SaveSetting(CountersSection(m_app), u"Daily Friend Request Accept Count"_s,
-                                          QString::number(today));
+    Raise(&RunState::lngDailyAccepted, number);
+}
+
+void Counters::CountInvited(qint32 RunState::*today, qint32 number) {
+    Raise(today, number);
+}
+
+void Counters::Raise(qint32 RunState::*today, qint32 number) {
+    qint32& count = m_app.state.*today;
+    count = count < MostCounted - number ? count + number : MostCounted;
+    for (const DailyCounter& counter : OtherCounters()) {
+        if (counter.count != today)
+            continue;
+        ShowToday(m_app, counter);
+        m_app.platform.Settings().SaveSetting(CountersSection(m_app), QString::fromLatin1(counter.key),
+                                              QString::number(count));
+    }
     m_app.Get<SettingsFields>().Sync();
 }
 
@@ -181,12 +196,12 @@ bool Counters::Count(const Campaign& campaign) {
         return true;
     if (campaign.limitComesFirst && StopAtLimit(campaign))
         return false;
-    Raise(state.*campaign.today.count);
+    RaiseByOne(state.*campaign.today.count);
     ShowToday(m_app, campaign.today);
     m_app.platform.Settings().SaveSetting(CountersSection(m_app), QString::fromLatin1(campaign.today.key),
                                           QString::number(state.*campaign.today.count));
     m_isStored = m_app.Get<SettingsFields>().Sync();
-    Raise(state.*campaign.session);
+    RaiseByOne(state.*campaign.session);
     m_app.controls.SetText(campaign.sentLabel, SentText(m_app, campaign, campaign.sentSoFar));
     return true;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/RunState.h"
+
 namespace qlm {
 
 class App;
@@ -21,6 +23,8 @@ public:
     bool Count(const Campaign& campaign);
     // So many friend requests have been accepted.
     void CountAccepted(qint32 number);
+    // So many have been invited; today is one of the two counts.
+    void CountInvited(qint32 RunState::*today, qint32 number);
     // Whether one of the two below would end the campaign's run.
     bool IsLimitDue(const Campaign& campaign) const;
     // True when the campaign's limit has been reached and its run is over.
@@ -33,6 +37,7 @@ public:
     void ShowSentAtStart(const Campaign& campaign);
 
 private:
+    void Raise(qint32 RunState::*today, qint32 number);
     void Clear();
     void Read();
     bool IsPerDay(const Campaign& campaign) const;

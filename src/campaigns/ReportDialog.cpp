@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "campaigns/ReportDialog.h"
 
+#include "campaigns/OpenNotes.h"
+#include "campaigns/SentLog.h"
 #include "core/App.h"
 #include "steps/RunReport.h"
 
+#include <QFileInfo>
 #include <algorithm>
 
 namespace qlm {
@@ -46,7 +49,10 @@ void Complete(ReportedRun& run, bool isRunning) {
 QStringList Captions(const QList<ReportedRun>& runs) {
     QStringList captions;
     for (const ReportedRun& run : runs) {
-        const QString plain = run.begun + (run.account.isEmpty() ? QString() : u"   "_s + run.account);
+        QString plain = run.begun;
+        for (const QString& more : {run.account, QFileInfo(run.about).completeBaseName()})
+            if (!more.isEmpty())
+                plain += u"   "_s + more;
         QString caption = plain;
         for (int other = 2; captions.contains(caption); ++other)
             caption = plain + u"   ("_s + QString::number(other) + u')';
@@ -63,6 +69,7 @@ ReportDialog::ReportDialog(App& app, RunReport& report)
     commands.Add(Form + u".cboRuns_Click"_s,
                  [this] { ShowRun(m_app.controls.Selected("frmRunReport.cboRuns"_L1)); });
     commands.Add(Form + u".cmdSaveCSV_Click"_s, "cmdSaveCSV_Click", [this] { cmdSaveCSV_Click(); });
+    commands.Add(Form + u".cmdTakeOffLog_Click"_s, "cmdTakeOffLog_Click", [this] { cmdTakeOffLog_Click(); });
     commands.Add(Form + u".cmdClose_Click"_s, [this] { m_app.platform.Dialogs().CloseForm(Form); });
     report.onChange = [this] { m_isStale = true; };
 }
@@ -113,8 +120,29 @@ void ReportDialog::ShowRun(qsizetype run) {
                          ? QString()
                          : u"The report can't be written to the disk; it goes on in memory. "_s + problem);
     controls.SetEnabled("frmRunReport.cmdSaveCSV"_L1, !m_shown.rows.isEmpty());
+    controls.SetVisible("frmRunReport.cmdTakeOffLog"_L1, !Unsent().isEmpty());
     if (onRows)
         onRows();
+}
+
+// Those of a run that goes on may still be sent to.
+QStringList ReportDialog::Unsent() const {
+    QStringList ids;
+    if (m_shown.about.isEmpty() || m_report.IsRunning(*m_kind))
+        return ids;
+    const QStringList noted = OpenNotes(m_app.files, m_app.ProgramFile(m_shown.about)).All();
+    for (const ReportRow& row : m_shown.rows)
+        if (row.result == ReportResult::Unfinished && noted.contains(row.id))
+            ids.append(row.id);
+    return ids;
+}
+
+void ReportDialog::cmdTakeOffLog_Click() {
+    const QStringList ids = Unsent();
+    SentLog(m_app, m_app.ProgramFile(m_shown.about)).TakeOff(ids);
+    Load();
+    m_app.ShowMessage(QString::number(ids.size()) +
+                      u" were taken off the log. The next run may invite them."_s);
 }
 
 void ReportDialog::cmdSaveCSV_Click() {

@@ -26,6 +26,9 @@ public:
 
 private:
     void cmdSaveCSV_Click();
+    void cmdTakeOffLog_Click();
+    // Who of the shown run stands in a log although nobody knows whether anything was sent.
+    QStringList Unsent() const;
     void Load();
     void ShowRun(qsizetype run);
     void KeepUp();

@@ -24,6 +24,7 @@ public:
     // What any run begins with: nothing of an earlier one is left, and whoever had lent the browser is over.
     void ResetRun(QLatin1StringView word);
     ReportDialog& ReportWindow() { return m_reportDialog; }
+    LogDialog& LogWindow() { return m_logDialog; }
     // The end step of the running campaign. In accept mode the accept run goes on instead.
     void Finish();
 

@@ -83,6 +83,17 @@ bool SentLog::IsNoted(const QString& id) {
     return noted;
 }
 
+// The notes go last: an end in between leaves who is out of the log noted.
+void SentLog::TakeOff(const QStringList& ids) {
+    const QString path = Path();
+    QStringList left;
+    for (const QString& line : m_app.files.ReadLines(path))
+        if (!ids.contains(line.trimmed()))
+            left.append(line);
+    m_app.files.WriteLines(path, left);
+    OpenNotes(m_app.files, path).StrikeOut(ids);
+}
+
 void SentLog::SettleNotes() {
     m_app.diagnostics.Trap("SettleNotes", [this] {
         const QString path = Path();

@@ -33,6 +33,8 @@ public:
     // Strikes the note of strCurrentID out: no log line is to come, and none is needed.
     void WithdrawNote();
     bool IsNoted(const QString& id);
+    // Their lines go, and their notes with them. Throws FileError.
+    void TakeOff(const QStringList& ids);
     // Strikes out the notes of those who stand in the log: a process that died after the line left them.
     void SettleNotes();
 

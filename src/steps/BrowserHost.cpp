@@ -99,7 +99,7 @@ bool BrowserHost::WebBrowser1_BeforeNavigate2(const NavigationRequest& request) 
     if (clickToGather && state.CurrentAction.isEmpty() && request.headers.isEmpty() &&
         Has(request.url, m_app.Expand(u"{SiteDomain}"_s)))
         return gatherClicked(request.url);
-    if (!clickToGather && state.blnUserNavigated &&
+    if (!clickToGather && state.blnUserNavigated && state.CurrentAction != ActivityWord::Invites &&
         request.url.contains(m_app.Expand(u"{GroupsHost}"_s), Qt::CaseSensitive))
         return true;
     if (loggingIn)

@@ -61,8 +61,9 @@ QString ResultText(ReportResult result) {
     return NameOf(result).text;
 }
 
-QString RunLine(const QString& time, const QString& account) {
-    return Line({RunWord, time, account});
+QString RunLine(const QString& time, const QString& account, const QString& about) {
+    return Line(about.isEmpty() ? QStringList{RunWord, time, account}
+                                : QStringList{RunWord, time, account, about});
 }
 
 QString BegunLine(const ReportRow& row) {
@@ -86,8 +87,8 @@ void ReportReader::Take(const QString& line) {
     const QStringList fields = line.split(u'\t');
     if (fields.size() < 3 || fields.constLast() != Mark)
         return;
-    if (fields.size() == 4 && fields[0] == RunWord)
-        Begin({fields[1], fields[2], {}, {}, {}});
+    if ((fields.size() == 4 || fields.size() == 5) && fields[0] == RunWord)
+        Begin({fields[1], fields[2], fields.size() == 5 ? fields[3] : QString(), {}, {}, {}});
     else if (m_runs.isEmpty())
         return;
     else if (fields.size() == 4 && fields[0] == EndWord)

@@ -35,6 +35,7 @@ struct ReportRow {
 struct ReportedRun {
     QString begun; // when
     QString account;
+    QString about; // what it was for, where runs differ in that
     QString ended; // when; empty for a run without a last line
     QString how;   // why it ended
     QList<ReportRow> rows;
@@ -45,7 +46,7 @@ QString ResultText(ReportResult result);
 
 // The lines of a report's file. Each ends with a mark of its own, so that one which a power cut left
 // unfinished is told from a whole one and passed over.
-QString RunLine(const QString& time, const QString& account);
+QString RunLine(const QString& time, const QString& account, const QString& about = {});
 QString BegunLine(const ReportRow& row);
 QString ResultLine(const ReportRow& row);
 QString EndLine(const QString& time, const QString& how);

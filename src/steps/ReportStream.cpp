@@ -95,17 +95,18 @@ QString ReportStream::Path() const {
     return FileSystem::Join(folder, QString::fromLatin1(m_kind.file));
 }
 
-void ReportStream::Begin() {
+void ReportStream::Begin(const QString& about) {
     m_running = true;
     m_isResting = false;
     m_problemTold = false;
     m_row = {};
+    m_unsettled.clear();
     if (const QString path = Path(); path != m_path) {
         m_path = path;
         m_lines.clear();
     }
     DropOldRuns();
-    m_lines.append(RunLine(m_app.NowText(), m_app.state.AccountEmail));
+    m_lines.append(RunLine(m_app.NowText(), m_app.state.AccountEmail, about));
     Write(Durability::Synced);
 }
 
@@ -193,6 +194,26 @@ void ReportStream::Close(ReportResult result, const QString& why) {
         m_row.why = why;
     m_lines.append(ResultLine(m_row));
     Write(Durability::Synced);
+}
+
+void ReportStream::CloseForNow(const QString& id, const QString& why) {
+    if (!m_running)
+        return;
+    m_row = {m_row.number + 1, m_app.NowText(), id, ReportResult::Unfinished, 0, why};
+    m_unsettled.append(m_row);
+    m_lines.append(ResultLine(m_row));
+    Write(Durability::Synced);
+}
+
+void ReportStream::Settle(ReportResult result, const QString& why) {
+    for (ReportRow& row : m_unsettled) {
+        row.time = m_app.NowText();
+        row.result = result;
+        row.why = why;
+        m_lines.append(ResultLine(row));
+    }
+    m_unsettled.clear();
+    Flush();
 }
 
 void ReportStream::Flush() {

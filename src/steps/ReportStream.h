@@ -31,7 +31,10 @@ class ReportStream {
 public:
     ReportStream(App& app, const ReportKind& kind) : m_app(app), m_kind(kind) {}
 
-    void Begin();
+    // about: what this run is for, where runs differ in that.
+    void Begin(const QString& about = {});
+    // A run that was ended goes on after all.
+    void Reopen() { m_running = true; }
     // Does nothing without a run.
     void End(Ending ending);
     bool IsRunning() const { return m_running; }
@@ -48,6 +51,10 @@ public:
     void Confirm();
     void MarkSent(bool isLogged);
     void Close(ReportResult result, const QString& why = {});
+    // A target that is done with but for the site's answer, which comes for all of them together. Until then it
+    // counts as unfinished, for that reason.
+    void CloseForNow(const QString& id, const QString& why);
+    void Settle(ReportResult result, const QString& why = {});
     void Flush();
 
     // Where the account in use has its file.
@@ -74,6 +81,7 @@ private:
     bool m_isOpen = false;
     bool m_isConfirmed = false;
     std::optional<ReportResult> m_sentAs;
+    QList<ReportRow> m_unsettled;
     QString m_problem;
     bool m_problemTold = false;
 };

@@ -19,14 +19,19 @@ ReportStream& RunReport::StreamOf(const ReportKind& kind) {
     return *m_streams.back();
 }
 
-void RunReport::BeginRun(const ReportKind& kind) {
+void RunReport::BeginRun(const ReportKind& kind, const QString& about) {
     if (kind.file[0] == 0)
         return;
     for (const auto& stream : m_streams)
         if (!stream->IsResting() || qstrcmp(stream->Kind().file, kind.file) == 0)
             stream->End(Ending::Other);
     m_atWork = &StreamOf(kind);
-    m_atWork->Begin();
+    m_atWork->Begin(about);
+}
+
+void RunReport::Reopen(const ReportKind& kind) {
+    m_atWork = &StreamOf(kind);
+    m_atWork->Reopen();
 }
 
 void RunReport::EndRun(StopReason reason) {
@@ -88,6 +93,16 @@ void RunReport::MarkSent(bool isLogged) {
 void RunReport::Close(ReportResult result, const QString& why) {
     if (m_atWork)
         m_atWork->Close(result, why);
+}
+
+void RunReport::CloseForNow(const QString& id, const QString& why) {
+    if (m_atWork)
+        m_atWork->CloseForNow(id, why);
+}
+
+void RunReport::Settle(ReportResult result, const QString& why) {
+    if (m_atWork)
+        m_atWork->Settle(result, why);
 }
 
 void RunReport::Flush() {

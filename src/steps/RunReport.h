@@ -22,7 +22,10 @@ public:
 
     // Ends whatever is under way and doesn't rest: a start over a running run gets no stop in between. Of a
     // run without report nothing is written.
-    void BeginRun(const ReportKind& kind);
+    // about: what the run is for, where runs differ in that.
+    void BeginRun(const ReportKind& kind, const QString& about = {});
+    // The last one of that kind, which a stop has ended, goes on after all.
+    void Reopen(const ReportKind& kind);
     // The runs are over, for the reason that StopAll was given; at its own end the one at work alone.
     void EndRun(StopReason reason);
     // The one at work alone has come to its end.
@@ -52,6 +55,9 @@ public:
     void MarkSent(bool isLogged);
     // The open target's result; words given here stand in for a missing remark. Nothing when none is open.
     void Close(ReportResult result, const QString& why = {});
+    // As ReportStream's: targets whose results come for all of them together.
+    void CloseForNow(const QString& id, const QString& why);
+    void Settle(ReportResult result, const QString& why = {});
     // Lines that are still in memory go to the file.
     void Flush();
 

@@ -25,6 +25,7 @@ enum class StopReason {
     StatusStop,
     AcceptStop,
     PendingStop,
+    InviteStop,
 
     WindowStop,  // the window's Stop
     Closing,     // the program ends
@@ -44,9 +45,17 @@ enum class StopReason {
     GatherStop,      // the Stop button of the gathering
     StoppedInFilter, // a stop was found at the return from the filters
     GatherDone,      // no next page
-    PendingFailed,   // an error has ended the canceling of pending requests
-    PagesRepeat,     // the site shows no more than a thousand pages
-    LoginAgain,      // the session was lost a second time on the way back to the list
+    GroupInvitesBegin,
+    GroupInvitesDone,
+    GroupInvitesFailed, // an error, or a page that is none of a group's
+    EventInvitesBegin,
+    EventPagerDone, // each way of inviting to an event has an end of its own
+    EventTabsDone,
+    EventInvitesDone,
+    EventInvitesFailed,
+    PendingFailed, // an error has ended the canceling of pending requests
+    PagesRepeat,   // the site shows no more than a thousand pages
+    LoginAgain,    // the session was lost a second time on the way back to the list
 };
 
 // What a reason means to a run that is ended by it.

@@ -113,6 +113,25 @@ TEST_F(RunReportTest, TellsWhatBecameOfEachTarget) {
     EXPECT_EQ(Lines(), before);
 }
 
+TEST_F(RunReportTest, TargetsThatAreAnsweredTogetherStayUnfinishedUntilThen) {
+    report.BeginRun(kind, u"logs/Owls.txt"_s);
+    report.CloseForNow(u"1001"_s, u"not yet"_s);
+    report.CloseForNow(u"1002"_s, u"not yet"_s);
+    report.EndRun(StopReason::WindowStop);
+    EXPECT_EQ(report.Runs(kind)[0].about, u"logs/Owls.txt"_s);
+    EXPECT_EQ(Texts(report.Runs(kind)[0]),
+              (QStringList{u"1001: Unfinished, not yet"_s, u"1002: Unfinished, not yet"_s}));
+    // The stop is taken back.
+    report.Reopen(kind);
+    report.Settle(ReportResult::Sent);
+    report.CloseForNow(u"1003"_s, u"not yet"_s);
+    report.EndRun(StopReason::GroupInvitesDone);
+    ASSERT_EQ(report.Runs(kind).size(), 1);
+    EXPECT_EQ(Texts(report.Runs(kind)[0]),
+              (QStringList{u"1001: Sent"_s, u"1002: Sent"_s, u"1003: Unfinished, not yet"_s}));
+    EXPECT_EQ(report.Runs(kind)[0].how, u"All targets were gone through"_s);
+}
+
 TEST_F(RunReportTest, TellsHowTheRunEnded) {
     struct Row {
         StopReason reason;
