@@ -19,6 +19,7 @@ add_library(quillmere_logic STATIC
     core/controls/FriendRequesterTab.cpp
     core/controls/GatherForms.cpp
     core/controls/GatherTab.cpp
+    core/controls/InviteTab.cpp
     core/controls/MainWindow.cpp
     core/controls/Menus.cpp
     core/controls/MessengerTab.cpp
@@ -173,6 +174,19 @@ add_library(quillmere_logic STATIC
     inbound/PendingRequests.cpp
     inbound/RequestApproval.cpp
     inbound/RequestList.cpp
+
+    invites/EventBoxes.cpp
+    invites/EventInvites.cpp
+    invites/EventPager.cpp
+    invites/EventTabs.cpp
+    invites/FrameWalk.cpp
+    invites/GroupGrid.cpp
+    invites/GroupInvites.cpp
+    invites/InviteBlocks.cpp
+    invites/InviteLog.cpp
+    invites/InviteOptions.cpp
+    invites/InvitePages.cpp
+    invites/InviteRun.cpp
 
     maintenance/Backup.cpp
     maintenance/BackupSet.cpp

@@ -27,12 +27,14 @@ constexpr ControlForm Forms[] = {
     {rows::BulletinTab, {u"Timed Bulletins", "TABBULLETINS", "picBulletin"}},
     {rows::StatusTab, {u"Status Updater", "TABSTATUS", "picStatusUpdater"}},
     {rows::AcceptTab, {u"Accept Friends", "TABACCEPT", "picAcceptFriends"}},
+    {rows::InviteTab, {u"    Inviter", "TABINVITE", "picInvite"}},
     {rows::Filters},
     {rows::AccountForms},
     {rows::GatherForms},
     {rows::SettingsForms},
     {rows::SmallForms},
     {rows::ContentForms},
+    {rows::InviteForms},
 };
 
 } // namespace

@@ -37,6 +37,8 @@
 #include "gather/WebSearch.h"
 #include "inbound/AcceptFriends.h"
 #include "inbound/PendingRequests.h"
+#include "invites/EventInvites.h"
+#include "invites/GroupInvites.h"
 #include "maintenance/Backup.h"
 #include "maintenance/Restore.h"
 #include "program/GlobalSettings.h"
@@ -114,6 +116,8 @@ void App::MakeFamilies() {
             campaign->makeMachine(m_families, *this);
     m_families.Make<AcceptFriends>(*this);
     m_families.Make<PendingRequests>(*this);
+    m_families.Make<GroupInvites>(*this);
+    m_families.Make<EventInvites>(*this);
     m_families.Make<Backup>(*this);
     m_families.Make<Restore>(*this);
     m_families.Make<AutoStart>(*this);

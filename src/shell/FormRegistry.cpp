@@ -59,6 +59,8 @@ constexpr FormRow Forms[] = {
     {"frmPreview"_L1, u"Preview", frmPreview::Build, Make<frmPreview>},
     {"frmManageBookmarks"_L1, u"Manage Bookmarks", BuildManageBookmarks},
     {"frmBookmark"_L1, u"Bookmark", BuildBookmark, Make<frmBookmark>},
+    {"frmGroupInviteOptions"_L1, u"Invite Options", BuildGroupInviteOptions},
+    {"frmInvites"_L1, u"Invites", BuildInvites},
     {"frmRunReport"_L1, u"Run Report", frmRunReport::Build, Make<frmRunReport>},
 };
 

@@ -19,6 +19,8 @@ void BuildGlobalSettings(Form& form);
 void BuildGoogleSearch(Form& form);
 void BuildLogin(Form& form);
 void BuildLog(Form& form);
+void BuildGroupInviteOptions(Form& form);
+void BuildInvites(Form& form);
 void BuildLoginProblem(Form& form);
 void BuildManageBookmarks(Form& form);
 void BuildMultipleAccounts(Form& form);

@@ -22,7 +22,10 @@ QVariant ListRowsModel::data(const QModelIndex& index, int role) const {
         return {};
     if (role == Qt::CheckStateRole && HasBox(index.row()))
         return m_controls.RowTicked(m_name, index.row()) ? Qt::Checked : Qt::Unchecked;
-    return role == Qt::DisplayRole ? m_controls.Items(m_name).value(index.row()) : QVariant();
+    const QString text = m_controls.Items(m_name).value(index.row());
+    if (role == Qt::AccessibleTextRole)
+        return text.trimmed();
+    return role == Qt::DisplayRole ? text : QVariant();
 }
 
 bool ListRowsModel::setData(const QModelIndex& index, const QVariant& value, int role) {

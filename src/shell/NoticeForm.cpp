@@ -46,6 +46,8 @@ const std::vector<Notice>& Notices() {
          u"The product server is being asked for news and has not answered yet. After a minute at most the "
          u"login screen comes up, or a message says what is wrong.\nClose ends Quillmere.",
          false},
+        {"frmPleaseEnterCaptcha", u"CAPTCHA", u"", u"Please enter the CAPTCHA, then press the Invite button",
+         true},
         {"frmTempMySpaceErrorFR", u"Friend Requests", u"",
          u"A current issue on MySpace's end is causing friend requests for some accounts to redirect to an "
          u"error page "

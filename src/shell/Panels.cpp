@@ -23,6 +23,7 @@ constexpr PanelRow Panels[] = {
     {"picBulletin"_L1, BuildBulletin},
     {"picStatusUpdater"_L1, BuildStatusUpdater},
     {"picAcceptFriends"_L1, BuildAcceptFriends},
+    {"picInvite"_L1, BuildInvite},
 };
 
 } // namespace

@@ -22,5 +22,6 @@ QWidget* BuildCommenter(App& app, ControlBinder& binder);
 QWidget* BuildBulletin(App& app, ControlBinder& binder);
 QWidget* BuildStatusUpdater(App& app, ControlBinder& binder);
 QWidget* BuildAcceptFriends(App& app, ControlBinder& binder);
+QWidget* BuildInvite(App& app, ControlBinder& binder);
 
 } // namespace qlm

@@ -53,24 +53,26 @@ public:
                    const QModelIndex& index) override {
         if (event->type() != QEvent::ToolTip || !index.isValid() || m_strip.IsWide())
             return QStyledItemDelegate::helpEvent(event, view, option, index);
-        QToolTip::showText(event->globalPos(), index.data().toString(), view);
+        QToolTip::showText(event->globalPos(), Caption(index), view);
         return true;
     }
 
 private:
+    // Blanks around a caption belong to its name and are nothing to see.
+    static QString Caption(const QModelIndex& index) { return index.data().toString().trimmed(); }
+
     static void DrawCaption(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,
                             bool isChosen) {
         const QRect room = option.rect.adjusted(TabStrip::NarrowWidth, 0, -6, 0);
         QFont font = option.font;
         font.setWeight(isChosen ? QFont::DemiBold : QFont::Normal);
         // A long caption is rather whole than heavy.
-        if (QFontMetrics(font).horizontalAdvance(index.data().toString()) > room.width())
+        if (QFontMetrics(font).horizontalAdvance(Caption(index)) > room.width())
             font.setWeight(QFont::Normal);
         painter.setFont(font);
         painter.setPen(option.palette.color(QPalette::WindowText));
-        painter.drawText(
-            room, Qt::AlignVCenter | Qt::AlignLeft,
-            QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, room.width()));
+        painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft,
+                         QFontMetrics(font).elidedText(Caption(index), Qt::ElideRight, room.width()));
     }
 
     static void DrawFocus(QPainter& painter, const QStyleOptionViewItem& option) {

@@ -43,7 +43,7 @@ void frmRunReport::Build(Form& form) {
     column->addWidget(NewWrappedLabel("lblSummary"_L1));
     column->addWidget(NewWrappedLabel("lblProblem"_L1, u"notice"_s, true));
     column->addWidget(static_cast<frmRunReport&>(form).NewTable(), 1);
-    column->addWidget(NewButtonRow({"cmdClose"_L1, "cmdSaveCSV"_L1}));
+    column->addWidget(NewButtonRow({"cmdClose"_L1, "cmdSaveCSV"_L1, "cmdTakeOffLog"_L1}));
     form.resize(StartingSize.boundedTo(form.screen()->availableSize()));
 }
 

@@ -18,6 +18,8 @@ std::vector<ControlRow> CommenterTab();
 std::vector<ControlRow> BulletinTab();
 std::vector<ControlRow> StatusTab();
 std::vector<ControlRow> AcceptTab();
+std::vector<ControlRow> InviteTab();
+std::vector<ControlRow> InviteForms();
 std::vector<ControlRow> Filters();
 std::vector<ControlRow> AccountForms();
 std::vector<ControlRow> GatherForms();

@@ -9,6 +9,8 @@ std::vector<ControlRow> SmallForms() {
         Label("frmRunReport.lblSummary"),
         Label("frmRunReport.lblProblem"),
         Button("frmRunReport.cmdSaveCSV", u"&Save as CSV..."),
+        Button("frmRunReport.cmdTakeOffLog", u"Take the unsent &off the log")
+            .Tip(u"Who was chosen, but never sent to, can be invited again by the next run"),
         Button("frmRunReport.cmdClose", u"&Close"),
         List("frmRunReport.grdTargets").Spoken(u"What became of each profile"),
         Label("frmError.lblErrorLogPath").Spoken(u"The log file"),

@@ -194,10 +194,22 @@ void SimBrowser::RunAllWith(SimDocument& page, const QString& attribute) {
         RunStandIns(page, act);
 }
 
+// A script of the page reaches the frames that it may look into.
 void SimBrowser::RunScript(SimDocument& page, const QString& address) {
-    const SimTree& tree = page.Tree();
     const QString script = QUrl::fromPercentEncoding(address.toUtf8());
     scripts += script;
+    std::vector<std::shared_ptr<SimDocument>> documents{page.shared_from_this()};
+    if (&page == m_document.get())
+        for (const auto& [element, frame] : m_frames)
+            if (frame.reach == Reach::Same)
+                documents.push_back(frame.document);
+    for (const std::shared_ptr<SimDocument>& document : documents)
+        if (document->IsPresent())
+            RunScriptIn(*document, script);
+}
+
+void SimBrowser::RunScriptIn(SimDocument& page, const QString& script) {
+    const SimTree& tree = page.Tree();
     QStringList acts;
     tree.Walk(tree.Root(), [&](int element) {
         const QString part = tree.Attribute(element, u"data-on-script");

@@ -119,6 +119,7 @@ private:
     void SendBeside(SimDocument& page, int form);
     bool LoadElsewhere(SimDocument& page, const SimRequest& request, const QString& target);
     void RunScript(SimDocument& page, const QString& script);
+    void RunScriptIn(SimDocument& page, const QString& script);
     void RunStandIns(SimDocument& page, const QString& text);
     void CarryOut(SimDocument& page, const StandIn& act);
     void RunAllWith(SimDocument& page, const QString& attribute);

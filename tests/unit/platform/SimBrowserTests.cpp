@@ -232,6 +232,14 @@ TEST_F(SimBrowserTests, AScriptAddressWakesTheStandInThatNamesAPartOfIt) {
     EXPECT_EQ(browser.scripts, QStringList{u"javascript:__doPostBack('pager','2')"_s});
 }
 
+TEST_F(SimBrowserTests, AScriptOfThePageReachesItsFrames) {
+    Show(u"<iframe name=f srcdoc=\"<p id=in data-on-script='mark()' data-do='set #in innertext marked'>no</p>\">"
+         "</iframe>"_s);
+    browser.Navigate(u"javascript:frames[0].mark()"_s);
+    Settle();
+    EXPECT_EQ(browser.Document().FrameDocument(u"f"_s).BodyText(), u"marked"_s);
+}
+
 TEST_F(SimBrowserTests, ScrollingToTheEndWakesItsStandIns) {
     Show(u"<div id=list data-on-scroll='after 1s append #list <p>more</p>'>one</div>"_s);
     browser.Document().ScrollToEnd();

@@ -67,6 +67,11 @@ const TextTab Tabs[] = {
      {u"optAcceptDontSend"_s, u"picAccMsgPreview"_s, u"picAccComPreview"_s, u"picAccComNonHTMLPreview"_s,
       u"chkAcceptCommentNonHTML"_s, u"chkAcceptFromOldest"_s, u"txtAcceptToPage"_s,
       u"chkAcceptAddToUpdates"_s, u"picCmdAutoApprove"_s, u"piccmdAccStop"_s, u"piccmdAccReport"_s}},
+    {u"    Inviter",
+     rows::InviteTab,
+     {},
+     {u"piccmdGroupInvite"_s, u"piccmdEventInvite"_s, u"piccmdInviteStop"_s, u"piccmdInvClearLog"_s,
+      u"piccmdInviteReport"_s}},
 };
 
 // A screen of 1440 by 900 pixels at 200 % has half of them to lay things out on.
