@@ -16,8 +16,9 @@ using namespace Qt::Literals::StringLiterals;
 
 void BuildAutoStart(Form& form) {
     auto* hour = NewNumber("txtTimeHH"_L1, 3);
+    auto* half = Named(new QComboBox, "cboAMPM"_L1);
     auto* time = NewRow({NewCaptionOf(*hour), hour, new QLabel(u":"_s), NewNumber("txtTimeMM"_L1, 3),
-                         Named(new QComboBox, "cboAMPM"_L1)});
+                         NewCaptionOf(*half), half});
     time->addStretch();
     auto* action = Named(new QComboBox, "cboAutostartAction"_L1);
     auto* what = NewRow({NewCaptionOf(*action), action});

@@ -32,7 +32,7 @@ std::vector<ControlRow> AutoStart() {
         Option("frmAutoStart.optAutoStartOff", "frmAutoStart", u"O&ff").Ticked(),
         Line("frmAutoStart.txtTimeHH", u"&Time:").Spoken(u"Hour"),
         Line("frmAutoStart.txtTimeMM").Spoken(u"Minutes"),
-        Choice("frmAutoStart.cboAMPM").Choices(HalvesOfTheDay).Spoken(u"AM or PM"),
+        Choice("frmAutoStart.cboAMPM", u"&AM or PM:").Choices(HalvesOfTheDay),
         Choice("frmAutoStart.cboAutostartAction", u"&Start:").Choices(Actions),
         Label("frmAutoStart.Label2", u"Quillmere must already be running for this feature to work."),
         Button("frmAutoStart.cmdOK", u"&OK"),
