@@ -53,7 +53,7 @@ bool EventBoxes::GoToNextPage() {
     if (!m_app.Get<Pager>().ClickNextPageLink(u"next"_s, {}))
         return false;
     m_app.SetStatus(u"Waiting for next page to load..."_s);
-    m_run.Wait(u"the next page"_s, [&] { return m_run.PageMark() != mark && m_run.Has(u"listing"_s); });
+    m_run.Wait(u"the next page"_s, [&] { return m_run.HasTurned(mark) && m_run.Has(u"listing"_s); });
     m_run.WaitUntilComplete();
     return !m_run.IsStopped();
 }

@@ -76,7 +76,7 @@ void EventPager::GoToPage(const QString& status) {
     const QString mark = m_run.PageMark();
     m_app.WebBrowser1().Navigate(u"javascript:Events.Pager.AjaxPagerPrimary.getNewPagingData("_s +
                                  QString::number(m_page) + u")"_s);
-    m_run.Wait(u"the next page"_s, [&] { return (IsLoaded() && m_run.PageMark() != mark) || IsExpired(); });
+    m_run.Wait(u"the next page"_s, [&] { return (IsLoaded() && m_run.HasTurned(mark)) || IsExpired(); });
 }
 
 // The first page is there already.

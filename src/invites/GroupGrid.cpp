@@ -69,7 +69,7 @@ void GroupGrid::GoToStartPage() {
     const QString mark = m_run.PageMark();
     m_app.WebBrowser1().Navigate(u"javascript:__doPostBack('"_s + Pager + u"','"_s +
                                  QString::number(m_startPage) + u"')"_s);
-    m_run.Wait(u"the start page"_s, [&] { return m_run.PageMark() != mark; });
+    m_run.Wait(u"the start page"_s, [&] { return m_run.HasTurned(mark); });
     m_startPage = 1;
 }
 
@@ -121,7 +121,7 @@ void GroupGrid::GoToNextPage() {
         return;
     next.Click();
     m_app.SetStatus(u"Waiting for next page to load..."_s);
-    m_run.Wait(u"the next page"_s, [&] { return m_run.PageMark() != mark; });
+    m_run.Wait(u"the next page"_s, [&] { return m_run.HasTurned(mark); });
 }
 
 void GroupGrid::WaitForUser() {

@@ -18,8 +18,17 @@ namespace qlm {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-const QString NotSent = u"In the log, but the site has not confirmed that the invitation was sent"_s;
+// A page that goes away in the middle of the look is not the awaited one.
+bool Holds(const std::function<bool()>& condition) {
+    try {
+        return condition();
+    } catch (const BrowserError&) {
+        return false;
+    }
 }
+
+const QString NotSent = u"In the log, but the site has not confirmed that the invitation was sent"_s;
+} // namespace
 
 void InviteRun::Begin() {
     m_app.Get<StopResume>().StopAll(m_kind.begins);
@@ -53,7 +62,7 @@ void InviteRun::LeaveIfReplaced() const {
 }
 
 void InviteRun::Wait(const QString& what, const std::function<bool()>& condition) {
-    m_app.waiting.WaitFor(what, [&] { return !IsStopped() && !condition(); });
+    m_app.waiting.WaitFor(what, [&] { return !IsStopped() && !Holds(condition); });
     LeaveIfReplaced();
 }
 

@@ -48,6 +48,8 @@ public:
     bool Press(const QString& id) const;
     // What differs between two pages of a list.
     QString PageMark() const;
+    // Another page than that one has come, and is complete.
+    bool HasTurned(const QString& mark) const { return IsComplete() && PageMark() != mark; }
 
     // The log doesn't hold that ID.
     bool IsNew(const QString& id) const { return !m_log->Holds(id); }
