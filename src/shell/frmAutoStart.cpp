@@ -15,9 +15,9 @@ namespace qlm {
 using namespace Qt::Literals::StringLiterals;
 
 void BuildAutoStart(Form& form) {
-    auto* hour = NewNumber("txtTimeHH"_L1, 3);
+    auto* hour = NewNumber("txtTimeHH"_L1, 5);
     auto* half = Named(new QComboBox, "cboAMPM"_L1);
-    auto* time = NewRow({NewCaptionOf(*hour), hour, new QLabel(u":"_s), NewNumber("txtTimeMM"_L1, 3),
+    auto* time = NewRow({NewCaptionOf(*hour), hour, new QLabel(u":"_s), NewNumber("txtTimeMM"_L1, 5),
                          NewCaptionOf(*half), half});
     time->addStretch();
     auto* action = Named(new QComboBox, "cboAutostartAction"_L1);
