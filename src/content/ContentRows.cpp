@@ -77,6 +77,15 @@ std::vector<qsizetype> PlacesOfRows(ContentKind kind, const QStringList& lines) 
     return places;
 }
 
+// Row by row, so that what stands between the entries keeps its place.
+void Shift(QStringList& lines, const std::vector<qsizetype>& places, int from, int to) {
+    const auto count = static_cast<int>(places.size());
+    if (from < 0 || from >= count || to < 0 || to >= count)
+        return;
+    for (int step = from < to ? 1 : -1; from != to; from += step)
+        lines.swapItemsAt(places[static_cast<size_t>(from)], places[static_cast<size_t>(from + step)]);
+}
+
 } // namespace
 
 const QString& RowMarkerOf(ContentKind kind) {
@@ -113,6 +122,17 @@ FilledRows RowsOf(ContentKind kind, const QStringList& lines) {
     return filled;
 }
 
+std::vector<std::pair<int, bool>> TicksOf(ContentKind kind, const QStringList& lines, const QString& row) {
+    std::vector<std::pair<int, bool>> ticks;
+    int number = 0;
+    for (const qsizetype place : PlacesOfRows(kind, lines)) {
+        if (RowOf(kind, lines[place]) == row)
+            ticks.emplace_back(number, IsTicked(lines[place]));
+        ++number;
+    }
+    return ticks;
+}
+
 std::optional<ContentFields> DetailsOf(ContentKind kind, const QStringList& lines, const QString& row) {
     for (const QString& line : lines)
         if (const std::optional<QString> own = RowOf(kind, line); own && FirstLineOf(*own) == row)
@@ -138,24 +158,19 @@ void RestoreLines(QStringList& lines, const std::vector<RemovedLine>& removed) {
 }
 
 void MoveRow(ContentKind kind, QStringList& lines, const QString& row, Direction direction) {
+    DropBlankLines(lines);
     const std::vector<qsizetype> places = PlacesOfRows(kind, lines);
     const auto found =
         std::ranges::find_if(places, [&](qsizetype place) { return RowOf(kind, lines[place]) == row; });
     if (found == places.end())
         return;
     const auto number = static_cast<int>(found - places.begin());
-    MoveRowTo(kind, lines, number, direction == Direction::Up ? number - 1 : number + 1);
+    Shift(lines, places, number, direction == Direction::Up ? number - 1 : number + 1);
 }
 
 void MoveRowTo(ContentKind kind, QStringList& lines, int from, int to) {
     DropBlankLines(lines);
-    const std::vector<qsizetype> places = PlacesOfRows(kind, lines);
-    const auto count = static_cast<int>(places.size());
-    if (from < 0 || from >= count || to < 0 || to >= count)
-        return;
-    // Row by row, so that what stands between the entries keeps its place.
-    for (int step = from < to ? 1 : -1; from != to; from += step)
-        lines.swapItemsAt(places[static_cast<size_t>(from)], places[static_cast<size_t>(from + step)]);
+    Shift(lines, PlacesOfRows(kind, lines), from, to);
 }
 
 void TickRow(ContentKind kind, QStringList& lines, const QString& row, bool ticked) {

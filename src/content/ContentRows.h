@@ -4,6 +4,7 @@
 #include "content/ContentLine.h"
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace qlm {
@@ -26,6 +27,9 @@ struct FilledRows {
 std::optional<QString> RowOf(ContentKind kind, const QString& line);
 const QString& RowMarkerOf(ContentKind kind);
 FilledRows RowsOf(ContentKind kind, const QStringList& lines);
+
+// The numbers of the rows of that text, from 0, and whether they are ticked.
+std::vector<std::pair<int, bool>> TicksOf(ContentKind kind, const QStringList& lines, const QString& row);
 
 // The entry as its entry screen shows it. A subject with a line break in it hides its entry.
 std::optional<ContentFields> DetailsOf(ContentKind kind, const QStringList& lines, const QString& row);

@@ -116,9 +116,17 @@ void ListScreens::StoreOrder() {
     m_app.Get<SettingsFields>().Sync();
 }
 
-void ListScreens::FillList(int chosenRow) {
-    const QString error =
-        m_app.diagnostics.Trap(m_screen->fillTag, [&] { ShowRows(m_list->Lines(), chosenRow); });
+void ListScreens::FillList() {
+    const QString error = m_app.diagnostics.Trap(m_screen->fillTag, [this] { ShowRows(m_list->Lines(), 0); });
+    OfferToClear(error);
+}
+
+// What has just been written needs no reading.
+void ListScreens::FillWith(const QStringList& lines, int chosenRow) {
+    OfferToClear(m_app.diagnostics.Trap(m_screen->fillTag, [&] { ShowRows(lines, chosenRow); }));
+}
+
+void ListScreens::OfferToClear(const QString& error) {
     if (error.isEmpty() || !*m_screen->clearOffer ||
         !m_app.AskYesNo(QString::fromUtf16(m_screen->clearOffer)))
         return;
@@ -139,6 +147,8 @@ void ListScreens::ShowRows(const QStringList& lines, int chosenRow) {
     if (texts.isEmpty())
         texts.append(QString::fromUtf16(m_screen->placeholder) + u"..."_s);
     m_app.controls.SetItems(Box(), texts, ticks);
+    m_linesAtHand = &lines;
+    const auto gone = qScopeGuard([this] { m_linesAtHand = nullptr; });
     m_app.controls.SetSelected(Box(), chosenRow);
     if (filled.brokenLine > 0)
         throw std::runtime_error("Line " + std::to_string(filled.brokenLine) + " of the list has no \"" +
@@ -149,7 +159,8 @@ void ListScreens::FillDetails() {
     m_app.diagnostics.Trap("FillDetails", [this] {
         ContentFields fields;
         if (*m_screen->text && !IsNothingSelected())
-            fields = DetailsOf(m_list->Kind(), m_list->Lines(), m_app.controls.SelectedText(Box()))
+            fields = DetailsOf(m_list->Kind(), m_linesAtHand ? *m_linesAtHand : m_list->Lines(),
+                               m_app.controls.SelectedText(Box()))
                          .value_or(ContentFields());
         if (*m_screen->text)
             m_app.controls.SetText(QLatin1StringView(m_screen->text), fields.text);
@@ -214,7 +225,7 @@ void ListScreens::Delete() {
         m_list->File().Rewrite(lines);
         m_deleted.push_back(removed);
         m_app.controls.SetEnabled(QLatin1StringView(ControlNamed(ContentUndoDelete)), true);
-        FillList();
+        FillWith(lines, 0);
     });
 }
 
@@ -229,7 +240,7 @@ void ListScreens::UndoDelete() {
         removed.empty() ? QString() : RowOf(m_list->Kind(), removed.front().line).value_or(QString());
     m_deleted.pop_back();
     m_app.controls.SetEnabled(QLatin1StringView(ControlNamed(ContentUndoDelete)), !m_deleted.empty());
-    FillList();
+    FillWith(lines, 0);
     m_app.controls.SetSelected(Box(), static_cast<int>(m_app.controls.Items(Box()).indexOf(row)));
 }
 
@@ -240,7 +251,7 @@ void ListScreens::Move(Direction direction) {
         QStringList lines = m_list->Lines();
         MoveRow(m_list->Kind(), lines, m_app.controls.SelectedText(Box()), direction);
         m_list->File().Rewrite(lines);
-        FillList(isUp ? row - 1 : row + 1);
+        FillWith(lines, isUp ? row - 1 : row + 1);
     });
 }
 
@@ -252,7 +263,7 @@ void ListScreens::Drop(int place) {
     QStringList lines = m_list->Lines();
     MoveRowTo(m_list->Kind(), lines, row, place);
     m_list->File().Rewrite(lines);
-    FillList(place);
+    FillWith(lines, place);
 }
 
 // Boxes show what the file says: of rows with one text the first is meant.
@@ -262,9 +273,8 @@ void ListScreens::ChangeSelectedState(int row, bool ticked) {
         const QString text = m_app.controls.Items(Box()).value(row);
         TickRow(m_list->Kind(), lines, text, ticked);
         m_list->File().Rewrite(lines);
-        const FilledRows filled = RowsOf(m_list->Kind(), lines);
-        for (size_t i = 0; i < filled.rows.size(); ++i)
-            m_app.controls.SetRowTicked(Box(), static_cast<int>(i), filled.rows[i].ticked);
+        for (const auto& [place, isTicked] : TicksOf(m_list->Kind(), lines, text))
+            m_app.controls.SetRowTicked(Box(), place, isTicked);
     });
     if (!error.isEmpty())
         m_app.controls.SetRowTicked(Box(), row, !ticked);

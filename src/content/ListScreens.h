@@ -23,7 +23,9 @@ private:
     void RestoreOrder();
     void StoreOrder();
     // FillBulletinsList and so on.
-    void FillList(int chosenRow = 0);
+    void FillList();
+    void FillWith(const QStringList& lines, int chosenRow);
+    void OfferToClear(const QString& error);
     void ShowRows(const QStringList& lines, int chosenRow);
     void FillDetails();
     void EnableMoves();
@@ -48,6 +50,7 @@ private:
     EntryScreens m_entries;
     // Of the open screen.
     const ContentScreen* m_screen = nullptr;
+    const QStringList* m_linesAtHand = nullptr; // while the list is being filled with them
     std::optional<ContentList> m_list;
     QString m_section;                               // of its order options
     std::vector<std::vector<RemovedLine>> m_deleted; // the last one comes back first
