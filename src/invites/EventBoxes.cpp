@@ -34,9 +34,7 @@ void EventBoxes::Run() {
         ChooseOnPage();
     while (!m_run.IsStopped() && GoToNextPage());
     m_run.FinishAfterStop();
-    m_run.SaveDailyCount();
-    if (!m_run.IsStopped() && m_run.Chosen() > 0)
-        Submit();
+    m_run.SendBatch([this] { Submit(); });
 }
 
 void EventBoxes::ChooseOnPage() {
@@ -75,8 +73,6 @@ void EventBoxes::Submit() {
         const Element list = page && page.Body() ? page.GetElementById(u"post_rsvp_div"_s) : Element();
         return list && !IsHidden(list) && Has(m_app.WebBrowser1().LocationURL(), u"event/view/"_s);
     });
-    if (!m_run.IsStopped())
-        m_run.ConfirmBatch();
 }
 
 } // namespace qlm

@@ -55,15 +55,8 @@ void EventPager::Run() {
         m_run.BeginBatch();
         FillBatch();
         m_isFinished = m_run.FinishAfterStop() || m_isFinished;
-        m_run.SaveDailyCount();
-        if (m_run.IsStopped() || m_run.Chosen() == 0)
-            return;
         const QString address = m_app.WebBrowser1().LocationURL();
-        WaitForUser();
-        if (m_run.IsStopped())
-            return;
-        m_run.ConfirmBatch();
-        if (m_isFinished)
+        if (!m_run.SendBatch([this] { WaitForUser(); }) || m_isFinished)
             return;
         m_app.ClearPage();
         m_app.WebBrowser1().Navigate(address);

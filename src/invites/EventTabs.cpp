@@ -40,15 +40,7 @@ void EventTabs::Run() {
         Trace(u"STOPCLICKED"_s);
     if (m_run.FinishAfterStop())
         Trace(u"STOPCONFIRMED"_s);
-    m_run.SaveDailyCount();
-    if (m_run.IsStopped() || m_run.Chosen() == 0)
-        return;
-    if (m_isPublic)
-        SubmitPublic();
-    else
-        SubmitPrivate();
-    if (!m_run.IsStopped())
-        m_run.ConfirmBatch();
+    m_run.SendBatch([this] { m_isPublic ? SubmitPublic() : SubmitPrivate(); });
 }
 
 void EventTabs::TickBoxes() {

@@ -48,14 +48,9 @@ void GroupGrid::Run() {
         GoToStartPage();
         FillBatch();
         m_isFinished = m_run.FinishAfterStop() || m_isFinished;
-        m_run.SaveDailyCount();
-        if (m_run.IsStopped() || m_run.Chosen() == 0)
-            return;
         const QString address = m_app.WebBrowser1().LocationURL();
-        WaitForUser();
-        if (m_run.IsStopped())
+        if (!m_run.SendBatch([this] { WaitForUser(); }))
             return;
-        m_run.ConfirmBatch();
         GoBackTo(address);
     }
 }
@@ -90,10 +85,7 @@ void GroupGrid::FillBatch() {
 
 void GroupGrid::WaitForGrid() {
     m_app.SetStatus(u"Waiting for page to load..."_s);
-    m_run.Wait(u"the list of friends"_s, [this] {
-        const Document page = m_app.WebBrowser1().Document();
-        return page && page.GetElementById(HeaderBox);
-    });
+    m_run.Wait(u"the list of friends"_s, [this] { return m_run.HasElement(HeaderBox); });
     m_run.WaitUntilComplete();
 }
 

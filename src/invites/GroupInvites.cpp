@@ -70,7 +70,8 @@ void GroupInvites::cmdGroupInvite_Click() {
 bool GroupInvites::MayStart() {
     if (m_app.Get<GatherDriver>().RefuseDuringLogin())
         return false;
-    if (!PageHas(m_app.WebBrowser1(), u"members"_s) || !PageHas(m_app.WebBrowser1(), u"group leader"_s)) {
+    if (!m_app.Get<SendRuns>().IsOnSite() || !PageHas(m_app.WebBrowser1(), u"members"_s) ||
+        !PageHas(m_app.WebBrowser1(), u"group leader"_s)) {
         m_app.ShowMessage(WrongPage);
         return false;
     }

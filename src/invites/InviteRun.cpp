@@ -4,6 +4,7 @@
 #include "browser/Cover.h"
 #include "browser/PageView.h"
 #include "campaigns/Counters.h"
+#include "campaigns/SendRuns.h"
 #include "core/ActivityWords.h"
 #include "core/App.h"
 #include "core/Text.h"
@@ -83,22 +84,26 @@ void InviteRun::WaitSeconds(int seconds) {
     Wait(u"the page"_s, [&] { return m_app.waiting.SecondsSince(startMs) >= seconds; });
 }
 
+Document InviteRun::Page() const {
+    const Document page = m_app.Get<SendRuns>().IsOnSite() ? m_app.WebBrowser1().Document() : Document();
+    return page && page.Body() ? page : Document();
+}
+
 bool InviteRun::Has(const QString& text) const {
-    return PageHas(m_app.WebBrowser1(), text);
+    return Page() && PageHas(m_app.WebBrowser1(), text);
 }
 
 bool InviteRun::HasMarkup(const QString& text) const {
-    return PageHasMarkup(m_app.WebBrowser1(), text);
+    return Page() && PageHasMarkup(m_app.WebBrowser1(), text);
 }
 
 bool InviteRun::HasElement(const QString& id) const {
-    const Document page = m_app.WebBrowser1().Document();
-    return page && page.Body() && page.GetElementById(id);
+    const Document page = Page();
+    return page && page.GetElementById(id);
 }
 
 bool InviteRun::IsComplete() const {
-    const Document page = m_app.WebBrowser1().Document();
-    return page && page.Body() && m_app.WebBrowser1().ReadyState() == 4;
+    return Page() && m_app.WebBrowser1().ReadyState() == 4;
 }
 
 bool InviteRun::Press(const QString& id) const {
@@ -110,16 +115,19 @@ bool InviteRun::Press(const QString& id) const {
 
 // A list without a label tells its pages apart by their number.
 QString InviteRun::PageMark() const {
-    const Document page = m_app.WebBrowser1().Document();
-    if (!page || !page.Body())
+    const Document page = Page();
+    if (!page)
         return {};
     const QString label = ListingText(ShownPage(m_app));
     return label.isEmpty() ? QString::number(PageNumberOf(page)) : label;
 }
 
+bool InviteRun::IsNew(const QString& id) const {
+    return IsDigits(id) && !m_log->Holds(id);
+}
+
 bool InviteRun::MayInvite(const QString& id) {
-    return IsDigits(id) && (!m_isLimitedToGathered || IsInArray(id, m_app.state.arrFriendIDs)) &&
-           !m_log->Holds(id);
+    return (!m_isLimitedToGathered || IsInArray(id, m_app.state.arrFriendIDs)) && IsNew(id);
 }
 
 void InviteRun::Choose(const QString& id, const std::function<void()>& choose) {
@@ -172,6 +180,17 @@ void InviteRun::Resume() {
 void InviteRun::SaveDailyCount() {
     if (!m_chosen.isEmpty())
         m_app.Get<Counters>().CountInvited(m_kind.today, Chosen());
+}
+
+bool InviteRun::SendBatch(const std::function<void()>& submit) {
+    SaveDailyCount();
+    if (IsStopped() || m_chosen.isEmpty())
+        return false;
+    submit();
+    if (IsStopped())
+        return false;
+    ConfirmBatch();
+    return true;
 }
 
 void InviteRun::ConfirmBatch() {

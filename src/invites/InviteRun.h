@@ -39,7 +39,8 @@ public:
     void WaitUntilIdle();
     void WaitSeconds(int seconds);
 
-    // Of WebBrowser1, without waiting for anything. A page that hasn't come holds nothing.
+    // Of WebBrowser1, without waiting for anything. A page that hasn't come holds nothing, nor does one of a
+    // stranger's host: no wait ends on it.
     bool Has(const QString& text) const;
     bool HasMarkup(const QString& text) const;
     bool HasElement(const QString& id) const;
@@ -51,8 +52,8 @@ public:
     // Another page than that one has come, and is complete.
     bool HasTurned(const QString& mark) const { return IsComplete() && PageMark() != mark; }
 
-    // The log doesn't hold that ID.
-    bool IsNew(const QString& id) const { return !m_log->Holds(id); }
+    // Somebody whom the log doesn't hold.
+    bool IsNew(const QString& id) const;
     // Somebody whom the log or the gathered list leaves out isn't invited.
     bool MayInvite(const QString& id);
     // Into the log, then onto the page.
@@ -66,12 +67,16 @@ public:
     bool FinishAfterStop();
     // Takes a stop back without asking; nothing without one.
     void Resume();
+    // Counts those who have been chosen; submit() returns when the site has confirmed them or at a stop.
+    // False where nobody has been chosen, or the run is stopped.
+    bool SendBatch(const std::function<void()>& submit);
     void SaveDailyCount();
     void ShowWaiting(const QString& forWhat);
     // The site has confirmed the batch.
     void ConfirmBatch();
 
 private:
+    Document Page() const;
     void LeaveIfReplaced() const;
     void ShowBatch(const QString& state);
 

@@ -46,11 +46,12 @@ QString Backup::ChooseTarget() const {
 }
 
 void Backup::Make(const QString& target) {
-    const QString statusBefore = m_app.Status();
+    m_shown.clear();
     m_app.waiting.Turn();
     Diagnostics::IgnoreErrors([this] { ClearWorkFolder(); });
     const bool isWhole = Zip(target);
-    m_app.SetStatus(statusBefore);
+    if (m_app.Status() == m_shown)
+        m_app.SetStatus(m_statusBefore);
     Log(u"3 SUCCESS - "_s + (isWhole ? u"True"_s : u"False"_s));
     m_app.ShowMessage(isWhole ? u"Backup successful!"_s : u"Backup failed, please contact support"_s);
 }
@@ -89,11 +90,15 @@ std::vector<ArchiveFile> Backup::Collect(const QStringList& names) {
     return files;
 }
 
-// Lets the window live; the program may be closed meanwhile.
+// Lets the window live; the program may be closed meanwhile. A run that goes on has words of its own for the
+// status line, and keeps the last.
 void Backup::ShowProgress(int percent) {
     auto isCalledOff = qScopeGuard([this] { Log(u"ZipServiceCB2 CANCEL!"_s); });
     Log(u"ZipServiceCB1 - "_s + QString::number(percent));
-    m_app.SetStatus(u"Making the backup... %1 %"_s.arg(percent));
+    if (m_app.Status() != m_shown || m_shown.isEmpty())
+        m_statusBefore = m_app.Status();
+    m_shown = u"Making the backup... %1 %"_s.arg(percent);
+    m_app.SetStatus(m_shown);
     m_app.waiting.Turn();
     isCalledOff.dismiss();
 }

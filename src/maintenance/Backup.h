@@ -26,6 +26,8 @@ private:
 
     App& m_app;
     bool m_isBusy = false;
+    QString m_shown; // in the status line, and what stood there
+    QString m_statusBefore;
 };
 
 // The kinds of files that its dialogs show.

@@ -45,7 +45,8 @@ void Restore::mnuRestore_Click() {
     const QString archive = ChooseArchive();
     if (archive.isEmpty())
         return;
-    // A run would write into what is restored.
+    // A run would write into what is restored, also one that the clock starts before the program has closed.
+    m_app.state.blnNoSaveOnExit = true;
     m_app.Get<StopResume>().StopAll(StopReason::Closing);
     m_app.ShowMessage(Unzip(archive), u"Restore"_s);
     CloseAfterRestore();
@@ -101,11 +102,9 @@ QString Restore::Stage(const QString& archive, StagedFiles& staged) {
     return {};
 }
 
-// The exit would write back what the program still has in memory.
 void Restore::CloseAfterRestore() {
     m_app.ShowMessage(u"Backup set successfully restored!\r\nQuillmere needs to be restarted for the new "
                       "settings to take effect. The program will now close."_s);
-    m_app.state.blnNoSaveOnExit = true;
     m_app.Close();
 }
 

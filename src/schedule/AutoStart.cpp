@@ -163,11 +163,15 @@ bool AutoStart::IsDue(const QDateTime& before, const QDateTime& now) const {
            MinuteOf(before) < m_time && m_time < MinuteOf(now);
 }
 
+// Also while its last words are read: what it saves no more is not to be changed either.
+bool AutoStart::IsEnding() const {
+    return m_app.state.blnClosing || m_app.state.blnNoSaveOnExit;
+}
+
 void AutoStart::tmrAutoStart_Timer() {
     const QDateTime now = m_app.Pump().Now();
     const QDateTime before = std::exchange(m_lastTick, now);
-    if (!m_isOn || !m_time.isValid() || m_app.state.blnClosing || m_lastStart == now.date() ||
-        !IsDue(before, now))
+    if (!m_isOn || !m_time.isValid() || IsEnding() || m_lastStart == now.date() || !IsDue(before, now))
         return;
     m_lastStart = now.date();
     for (const Start& start : Starts)

@@ -25,6 +25,7 @@ private:
     void Store();
     void tmrAutoStart_Timer();
     bool IsDue(const QDateTime& before, const QDateTime& now) const;
+    bool IsEnding() const;
     void ShowStart();
 
     App& m_app;

@@ -200,6 +200,19 @@ TEST_F(BackupTest, ASecondOneWaitsForTheFirst) {
     EXPECT_EQ(dialogs.Texts(), QStringList{u"Backup successful!"_s});
 }
 
+TEST_F(BackupTest, WhatARunSaysMeanwhileIsKept) {
+    Write(u"FriendsLog.txt"_s, QByteArray(100'000, 'x'));
+    app->SetStatus(u"before"_s);
+    Timer run(platform->Pump().Queue(), 1, false);
+    run.SetHandler([&] {
+        run.SetEnabled(false);
+        app->SetStatus(u"Friend request sent"_s);
+    });
+    run.Restart();
+    BackUp();
+    EXPECT_EQ(app->Status(), u"Friend request sent"_s);
+}
+
 TEST_F(BackupTest, LeftOversOfEarlierVersionsGo) {
     const QString left = platform->TemporaryFolder() + u"/QLMUpdate/backup_temp.zip"_s;
     app->files.CreateFolder(left.section(u'/', 0, -2));

@@ -182,6 +182,8 @@ TEST_F(RestoreTest, ARunIsStoppedBeforeFilesAreWritten) {
     QString actionWhenTold;
     dialogs.onMessage = [&] {
         actionWhenTold = dialogs.messages.size() == 2 ? app->state.CurrentAction : actionWhenTold;
+        // The clock's own starts hold back from here on.
+        EXPECT_EQ(app->state.blnNoSaveOnExit, dialogs.messages.size() >= 2);
     };
     RestoreFiles({{u"FriendsLog.txt"_s, "new"}});
     EXPECT_EQ(actionWhenTold, QString());
