@@ -60,8 +60,10 @@ void EventTabs::SubmitPrivate() {
     const QString asked = u"Please enter the text from the image"_s;
     m_run.Press(u"saveButton3"_s);
     Trace(u"PRIVATE - SAVECLICKED"_s);
-    m_run.Wait(u"the site's answer"_s,
-               [&] { return m_run.HasElement(u"saveButton4"_s) || m_run.Has(asked); });
+    // Whole: the user is called to it.
+    m_run.Wait(u"the site's answer"_s, [&] {
+        return m_run.IsComplete() && (m_run.HasElement(u"saveButton4"_s) || m_run.Has(asked));
+    });
     if (m_run.Has(asked)) {
         Trace(u"CAPTCHA ASKED"_s);
         m_app.SetStatus(u"Waiting for user to enter CAPTCHA and submit invites..."_s);
