@@ -219,7 +219,7 @@ void FrameWalk::GoToBlock(int block) {
     m_app.SetStatus(u"Proceeding to invite next block of 40, waiting for invite page to load..."_s);
     if (!m_page.isSentByProgram)
         m_run.WaitForText(u"the invite page"_s, u"Find a MySpace User to Invite"_s);
-    m_run.Wait(u"the list of friends"_s, [this] { return !Frame().IsNull(); });
+    m_run.Wait(u"the list of friends"_s, [this] { return m_run.IsComplete() && !Frame().IsNull(); });
     if (m_run.IsStopped())
         return;
     LoadBlocksInTemp();
